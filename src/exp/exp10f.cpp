@@ -1,0 +1,108 @@
+// 10^x, single precision.
+//
+// Default: x = (n / 128) log10(2) + r; 2^(j/128) from a table of high and low parts, 10^r by a quadratic, the
+// power of two added to the exponent field. Light form (_native, _half, _rm): 2^(x log2(10)) by a cubic over a
+// whole binade. Rare lanes in double.
+#include "exp/single.h"
+
+namespace lanemath {
+namespace {
+
+struct exp10f_rows {
+  float K;             // 128 log2(10)
+  float S;             // shifter, 1.5 * 2^23
+  float L1, L2;        // log10(2) / 128, high and low part
+  float P1, P2;        // polynomial
+  std::int32_t JMASK;  // table index bits
+};
+constexpr exp10f_rows exp10f_table{
+    .K = 0x43D49A78_f32,
+    .S = 0x4B400000_f32,
+    .L1 = 0x3B1A4000_f32,
+    .L2 = 0xB5FB2BD8_f32,
+    .P1 = 0x40135D97_f32,
+    .P2 = 0x4029A929_f32,
+    .JMASK = 0x7F,
+};
+
+constexpr light_exp_rows exp10f_native_table{
+    .LOG2B = 0x40549A78_f32,
+    .S = 0x4B400000_f32,
+    .A0 = 0x3F7FFB49_f32,
+    .A1 = 0x3F31798D_f32,
+    .A2 = 0x3E786F13_f32,
+    .A3 = 0x3D61FBCC_f32,
+};
+
+constexpr std::int32_t RARE = 0x4217B818;  // 37.92978
+
+LANEMATH_RARE exp10f_rare(const float* px, float* py) {
+  if (exp_of_non_finite(*px, *py)) return 0;
+  const double x = *px;
+  if (x > 0x4043441360000000_f64) {  // 38.53184
+    *py = float(overflowed());
+    return 3;
+  }
+  if (x < 0xC04693C6A0000000_f64) {  // -45.1545
+    *py = 0.0f;
+    return 4;
+  }
+
+  constexpr double shifter = 0x4338000000000000_f64;      // 1.5 * 2^52
+  const double t = 0x406A934F0979A371_f64 * x + shifter;  // x * 64 log2(10)
+  const split_index n(t);
+  const double m = t - shifter;
+  const double r = (x - m * 0x3F734413509F0000_f64) - m * 0x3D1E7FBCC47C4ACD_f64;  // log10(2) / 64 in two parts
+  const auto [hi, lo] = exp2_64[n.j];
+  double q = 0x3FE1427C87C70A85_f64;
+  q = q * r + 0x3FF2BD77B840F0BF_f64;
+  q = q * r + 0x4000470591E2BC10_f64;
+  q = q * r + 0x40053524C73CD20A_f64;
+  q = q * r + 0x40026BB1BBB55515_f64;
+  q = q * r + lo;
+  *py = float((q * hi + hi) * power_of_two(n.k));
+  return x <= 0xC042F70320000000_f64 ? 4 : 0;  // -37.92978
+}
+
+struct exp10f_guards {
+  using signature = float(float);
+  static constexpr auto rare = exp10f_rare;
+
+  template <class V>
+  static auto rare_test(V x) {
+    return magnitude_above(x, RARE);
+  }
+};
+
+struct exp10f_standard : exp10f_guards {
+  template <class V>
+  static V kernel(V x) {
+    constexpr auto& c = exp10f_table;
+    const V t = x * c.K + c.S;
+    const auto j = bits(t) & c.JMASK;
+    const auto e = (bits(t) & ~c.JMASK) << 16;
+    const V m = t - c.S;
+    const V r = (x - m * c.L1) - m * c.L2;
+    const V p = (c.P2 * r + c.P1) * r;
+    const auto [hi, lo] = look_up(exp2_128, j);
+    const V y = hi + (p * hi + lo);
+    return from_bits(bits(y) + e);
+  }
+};
+
+struct exp10f_native : exp10f_guards {
+  template <class V>
+  static V kernel(V x) {
+    constexpr auto& c = exp10f_native_table;
+    return light_exp2(x * c.LOG2B, c);
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(unary, exp10f, exp10f_standard, )
+LANEMATH_EXPORT(unary, exp10f, exp10f_native, _native)
+LANEMATH_SAME(exp10f, _native, _half)
+LANEMATH_SAME(exp10f, _native, _rm)
+
+}  // namespace lanemath

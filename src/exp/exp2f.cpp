@@ -1,0 +1,223 @@
+// 2^x, single precision.
+//
+// Frame kernel (_rm, and the default at widths 2, 3, 8 and 16): x = n + f, 2^f by a polynomial of degree 6, n
+// added to the exponent field. Light form (_native, _half): a cubic whose constant term is not 1. The default
+// form at width 1 works in double with a table of 256 entries; at width 4 with a table of 64 entries and a
+// monic quadratic. Rare lanes in double.
+#include "exp/single.h"
+
+namespace lanemath {
+namespace {
+
+struct exp2f_rows {
+  float S;  // shifter, 1.5 * 2^23
+  float C0, C1, C2, C3, C4, C5, C6;
+};
+constexpr exp2f_rows exp2f_table{
+    .S = 0x4B400000_f32,
+    .C0 = 1.0f,
+    .C1 = 0x3F317218_f32,
+    .C2 = 0x3E75FDEF_f32,
+    .C3 = 0x3D6357CF_f32,
+    .C4 = 0x3C1D962C_f32,
+    .C5 = 0x3AAF7A51_f32,
+    .C6 = 0x39213C8C_f32,
+};
+
+constexpr light_exp_rows exp2f_native_table{
+    .LOG2B = 1.0f,
+    .S = 0x4B400000_f32,
+    .A0 = 0x3F7FFB49_f32,
+    .A1 = 0x3F31798D_f32,
+    .A2 = 0x3E786F13_f32,
+    .A3 = 0x3D61FBCC_f32,
+};
+
+// Keeps the integer add to the exponent field away from the ends of the range.
+constexpr std::int32_t RARE = 0x42FC0000;  // 126
+
+LANEMATH_RARE exp2f_rare(const float* px, float* py) {
+  if (exp_of_non_finite(*px, *py)) return 0;
+  const double x = *px;
+  if (x >= 128.0) {
+    *py = float(overflowed());
+    return 3;
+  }
+  if (x <= -150.0) {
+    *py = float(underflowed());
+    return 4;
+  }
+
+  constexpr double shifter = 0x42D8000000000000_f64;  // 1.5 * 2^46
+  const double t = x + shifter;
+  const split_index n(t);
+  const double f = x - (t - shifter);
+  const auto [hi, lo] = exp2_64[n.j];
+  double q = 0x3F55D870C4D8440A_f64;
+  q = q * f + 0x3F83B2AD33F8B48B_f64;
+  q = q * f + 0x3FAC6B08D7076268_f64;
+  q = q * f + 0x3FCEBFBDFF82A23A_f64;
+  q = q * f + 0x3FE62E42FEFA39EF_f64;
+  q = q * f + lo;
+  *py = float((q * hi + hi) * power_of_two(n.k));
+  return x < -126.0 ? 4 : 0;
+}
+
+struct exp2f_guards {
+  using signature = float(float);
+  static constexpr auto rare = exp2f_rare;
+
+  template <class V>
+  static auto rare_test(V x) {
+    return magnitude_above(x, RARE);
+  }
+};
+
+struct exp2f_frame : exp2f_guards {
+  template <class V>
+  static V kernel(V x) {
+    constexpr auto& c = exp2f_table;
+    const V t = x + c.S;
+    const auto e = bits(t) << 23;
+    const V f = x - (t - c.S);
+    V p = c.C6 * f + c.C5;
+    p = p * f + c.C4;
+    p = p * f + c.C3;
+    p = p * f + c.C2;
+    p = p * f + c.C1;
+    p = f * p + c.C0;
+    return from_bits(bits(p) + e);
+  }
+};
+
+struct exp2f_native : exp2f_guards {
+  template <class V>
+  static V kernel(V x) {
+    return light_exp2(x, exp2f_native_table);
+  }
+};
+
+// The default form at width 1.
+struct exp2f_scalar {
+  using signature = float(float);
+
+  static lanes<float, 1> kernel(lanes<float, 1> lane) {
+    const float x = lane.g[0];
+    const auto pattern = std::bit_cast<std::uint32_t>(x);
+    const auto a = pattern & 0x7FFFFFFF;
+    if (a - 0x31800000 < 0x42FC0000 - 0x31800000) [[likely]]  // 2^-28 <= |x| < 126
+      return in_range(x);
+    if (a < 0x31800000) return x + 1.0f;
+    if (a < 0x43200000) {  // below 160
+      const float y = in_range(x);
+      return y == std::numeric_limits<float>::infinity() ? square(0x7F000000_f32) : y;
+    }
+    if (a < 0x7F800000) return square(pattern >> 31 ? 0x00800000_f32 : 0x7F000000_f32);
+    return pattern == 0xFF800000 ? 0.0f : x + x;
+  }
+
+ private:
+  static float in_range(float x) {
+    constexpr double shifter = 0x42B8000000000000_f64;  // 1.5 * 2^44
+    const double xd = x;
+    const double t = shifter + xd;
+    const auto i = std::int32_t(std::bit_cast<std::uint64_t>(t));
+    const double f = xd + (shifter - t);
+    const auto power = std::uint64_t(std::int64_t(i >> 8)) << 52;
+    const double v = std::bit_cast<double>(std::bit_cast<std::uint64_t>(exp2_256[i & 0xFF]) + power);
+    constexpr double E1 = 0x3FE62E42FEFA72C5_f64, E2 = 0x3FCEBFBDFF82C58E_f64;
+    return float(v * ((E1 * f + 1.0) + (E2 * f) * f));
+  }
+  static float square(float v) {
+    v = opaque(v);
+    return v * v;
+  }
+};
+
+// The default form at width 4.
+namespace wide {
+
+struct rows {
+  float S2;      // shifter that leaves 6 fraction bits, 1.5 * 2^17
+  float Q1, Q0;  // monic quadratic
+};
+constexpr rows table{.S2 = 0x48400000_f32, .Q1 = 0x4038AA68_f32, .Q0 = 0x40853526_f32};
+
+template <class V>
+V flush_denormals(V x) {
+  return select((bits(x) & 0x7F800000) == 0, V(0.0f), x);
+}
+
+// One lane, on bit patterns: a NaN comes back as it is.
+LANEMATH_RARE exp2f_lane(const float* px, float* py) {
+  using scalar = lanes<float, 1>;
+  constexpr auto& c = table;
+  const scalar x = flush_denormals(scalar(*px));
+  const auto pattern = std::bit_cast<std::int32_t>(x.g[0]);
+  const auto magnitudes = std::uint32_t(pattern);  // orders the negative values by magnitude
+  if (pattern >= 0x43000000 || magnitudes >= 0xC3160000) {  // 128, -150
+    auto special = pattern >= 0x43000000 ? 0x7F800000 : 0;
+    if ((pattern & 0x7FFFFFFF) > 0x7F800000) special = pattern;
+    *reinterpret_cast<std::int32_t*>(py) = special;
+    return 0;
+  }
+  float shift = 0.0f, factor = 1.0f;
+  if (magnitudes >= 0xC2F70000) {  // -123.5
+    shift = 24.0f;
+    factor = 0x33800000_f32;  // 2^-24
+  }
+  if (pattern > 0x42F70000) {  // 123.5
+    shift = -24.0f;
+    factor = 0x4B800000_f32;  // 2^24
+  }
+  const scalar y = flush_denormals(x + shift);
+  const scalar t = y + c.S2;
+  const scalar f = (c.S2 - t) + y;
+  const auto j = bits(t) & 0x3F;
+  const scalar scale = from_bits(((bits(t) + 0x1FC0) & 0x3FC0) << 17);
+  const scalar result = ((c.Q1 + f) * f + c.Q0) * (look_up(exp2_monic_64, j).hi * scale) * factor;
+  *py = result.g[0];
+  return 0;
+}
+
+struct exp2f {
+  using signature = float(float);
+  static constexpr auto rare = exp2f_lane;
+
+  template <class V>
+  static V kernel(V x) {
+    constexpr auto& c = table;
+    const V d = flush_denormals(x);
+    const V t = c.S2 + x;
+    const V f = (c.S2 - t) + d;
+    const auto j = bits(t) & 0x3F;
+    const V g = (c.Q1 + f) * f + c.Q0;
+    const V scale = from_bits(((bits(t) + 0x1FC0) >> 6) << 23);
+    return (look_up(exp2_monic_64, j).hi * scale) * g;
+  }
+  template <class V>
+  static auto rare_test(V x) {
+    return magnitude_above(x, 0x42F70000);  // 123.5
+  }
+  // One marked lane sends all four to the scalar routine.
+  template <class V, class M>
+  static void fix_up(V, V&, M& rare) {
+    rare = M(-1);
+  }
+};
+
+}  // namespace wide
+}  // namespace
+
+LANEMATH_EXPORT(unary, exp2f, exp2f_frame, _rm)
+LANEMATH_EXPORT(unary, exp2f, exp2f_native, _native)
+LANEMATH_SAME(exp2f, _native, _half)
+
+LANEMATH_EXPORT_AT(1, unary, exp2f, exp2f_scalar, )
+LANEMATH_SAME_AT(2, exp2f, _rm, )
+LANEMATH_SAME_AT(3, exp2f, _rm, )
+LANEMATH_EXPORT_AT(4, unary, exp2f, wide::exp2f, )
+LANEMATH_SAME_AT(8, exp2f, _rm, )
+LANEMATH_SAME_AT(16, exp2f, _rm, )
+
+}  // namespace lanemath

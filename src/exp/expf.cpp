@@ -1,0 +1,183 @@
+// e^x, single precision.
+//
+// Default: x = (n / 128) ln 2 + r; 2^(j/128) from a table of high and low parts, e^r by a quadratic, the power
+// of two by a multiplication. Light form (_native, _half): a cubic over a whole binade. _rm: ln 2 in two parts
+// and a quintic, no table. Rare lanes in double.
+#include "exp/single.h"
+
+namespace lanemath {
+namespace {
+
+struct expf_rows {
+  float K;           // 128 / ln 2
+  float S;           // shifter, 1.5 * 2^23
+  float L1, L2;      // ln 2 / 128, high and low part
+  std::int32_t BIAS;   // exponent bias of 1.0, shifted down by 16 bits
+  std::int32_t EMASK;  // exponent field
+  std::int32_t JMASK;  // table index bits
+  float HALF;
+};
+constexpr expf_rows expf_table{
+    .K = 0x4338AA3B_f32,
+    .S = 0x4B400000_f32,
+    .L1 = 0x3BB18000_f32,
+    .L2 = 0xB5DE8083_f32,
+    .BIAS = 0x3F80,
+    .EMASK = 0x7F800000,
+    .JMASK = 0x7F,
+    .HALF = 0.5f,
+};
+
+constexpr light_exp_rows expf_native_table{
+    .LOG2B = 0x3FB8AA3B_f32,
+    .S = 0x4B400000_f32,
+    .A0 = 1.0f,
+    .A1 = 0x3F317422_f32,
+    .A2 = 0x3E77D66A_f32,
+    .A3 = 0x3D63582B_f32,
+};
+
+struct expf_rm_rows {
+  float LOG2E;  // 1 / ln 2
+  float S;      // shifter
+  float H, L;   // ln 2, high and low part
+  float B0, B1, B2, B3, B4, B5;
+};
+constexpr expf_rm_rows expf_rm_table{
+    .LOG2E = 0x3FB8AA3B_f32,
+    .S = 0x4B400000_f32,
+    .H = 0x3F317200_f32,
+    .L = 0x35BFBE8E_f32,
+    .B0 = 1.0f,
+    .B1 = 0x3F7FFFFE_f32,
+    .B2 = 0x3EFFFF34_f32,
+    .B3 = 0x3E2AACAC_f32,
+    .B4 = 0x3D2B8392_f32,
+    .B5 = 0x3C07D9FE_f32,
+};
+
+// Bounds of the guards, the same in all variants.
+constexpr std::int32_t RARE = 0x42AEAC4F;   // 87.33654
+constexpr float OVF = 0x42B17217_f32;       // 88.72283: infinite above
+constexpr float UNF = 0xC2CFF1B4_f32;       // -103.97208: zero below
+
+LANEMATH_RARE expf_rare(const float* px, float* py) {
+  if (exp_of_non_finite(*px, *py)) return 0;
+  const double x = *px;
+  const auto biased_exponent = std::bit_cast<std::uint32_t>(*px) >> 23 & 0xFF;
+  if (biased_exponent <= 74) {  // |x| < 2^-52
+    *py = float(1.0 + x);
+    return 0;
+  }
+  if (x > 0x40562E42E0000000_f64) {  // 88.72283
+    *py = float(overflowed());
+    return 3;
+  }
+  if (x < 0xC059FE3680000000_f64) {  // -103.97208
+    *py = float(underflowed());
+    return 4;
+  }
+
+  constexpr double shifter = 0x4338000000000000_f64;        // 1.5 * 2^52
+  const double t = 0x40571547652B82FE_f64 * x + shifter;    // x * 64 / ln 2
+  const split_index n(t);
+  const double m = t - shifter;
+  const double r = (x - m * 0x3F862E42FEFA0000_f64) - m * 0x3D1CF79ABC9E3B3A_f64;  // ln 2 / 64 in two parts
+  double q = 0x3F56C16A1C2A3FFD_f64;
+  q = q * r + 0x3F8111123AAF20D3_f64;
+  q = q * r + 0x3FA5555555558FCC_f64;
+  q = q * r + 0x3FC55555555548F8_f64;
+  q = q * r + 0x3FE0000000000000_f64;
+  const auto [hi, lo] = exp2_64[n.j];
+  const double w = (q * r * r + r + lo) * hi;
+
+  if (x >= 0xC055D589E0000000_f64) {  // -87.33654: a normal result
+    const auto field = std::uint64_t(n.k + 1023) & 2047;
+    if (field == 2047)
+      *py = float((w + hi) * with_exponent_field(2046) * 2.0);
+    else
+      *py = float((w + hi) * with_exponent_field(field));
+    return 0;
+  }
+
+  // A denormal result: at a scale raised by 2^60, cut to its bits before the one rounding.
+  const auto field = std::uint64_t(n.k + 1083) & 2047;
+  const double s = with_exponent_field(field);
+  const double unscale = 0x3C30000000000000_f64;  // 2^-60
+  const double a = w * s, b = hi * s;
+  const double v = a + b;
+  if (field <= 50) {
+    *py = float(v * unscale);
+    return 4;
+  }
+  const double u = a + (b - v);
+  const double c = v * 0x41F8000000000000_f64;
+  const double h = (v + c) - c;
+  const double l = (v - h) + u;
+  *py = float(h * unscale + l * unscale);
+  return 4;
+}
+
+struct expf_guards {
+  using signature = float(float);
+  static constexpr auto rare = expf_rare;
+
+  template <class V>
+  static auto rare_test(V x) {
+    return magnitude_above(x, RARE);
+  }
+  template <class V, class M>
+  static void fix_up(V x, V& y, M& rare) {
+    const auto over = OVF < x;
+    const auto under = x < UNF;
+    y = select(over, V(std::numeric_limits<float>::infinity()), select(under, V(0.0f), y));
+    rare = rare & ~(over | under);
+  }
+};
+
+struct expf_standard : expf_guards {
+  template <class V>
+  static V kernel(V x) {
+    constexpr auto& c = expf_table;
+    const V t = x * c.K + c.S;
+    const auto j = bits(t) & c.JMASK;
+    const V scale = from_bits(((bits(t) + c.BIAS) << 16) & c.EMASK);
+    const V m = t - c.S;
+    const V r = (x - m * c.L1) - m * c.L2;
+    const V p = r + (r * r) * c.HALF;
+    const auto [hi, lo] = look_up(exp2_128, j);
+    const V y = hi + (p * hi + lo);
+    return y * scale;
+  }
+};
+
+struct expf_native : expf_guards {
+  template <class V>
+  static V kernel(V x) {
+    constexpr auto& c = expf_native_table;
+    return light_exp2(x * c.LOG2B, c);
+  }
+};
+
+struct expf_rm : expf_guards {
+  template <class V>
+  static V kernel(V x) {
+    constexpr auto& c = expf_rm_table;
+    const V t = x * c.LOG2E + c.S;
+    const auto e = bits(t) << 23;
+    const V m = t - c.S;
+    const V r = (x - m * c.H) - m * c.L;
+    const V q = (((c.B5 * r + c.B4) * r + c.B3) * r + c.B2) * r + c.B1;
+    const V p = r * q + c.B0;
+    return from_bits(bits(p) + e);
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(unary, expf, expf_standard, )
+LANEMATH_EXPORT(unary, expf, expf_native, _native)
+LANEMATH_SAME(expf, _native, _half)
+LANEMATH_EXPORT(unary, expf, expf_rm, _rm)
+
+}  // namespace lanemath

@@ -1,0 +1,274 @@
+// What every exported function shares. An operation says its signature, its kernel and, where it has rare
+// lanes, how they are told and mended; the frame makes the six widths of it.
+//
+//   struct expf_standard {
+//     using signature = float(float);
+//     template <class V> static V kernel(V x);                             // all lanes, no branch on a value
+//     template <class V> static auto rare_test(V x);                       // mask of lanes not to be trusted
+//     template <class V, class M> static void fix_up(V x, V& y, M& rare);  // optional: settles whole classes
+//     static constexpr auto rare = expf_rare;                              // the scalar routine for one lane
+//   };
+//
+// A kernel-only operation has no rare_test; an always-scalar one says `always_scalar = true` instead. With
+// two results the signature's result is through_pointer<T, U> or pair_of<T, U>, kernel returns two_results,
+// and fix_up and the rare routine take the second result after the first.
+//
+// A rare routine takes pointers to one lane of each argument, then of each result, which holds the kernel's
+// value on entry. It returns a status that tells what happened: 0 ordinary, 1 domain error, 2 singular point,
+// 3 overflow, 4 underflow. Nothing reads it.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <type_traits>
+
+#include "frame/abi.h"
+#include "frame/catalogue.h"
+#include "frame/lanes.h"
+
+#define LANEMATH_RARE [[gnu::noinline]] static int
+
+namespace lanemath {
+
+// The result of a signature with two of them. What goes through the pointer is one store at the very end, of all
+// four lanes at width 3, to an address of any alignment.
+template <class T, class U>
+struct through_pointer {};
+template <class T, class U>
+struct pair_of {};
+
+template <class First, class Second>
+struct two_results {
+  First first;
+  Second second;
+};
+
+namespace frame_detail {
+
+template <class T>
+constexpr lane lane_of() {
+  if constexpr (std::is_same_v<T, float>) return lane::f32;
+  if constexpr (std::is_same_v<T, double>) return lane::f64;
+  if constexpr (std::is_same_v<T, std::int32_t>) return lane::i32;
+  if constexpr (std::is_same_v<T, std::uint32_t>) return lane::u32;
+  if constexpr (std::is_same_v<T, std::int64_t>) return lane::i64;
+  if constexpr (std::is_same_v<T, std::uint64_t>) return lane::u64;
+}
+
+// A signature taken apart: the lane types, and how the arguments and the result cross the border.
+template <class Signature>
+struct border;
+
+template <class T, class... A>
+struct border<T(A...)> {
+  static constexpr signature sig{lane_of<T>(), {lane_of<A>()...}};
+  static constexpr std::size_t widest_lane = std::max({sizeof(T), sizeof(A)...});
+  template <int W>
+  using result = abi<T, W>;
+  template <int W>
+  using function = result<W>(abi<A, W>...);
+
+  // Unpacks the arguments for `evaluate` and delivers what it returns.
+  template <int W, class F>
+  LANEMATH_INLINE static result<W> call(F evaluate, const abi<A, W>&... x) {
+    return to_abi<T, W>(evaluate(from_abi<A, W>(x)...));
+  }
+};
+
+template <class T, class U, class... A>
+struct border<through_pointer<T, U>(A...)> {
+  static constexpr signature sig{lane_of<T>(), {lane_of<A>()...}, lane_of<U>(), delivery::pointer};
+  static constexpr std::size_t widest_lane = std::max({sizeof(T), sizeof(U), sizeof(A)...});
+  template <int W>
+  using result = abi<T, W>;
+  template <int W>
+  using function = result<W>(abi<A, W>..., void*);
+
+  template <int W, class F>
+  LANEMATH_INLINE static result<W> call(F evaluate, const abi<A, W>&... x, void* second) {
+    const auto y = evaluate(from_abi<A, W>(x)...);
+    const auto delivered = to_abi<U, W>(y.second);
+    __builtin_memcpy(second, &delivered, sizeof delivered);
+    return to_abi<T, W>(y.first);
+  }
+};
+
+template <class T, class U, class... A>
+struct border<pair_of<T, U>(A...)> {
+  static constexpr signature sig{lane_of<T>(), {lane_of<A>()...}, lane_of<U>(), delivery::pair};
+  static constexpr std::size_t widest_lane = std::max({sizeof(T), sizeof(U), sizeof(A)...});
+  template <int W>
+  using result = abi_pair<T, U, W>;
+  template <int W>
+  using function = result<W>(abi<A, W>...);
+
+  template <int W, class F>
+  LANEMATH_INLINE static result<W> call(F evaluate, const abi<A, W>&... x) {
+    const auto y = evaluate(from_abi<A, W>(x)...);
+    return {to_abi<T, W>(y.first), to_abi<U, W>(y.second)};
+  }
+};
+
+// The rare routine on every marked lane, in ascending order.
+template <auto Routine, class... Pointers>
+[[gnu::noinline, gnu::cold]] void rare_loop(unsigned mask, Pointers... lanes_of) {
+  for (int i = 0; i < 32; ++i)
+    if (mask >> i & 1) Routine(lanes_of + i...);
+}
+
+template <class T, int W>
+LANEMATH_INLINE T* scratch(lanes<T, W>& v) {
+  return reinterpret_cast<T*>(&v);
+}
+
+// The results with the marked lanes from the scalar routine. Everything comes as a copy: only the copies have an
+// address, so that the straight path keeps its values in registers.
+template <class Op, class Y, class... X>
+LANEMATH_INLINE Y mended(unsigned mask, Y y, X... x) {
+  if constexpr (requires { y.second; })
+    rare_loop<Op::rare>(mask, scratch(x)..., scratch(y.first), scratch(y.second));
+  else
+    rare_loop<Op::rare>(mask, scratch(x)..., scratch(y));
+  return y;
+}
+
+// f over pieces of C lanes each, in straight line; the results put together again.
+template <int C, int W, class F, class... X>
+LANEMATH_INLINE auto in_pieces(F f, const X&... x) {
+  if constexpr (C >= W) {
+    return f(x...);
+  } else {
+    using piece = decltype(f(part<C>(x, 0)...));
+    if constexpr (requires { piece::width; }) {
+      lanes<typename piece::value_type, W> all;
+      for (int i = 0; i < W; i += C) put_part(all, i, f(part<C>(x, i)...));
+      return all;
+    } else {
+      two_results<lanes<typename decltype(piece::first)::value_type, W>,
+                  lanes<typename decltype(piece::second)::value_type, W>>
+          all;
+      for (int i = 0; i < W; i += C) {
+        const auto y = f(part<C>(x, i)...);
+        put_part(all.first, i, y.first);
+        put_part(all.second, i, y.second);
+      }
+      return all;
+    }
+  }
+}
+
+// How many groups are worth computing side by side before the registers spill.
+template <class Op>
+constexpr int groups_at_once() {
+  if constexpr (requires { Op::groups_at_once; })
+    return Op::groups_at_once;
+  else
+    return 4;
+}
+
+template <class Op, int W, class... X>
+LANEMATH_INLINE auto evaluate(const X&... x) {
+  constexpr int piece = std::max(2, groups_at_once<Op>() * 16 / int(border<typename Op::signature>::widest_lane));
+  auto y = in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::kernel(v...); }, x...);
+
+  if constexpr (requires { Op::always_scalar; }) {
+    y = mended<Op>((1u << W) - 1, y, x...);
+  } else if constexpr (requires { Op::rare_test(x...); }) {
+    auto rare = in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::rare_test(v...); }, x...);
+    if (any(rare)) [[unlikely]] {
+      if constexpr (requires { Op::fix_up(x..., y, rare); })
+        Op::fix_up(x..., y, rare);
+      else if constexpr (requires { Op::fix_up(x..., y.first, y.second, rare); })
+        Op::fix_up(x..., y.first, y.second, rare);
+      if (const unsigned mask = mask_bits(rare)) y = mended<Op>(mask, y, x...);
+    }
+  }
+  return y;
+}
+
+template <class T>
+LANEMATH_INLINE lanes<T, 4> with_filler(lanes<T, 4> v, T filler) {
+  constexpr int per_group = 16 / int(sizeof(T));
+  v.g[3 / per_group][3 % per_group] = filler;
+  return v;
+}
+
+// One call of operation number `Index` of the catalogue at width W.
+template <class Op, int W, std::size_t Index, class... Arguments>
+LANEMATH_INLINE auto enter(const Arguments&... arguments) {
+  using crossing = border<typename Op::signature>;
+  static_assert(crossing::sig == catalogue[Index].sig, "not the signature that the catalogue gives");
+  return crossing::template call<W>(
+      [](auto... x) LANEMATH_LAMBDA {
+        if constexpr (W == 3)
+          return evaluate<Op, 4>(
+              with_filler(x, static_cast<typename decltype(x)::value_type>(catalogue[Index].filler))...);
+        else
+          return evaluate<Op, W>(x...);
+      },
+      arguments...);
+}
+
+// The type of argument number i of a function.
+template <std::size_t I, class F>
+struct parameter;
+template <std::size_t I, class R, class First, class... Rest>
+struct parameter<I, R(First, Rest...)> : parameter<I - 1, R(Rest...)> {};
+template <class R, class First, class... Rest>
+struct parameter<0, R(First, Rest...)> {
+  using type = First;
+};
+
+template <class Op, int W>
+using function = typename border<typename Op::signature>::template function<W>;
+template <class Op, int W, std::size_t I>
+using parameter_t = typename parameter<I, function<Op, W>>::type;
+template <class Op, int W>
+using result_t = typename border<typename Op::signature>::template result<W>;
+
+}  // namespace frame_detail
+}  // namespace lanemath
+
+// LANEMATH_EXPORT(arity, operation, body, variant) exports `body` as one accuracy variant at all widths, and
+// LANEMATH_SAME(operation, variant, other) gives its functions to another variant as well. The forms with _AT
+// do the same for one width. `arity` is unary, binary, ternary or quaternary and counts a result pointer;
+// `variant` is empty for the default form.
+#define LANEMATH_SYMBOL(operation, width, variant) __ocl_lanemath_h8_##operation##width##variant
+
+#define LANEMATH_PARAMETER(body, width, i) ::lanemath::frame_detail::parameter_t<body, width, i>
+#define LANEMATH_PARAMETERS_unary(body, width) LANEMATH_PARAMETER(body, width, 0) a
+#define LANEMATH_PARAMETERS_binary(body, width) \
+  LANEMATH_PARAMETERS_unary(body, width), LANEMATH_PARAMETER(body, width, 1) b
+#define LANEMATH_PARAMETERS_ternary(body, width) \
+  LANEMATH_PARAMETERS_binary(body, width), LANEMATH_PARAMETER(body, width, 2) c
+#define LANEMATH_ARGUMENTS_unary a
+#define LANEMATH_ARGUMENTS_binary a, b
+#define LANEMATH_ARGUMENTS_ternary a, b, c
+
+#define LANEMATH_EXPORT_AT(width, arity, operation, body, variant)                                      \
+  extern "C" [[gnu::visibility("default"), gnu::flatten]] ::lanemath::frame_detail::result_t<body, width> \
+  LANEMATH_SYMBOL(operation, width, variant)(LANEMATH_PARAMETERS_##arity(body, width)) {                \
+    return ::lanemath::frame_detail::enter<body, width, ::lanemath::index_of(#operation)>(              \
+        LANEMATH_ARGUMENTS_##arity);                                                                    \
+  }
+#define LANEMATH_EXPORT(arity, operation, body, variant)    \
+  LANEMATH_EXPORT_AT(1, arity, operation, body, variant)    \
+  LANEMATH_EXPORT_AT(2, arity, operation, body, variant)    \
+  LANEMATH_EXPORT_AT(3, arity, operation, body, variant)    \
+  LANEMATH_EXPORT_AT(4, arity, operation, body, variant)    \
+  LANEMATH_EXPORT_AT(8, arity, operation, body, variant)    \
+  LANEMATH_EXPORT_AT(16, arity, operation, body, variant)
+
+#define LANEMATH_STRING_(text) #text
+#define LANEMATH_STRING(text) LANEMATH_STRING_(text)
+#define LANEMATH_SAME_AT(width, operation, variant, other)                                          \
+  extern "C" [[gnu::visibility("default"),                                                          \
+               gnu::alias(LANEMATH_STRING(LANEMATH_SYMBOL(operation, width, variant)))]] decltype(  \
+      LANEMATH_SYMBOL(operation, width, variant)) LANEMATH_SYMBOL(operation, width, other);
+#define LANEMATH_SAME(operation, variant, other) \
+  LANEMATH_SAME_AT(1, operation, variant, other) \
+  LANEMATH_SAME_AT(2, operation, variant, other) \
+  LANEMATH_SAME_AT(3, operation, variant, other) \
+  LANEMATH_SAME_AT(4, operation, variant, other) \
+  LANEMATH_SAME_AT(8, operation, variant, other) \
+  LANEMATH_SAME_AT(16, operation, variant, other)

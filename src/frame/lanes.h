@@ -1,0 +1,275 @@
+// lanes<T, W>: W lanes of T, carried as 128-bit groups; lanes<T, 1> is one scalar and compiles to scalar
+// instructions. The operators apply to every group in turn, so that one kernel text serves all widths.
+// Lanes of 32 bits at width 2 fill the low half of their group; what its upper half holds is never used.
+//
+// Integer lanes wrap. A comparison gives a mask: integer lanes of the same size, all ones or zero.
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+
+#include <smmintrin.h>
+
+#define LANEMATH_INLINE [[gnu::always_inline]] inline
+#define LANEMATH_LAMBDA __attribute__((always_inline))
+
+namespace lanemath {
+
+template <class T, int W>
+struct group_of {
+  typedef T type __attribute__((vector_size(16)));
+};
+template <class T>
+struct group_of<T, 1> {
+  using type = T;
+};
+
+template <std::size_t Bytes>
+using int_of_size = std::conditional_t<Bytes == 4, std::int32_t, std::int64_t>;
+
+template <class T, int W>
+struct lanes {
+  using value_type = T;
+  using group = typename group_of<T, W>::type;
+  static constexpr int width = W;
+  static constexpr int groups = (W * int(sizeof(T)) + 15) / 16;
+
+  group g[groups];
+
+  lanes() = default;
+  LANEMATH_INLINE lanes(T value) {
+    for (auto& each : g) {
+      if constexpr (W == 1)
+        each = value;
+      else if constexpr (sizeof(T) == 4)
+        each = group{value, value, value, value};
+      else
+        each = group{value, value};
+    }
+  }
+
+  // The same number of lanes of another type.
+  template <class U>
+  using of = lanes<U, W>;
+};
+
+// f over corresponding groups; the result's lanes are U.
+template <class U, class F, class T, int W, class... Rest>
+LANEMATH_INLINE lanes<U, W> map(F f, const lanes<T, W>& first, const Rest&... rest) {
+  lanes<U, W> result;
+  for (int i = 0; i < result.groups; ++i) result.g[i] = f(first.g[i], rest.g[i]...);
+  return result;
+}
+
+// Reads the bits as lanes of another type of the same size.
+template <class U, class T, int W>
+LANEMATH_INLINE lanes<U, W> as(const lanes<T, W>& v) {
+  static_assert(sizeof(U) == sizeof(T));
+  return map<U>([](auto a) LANEMATH_LAMBDA { return std::bit_cast<typename lanes<U, W>::group>(a); }, v);
+}
+
+// Bit patterns as signed integers, and back.
+template <class T, int W>
+LANEMATH_INLINE auto bits(const lanes<T, W>& v) {
+  return as<int_of_size<sizeof(T)>>(v);
+}
+template <class T, int W>
+LANEMATH_INLINE auto from_bits(const lanes<T, W>& v) {
+  return as<std::conditional_t<sizeof(T) == 4, float, double>>(v);
+}
+
+// A constant by its bit pattern: 0x3F000000_f32 is 0.5f.
+consteval float operator""_f32(unsigned long long v) { return std::bit_cast<float>(std::uint32_t(v)); }
+consteval double operator""_f64(unsigned long long v) { return std::bit_cast<double>(std::uint64_t(v)); }
+
+namespace lanes_detail {
+
+// Integer arithmetic on unsigned lanes wraps at every width, the scalar one included.
+template <class F, class T, int W>
+LANEMATH_INLINE lanes<T, W> wrapping(F f, const lanes<T, W>& a, const lanes<T, W>& b) {
+  if constexpr (std::is_integral_v<T>) {
+    using U = std::make_unsigned_t<T>;
+    return as<T>(map<U>(f, as<U>(a), as<U>(b)));
+  } else {
+    return map<T>(f, a, b);
+  }
+}
+
+template <class F, class T, int W>
+LANEMATH_INLINE auto compare(F f, const lanes<T, W>& a, const lanes<T, W>& b) {
+  using I = int_of_size<sizeof(T)>;
+  return map<I>(
+      [f](auto p, auto q) LANEMATH_LAMBDA {
+        if constexpr (W == 1)
+          return f(p, q) ? I(-1) : I(0);
+        else
+          return std::bit_cast<typename lanes<I, W>::group>(f(p, q));
+      },
+      a, b);
+}
+
+}  // namespace lanes_detail
+
+#define LANEMATH_OPERATOR(op, how)                                                           \
+  template <class T, int W>                                                                  \
+  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, const lanes<T, W>& b) {             \
+    return lanes_detail::how([](auto p, auto q) LANEMATH_LAMBDA { return p op q; }, a, b);   \
+  }                                                                                          \
+  template <class T, int W>                                                                  \
+  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, std::type_identity_t<T> b) {        \
+    return a op lanes<T, W>(b);                                                              \
+  }                                                                                          \
+  template <class T, int W>                                                                  \
+  LANEMATH_INLINE auto operator op(std::type_identity_t<T> a, const lanes<T, W>& b) {        \
+    return lanes<T, W>(a) op b;                                                              \
+  }
+LANEMATH_OPERATOR(+, wrapping)
+LANEMATH_OPERATOR(-, wrapping)
+LANEMATH_OPERATOR(*, wrapping)
+LANEMATH_OPERATOR(/, wrapping)
+LANEMATH_OPERATOR(&, wrapping)
+LANEMATH_OPERATOR(|, wrapping)
+LANEMATH_OPERATOR(^, wrapping)
+LANEMATH_OPERATOR(<, compare)
+LANEMATH_OPERATOR(<=, compare)
+LANEMATH_OPERATOR(>, compare)
+LANEMATH_OPERATOR(>=, compare)
+LANEMATH_OPERATOR(==, compare)
+LANEMATH_OPERATOR(!=, compare)
+#undef LANEMATH_OPERATOR
+
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> operator~(const lanes<T, W>& v) {
+  return map<T>([](auto a) LANEMATH_LAMBDA { return ~a; }, v);
+}
+
+// Shifts by a constant below the lane's size: left wraps, right is arithmetic on signed lanes and logical on
+// unsigned ones.
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> operator<<(const lanes<T, W>& v, int count) {
+  using U = std::make_unsigned_t<T>;
+  return as<T>(map<U>([count](auto a) LANEMATH_LAMBDA { return a << count; }, as<U>(v)));
+}
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> operator>>(const lanes<T, W>& v, int count) {
+  return map<T>([count](auto a) LANEMATH_LAMBDA { return a >> count; }, v);
+}
+
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> select(const lanes<int_of_size<sizeof(T)>, W>& mask, const lanes<T, W>& yes,
+                                   const lanes<T, W>& no) {
+  return map<T>([](auto m, auto a, auto b) LANEMATH_LAMBDA { return m ? a : b; }, mask, yes, no);
+}
+
+// The upper 32 bits of each 64-bit lane.
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> upper(const lanes<T, W>& v) {
+  static_assert(sizeof(T) == 8);
+  lanes<std::int32_t, W> result;
+  if constexpr (W == 1) {
+    result.g[0] = std::int32_t(std::bit_cast<std::int64_t>(v.g[0]) >> 32);
+  } else {
+    const auto group = [&](int i) LANEMATH_LAMBDA { return std::bit_cast<__m128>(v.g[i]); };
+    constexpr int last = lanes<T, W>::groups - 1;
+    for (int i = 0; i < result.groups; ++i)
+      result.g[i] = std::bit_cast<typename lanes<std::int32_t, W>::group>(
+          _mm_shuffle_ps(group(2 * i), group(2 * i < last ? 2 * i + 1 : last), _MM_SHUFFLE(3, 1, 3, 1)));
+  }
+  return result;
+}
+
+// Lanes first .. first + C - 1, whole groups of them; and their way back.
+template <int C, class T, int W>
+LANEMATH_INLINE lanes<T, C> part(const lanes<T, W>& v, int first) {
+  lanes<T, C> result;
+  for (int i = 0; i < result.groups; ++i) result.g[i] = v.g[first * int(sizeof(T)) / 16 + i];
+  return result;
+}
+template <class T, int W, int C>
+LANEMATH_INLINE void put_part(lanes<T, W>& v, int first, const lanes<T, C>& piece) {
+  for (int i = 0; i < piece.groups; ++i) v.g[first * int(sizeof(T)) / 16 + i] = piece.g[i];
+}
+
+// A mask as bits, lane i at bit i.
+template <class T, int W>
+LANEMATH_INLINE unsigned mask_bits(const lanes<T, W>& mask) {
+  unsigned result = 0;
+  if constexpr (W == 1) {
+    result = mask.g[0] & 1;
+  } else {
+    constexpr int per_group = 16 / int(sizeof(T));
+    for (int i = 0; i < mask.groups; ++i) {
+      if constexpr (sizeof(T) == 4)
+        result |= unsigned(_mm_movemask_ps(std::bit_cast<__m128>(mask.g[i]))) << i * per_group;
+      else
+        result |= unsigned(_mm_movemask_pd(std::bit_cast<__m128d>(mask.g[i]))) << i * per_group;
+    }
+  }
+  return result & ((1u << W) - 1);
+}
+
+// Whether any lane of the mask is set: one test whatever the width.
+template <class T, int W>
+LANEMATH_INLINE bool any(const lanes<T, W>& mask) {
+  if constexpr (W == 1) {
+    return mask.g[0] != 0;
+  } else {
+    auto all = mask.g[0];
+    for (int i = 1; i < mask.groups; ++i) all |= mask.g[i];
+    lanes<T, 16 / int(sizeof(T))> folded;
+    folded.g[0] = all;
+    return (mask_bits(folded) & ((1u << W) - 1)) != 0;
+  }
+}
+
+// A table entry of a high and a low part, side by side so that one load brings both.
+template <class T>
+struct two_part {
+  T hi, lo;
+};
+template <class V>
+struct looked_up {
+  V hi, lo;
+};
+
+// The entries at the lanes' indices, which must all be inside the table. One load a lane.
+template <class T, std::size_t Size, int W>
+LANEMATH_INLINE looked_up<lanes<T, W>> look_up(const two_part<T> (&table)[Size],
+                                               const lanes<std::int32_t, W>& index) {
+  looked_up<lanes<T, W>> result;
+  if constexpr (W == 1) {
+    const auto& entry = table[std::uint32_t(index.g[0])];
+    result.hi = entry.hi;
+    result.lo = entry.lo;
+  } else {
+    static_assert(sizeof(T) == 4);
+    for (int i = 0; i < index.groups; ++i) {
+      const auto j = std::bit_cast<__m128i>(index.g[i]);
+      const auto two = [&](std::uint64_t first_and_second) LANEMATH_LAMBDA {
+        const auto first = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&table[std::uint32_t(first_and_second)]));
+        return _mm_loadh_pi(_mm_castsi128_ps(first), reinterpret_cast<const __m64*>(&table[first_and_second >> 32]));
+      };
+      const auto low = two(std::uint64_t(_mm_cvtsi128_si64(j)));
+      const auto high = W == 2 ? low : two(std::uint64_t(_mm_extract_epi64(j, 1)));
+      using group = typename lanes<T, W>::group;
+      result.hi.g[i] = std::bit_cast<group>(_mm_shuffle_ps(low, high, _MM_SHUFFLE(2, 0, 2, 0)));
+      result.lo.g[i] = std::bit_cast<group>(_mm_shuffle_ps(low, high, _MM_SHUFFLE(3, 1, 3, 1)));
+    }
+  }
+  return result;
+}
+
+// A value that the optimiser cannot see through, for a step that exists for its effect (the quieting of a NaN
+// by x * 1.0, an overflow that depends on the direction in force) and would otherwise be folded away.
+LANEMATH_INLINE float opaque(float v) {
+  asm("" : "+x"(v));
+  return v;
+}
+LANEMATH_INLINE double opaque(double v) {
+  asm("" : "+x"(v));
+  return v;
+}
+
+}  // namespace lanemath

@@ -1,0 +1,7 @@
+// What is made from the catalogue.
+#pragma once
+
+#include <cstdio>
+
+void write_export_list(std::FILE* out);                        // for the linker
+void write_public_header(std::FILE* out, const char* family);  // include/lanemath/<family>.h

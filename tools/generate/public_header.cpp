@@ -1,0 +1,102 @@
+// The public header of one family: documentation and declarations.
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "families.h"
+#include "frame/error_bounds.h"
+#include "generate.h"
+
+namespace {
+
+using namespace lanemath;
+
+std::string_view type_name(lane l) {
+  constexpr std::array<std::string_view, 7> names{"", "float", "double", "int", "uint", "long", "ulong"};
+  return names[std::size_t(l)];
+}
+
+std::string_view shape(const signature& s) {
+  if (s.how == delivery::none) return std::array{"UNARY", "BINARY", "TERNARY"}[s.arity() - 1];
+  if (s.how == delivery::pointer) return s.arity() == 1 ? "UNARY_POINTER" : "BINARY_POINTER";
+  return s.arity() == 1 ? "UNARY_PAIR" : "BINARY_PAIR";
+}
+
+// The types that a declaration of this shape takes: result, arguments, what the pointer points to.
+std::vector<std::string_view> types(const signature& s) {
+  std::vector<std::string_view> all{type_name(s.result)};
+  for (int i = 0; i < s.arity(); ++i) all.push_back(type_name(s.arguments[i]));
+  if (s.how == delivery::pointer) all.push_back(type_name(s.second));
+  return all;
+}
+
+// What a conversion's name says.
+std::string conversion_brief(const operation& o) {
+  const std::string_view name = o.name();
+  const auto rounding = [&] {
+    if (name.find("rte") != name.npos) return "to nearest even";
+    if (name.find("rtn") != name.npos) return "down";
+    if (name.find("rtp") != name.npos) return "up";
+    return "toward zero";
+  }();
+  const auto saturation = name.find("nosat") != name.npos ? ""
+                          : name.find("sat") != name.npos ? ", clamped to the range of the result"
+                                                          : "";
+  return fmt::format("{} to {}, rounded {}{}", type_name(o.sig.arguments[0]), type_name(o.sig.result), rounding,
+                     saturation);
+}
+
+std::string call(const operation& o) {
+  constexpr std::array names{"x", "y", "z"};
+  std::vector<std::string> parameters;
+  for (int i = 0; i < o.sig.arity(); ++i)
+    parameters.push_back(fmt::format("{} {}", type_name(o.sig.arguments[i]), names[i]));
+  if (o.sig.how == delivery::pointer) parameters.push_back(fmt::format("{}* second", type_name(o.sig.second)));
+  const auto result = o.sig.how == delivery::pair
+                          ? fmt::format("({0}, {0})", type_name(o.sig.result))
+                          : std::string(type_name(o.sig.result));
+  return fmt::format("{} {}({})", result, o.name(), fmt::join(parameters, ", "));
+}
+
+std::string bound_text(const operation& o) {
+  const auto* bound = bounds_of(o);
+  if (!bound) return "";
+  std::string text = "\n * Largest error in ulp:";
+  for (auto v : variants)
+    if (o.has(v))
+      text += fmt::format(" {} {:g};", v == variant::standard ? "default" : suffix(v), bound->ulp[std::size_t(v)]);
+  text.back() = '.';
+  return text;
+}
+
+}  // namespace
+
+void write_public_header(std::FILE* out, const char* family_name) {
+  const auto text = std::find_if(std::begin(families), std::end(families),
+                                 [&](const family_text& f) { return f.file == family_name; });
+  if (text == std::end(families)) throw std::invalid_argument(fmt::format("no family {}", family_name));
+
+  std::string guard = fmt::format("LANEMATH_{}_H", family_name);
+  std::transform(guard.begin(), guard.end(), guard.begin(), [](unsigned char c) { return std::toupper(c); });
+  std::string about(text->about);
+  for (std::size_t at = 0; (at = about.find('\n', at)) != about.npos; at += 4) about.replace(at, 1, "\n * ");
+
+  fmt::print(out,
+             "/* {}.\n *\n * {}\n *\n"
+             " * Each function exists at widths 1, 2, 3, 4, 8 and 16, as lanemath_<operation><width><variant>. */\n"
+             "#ifndef {}\n#define {}\n\n#include <lanemath/types.h>\n\nLANEMATH_BEGIN\n",
+             text->title, about, guard, guard);
+  for (const auto& o : catalogue) {
+    if (o.group != text->group) continue;
+    fmt::print(out, "\n/* {}\n * {}.{} */\n", call(o), o.brief.empty() ? conversion_brief(o) : std::string(o.brief),
+               bound_text(o));
+    for (auto v : variants)
+      if (o.has(v))
+        fmt::print(out, "LANEMATH_DECLARE({}, {}, {}, {})\n", shape(o.sig), o.name(), suffix(v),
+                   fmt::join(types(o.sig), ", "));
+  }
+  fmt::print(out, "\nLANEMATH_END\n\n#endif\n");
+}

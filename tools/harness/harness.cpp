@@ -1,0 +1,94 @@
+#include "harness/harness.h"
+
+#include <dlfcn.h>
+#include <fmt/format.h>
+
+#include <array>
+#include <cstring>
+#include <stdexcept>
+#include <utility>
+
+#include "frame/abi.h"
+
+namespace lanemath::harness {
+namespace {
+
+template <lane L>
+struct type_of_lane;
+template <> struct type_of_lane<lane::f32> { using type = float; };
+template <> struct type_of_lane<lane::f64> { using type = double; };
+template <> struct type_of_lane<lane::i32> { using type = std::int32_t; };
+template <> struct type_of_lane<lane::u32> { using type = std::uint32_t; };
+template <> struct type_of_lane<lane::i64> { using type = std::int64_t; };
+template <> struct type_of_lane<lane::u64> { using type = std::uint64_t; };
+template <lane L>
+using type = typename type_of_lane<L>::type;
+
+// Calls a function of signature S and width W.
+template <signature S, int W, std::size_t... I>
+void invoke(void* address, const invoker_arguments& a, std::index_sequence<I...>) {
+  using T = type<S.result>;
+  const auto argument = [&]<std::size_t i>(std::size_t at) {
+    using A = type<S.arguments[i]>;
+    abi<A, W> value;
+    std::memcpy(&value, static_cast<const A*>(a.inputs[i]) + at, sizeof value);
+    return value;
+  };
+  for (std::size_t at = 0; at < a.lanes; at += padded(W)) {
+    auto* result = static_cast<T*>(a.result) + at;
+    if constexpr (S.how == delivery::none) {
+      const auto f = reinterpret_cast<abi<T, W> (*)(abi<type<S.arguments[I]>, W>...)>(address);
+      const auto y = f(argument.template operator()<I>(at)...);
+      std::memcpy(result, &y, sizeof y);
+    } else {
+      using U = type<S.second>;
+      auto* second = static_cast<U*>(a.second) + at;
+      if constexpr (S.how == delivery::pointer) {
+        const auto f = reinterpret_cast<abi<T, W> (*)(abi<type<S.arguments[I]>, W>..., void*)>(address);
+        const auto y = f(argument.template operator()<I>(at)..., second);
+        std::memcpy(result, &y, sizeof y);
+      } else {
+        const auto f = reinterpret_cast<abi_pair<T, U, W> (*)(abi<type<S.arguments[I]>, W>...)>(address);
+        const auto y = f(argument.template operator()<I>(at)...);
+        std::memcpy(result, &y.first, sizeof y.first);
+        std::memcpy(second, &y.second, sizeof y.second);
+      }
+    }
+  }
+}
+
+using invoker = void (*)(void*, const invoker_arguments&);
+
+template <signature S, std::size_t... W>
+constexpr std::array<invoker, widths.size()> invokers_of(std::index_sequence<W...>) {
+  return {[](void* address, const invoker_arguments& a) {
+    invoke<S, widths[W]>(address, a, std::make_index_sequence<std::size_t(S.arity())>{});
+  }...};
+}
+
+// invokers[operation][place of the width]
+constexpr auto invokers = []<std::size_t... I>(std::index_sequence<I...>) {
+  return std::array{invokers_of<catalogue[I].sig>(std::make_index_sequence<widths.size()>{})...};
+}(std::make_index_sequence<catalogue.size()>{});
+
+}  // namespace
+
+std::string symbol(const operation& o, int width, variant v) {
+  return fmt::format("{}{}{}{}", symbol_prefix, o.name(), width, suffix(v));
+}
+
+library::library(const std::string& path) : handle_(dlopen(path.c_str(), RTLD_NOW | RTLD_GLOBAL)) {
+  if (!handle_) throw std::runtime_error(dlerror());
+}
+library::~library() { dlclose(handle_); }
+
+std::optional<function> library::find(std::size_t operation_index, variant v, int width) const {
+  const auto& o = catalogue.at(operation_index);
+  for (std::size_t place = 0; place < widths.size(); ++place)
+    if (widths[place] == width)
+      if (void* address = dlsym(handle_, symbol(o, width, v).c_str()))
+        return function(address, invokers[operation_index][place]);
+  return std::nullopt;
+}
+
+}  // namespace lanemath::harness

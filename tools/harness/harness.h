@@ -1,0 +1,60 @@
+// Calls any exported function over arrays of lanes, by its place in the catalogue. What the tests, the accuracy
+// tool and the benchmark stand on.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+#include "frame/catalogue.h"
+
+namespace lanemath::harness {
+
+constexpr std::size_t size_of(lane l) {
+  return l == lane::none ? 0 : l == lane::f64 || l == lane::i64 || l == lane::u64 ? 8 : 4;
+}
+
+// Lanes that a vector takes the room of.
+constexpr int stride(int width) { return width == 3 ? 4 : width; }
+
+struct invoker_arguments {
+  const void* const* inputs;
+  void* result;
+  void* second;
+  std::size_t lanes;
+};
+
+class function {
+ public:
+  function(void* address, void (*invoker)(void*, const invoker_arguments&)) : address_(address), invoker_(invoker) {}
+
+  // One call for every vector of the arrays. `lanes` counts the room that the vectors take, a multiple of
+  // stride(width). `second` receives the second result, through a pointer or from a pair.
+  void call(const void* const* inputs, void* result, void* second, std::size_t lanes) const {
+    invoker_(address_, {inputs, result, second, lanes});
+  }
+  const void* address() const { return address_; }
+
+ private:
+  void* address_;
+  void (*invoker_)(void*, const invoker_arguments&);
+};
+
+std::string symbol(const operation& o, int width, variant v);
+
+// A loaded library. Its functions live as long as it does.
+class library {
+ public:
+  explicit library(const std::string& path);
+  ~library();
+  library(const library&) = delete;
+  library& operator=(const library&) = delete;
+
+  // Nothing if the library does not export it.
+  std::optional<function> find(std::size_t operation_index, variant v, int width) const;
+
+ private:
+  void* handle_;
+};
+
+}  // namespace lanemath::harness

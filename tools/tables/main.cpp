@@ -1,0 +1,21 @@
+// Writes the lookup tables of one family of operations as a C++ header, to standard output.
+#include <cstdio>
+#include <map>
+#include <string>
+
+#include "table_writer.h"
+
+void write_exp_tables(table_writer&);
+
+int main(int argc, char** argv) {
+  const std::map<std::string, void (*)(table_writer&)> families{{"exp", write_exp_tables}};
+  const auto family = argc == 2 ? families.find(argv[1]) : families.end();
+  if (family == families.end()) {
+    fmt::print(stderr, "usage: {} FAMILY\nfamilies:", argv[0]);
+    for (const auto& [name, write] : families) fmt::print(stderr, " {}", name);
+    fmt::print(stderr, "\n");
+    return 2;
+  }
+  table_writer out(stdout);
+  family->second(out);
+}
