@@ -1,0 +1,54 @@
+// The error of exported functions, in units in the last place.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "accuracy/reference.h"
+#include "harness/harness.h"
+
+namespace lanemath::accuracy {
+
+// One tuple of argument lanes, each as its bit pattern.
+using arguments = std::array<std::uint64_t, 3>;
+
+struct tally {
+  double largest_error = -1;  // ulp; infinite for a NaN or a number where the other was due; -1 before any lane
+  arguments input{};          // where it falls
+  std::uint64_t lanes = 0;
+  std::uint64_t correctly_rounded = 0;
+
+  void add(double error, const arguments& at, bool correct) { merge({error, at, 1, correct}); }
+  void merge(const tally& other) {
+    lanes += other.lanes;
+    correctly_rounded += other.correctly_rounded;
+    if (other.largest_error > largest_error) {
+      largest_error = other.largest_error;
+      input = other.input;
+    }
+  }
+};
+
+// A value of a lane type as text: the number and its pattern.
+std::string text_of(lane type, std::uint64_t pattern);
+
+// Argument tuples drawn from a range, half of them evenly over the values and half over the bit patterns.
+std::vector<arguments> sample(const operation& o, const range& r, std::size_t count, std::uint64_t seed);
+// Any bit patterns.
+std::vector<arguments> sample_patterns(const operation& o, std::size_t count, std::uint64_t seed);
+// The neighbourhoods of the bounds of the operation and of the format, of both signs.
+std::vector<arguments> around_bounds(const operation& o, const reference& r, std::size_t count, std::uint64_t seed);
+
+// The function's largest error over these arguments, by MPFR.
+tally measure(const operation& o, const reference& r, const harness::function& f, int width,
+              const std::vector<arguments>& inputs);
+
+// The function's largest error over all 2^32 floats (three quarters of them at width 3, whose fourth lane is not a
+// result), on all cores. `progress` is told the share that is done.
+tally measure_all_floats(const operation& o, const reference& r, const harness::function& f, int width,
+                         const std::function<void(double)>& progress);
+
+}  // namespace lanemath::accuracy

@@ -1,0 +1,45 @@
+#include "accuracy/reference.h"
+
+#include <cmath>
+
+namespace lanemath::accuracy {
+namespace {
+
+template <auto F>
+void unary(mpfr_t result, const mpfr_t* x) {
+  F(result, x[0], MPFR_RNDN);
+}
+
+const std::vector<reference>& references() {
+  static const std::vector<reference> all{
+      {.name = "exp",
+       .value = unary<mpfr_exp>,
+       .ranges = {{"typical", {{-20, 20}}}, {"kernel", {{-87.3, 87.3}}}, {"rare", {{-104, -87.3}}}, {"top", {{87.3, 89}}}},
+       .single_bounds = {0x1p-52, 87.33654, 88.72283, 103.97208},
+       .fast = [](double x) { return std::exp(x); }},
+      {.name = "exp2",
+       .value = unary<mpfr_exp2>,
+       .ranges = {{"typical", {{-20, 20}}}, {"kernel", {{-126, 126}}}, {"rare", {{-150, -126}}}, {"top", {{126, 129}}}},
+       .single_bounds = {0x1p-28, 123.5, 126, 128, 149, 150, 160},
+       .fast = [](double x) { return std::exp2(x); }},
+      {.name = "exp10",
+       .value = unary<mpfr_exp10>,
+       .ranges = {{"typical", {{-10, 10}}}, {"kernel", {{-37.9, 37.9}}}, {"rare", {{-45.2, -37.9}}}, {"top", {{37.9, 38.6}}}},
+       .single_bounds = {37.92978, 38.53184, 45.1545},
+       .fast = [](double x) { return ::exp10(x); }},
+  };
+  return all;
+}
+
+}  // namespace
+
+const reference* find_reference(const operation& o) {
+  std::string_view name = o.name();
+  for (const auto& each : references()) {
+    if (name == each.name) return &each;
+    if (name.back() == 'f' && name.substr(0, name.size() - 1) == each.name) return &each;
+  }
+  return nullptr;
+}
+
+}  // namespace lanemath::accuracy
