@@ -2,7 +2,8 @@
  *
  * lanemath_<type><width> is a vector of 2, 3, 4, 8 or 16 lanes of float, double, int, uint, long (64 bits) or
  * ulong, as GCC's and Clang's vector extensions make them: the usual operators and v[i] work. A vector of three
- * takes the room of a vector of four; its last lane is neither read nor meant to be read.
+ * takes the room of a vector of four; its last lane is neither read nor meant to be read. Vectors of more than 16
+ * bytes are aligned to 16, as malloc's memory is.
  *
  * The library takes vectors wider than 16 bytes in memory, whatever instructions the caller is compiled for. A
  * compiler that may use AVX would pass them in registers instead, so they cross the border as structures, and
@@ -20,16 +21,19 @@
 
 #define LANEMATH_INLINE static inline __attribute__((always_inline, unused))
 
-/* GCC remarks that passing wide vectors depends on AVX. Here nothing does: the wrappers are always inlined. */
-#ifdef __cplusplus
-#define LANEMATH_EXTERN_C extern "C" {
-#define LANEMATH_EXTERN_C_END }
-#else
-#define LANEMATH_EXTERN_C
-#define LANEMATH_EXTERN_C_END
+/* Compilers remark where a wide vector is passed or returned that this depends on AVX. Here nothing does, as the
+ * wrappers are always inlined; the remarks come at the caller's lines, so they are switched off for those too. */
+#ifndef __AVX512F__
+#pragma GCC diagnostic ignored "-Wpsabi"
 #endif
-#define LANEMATH_BEGIN LANEMATH_EXTERN_C _Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Wpsabi\"")
-#define LANEMATH_END _Pragma("GCC diagnostic pop") LANEMATH_EXTERN_C_END
+
+#ifdef __cplusplus
+#define LANEMATH_BEGIN extern "C" {
+#define LANEMATH_END }
+#else
+#define LANEMATH_BEGIN
+#define LANEMATH_END
+#endif
 
 typedef int32_t lanemath_int;
 typedef uint32_t lanemath_uint;
@@ -63,14 +67,15 @@ LANEMATH_BEGIN
   typedef lanemath_##type lanemath_##type##1;        \
   typedef lanemath_##type lanemath_border_##type##1; \
   LANEMATH_CROSSING(type##1)
-#define LANEMATH_VECTOR(type, width) \
-  typedef lanemath_##type lanemath_##type##width __attribute__((vector_size(width * sizeof(lanemath_##type))));
+#define LANEMATH_VECTOR(type, width, alignment) \
+  typedef lanemath_##type lanemath_##type##width \
+      __attribute__((vector_size(width * sizeof(lanemath_##type)), aligned(alignment)));
 #define LANEMATH_NARROW(type, width)                            \
-  LANEMATH_VECTOR(type, width)                                  \
+  LANEMATH_VECTOR(type, width, width * sizeof(lanemath_##type)) \
   typedef lanemath_##type##width lanemath_border_##type##width; \
   LANEMATH_CROSSING(type##width)
 #define LANEMATH_WIDE(type, width)                              \
-  LANEMATH_VECTOR(type, width)                                  \
+  LANEMATH_VECTOR(type, width, 16)                              \
   typedef struct {                                              \
     lanemath_##type lane[width];                                \
   } __attribute__((aligned(16))) lanemath_border_##type##width; \

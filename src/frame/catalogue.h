@@ -258,6 +258,26 @@ constexpr int pair_count() {
 }
 static_assert(catalogue.size() == 248 && pair_count() == 361 && pair_count() * widths.size() == 2166);
 
+// Forms with an algorithm of their own: there a lane may differ from the same lane at another width.
+struct standalone_form {
+  std::string_view operation;
+  int width;
+  variant of;
+};
+inline constexpr standalone_form standalone_forms[] = {
+    {"exp", 2, variant::standard},    {"exp2", 2, variant::standard},   {"log2", 2, variant::standard},
+    {"exp2f", 1, variant::standard},  {"exp2f", 4, variant::standard},  {"atanf", 4, variant::standard},
+    {"atan", 2, variant::standard},   {"atan2f", 4, variant::standard}, {"atan2", 2, variant::standard},
+    {"acoshf", 4, variant::standard}, {"acoshf", 4, variant::native},   {"asinhf", 4, variant::standard},
+    {"asinhf", 4, variant::native},   {"acosh", 2, variant::standard},  {"acosh", 2, variant::native},
+    {"asinh", 2, variant::standard},  {"asinh", 2, variant::native},
+};
+constexpr bool is_standalone(std::string_view name, int width, variant v) {
+  for (const auto& form : standalone_forms)
+    if (form.operation == name && form.width == width && form.of == v) return true;
+  return false;
+}
+
 // Index of an operation; a name that is not in the catalogue does not compile where this is a constant.
 constexpr std::size_t index_of(std::string_view name) {
   std::size_t i = 0;

@@ -168,7 +168,8 @@ constexpr int groups_at_once() {
 
 template <class Op, int W, class... X>
 LANEMATH_INLINE auto evaluate(const X&... x) {
-  constexpr int piece = std::max(2, groups_at_once<Op>() * 16 / int(border<typename Op::signature>::widest_lane));
+  // Never less than a group of the narrowest lanes.
+  constexpr int piece = std::max(4, groups_at_once<Op>() * 16 / int(border<typename Op::signature>::widest_lane));
   auto y = in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::kernel(v...); }, x...);
 
   if constexpr (requires { Op::always_scalar; }) {

@@ -163,19 +163,51 @@ LANEMATH_INLINE lanes<T, W> select(const lanes<int_of_size<sizeof(T)>, W>& mask,
   return map<T>([](auto m, auto a, auto b) LANEMATH_LAMBDA { return m ? a : b; }, mask, yes, no);
 }
 
-// The upper 32 bits of each 64-bit lane.
-template <class T, int W>
-LANEMATH_INLINE lanes<std::int32_t, W> upper(const lanes<T, W>& v) {
+namespace lanes_detail {
+
+// One 32-bit half of each 64-bit lane.
+template <int Half, class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> halves(const lanes<T, W>& v) {
   static_assert(sizeof(T) == 8);
   lanes<std::int32_t, W> result;
   if constexpr (W == 1) {
-    result.g[0] = std::int32_t(std::bit_cast<std::int64_t>(v.g[0]) >> 32);
+    result.g[0] = std::int32_t(std::bit_cast<std::int64_t>(v.g[0]) >> 32 * Half);
   } else {
-    const auto group = [&](int i) LANEMATH_LAMBDA { return std::bit_cast<__m128>(v.g[i]); };
     constexpr int last = lanes<T, W>::groups - 1;
     for (int i = 0; i < result.groups; ++i)
       result.g[i] = std::bit_cast<typename lanes<std::int32_t, W>::group>(
-          _mm_shuffle_ps(group(2 * i), group(2 * i < last ? 2 * i + 1 : last), _MM_SHUFFLE(3, 1, 3, 1)));
+          _mm_shuffle_ps(std::bit_cast<__m128>(v.g[2 * i]), std::bit_cast<__m128>(v.g[2 * i < last ? 2 * i + 1 : last]),
+                         _MM_SHUFFLE(2 + Half, Half, 2 + Half, Half)));
+  }
+  return result;
+}
+
+}  // namespace lanes_detail
+
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> upper(const lanes<T, W>& v) {
+  return lanes_detail::halves<1>(v);
+}
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> lower(const lanes<T, W>& v) {
+  return lanes_detail::halves<0>(v);
+}
+
+// 32-bit integers as 64-bit ones of the same signedness.
+template <class T, int W>
+LANEMATH_INLINE auto widen(const lanes<T, W>& v) {
+  static_assert(sizeof(T) == 4 && std::is_integral_v<T>);
+  using wide = std::conditional_t<std::is_signed_v<T>, std::int64_t, std::uint64_t>;
+  lanes<wide, W> result;
+  if constexpr (W == 1) {
+    result.g[0] = v.g[0];
+  } else {
+    for (int i = 0; i < result.groups; ++i) {
+      const auto from = std::bit_cast<__m128i>(v.g[i / 2]);
+      const auto half = i % 2 ? _mm_unpackhi_epi64(from, from) : from;
+      const auto wider = std::is_signed_v<T> ? _mm_cvtepi32_epi64(half) : _mm_cvtepu32_epi64(half);
+      result.g[i] = std::bit_cast<typename lanes<wide, W>::group>(wider);
+    }
   }
   return result;
 }

@@ -137,7 +137,7 @@ int main(int argc, char** argv) try {
           if (!reference->fast || o.sig != signature{lane::f32, {lane::f32}}) continue;
           progress_bar bar(fmt::format("{}{} at width {}", o.name(), suffix(v), width));
           const auto found =
-              measure_all_floats(o, *reference, *f, width, [&](double share) { bar.show(share); });
+              measure_all_floats(*reference, *f, width, [&](double share) { bar.show(share); });
           bar.clear();
           table.add(o, v, width, "all", found);
           continue;

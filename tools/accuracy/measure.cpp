@@ -7,9 +7,10 @@
 #include <bit>
 #include <chrono>
 #include <cmath>
-#include <cstring>
 #include <limits>
+#include <numeric>
 #include <random>
+#include <span>
 #include <stdexcept>
 #include <thread>
 
@@ -93,28 +94,6 @@ judgement judge(lane type, const mpfr_t exact, double got) {
   mpfr_mul_2si(difference.v, difference.v, -std::max<long>(exponent, f.least_exponent), MPFR_RNDN);
   return {std::fabs(mpfr_get_d(difference.v, MPFR_RNDN)), nearest == got};
 }
-
-// Lane arrays of one block of calls.
-struct block {
-  std::array<std::vector<std::byte>, 3> inputs;
-  std::vector<std::byte> result, second;
-  const operation& o;
-
-  block(const operation& operation, std::size_t lanes) : o(operation) {
-    for (int i = 0; i < o.sig.arity(); ++i) inputs[i].resize(lanes * harness::size_of(o.sig.arguments[i]));
-    result.resize(lanes * harness::size_of(o.sig.result));
-    second.resize(lanes * harness::size_of(o.sig.second));
-  }
-  void call(const harness::function& f, std::size_t lanes) {
-    const std::array<const void*, 3> from{inputs[0].data(), inputs[1].data(), inputs[2].data()};
-    f.call(from.data(), result.data(), second.data(), lanes);
-  }
-  static std::uint64_t pattern(lane type, const std::vector<std::byte>& of, std::size_t at) {
-    std::uint64_t p = 0;
-    std::memcpy(&p, of.data() + at * harness::size_of(type), harness::size_of(type));
-    return p;
-  }
-};
 
 unsigned cores() { return std::max(1u, std::thread::hardware_concurrency()); }
 
@@ -216,49 +195,36 @@ tally measure(const operation& o, const reference& r, const harness::function& f
               const std::vector<arguments>& inputs) {
   return on_all_cores([&](unsigned part) {
     const std::size_t from = inputs.size() * part / cores(), to = inputs.size() * (part + 1) / cores();
-    const std::size_t stride = harness::stride(width);
-    const std::size_t lanes = (to - from + stride - 1) / stride * stride;
+    const std::span tuples(inputs.data() + from, to - from);
+    const auto outcomes = harness::evaluate(o, f, width, tuples);
     tally found;
-    if (from == to) return found;
-
-    block b(o, lanes);
-    for (std::size_t n = 0; n < lanes; ++n) {
-      const auto& tuple = inputs[std::min(from + n, to - 1)];
-      for (int i = 0; i < o.sig.arity(); ++i) {
-        const auto size = harness::size_of(o.sig.arguments[i]);
-        std::memcpy(b.inputs[i].data() + n * size, &tuple[i], size);
-      }
-    }
-    b.call(f, lanes);
-
     big exact;
     big_arguments given;
-    for (std::size_t n = 0; n < to - from; ++n) {
-      if (width == 3 && n % 4 == 3) continue;  // the filler's lane
+    for (std::size_t n = 0; n < tuples.size(); ++n) {
       for (int i = 0; i < o.sig.arity(); ++i)
-        mpfr_set_d(given.v[i], value_of(o.sig.arguments[i], inputs[from + n][i]), MPFR_RNDN);
-      const auto judge_result = [&](exact_function value, lane type, const std::vector<std::byte>& results) {
+        mpfr_set_d(given.v[i], value_of(o.sig.arguments[i], tuples[n][i]), MPFR_RNDN);
+      const auto add = [&](exact_function value, lane type, std::uint64_t got) {
         value(exact.v, given.v);
-        const auto verdict = judge(type, exact.v, value_of(type, block::pattern(type, results, n)));
-        found.add(verdict.error, inputs[from + n], verdict.correct);
+        const auto verdict = judge(type, exact.v, value_of(type, got));
+        found.add(verdict.error, tuples[n], verdict.correct);
       };
-      judge_result(r.value, o.sig.result, b.result);
-      if (r.second) judge_result(r.second, o.sig.second, b.second);
+      add(r.value, o.sig.result, outcomes[n].first);
+      if (r.second) add(r.second, o.sig.second, outcomes[n].second);
     }
     mpfr_free_cache2(MPFR_FREE_LOCAL_CACHE);
     return found;
   });
 }
 
-tally measure_all_floats(const operation& o, const reference& r, const harness::function& f, int width,
+tally measure_all_floats(const reference& r, const harness::function& f, int width,
                          const std::function<void(double)>& progress) {
   constexpr std::uint64_t block_lanes = 1 << 14, blocks = (std::uint64_t(1) << 32) / block_lanes;
   std::atomic<std::uint64_t> next = 0;
 
   return on_all_cores([&](unsigned part) {
     tally found;
-    block b(o, block_lanes);
-    const auto* result = reinterpret_cast<const float*>(b.result.data());
+    std::vector<std::uint32_t> patterns(block_lanes);
+    std::vector<float> results(block_lanes);
     big exact;
     big_arguments given;
     const auto add_exactly = [&](std::uint32_t pattern, float got) {
@@ -287,15 +253,11 @@ tally measure_all_floats(const operation& o, const reference& r, const harness::
     auto last_told = std::chrono::steady_clock::now();
     for (std::uint64_t n; (n = next++) < blocks;) {
       const auto first = std::uint32_t(n * block_lanes);
-      for (std::uint32_t i = 0; i < block_lanes; ++i) {
-        const std::uint32_t pattern = first + i;
-        std::memcpy(b.inputs[0].data() + i * sizeof pattern, &pattern, sizeof pattern);
-      }
-      b.call(f, block_lanes);
-      for (std::uint32_t i = 0; i < block_lanes; ++i) {
-        if (width == 3 && i % 4 == 3) continue;
-        add(first + i, result[i]);
-      }
+      std::iota(patterns.begin(), patterns.end(), first);
+      const void* from = patterns.data();
+      f.call(&from, results.data(), nullptr, block_lanes);
+      for (std::uint32_t i = 0; i < block_lanes; ++i)
+        if (width != 3 || i % 4 != 3) add(first + i, results[i]);
       using namespace std::chrono_literals;
       if (part == 0 && std::chrono::steady_clock::now() - last_told > 200ms) {
         last_told = std::chrono::steady_clock::now();

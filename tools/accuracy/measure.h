@@ -12,8 +12,7 @@
 
 namespace lanemath::accuracy {
 
-// One tuple of argument lanes, each as its bit pattern.
-using arguments = std::array<std::uint64_t, 3>;
+using harness::arguments;
 
 struct tally {
   double largest_error = -1;  // ulp; infinite for a NaN or a number where the other was due; -1 before any lane
@@ -48,7 +47,7 @@ tally measure(const operation& o, const reference& r, const harness::function& f
 
 // The function's largest error over all 2^32 floats (three quarters of them at width 3, whose fourth lane is not a
 // result), on all cores. `progress` is told the share that is done.
-tally measure_all_floats(const operation& o, const reference& r, const harness::function& f, int width,
+tally measure_all_floats(const reference& r, const harness::function& f, int width,
                          const std::function<void(double)>& progress);
 
 }  // namespace lanemath::accuracy

@@ -91,4 +91,30 @@ std::optional<function> library::find(std::size_t operation_index, variant v, in
   return std::nullopt;
 }
 
+std::vector<outcome> evaluate(const operation& o, const function& f, int width, std::span<const arguments> tuples,
+                              std::uint64_t junk) {
+  const std::size_t count = tuples.size(), vectors = (count + width - 1) / width, lanes = vectors * stride(width);
+  const auto place = [&](std::size_t tuple) { return tuple / width * stride(width) + tuple % width; };
+
+  std::array<std::vector<std::byte>, 3> inputs;
+  std::array<const void*, 3> from{};
+  for (int i = 0; i < o.sig.arity(); ++i) {
+    const auto size = size_of(o.sig.arguments[i]);
+    inputs[i].resize(lanes * size);
+    for (std::size_t n = 0; n < lanes; ++n) std::memcpy(&inputs[i][n * size], &junk, size);
+    for (std::size_t n = 0; n < count; ++n) std::memcpy(&inputs[i][place(n) * size], &tuples[n][i], size);
+    from[i] = inputs[i].data();
+  }
+  std::vector<std::byte> first(lanes * size_of(o.sig.result)), second(lanes * size_of(o.sig.second));
+  f.call(from.data(), first.data(), second.data(), lanes);
+
+  std::vector<outcome> outcomes(count);
+  for (std::size_t n = 0; n < count; ++n) {
+    std::memcpy(&outcomes[n].first, &first[place(n) * size_of(o.sig.result)], size_of(o.sig.result));
+    if (o.sig.how != delivery::none)
+      std::memcpy(&outcomes[n].second, &second[place(n) * size_of(o.sig.second)], size_of(o.sig.second));
+  }
+  return outcomes;
+}
+
 }  // namespace lanemath::harness

@@ -3,8 +3,11 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "frame/catalogue.h"
 
@@ -56,5 +59,16 @@ class library {
  private:
   void* handle_;
 };
+
+// Lanes by their bit patterns: the arguments of one lane, and what came of it.
+using arguments = std::array<std::uint64_t, 3>;
+struct outcome {
+  std::uint64_t first = 0, second = 0;
+  bool operator==(const outcome&) const = default;
+};
+
+// The function on each tuple, packed into vectors of its width. At width 3 every fourth lane holds `junk`.
+std::vector<outcome> evaluate(const operation& o, const function& f, int width, std::span<const arguments> tuples,
+                              std::uint64_t junk = 0);
 
 }  // namespace lanemath::harness

@@ -1,0 +1,82 @@
+// Callers of the public header, built by several compilers for several instruction sets, get the lanes that the
+// functions give.
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <sstream>
+
+#include "support/lanes_of.h"
+
+namespace lanemath::testing {
+namespace {
+
+using call_function = void (*)(const void*, const void*, const void*, void*, void*);
+
+bool processor_has(std::string_view instructions) {
+  if (instructions == "avx2") return __builtin_cpu_supports("avx2");
+  if (instructions == "avx512f") return __builtin_cpu_supports("avx512f");
+  return true;
+}
+
+// The callers' files, as <compiler>-<instructions>.so.
+std::vector<std::string> callers() {
+  std::vector<std::string> all;
+  std::istringstream list(LANEMATH_CALLERS);
+  for (std::string path; std::getline(list, path, ':');) all.push_back(path);
+  return all;
+}
+
+class Caller : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(Caller, GetsEveryLaneOfEveryShape) {
+  const std::string& path = GetParam();
+  const auto instructions = path.substr(path.rfind('-') + 1, path.rfind('.') - path.rfind('-') - 1);
+  if (!processor_has(instructions)) GTEST_SKIP() << "this processor lacks " << instructions;
+  const harness::library probe(LANEMATH_PROBE);
+  void* caller = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+  ASSERT_TRUE(caller) << dlerror();
+
+  std::size_t called = 0;
+  for (std::size_t index = 0; index < catalogue.size(); ++index)
+    for (int width : widths) {
+      const auto& o = catalogue[index];
+      const auto address = dlsym(caller, fmt::format("call_{}{}", o.name(), width).c_str());
+      if (!address) continue;
+      ++called;
+      const auto call = reinterpret_cast<call_function>(address);
+      const auto f = probe.find(index, variant::standard, width);
+      ASSERT_TRUE(f) << o.name();
+      const auto tuples = mixed_tuples(o, 16 * 3 * 20);
+      const auto due = harness::evaluate(o, *f, width, tuples);
+
+      for (std::size_t n = 0; n < tuples.size(); n += width) {
+        alignas(128) std::array<std::array<std::byte, 128>, 5> buffers{};
+        for (int lane = 0; lane < width; ++lane)
+          for (int i = 0; i < o.sig.arity(); ++i) {
+            const auto size = harness::size_of(o.sig.arguments[i]);
+            std::memcpy(&buffers[i][lane * size], &tuples[n + lane][i], size);
+          }
+        call(&buffers[0], &buffers[1], &buffers[2], &buffers[3], &buffers[4]);
+        for (int lane = 0; lane < width; ++lane) {
+          outcome got;
+          const auto size = harness::size_of(o.sig.result), second_size = harness::size_of(o.sig.second);
+          std::memcpy(&got.first, &buffers[3][lane * size], size);
+          if (second_size) std::memcpy(&got.second, &buffers[4][lane * second_size], second_size);
+          ASSERT_EQ(got, due[n + lane]) << o.name() << width << " lane " << lane;
+        }
+      }
+    }
+  EXPECT_EQ(called, 22u * widths.size());
+  dlclose(caller);
+}
+
+INSTANTIATE_TEST_SUITE_P(Compilers, Caller, ::testing::ValuesIn(callers()), [](const auto& info) {
+  std::string name = info.param.substr(info.param.rfind('/') + 1);
+  name = name.substr(0, name.rfind('.'));
+  std::replace_if(name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
+  return name;
+});
+
+}  // namespace
+}  // namespace lanemath::testing

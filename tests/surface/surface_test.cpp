@@ -1,0 +1,138 @@
+// What the finished file shows to the outside.
+#include <fmt/format.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <memory>
+#include <regex>
+#include <sstream>
+
+#include "harness/harness.h"
+#include "support/elf_file.h"
+
+namespace lanemath::testing {
+namespace {
+
+const elf_file& library() {
+  static const elf_file file(LANEMATH_LIBRARY);
+  return file;
+}
+
+// The catalogue's names, by pair of operation and variant.
+std::map<std::string, std::set<std::string>> names_by_pair() {
+  std::map<std::string, std::set<std::string>> all;
+  for (const auto& o : catalogue)
+    for (auto v : variants)
+      if (o.has(v))
+        for (int width : widths)
+          all[fmt::format("{}{}", o.name(), suffix(v))].insert(harness::symbol(o, width, v));
+  return all;
+}
+
+TEST(Catalogue, NamesAreUniqueAndReadAsTheyAreMeant) {
+  std::set<std::string> all;
+  for (const auto& [pair, names] : names_by_pair()) all.insert(names.begin(), names.end());
+  EXPECT_EQ(all.size(), 2166u);
+  const auto symbol = [](std::string_view name, int width, variant v = variant::standard) {
+    return harness::symbol(catalogue[index_of(name)], width, v);
+  };
+  EXPECT_EQ(symbol("exp2", 1), "__ocl_lanemath_h8_exp21");
+  EXPECT_EQ(symbol("exp", 2), "__ocl_lanemath_h8_exp2");
+  EXPECT_EQ(symbol("exp10", 16), "__ocl_lanemath_h8_exp1016");
+  EXPECT_EQ(symbol("expf", 4, variant::native), "__ocl_lanemath_h8_expf4_native");
+  EXPECT_FALSE(catalogue[index_of("ceil")].has(variant::native));
+  EXPECT_TRUE(all.contains("__ocl_lanemath_h8_cvtfptoi64rtzsatf16"));
+  EXPECT_TRUE(all.contains("__ocl_lanemath_h8_atan22"));
+}
+
+TEST(FinishedFile, ExportsWhatIsBuiltWholePairsAndNothingElse) {
+  std::set<std::string> built;
+  std::istringstream objects(LANEMATH_OBJECTS);
+  for (std::string object; std::getline(objects, object, ':');)
+    for (const auto& name : elf_file(object).exported(SHT_SYMTAB))
+      if (name.starts_with(symbol_prefix)) built.insert(name);
+
+  const auto exported = library().exported(SHT_DYNSYM);
+  EXPECT_EQ(exported, built);
+  ASSERT_FALSE(exported.empty());
+
+  std::set<std::string> whole;
+  for (const auto& [pair, names] : names_by_pair())
+    if (exported.contains(*names.begin())) {
+      whole.insert(names.begin(), names.end());
+      for (const auto& name : names) EXPECT_TRUE(exported.contains(name)) << name << " is missing";
+    }
+  for (const auto& name : exported) EXPECT_TRUE(whole.contains(name)) << name << " is not in the catalogue";
+  fmt::print("built {} of {}\n", exported.size(), pair_count() * widths.size());
+}
+
+TEST(FinishedFile, ExportsFunctionsOnlyAndImportsNothing) {
+  for (const auto& s : library().symbols(SHT_DYNSYM)) {
+    EXPECT_TRUE(s.defined) << s.name << " is imported";
+    EXPECT_EQ(s.type, STT_FUNC) << s.name;
+  }
+  for (const auto& d : library().dynamic()) EXPECT_NE(d.tag, DT_NEEDED) << d.text;
+}
+
+TEST(FinishedFile, RecordsItsName) {
+  std::vector<std::string> names;
+  for (const auto& d : library().dynamic())
+    if (d.tag == DT_SONAME) names.push_back(d.text);
+  EXPECT_EQ(names, std::vector<std::string>{"__ocl_lanemath_h8.so.3.5"});
+  EXPECT_TRUE(std::string(LANEMATH_LIBRARY).ends_with("/__ocl_lanemath_h8.so.3.5"));
+}
+
+TEST(FinishedFile, RunsNothingOnLoadingAndNeedsNoRelocation) {
+  for (const auto& d : library().dynamic())
+    for (std::int64_t tag : {DT_INIT, DT_FINI, DT_INIT_ARRAY, DT_FINI_ARRAY, DT_PREINIT_ARRAY, DT_RELA, DT_REL, DT_JMPREL,
+                             DT_TEXTREL})
+      EXPECT_NE(d.tag, tag);
+}
+
+TEST(FinishedFile, HasNoVersionsNoWritableDataAndNoExecutableStack) {
+  for (const auto& s : library().sections()) {
+    const auto name = library().name(s);
+    EXPECT_NE(s.sh_type, std::uint32_t(SHT_GNU_versym)) << name;
+    EXPECT_NE(s.sh_type, std::uint32_t(SHT_GNU_verdef)) << name;
+    EXPECT_NE(s.sh_type, std::uint32_t(SHT_GNU_verneed)) << name;
+    // The loader's own table is written once, before the relro segment is sealed.
+    EXPECT_TRUE(name == ".dynamic" || !s.sh_size || !(s.sh_flags & SHF_WRITE)) << name;
+  }
+  bool stack = false, relro = false;
+  for (const auto& s : library().segments()) {
+    if (s.p_type == PT_GNU_STACK) {
+      stack = true;
+      EXPECT_FALSE(s.p_flags & PF_X);
+    }
+    relro |= s.p_type == PT_GNU_RELRO;
+    EXPECT_FALSE(s.p_type == PT_LOAD && (s.p_flags & PF_W) && (s.p_flags & PF_X));
+  }
+  EXPECT_TRUE(stack);
+  EXPECT_TRUE(relro);
+}
+
+// The disassembler's mnemonics: AVX's all begin with v, and no other instruction's does but those of
+// virtualisation. The rest are the later additions to the scalar and 128-bit sets.
+TEST(FinishedFile, HasNoInstructionAboveSse41) {
+  const std::string command = std::string(LANEMATH_OBJDUMP) + " -d --no-show-raw-insn " + LANEMATH_LIBRARY;
+  const std::unique_ptr<FILE, int (*)(FILE*)> out(popen(command.c_str(), "r"), pclose);
+  ASSERT_TRUE(out);
+  const std::regex instruction(R"(^\s*[0-9a-f]+:\s+(?:(?:repz|repnz|rep|lock|data16|cs|ds|notrack)\s+)*(\S+))");
+  const std::regex later(
+      "v.*|pcmpgtq|pcmp[ei]str[im]q?|crc32.*|popcnt.*|lzcnt.*|tzcnt.*|aes.*|pclmul.*|sha[0-9].*|andn|bextr.*|bls.*|bzhi.*|"
+      "mulx|pdep|pext|rorx|sarx|shlx|shrx|adcx|adox|movbe.*|gf2p8.*|extrq|insertq|movnts[sd]|rdrand|rdseed");
+  std::size_t count = 0;
+  char line[1024];
+  while (std::fgets(line, sizeof line, out.get())) {
+    std::cmatch match;
+    if (!std::regex_search(line, match, instruction)) continue;
+    ++count;
+    EXPECT_FALSE(std::regex_match(match[1].str(), later)) << line;
+  }
+  EXPECT_GT(count, 100u);
+}
+
+}  // namespace
+}  // namespace lanemath::testing
