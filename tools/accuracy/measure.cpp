@@ -13,6 +13,7 @@
 #include <span>
 #include <stdexcept>
 #include <thread>
+#include <utility>
 
 namespace lanemath::accuracy {
 namespace {
@@ -227,27 +228,33 @@ tally measure_all_floats(const reference& r, const harness::function& f, int wid
     std::vector<float> results(block_lanes);
     big exact;
     big_arguments given;
-    const auto add_exactly = [&](std::uint32_t pattern, float got) {
+    const auto judge_exactly = [&](std::uint32_t pattern, float got) {
       mpfr_set_flt(given.v[0], std::bit_cast<float>(pattern), MPFR_RNDN);
       r.value(exact.v, given.v);
-      const auto verdict = judge(lane::f32, exact.v, got);
-      found.add(verdict.error, {pattern}, verdict.correct);
+      return judge(lane::f32, exact.v, got);
     };
-    // The fast value is enough where it decides the rounding and the error is nothing new.
+    // The latest lanes whose error was larger than any before, for the exact check.
+    std::vector<std::pair<std::uint32_t, float>> worst(64);
+    std::size_t records = 0;
     const auto add = [&](std::uint32_t pattern, float got) {
+      const auto note = [&](double error, bool correct) {
+        if (error > found.largest_error) worst[records++ % worst.size()] = {pattern, got};
+        found.add(error, {pattern}, correct);
+      };
       const double near = r.fast(std::bit_cast<float>(pattern));
-      if (std::isnan(near) && std::isnan(got)) return found.add(0, {pattern}, true);
+      if (std::isnan(near) && std::isnan(got)) return note(0, true);
       const float nearest = float(near * (1 - 0x1p-48));
+      // The fast value is enough where it decides the rounding.
       if (nearest == float(near * (1 + 0x1p-48))) {
-        if (std::isinf(nearest) && got == nearest) return found.add(0, {pattern}, true);
+        if (std::isinf(nearest) && got == nearest) return note(0, true);
         if (std::isfinite(nearest) && std::isfinite(got)) {
           const int exponent = int(std::bit_cast<std::uint64_t>(near) >> 52 & 0x7FF) - 1023;
           const int last_bit = std::max(exponent - 23, -149);
-          const double error = std::fabs(got - near) * std::bit_cast<double>(std::uint64_t(1023 - last_bit) << 52);
-          if (error <= found.largest_error * (1 - 1e-6)) return found.add(error, {pattern}, got == nearest);
+          return note(std::fabs(got - near) * std::bit_cast<double>(std::uint64_t(1023 - last_bit) << 52), got == nearest);
         }
       }
-      add_exactly(pattern, got);
+      const auto verdict = judge_exactly(pattern, got);
+      note(verdict.error, verdict.correct);
     };
 
     auto last_told = std::chrono::steady_clock::now();
@@ -262,6 +269,15 @@ tally measure_all_floats(const reference& r, const harness::function& f, int wid
       if (part == 0 && std::chrono::steady_clock::now() - last_told > 200ms) {
         last_told = std::chrono::steady_clock::now();
         progress(double(n) / double(blocks));
+      }
+    }
+    found.largest_error = -1;
+    for (std::size_t n = 0; n < std::min(records, worst.size()); ++n) {
+      const auto [pattern, got] = worst[n];
+      const double error = judge_exactly(pattern, got).error;
+      if (error > found.largest_error) {
+        found.largest_error = error;
+        found.input = {pattern};
       }
     }
     mpfr_free_cache2(MPFR_FREE_LOCAL_CACHE);
