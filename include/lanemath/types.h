@@ -46,28 +46,28 @@ LANEMATH_BEGIN
 
 /* For each vector type: the type itself; lanemath_border_<type>, as it crosses the border; the way to and from it;
  * and lanemath_<type>_pair, two of them by value. */
-#define LANEMATH_WAY(to, from, name)     \
-  LANEMATH_INLINE to name(from v) {      \
-    to r;                                \
-    memcpy(&r, &v, sizeof r);            \
-    return r;                            \
+#define LANEMATH_WAY(to, from, name) \
+  LANEMATH_INLINE to name(from v) {  \
+    to r;                            \
+    memcpy(&r, &v, sizeof r);        \
+    return r;                        \
   }
-#define LANEMATH_CROSSING(type)                                                              \
-  typedef struct {                                                                           \
-    lanemath_##type first, second;                                                           \
-  } lanemath_##type##_pair;                                                                  \
-  typedef struct {                                                                           \
-    lanemath_border_##type first, second;                                                    \
-  } lanemath_border_##type##_pair;                                                           \
-  LANEMATH_WAY(lanemath_border_##type, lanemath_##type, lanemath_export_##type)              \
-  LANEMATH_WAY(lanemath_##type, lanemath_border_##type, lanemath_import_##type)              \
+#define LANEMATH_CROSSING(type)                                                 \
+  typedef struct {                                                              \
+    lanemath_##type first, second;                                              \
+  } lanemath_##type##_pair;                                                     \
+  typedef struct {                                                              \
+    lanemath_border_##type first, second;                                       \
+  } lanemath_border_##type##_pair;                                              \
+  LANEMATH_WAY(lanemath_border_##type, lanemath_##type, lanemath_export_##type) \
+  LANEMATH_WAY(lanemath_##type, lanemath_border_##type, lanemath_import_##type) \
   LANEMATH_WAY(lanemath_##type##_pair, lanemath_border_##type##_pair, lanemath_import_##type##_pair)
 
 #define LANEMATH_SCALAR(type)                        \
   typedef lanemath_##type lanemath_##type##1;        \
   typedef lanemath_##type lanemath_border_##type##1; \
   LANEMATH_CROSSING(type##1)
-#define LANEMATH_VECTOR(type, width, alignment) \
+#define LANEMATH_VECTOR(type, width, alignment)  \
   typedef lanemath_##type lanemath_##type##width \
       __attribute__((vector_size(width * sizeof(lanemath_##type)), aligned(alignment)));
 #define LANEMATH_NARROW(type, width)                            \
@@ -80,7 +80,7 @@ LANEMATH_BEGIN
     lanemath_##type lane[width];                                \
   } __attribute__((aligned(16))) lanemath_border_##type##width; \
   LANEMATH_CROSSING(type##width)
-#define LANEMATH_THREE(type)                   \
+#define LANEMATH_THREE(type)                     \
   typedef lanemath_##type##4 lanemath_##type##3; \
   typedef lanemath_##type##4_pair lanemath_##type##3_pair;
 
@@ -122,36 +122,36 @@ LANEMATH_END
   LANEMATH_INLINE lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y) {                       \
     return lanemath_import_##R##w(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y))); \
   }
-#define LANEMATH_TERNARY(name, w, R, A, B, C)                                                                   \
-  lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w,                  \
-                                               lanemath_border_##C##w);                                         \
-  LANEMATH_INLINE lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y, lanemath_##C##w z) {    \
-    return lanemath_import_##R##w(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y),   \
-                                                        lanemath_export_##C##w(z)));                            \
+#define LANEMATH_TERNARY(name, w, R, A, B, C)                                                                    \
+  lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w,                   \
+                                               lanemath_border_##C##w);                                          \
+  LANEMATH_INLINE lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y, lanemath_##C##w z) {     \
+    return lanemath_import_##R##w(                                                                               \
+        LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y), lanemath_export_##C##w(z))); \
   }
 #define LANEMATH_UNARY_POINTER(name, w, R, A, P)                                                    \
   lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, void*);                      \
   LANEMATH_INLINE lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##P##w* second) {     \
     return lanemath_import_##R##w(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), (void*)second)); \
   }
-#define LANEMATH_BINARY_POINTER(name, w, R, A, B, P)                                                                  \
-  lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w, void*);                \
-  LANEMATH_INLINE lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y, lanemath_##P##w* second) {    \
-    return lanemath_import_##R##w(                                                                                    \
-        LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y), (void*)second));                  \
+#define LANEMATH_BINARY_POINTER(name, w, R, A, B, P)                                                               \
+  lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w, void*);             \
+  LANEMATH_INLINE lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y, lanemath_##P##w* second) { \
+    return lanemath_import_##R##w(                                                                                 \
+        LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y), (void*)second));               \
   }
 #define LANEMATH_UNARY_PAIR(name, w, R, A)                                                  \
   lanemath_border_##R##w##_pair LANEMATH_SYMBOL(name)(lanemath_border_##A##w);              \
   LANEMATH_INLINE lanemath_##R##w##_pair lanemath_##name(lanemath_##A##w x) {               \
     return lanemath_import_##R##w##_pair(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x))); \
   }
-#define LANEMATH_BINARY_PAIR(name, w, R, A, B)                                                         \
-  lanemath_border_##R##w##_pair LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w); \
-  LANEMATH_INLINE lanemath_##R##w##_pair lanemath_##name(lanemath_##A##w x, lanemath_##B##w y) {       \
-    return lanemath_import_##R##w##_pair(                                                              \
-        LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y)));                  \
+#define LANEMATH_BINARY_PAIR(name, w, R, A, B)                                                                         \
+  lanemath_border_##R##w##_pair LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w);                 \
+  LANEMATH_INLINE lanemath_##R##w##_pair lanemath_##name(lanemath_##A##w x, lanemath_##B##w y) {                       \
+    return lanemath_import_##R##w##_pair(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y))); \
   }
 
+/* clang-format off */
 #define LANEMATH_DECLARE(shape, operation, variant, ...)    \
   LANEMATH_##shape(operation##1##variant, 1, __VA_ARGS__)   \
   LANEMATH_##shape(operation##2##variant, 2, __VA_ARGS__)   \
@@ -159,5 +159,6 @@ LANEMATH_END
   LANEMATH_##shape(operation##4##variant, 4, __VA_ARGS__)   \
   LANEMATH_##shape(operation##8##variant, 8, __VA_ARGS__)   \
   LANEMATH_##shape(operation##16##variant, 16, __VA_ARGS__)
+/* clang-format on */
 
 #endif

@@ -4,6 +4,10 @@
 // added to the exponent field. Light form (_native, _half): a cubic whose constant term is not 1. The default
 // form at width 1 works in double with a table of 256 entries; at width 4 with a table of 64 entries and a
 // monic quadratic. Rare lanes in double.
+//
+// Largest errors over all inputs, in ulp: frame kernel 1.1017 at -0.4999604 (0xBEFFFACF), light form 1230.3 at
+// -0.02374056 (0xBCC27B90), width 1 0.5069 at -0.0019512158 (0xBAFFBFF0), width 4 2.5548 at -0.06610574 (0xBD876272);
+// rare lanes of the frame's forms 0.5000.
 #include "exp/single.h"
 
 namespace lanemath {
@@ -154,7 +158,7 @@ LANEMATH_RARE exp2f_lane(const float* px, float* py) {
   constexpr auto& c = table;
   const scalar x = flush_denormals(scalar(*px));
   const auto pattern = std::bit_cast<std::int32_t>(x.g[0]);
-  const auto magnitudes = std::uint32_t(pattern);  // orders the negative values by magnitude
+  const auto magnitudes = std::uint32_t(pattern);           // orders the negative values by magnitude
   if (pattern >= 0x43000000 || magnitudes >= 0xC3160000) {  // 128, -150
     auto special = pattern >= 0x43000000 ? 0x7F800000 : 0;
     if ((pattern & 0x7FFFFFFF) > 0x7F800000) special = pattern;

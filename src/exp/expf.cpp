@@ -3,15 +3,18 @@
 // Default: x = (n / 128) ln 2 + r; 2^(j/128) from a table of high and low parts, e^r by a quadratic, the power
 // of two by a multiplication. Light form (_native, _half): a cubic over a whole binade. _rm: ln 2 in two parts
 // and a quintic, no table. Rare lanes in double.
+//
+// Largest errors over all inputs, in ulp: default 0.5682 at 78.98359 (0x429DF799), light form 2168.9 at 79.36537
+// (0x429EBB12), _rm 2.9324 at -5.8916383 (0xC0BC884D); rare lanes 0.5000.
 #include "exp/single.h"
 
 namespace lanemath {
 namespace {
 
 struct expf_rows {
-  float K;           // 128 / ln 2
-  float S;           // shifter, 1.5 * 2^23
-  float L1, L2;      // ln 2 / 128, high and low part
+  float K;             // 128 / ln 2
+  float S;             // shifter, 1.5 * 2^23
+  float L1, L2;        // ln 2 / 128, high and low part
   std::int32_t BIAS;   // exponent bias of 1.0, shifted down by 16 bits
   std::int32_t EMASK;  // exponent field
   std::int32_t JMASK;  // table index bits
@@ -57,9 +60,9 @@ constexpr expf_rm_rows expf_rm_table{
 };
 
 // Bounds of the guards, the same in all variants.
-constexpr std::int32_t RARE = 0x42AEAC4F;   // 87.33654
-constexpr float OVF = 0x42B17217_f32;       // 88.72283: infinite above
-constexpr float UNF = 0xC2CFF1B4_f32;       // -103.97208: zero below
+constexpr std::int32_t RARE = 0x42AEAC4F;  // 87.33654
+constexpr float OVF = 0x42B17217_f32;      // 88.72283: infinite above
+constexpr float UNF = 0xC2CFF1B4_f32;      // -103.97208: zero below
 
 LANEMATH_RARE expf_rare(const float* px, float* py) {
   if (exp_of_non_finite(*px, *py)) return 0;
@@ -78,8 +81,8 @@ LANEMATH_RARE expf_rare(const float* px, float* py) {
     return 4;
   }
 
-  constexpr double shifter = 0x4338000000000000_f64;        // 1.5 * 2^52
-  const double t = 0x40571547652B82FE_f64 * x + shifter;    // x * 64 / ln 2
+  constexpr double shifter = 0x4338000000000000_f64;      // 1.5 * 2^52
+  const double t = 0x40571547652B82FE_f64 * x + shifter;  // x * 64 / ln 2
   const split_index n(t);
   const double m = t - shifter;
   const double r = (x - m * 0x3F862E42FEFA0000_f64) - m * 0x3D1CF79ABC9E3B3A_f64;  // ln 2 / 64 in two parts

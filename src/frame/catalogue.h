@@ -42,8 +42,17 @@ constexpr std::string_view suffix(variant v) {
 }
 
 enum class family : std::uint8_t {
-  exponential, logarithm, power, trigonometric, inverse_trigonometric, hyperbolic,
-  root, special, manipulation, conversion, integer_division
+  exponential,
+  logarithm,
+  power,
+  trigonometric,
+  inverse_trigonometric,
+  hyperbolic,
+  root,
+  special,
+  manipulation,
+  conversion,
+  integer_division
 };
 
 struct operation {
@@ -62,7 +71,16 @@ namespace catalogue_detail {
 
 // Signatures by shape, over the floating type T of the row.
 enum class shape : std::uint8_t {
-  unary, binary, ternary, with_int, to_int, second, second_int, binary_second_int, pair, from_bits
+  unary,
+  binary,
+  ternary,
+  with_int,
+  to_int,
+  second,
+  second_int,
+  binary_second_int,
+  pair,
+  from_bits
 };
 
 constexpr signature of(shape s, bool single) {

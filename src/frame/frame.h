@@ -246,26 +246,27 @@ using result_t = typename border<typename Op::signature>::template result<W>;
 #define LANEMATH_ARGUMENTS_binary a, b
 #define LANEMATH_ARGUMENTS_ternary a, b, c
 
-#define LANEMATH_EXPORT_AT(width, arity, operation, body, variant)                                      \
-  extern "C" [[gnu::visibility("default"), gnu::flatten]] ::lanemath::frame_detail::result_t<body, width> \
-  LANEMATH_SYMBOL(operation, width, variant)(LANEMATH_PARAMETERS_##arity(body, width)) {                \
-    return ::lanemath::frame_detail::enter<body, width, ::lanemath::index_of(#operation)>(              \
-        LANEMATH_ARGUMENTS_##arity);                                                                    \
+#define LANEMATH_EXPORT_AT(width, arity, operation, body, variant)                                                     \
+  extern "C" [[gnu::visibility("default"), gnu::flatten]] ::lanemath::frame_detail::result_t<body, width>              \
+  LANEMATH_SYMBOL(operation, width, variant)(LANEMATH_PARAMETERS_##arity(body, width)) {                               \
+    return ::lanemath::frame_detail::enter<body, width, ::lanemath::index_of(#operation)>(LANEMATH_ARGUMENTS_##arity); \
   }
-#define LANEMATH_EXPORT(arity, operation, body, variant)    \
-  LANEMATH_EXPORT_AT(1, arity, operation, body, variant)    \
-  LANEMATH_EXPORT_AT(2, arity, operation, body, variant)    \
-  LANEMATH_EXPORT_AT(3, arity, operation, body, variant)    \
-  LANEMATH_EXPORT_AT(4, arity, operation, body, variant)    \
-  LANEMATH_EXPORT_AT(8, arity, operation, body, variant)    \
+#define LANEMATH_EXPORT(arity, operation, body, variant) \
+  LANEMATH_EXPORT_AT(1, arity, operation, body, variant) \
+  LANEMATH_EXPORT_AT(2, arity, operation, body, variant) \
+  LANEMATH_EXPORT_AT(3, arity, operation, body, variant) \
+  LANEMATH_EXPORT_AT(4, arity, operation, body, variant) \
+  LANEMATH_EXPORT_AT(8, arity, operation, body, variant) \
   LANEMATH_EXPORT_AT(16, arity, operation, body, variant)
 
 #define LANEMATH_STRING_(text) #text
 #define LANEMATH_STRING(text) LANEMATH_STRING_(text)
-#define LANEMATH_SAME_AT(width, operation, variant, other)                                          \
-  extern "C" [[gnu::visibility("default"),                                                          \
-               gnu::alias(LANEMATH_STRING(LANEMATH_SYMBOL(operation, width, variant)))]] decltype(  \
-      LANEMATH_SYMBOL(operation, width, variant)) LANEMATH_SYMBOL(operation, width, other);
+// clang-format off
+#define LANEMATH_SAME_AT(width, operation, variant, other)                                                  \
+  extern "C" [[gnu::visibility("default"),                                                                  \
+               gnu::alias(LANEMATH_STRING(LANEMATH_SYMBOL(operation, width, variant)))]]                    \
+  decltype(LANEMATH_SYMBOL(operation, width, variant)) LANEMATH_SYMBOL(operation, width, other);
+// clang-format on
 #define LANEMATH_SAME(operation, variant, other) \
   LANEMATH_SAME_AT(1, operation, variant, other) \
   LANEMATH_SAME_AT(2, operation, variant, other) \

@@ -112,18 +112,18 @@ LANEMATH_INLINE auto compare(F f, const lanes<T, W>& a, const lanes<T, W>& b) {
 
 }  // namespace lanes_detail
 
-#define LANEMATH_OPERATOR(op, how)                                                           \
-  template <class T, int W>                                                                  \
-  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, const lanes<T, W>& b) {             \
-    return lanes_detail::how([](auto p, auto q) LANEMATH_LAMBDA { return p op q; }, a, b);   \
-  }                                                                                          \
-  template <class T, int W>                                                                  \
-  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, std::type_identity_t<T> b) {        \
-    return a op lanes<T, W>(b);                                                              \
-  }                                                                                          \
-  template <class T, int W>                                                                  \
-  LANEMATH_INLINE auto operator op(std::type_identity_t<T> a, const lanes<T, W>& b) {        \
-    return lanes<T, W>(a) op b;                                                              \
+#define LANEMATH_OPERATOR(op, how)                                                         \
+  template <class T, int W>                                                                \
+  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, const lanes<T, W>& b) {           \
+    return lanes_detail::how([](auto p, auto q) LANEMATH_LAMBDA { return p op q; }, a, b); \
+  }                                                                                        \
+  template <class T, int W>                                                                \
+  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, std::type_identity_t<T> b) {      \
+    return a op lanes<T, W>(b);                                                            \
+  }                                                                                        \
+  template <class T, int W>                                                                \
+  LANEMATH_INLINE auto operator op(std::type_identity_t<T> a, const lanes<T, W>& b) {      \
+    return lanes<T, W>(a) op b;                                                            \
   }
 LANEMATH_OPERATOR(+, wrapping)
 LANEMATH_OPERATOR(-, wrapping)
@@ -268,8 +268,7 @@ struct looked_up {
 
 // The entries at the lanes' indices, which must all be inside the table. One load a lane.
 template <class T, std::size_t Size, int W>
-LANEMATH_INLINE looked_up<lanes<T, W>> look_up(const two_part<T> (&table)[Size],
-                                               const lanes<std::int32_t, W>& index) {
+LANEMATH_INLINE looked_up<lanes<T, W>> look_up(const two_part<T> (&table)[Size], const lanes<std::int32_t, W>& index) {
   looked_up<lanes<T, W>> result;
   if constexpr (W == 1) {
     const auto& entry = table[std::uint32_t(index.g[0])];

@@ -74,7 +74,8 @@ TEST_P(Caller, GetsEveryLaneOfEveryShape) {
 INSTANTIATE_TEST_SUITE_P(Compilers, Caller, ::testing::ValuesIn(callers()), [](const auto& info) {
   std::string name = info.param.substr(info.param.rfind('/') + 1);
   name = name.substr(0, name.rfind('.'));
-  std::replace_if(name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
+  std::replace_if(
+      name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
   return name;
 });
 

@@ -5,79 +5,76 @@
 #define EXPORT __attribute__((visibility("default")))
 
 /* Loads and stores that ask for no alignment. */
-#define GET(type, from)                     \
-  lanemath_##type from##_value;             \
+#define GET(type, from)         \
+  lanemath_##type from##_value; \
   memcpy(&from##_value, from, sizeof from##_value)
 #define PUT(to, value) memcpy(to, &value, sizeof value)
 
-#define CALL_UNARY(name, w, R, A)                                                     \
+#define CALL_UNARY(name, w, R, A)                                                          \
   EXPORT void call_##name(const void* x, const void* y, const void* z, void* r, void* s) { \
-    (void)y, (void)z, (void)s;                                                        \
-    GET(A##w, x);                                                                     \
-    const lanemath_##R##w result = lanemath_##name(x_value);                          \
-    PUT(r, result);                                                                   \
+    (void)y, (void)z, (void)s;                                                             \
+    GET(A##w, x);                                                                          \
+    const lanemath_##R##w result = lanemath_##name(x_value);                               \
+    PUT(r, result);                                                                        \
   }
-#define CALL_BINARY(name, w, R, A, B)                                                 \
+#define CALL_BINARY(name, w, R, A, B)                                                      \
   EXPORT void call_##name(const void* x, const void* y, const void* z, void* r, void* s) { \
-    (void)z, (void)s;                                                                 \
-    GET(A##w, x);                                                                     \
-    GET(B##w, y);                                                                     \
-    const lanemath_##R##w result = lanemath_##name(x_value, y_value);                 \
-    PUT(r, result);                                                                   \
+    (void)z, (void)s;                                                                      \
+    GET(A##w, x);                                                                          \
+    GET(B##w, y);                                                                          \
+    const lanemath_##R##w result = lanemath_##name(x_value, y_value);                      \
+    PUT(r, result);                                                                        \
   }
-#define CALL_TERNARY(name, w, R, A, B, C)                                             \
+#define CALL_TERNARY(name, w, R, A, B, C)                                                  \
   EXPORT void call_##name(const void* x, const void* y, const void* z, void* r, void* s) { \
-    (void)s;                                                                          \
-    GET(A##w, x);                                                                     \
-    GET(B##w, y);                                                                     \
-    GET(C##w, z);                                                                     \
-    const lanemath_##R##w result = lanemath_##name(x_value, y_value, z_value);        \
-    PUT(r, result);                                                                   \
+    (void)s;                                                                               \
+    GET(A##w, x);                                                                          \
+    GET(B##w, y);                                                                          \
+    GET(C##w, z);                                                                          \
+    const lanemath_##R##w result = lanemath_##name(x_value, y_value, z_value);             \
+    PUT(r, result);                                                                        \
   }
-#define CALL_UNARY_POINTER(name, w, R, A, P)                                          \
+#define CALL_UNARY_POINTER(name, w, R, A, P)                                               \
   EXPORT void call_##name(const void* x, const void* y, const void* z, void* r, void* s) { \
-    (void)y, (void)z;                                                                 \
-    GET(A##w, x);                                                                     \
-    lanemath_##P##w second;                                                           \
-    const lanemath_##R##w result = lanemath_##name(x_value, &second);                 \
-    PUT(r, result);                                                                   \
-    PUT(s, second);                                                                   \
+    (void)y, (void)z;                                                                      \
+    GET(A##w, x);                                                                          \
+    lanemath_##P##w second;                                                                \
+    const lanemath_##R##w result = lanemath_##name(x_value, &second);                      \
+    PUT(r, result);                                                                        \
+    PUT(s, second);                                                                        \
   }
-#define CALL_BINARY_POINTER(name, w, R, A, B, P)                                      \
+#define CALL_BINARY_POINTER(name, w, R, A, B, P)                                           \
   EXPORT void call_##name(const void* x, const void* y, const void* z, void* r, void* s) { \
-    (void)z;                                                                          \
-    GET(A##w, x);                                                                     \
-    GET(B##w, y);                                                                     \
-    lanemath_##P##w second;                                                           \
-    const lanemath_##R##w result = lanemath_##name(x_value, y_value, &second);        \
-    PUT(r, result);                                                                   \
-    PUT(s, second);                                                                   \
+    (void)z;                                                                               \
+    GET(A##w, x);                                                                          \
+    GET(B##w, y);                                                                          \
+    lanemath_##P##w second;                                                                \
+    const lanemath_##R##w result = lanemath_##name(x_value, y_value, &second);             \
+    PUT(r, result);                                                                        \
+    PUT(s, second);                                                                        \
   }
-#define CALL_UNARY_PAIR(name, w, R, A)                                                \
+#define CALL_UNARY_PAIR(name, w, R, A)                                                     \
   EXPORT void call_##name(const void* x, const void* y, const void* z, void* r, void* s) { \
-    (void)y, (void)z;                                                                 \
-    GET(A##w, x);                                                                     \
-    const lanemath_##R##w##_pair both = lanemath_##name(x_value);                     \
-    PUT(r, both.first);                                                               \
-    PUT(s, both.second);                                                              \
+    (void)y, (void)z;                                                                      \
+    GET(A##w, x);                                                                          \
+    const lanemath_##R##w##_pair both = lanemath_##name(x_value);                          \
+    PUT(r, both.first);                                                                    \
+    PUT(s, both.second);                                                                   \
   }
-#define CALL_BINARY_PAIR(name, w, R, A, B)                                            \
+#define CALL_BINARY_PAIR(name, w, R, A, B)                                                 \
   EXPORT void call_##name(const void* x, const void* y, const void* z, void* r, void* s) { \
-    (void)z;                                                                          \
-    GET(A##w, x);                                                                     \
-    GET(B##w, y);                                                                     \
-    const lanemath_##R##w##_pair both = lanemath_##name(x_value, y_value);            \
-    PUT(r, both.first);                                                               \
-    PUT(s, both.second);                                                              \
+    (void)z;                                                                               \
+    GET(A##w, x);                                                                          \
+    GET(B##w, y);                                                                          \
+    const lanemath_##R##w##_pair both = lanemath_##name(x_value, y_value);                 \
+    PUT(r, both.first);                                                                    \
+    PUT(s, both.second);                                                                   \
   }
 
-#define CALL(shape, operation, ...)                \
-  CALL_##shape(operation##1, 1, __VA_ARGS__)       \
-  CALL_##shape(operation##2, 2, __VA_ARGS__)       \
-  CALL_##shape(operation##3, 3, __VA_ARGS__)       \
-  CALL_##shape(operation##4, 4, __VA_ARGS__)       \
-  CALL_##shape(operation##8, 8, __VA_ARGS__)       \
-  CALL_##shape(operation##16, 16, __VA_ARGS__)
+#define CALL(shape, operation, ...)                                                         \
+  CALL_##shape(operation##1, 1, __VA_ARGS__) CALL_##shape(operation##2, 2, __VA_ARGS__)     \
+      CALL_##shape(operation##3, 3, __VA_ARGS__) CALL_##shape(operation##4, 4, __VA_ARGS__) \
+          CALL_##shape(operation##8, 8, __VA_ARGS__) CALL_##shape(operation##16, 16, __VA_ARGS__)
 
 CALL(UNARY, expf, float, float)
 CALL(UNARY, exp, double, double)

@@ -34,7 +34,8 @@ TEST(BuiltFunctions, GiveTheSameLaneAtEveryWidth) {
         first_name = full_name(o, width, v);
       }
       for (std::size_t n = 0; n < tuples.size(); ++n)
-        ASSERT_EQ(got[n], first[n]) << full_name(o, width, v) << " and " << first_name << " of " << text_of(o, tuples[n]);
+        ASSERT_EQ(got[n], first[n]) << full_name(o, width, v) << " and " << first_name << " of "
+                                    << text_of(o, tuples[n]);
     }
   });
 }
@@ -86,20 +87,41 @@ TEST(BuiltFunctions, AgreeWhereTheirVariantsAreOneAndTheSame) {
     variant one, other;
     int width = 0;  // of this alone
   };
-  constexpr pair pairs[] = {
-      {"cosf", native, half},      {"cosf", native, rm},          {"sinf", native, half},
-      {"sinf", native, rm},        {"tanf", native, half},        {"tanf", native, rm},
-      {"divf", native, half},      {"divf", native, rm},          {"invf", native, half},
-      {"invf", native, rm},        {"exp10f", native, half},      {"exp10f", native, rm},
-      {"expf", native, half},      {"exp2f", native, half},       {"exp2f", standard, rm, 2},
-      {"exp2f", standard, rm, 3},  {"exp2f", standard, rm, 8},    {"exp2f", standard, rm, 16},
-      {"logf", standard, rm},      {"log2f", native, half},       {"log2f", standard, rm},
-      {"log10f", native, half},    {"powrf", native, half},       {"rsqrtf", native, half},
-      {"powf", native, rm},        {"sincosf", native, rm},       {"fmaf", standard, rm},
-      {"cosh", standard, native},  {"sinh", standard, native},    {"tanh", standard, native},
-      {"tanhf", standard, native}, {"acoshf", standard, native, 4}, {"asinhf", standard, native, 4},
-      {"acosh", standard, native, 2}, {"asinh", standard, native, 2},
-  };
+  constexpr pair pairs[] = {{"cosf", native, half},
+                            {"cosf", native, rm},
+                            {"sinf", native, half},
+                            {"sinf", native, rm},
+                            {"tanf", native, half},
+                            {"tanf", native, rm},
+                            {"divf", native, half},
+                            {"divf", native, rm},
+                            {"invf", native, half},
+                            {"invf", native, rm},
+                            {"exp10f", native, half},
+                            {"exp10f", native, rm},
+                            {"expf", native, half},
+                            {"exp2f", native, half},
+                            {"exp2f", standard, rm, 2},
+                            {"exp2f", standard, rm, 3},
+                            {"exp2f", standard, rm, 8},
+                            {"exp2f", standard, rm, 16},
+                            {"logf", standard, rm},
+                            {"log2f", native, half},
+                            {"log2f", standard, rm},
+                            {"log10f", native, half},
+                            {"powrf", native, half},
+                            {"rsqrtf", native, half},
+                            {"powf", native, rm},
+                            {"sincosf", native, rm},
+                            {"fmaf", standard, rm},
+                            {"cosh", standard, native},
+                            {"sinh", standard, native},
+                            {"tanh", standard, native},
+                            {"tanhf", standard, native},
+                            {"acoshf", standard, native, 4},
+                            {"asinhf", standard, native, 4},
+                            {"acosh", standard, native, 2},
+                            {"asinh", standard, native, 2}};
   for (const auto& p : pairs)
     for (int width : widths) {
       if (p.width && p.width != width) continue;

@@ -85,7 +85,8 @@ TEST(Exponentials, Exp2IsExactAtIntegersInAllButTheLightForms) {
   for (int n = -149; n < 128; ++n)
     for (int width : widths)
       for (auto v : {variant::standard, variant::rm})
-        EXPECT_EQ(bits_of("exp2f", v, width, float(n)), std::bit_cast<u32>(std::ldexp(1.0f, n))) << n << " at " << width;
+        EXPECT_EQ(bits_of("exp2f", v, width, float(n)), std::bit_cast<u32>(std::ldexp(1.0f, n)))
+            << n << " at " << width;
   EXPECT_NE(bits_of("exp2f", variant::native, 4, 3.0f), std::bit_cast<u32>(8.0f));
   // The exponent is added as an integer, also where the polynomial is below 1 and the exponent the least.
   EXPECT_EQ(bits_of("exp2f", variant::native, 4, -126.0f), 0x007FFB49u);

@@ -78,8 +78,14 @@ const std::map<std::string_view, outcome (*)(const arguments&)> models{
     {"remquo", model<double>::binary_second_int},
     {"sincosregf", model<float>::second},
     {"sincosreg", model<double>::second},
-    {"idivrem", [](const arguments& a) { return outcome{u32(a[0] + a[1]), u32(a[0] - a[1])}; }},
-    {"udivrem", [](const arguments& a) { return outcome{u32(a[0] + a[1]), u32(a[0] - a[1])}; }},
+    {"idivrem",
+     [](const arguments& a) {
+       return outcome{u32(a[0] + a[1]), u32(a[0] - a[1])};
+     }},
+    {"udivrem",
+     [](const arguments& a) {
+       return outcome{u32(a[0] + a[1]), u32(a[0] - a[1])};
+     }},
     {"nanf", [](const arguments& a) { return outcome{a[0]}; }},
     {"nan", [](const arguments& a) { return outcome{a[0]}; }},
     {"cvtfptoi64rtesatf", [](const arguments& a) { return outcome{u64(std::int64_t(std::int32_t(a[0])))}; }},

@@ -17,9 +17,7 @@ namespace lanemath::testing {
 using harness::arguments;
 using harness::outcome;
 
-constexpr std::uint64_t signalling_nan(lane l) {
-  return l == lane::f64 ? 0x7FF0000000000123 : 0x7F800123;
-}
+constexpr std::uint64_t signalling_nan(lane l) { return l == lane::f64 ? 0x7FF0000000000123 : 0x7F800123; }
 
 // Patterns that are worth trying in every lane of a type: zeros, the ends of the denormals and of the normals,
 // ones, infinities, NaNs of both kinds and signs, the ends of the integers.
@@ -32,10 +30,10 @@ inline std::vector<std::uint64_t> special_patterns(lane l) {
     both_signs(0x80000000, {0, 1, 0x007FFFFF, 0x00800000, 0x3F000000, 0x3F800000, 0x40490FDB, 0x42C80000, 0x4B000000,
                             0x7F7FFFFF, 0x7F800000, 0x7F800001, 0x7FC00000, 0x7FFFFFFF});
   else
-    both_signs(0x8000000000000000, {0, 1, 0x000FFFFFFFFFFFFF, 0x0010000000000000, 0x3FE0000000000000,
-                                    0x3FF0000000000000, 0x400921FB54442D18, 0x4059000000000000, 0x4330000000000000,
-                                    0x7FEFFFFFFFFFFFFF, 0x7FF0000000000000, 0x7FF0000000000001, 0x7FF8000000000000,
-                                    0x7FFFFFFFFFFFFFFF});
+    both_signs(0x8000000000000000,
+               {0, 1, 0x000FFFFFFFFFFFFF, 0x0010000000000000, 0x3FE0000000000000, 0x3FF0000000000000,
+                0x400921FB54442D18, 0x4059000000000000, 0x4330000000000000, 0x7FEFFFFFFFFFFFFF, 0x7FF0000000000000,
+                0x7FF0000000000001, 0x7FF8000000000000, 0x7FFFFFFFFFFFFFFF});
   return all;
 }
 

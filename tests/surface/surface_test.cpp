@@ -26,8 +26,7 @@ std::map<std::string, std::set<std::string>> names_by_pair() {
   for (const auto& o : catalogue)
     for (auto v : variants)
       if (o.has(v))
-        for (int width : widths)
-          all[fmt::format("{}{}", o.name(), suffix(v))].insert(harness::symbol(o, width, v));
+        for (int width : widths) all[fmt::format("{}{}", o.name(), suffix(v))].insert(harness::symbol(o, width, v));
   return all;
 }
 
@@ -86,8 +85,8 @@ TEST(FinishedFile, RecordsItsName) {
 
 TEST(FinishedFile, RunsNothingOnLoadingAndNeedsNoRelocation) {
   for (const auto& d : library().dynamic())
-    for (std::int64_t tag : {DT_INIT, DT_FINI, DT_INIT_ARRAY, DT_FINI_ARRAY, DT_PREINIT_ARRAY, DT_RELA, DT_REL, DT_JMPREL,
-                             DT_TEXTREL})
+    for (std::int64_t tag :
+         {DT_INIT, DT_FINI, DT_INIT_ARRAY, DT_FINI_ARRAY, DT_PREINIT_ARRAY, DT_RELA, DT_REL, DT_JMPREL, DT_TEXTREL})
       EXPECT_NE(d.tag, tag);
 }
 
@@ -121,7 +120,8 @@ TEST(FinishedFile, HasNoInstructionAboveSse41) {
   ASSERT_TRUE(out);
   const std::regex instruction(R"(^\s*[0-9a-f]+:\s+(?:(?:repz|repnz|rep|lock|data16|cs|ds|notrack)\s+)*(\S+))");
   const std::regex later(
-      "v.*|pcmpgtq|pcmp[ei]str[im]q?|crc32.*|popcnt.*|lzcnt.*|tzcnt.*|aes.*|pclmul.*|sha[0-9].*|andn|bextr.*|bls.*|bzhi.*|"
+      "v.*|pcmpgtq|pcmp[ei]str[im]q?|crc32.*|popcnt.*|lzcnt.*|tzcnt.*|aes.*|pclmul.*|sha[0-9].*|andn|bextr.*|bls.*|"
+      "bzhi.*|"
       "mulx|pdep|pext|rorx|sarx|shlx|shrx|adcx|adox|movbe.*|gf2p8.*|extrq|insertq|movnts[sd]|rdrand|rdseed");
   std::size_t count = 0;
   char line[1024];

@@ -45,8 +45,7 @@ class progress_bar {
 
 std::string input_text(const operation& o, const arguments& input) {
   std::string text;
-  for (int i = 0; i < o.sig.arity(); ++i)
-    text += (i ? ", " : "") + text_of(o.sig.arguments[i], input[i]);
+  for (int i = 0; i < o.sig.arity(); ++i) text += (i ? ", " : "") + text_of(o.sig.arguments[i], input[i]);
   return text;
 }
 
@@ -68,8 +67,8 @@ class report {
                share * 100, input_text(o, t.input));
     std::fflush(stdout);
     if (csv_.is_open()) {
-      csv_ << fmt::format("{},{},{},{},{},{},{},\"{}\"\n", o.name(), name, width, range, t.lanes, t.largest_error, share,
-                          input_text(o, t.input));
+      csv_ << fmt::format("{},{},{},{},{},{},{},\"{}\"\n", o.name(), name, width, range, t.lanes, t.largest_error,
+                          share, input_text(o, t.input));
       if (!csv_.flush()) throw std::runtime_error("cannot write the CSV file");
     }
     const auto* bound = bounds_of(o);
@@ -101,11 +100,16 @@ int main(int argc, char** argv) try {
   bool exhaustive = false;
   app.add_option("operations", operations, "operations to measure, such as expf (default: all that are built)");
   app.add_option("-w,--width", chosen_widths, "widths, separated by commas")
-      ->check(CLI::IsMember({1, 2, 3, 4, 8, 16}))->delimiter(',')->allow_extra_args(false);
+      ->check(CLI::IsMember({1, 2, 3, 4, 8, 16}))
+      ->delimiter(',')
+      ->allow_extra_args(false);
   app.add_option("-v,--variant", names, "accuracy variants: default, native, half, rm")
-      ->check(CLI::IsMember({"default", "native", "half", "rm"}))->delimiter(',')->allow_extra_args(false);
+      ->check(CLI::IsMember({"default", "native", "half", "rm"}))
+      ->delimiter(',')
+      ->allow_extra_args(false);
   app.add_option("-r,--range", ranges, "ranges by name; `patterns` and `bounds` exist for every operation")
-      ->delimiter(',')->allow_extra_args(false);
+      ->delimiter(',')
+      ->allow_extra_args(false);
   app.add_option("-n,--samples", samples, "lanes per range")->check(CLI::PositiveNumber)->capture_default_str();
   app.add_option("-s,--seed", seed, "of the random numbers")->capture_default_str();
   app.add_flag("-e,--exhaustive", exhaustive, "all 2^32 inputs of one-argument float operations, instead of ranges");
@@ -136,8 +140,7 @@ int main(int argc, char** argv) try {
         if (exhaustive) {
           if (!reference->fast || o.sig != signature{lane::f32, {lane::f32}}) continue;
           progress_bar bar(fmt::format("{}{} at width {}", o.name(), suffix(v), width));
-          const auto found =
-              measure_all_floats(*reference, *f, width, [&](double share) { bar.show(share); });
+          const auto found = measure_all_floats(*reference, *f, width, [&](double share) { bar.show(share); });
           bar.clear();
           table.add(o, v, width, "all", found);
           continue;

@@ -119,13 +119,13 @@ std::uint64_t any_pattern(lane type, std::mt19937_64& random) {
 // Patterns of a floating type in the order of their values, as integers.
 std::int64_t ordered(lane type, std::uint64_t pattern) {
   const std::int64_t p = type == lane::f32 ? std::int64_t(std::int32_t(pattern)) : std::int64_t(pattern);
-  const std::int64_t least = type == lane::f32 ? std::numeric_limits<std::int32_t>::min()
-                                               : std::numeric_limits<std::int64_t>::min();
+  const std::int64_t least =
+      type == lane::f32 ? std::numeric_limits<std::int32_t>::min() : std::numeric_limits<std::int64_t>::min();
   return p < 0 ? least - p : p;
 }
 std::uint64_t unordered(lane type, std::int64_t place) {
-  const std::int64_t least = type == lane::f32 ? std::numeric_limits<std::int32_t>::min()
-                                               : std::numeric_limits<std::int64_t>::min();
+  const std::int64_t least =
+      type == lane::f32 ? std::numeric_limits<std::int32_t>::min() : std::numeric_limits<std::int64_t>::min();
   const std::int64_t p = place < 0 ? least - place : place;
   return type == lane::f32 ? std::uint32_t(p) : std::uint64_t(p);
 }
@@ -250,7 +250,8 @@ tally measure_all_floats(const reference& r, const harness::function& f, int wid
         if (std::isfinite(nearest) && std::isfinite(got)) {
           const int exponent = int(std::bit_cast<std::uint64_t>(near) >> 52 & 0x7FF) - 1023;
           const int last_bit = std::max(exponent - 23, -149);
-          return note(std::fabs(got - near) * std::bit_cast<double>(std::uint64_t(1023 - last_bit) << 52), got == nearest);
+          return note(std::fabs(got - near) * std::bit_cast<double>(std::uint64_t(1023 - last_bit) << 52),
+                      got == nearest);
         }
       }
       const auto verdict = judge_exactly(pattern, got);

@@ -7,48 +7,47 @@ namespace lanemath {
 
 struct family_text {
   family group;
-  std::string_view file;   // of its public header
+  std::string_view file;  // of its public header
   std::string_view title;
   std::string_view about;  // domains, units, special values, source of the method
 };
 
 inline constexpr family_text families[] = {
     {family::exponential, "exponential", "Exponentials",
-     "Any x. The result overflows to +infinity and underflows through the denormals to +0, both gradually and exactly\n"
-     "where the rounded value does. Base to the power +infinity is +infinity, to -infinity +0 (expm1: -1), to a zero 1\n"
-     "(expm1: the zero itself). A NaN gives a quiet NaN with its sign and payload; exp2f4 alone returns a signalling NaN\n"
-     "as it is. Method: reduction by multiples of ln 2 / 2^k with the logarithm in two parts, a table of 2^(j/2^k) in\n"
-     "two parts and a short polynomial (P. T. P. Tang, ACM TOMS 15, 1989). The light forms use one low-degree polynomial\n"
-     "and no table, and exp2f_native and the light exp10f are not exact at integers."},
+     R"(Any x. The result overflows to +infinity and underflows through the denormals to +0. Base to the power +infinity is +infinity, to -infinity +0 (expm1: -1), to a zero 1
+(expm1: the zero itself). A NaN gives a quiet NaN with its sign and payload; exp2f4 alone returns a signalling NaN
+as it is. Method: reduction by multiples of ln 2 / 2^k with the logarithm in two parts, a table of 2^(j/2^k) in
+two parts and a short polynomial (P. T. P. Tang, ACM TOMS 15, 1989). The light forms use one low-degree polynomial
+and no table, and exp2f_native and the light exp10f are not exact at integers.)"},
     {family::logarithm, "logarithm", "Logarithms",
-     "x >= 0 (log1p: x >= -1). The logarithm of a zero is -infinity, of +infinity +infinity, of a negative x a NaN.\n"
-     "A NaN gives a quiet NaN. Method: a table of reciprocals and logarithms in two parts and a short polynomial\n"
-     "(P. T. P. Tang, ACM TOMS 16, 1990)."},
+     R"(x >= 0 (log1p: x >= -1). The logarithm of a zero is -infinity, of +infinity +infinity, of a negative x a NaN. A
+NaN gives a quiet NaN. Method: a table of reciprocals and logarithms in two parts and a short polynomial (P. T. P.
+Tang, ACM TOMS 16, 1990).)"},
     {family::power, "power", "Powers",
-     "pow: any x and y, with the special values of IEEE 754. powr: x >= 0, defined as exp(y log x). pown and rootn take\n"
-     "an integer y. Method: logarithm to base 2 in extended precision, exact product, exponential."},
+     R"(pow: any x and y, with the special values of IEEE 754. powr: x >= 0, defined as exp(y log x). pown and rootn take
+an integer y. Method: logarithm to base 2 in extended precision, exact product, exponential.)"},
     {family::trigonometric, "trigonometric", "Trigonometric functions",
-     "Angles in radians, in multiples of pi for the forms that end in pi. Any finite x, however large: the reduction\n"
-     "keeps as many bits of 2/pi as the exponent asks for (M. Payne and R. Hanek, SIGNUM 18, 1983). Infinities give NaN,\n"
-     "a zero's sine and tangent keep its sign."},
+     R"(Angles in radians, in multiples of pi for the forms that end in pi. Any finite x, however large: the reduction
+keeps as many bits of 2/pi as the exponent asks for (M. Payne and R. Hanek, SIGNUM 18, 1983). Infinities give NaN,
+a zero's sine and tangent keep its sign.)"},
     {family::inverse_trigonometric, "inverse_trigonometric", "Inverse trigonometric functions",
-     "Results in radians, divided by pi for the forms that end in pi. asin and acos: -1 <= x <= 1, NaN outside.\n"
-     "atan2(y, x) is the angle of the point (x, y)."},
+     R"(Results in radians, divided by pi for the forms that end in pi. asin and acos: -1 <= x <= 1, NaN outside. atan2(y,
+x) is the angle of the point (x, y).)"},
     {family::hyperbolic, "hyperbolic", "Hyperbolic functions and their inverses",
-     "Any x for sinh, cosh, tanh and asinh; x >= 1 for acosh and -1 <= x <= 1 for atanh, NaN outside."},
+     R"(Any x for sinh, cosh, tanh and asinh; x >= 1 for acosh and -1 <= x <= 1 for atanh, NaN outside.)"},
     {family::root, "root", "Division, reciprocals and roots",
-     "The default forms of division, reciprocal and square root are correctly rounded. The light forms start from the\n"
-     "processor's estimates, whose low bits differ between makes of processor."},
+     R"(The default forms of division, reciprocal and square root are correctly rounded. The light forms start from the
+processor's estimates, whose low bits differ between makes of processor.)"},
     {family::special, "special", "Error and gamma functions",
-     "Any x. Gamma has poles at zero and the negative integers."},
+     R"(Any x. Gamma has poles at zero and the negative integers.)"},
     {family::manipulation, "manipulation", "Rounding, selection, decomposition, remainders, fused multiply-add",
-     "Exact, or rounded once. rint, nearbyint, remainder and remquo follow the rounding direction in force; fma follows\n"
-     "that of the x87 control word."},
+     R"(Exact, or rounded once. rint, nearbyint, remainder and remquo follow the rounding direction in force; fma follows
+that of the x87 control word.)"},
     {family::conversion, "conversion", "Conversions",
-     "Between lanes of 32 and 64 bits, floating and integer, with the rounding in the name: rte to nearest even, rtn\n"
-     "down, rtp up, rtz toward zero. sat clamps to the integer type's range and gives 0 for a NaN; nosat does not."},
+     R"(Between lanes of 32 and 64 bits, floating and integer, with the rounding in the name: rte to nearest even, rtn
+down, rtp up, rtz toward zero. sat clamps to the integer type's range and gives 0 for a NaN; nosat does not.)"},
     {family::integer_division, "integer_division", "Integer division",
-     "32-bit lanes, signed and unsigned. A zero divisor gives a defined result and does not trap."},
+     R"(32-bit lanes, signed and unsigned. A zero divisor gives a defined result and does not trap.)"},
 };
 
 }  // namespace lanemath

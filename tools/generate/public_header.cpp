@@ -55,9 +55,8 @@ std::string call(const operation& o) {
   for (int i = 0; i < o.sig.arity(); ++i)
     parameters.push_back(fmt::format("{} {}", type_name(o.sig.arguments[i]), names[i]));
   if (o.sig.how == delivery::pointer) parameters.push_back(fmt::format("{}* second", type_name(o.sig.second)));
-  const auto result = o.sig.how == delivery::pair
-                          ? fmt::format("({0}, {0})", type_name(o.sig.result))
-                          : std::string(type_name(o.sig.result));
+  const auto result = o.sig.how == delivery::pair ? fmt::format("({0}, {0})", type_name(o.sig.result))
+                                                  : std::string(type_name(o.sig.result));
   return fmt::format("{} {}({})", result, o.name(), fmt::join(parameters, ", "));
 }
 

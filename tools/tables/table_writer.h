@@ -30,11 +30,11 @@ struct real {
       return mpfr_get_d(v, MPFR_RNDN);
   }
 
-#define REAL_OPERATOR(op, function)                    \
+#define REAL_OPERATOR(op, function)                       \
   friend real operator op(const real& a, const real& b) { \
-    real result;                                       \
-    function(result.v, a.v, b.v, MPFR_RNDN);           \
-    return result;                                     \
+    real result;                                          \
+    function(result.v, a.v, b.v, MPFR_RNDN);              \
+    return result;                                        \
   }
   REAL_OPERATOR(+, mpfr_add)
   REAL_OPERATOR(-, mpfr_sub)
