@@ -14,41 +14,67 @@ namespace lanemath::harness {
 namespace {
 
 template <lane L>
-struct type_of_lane;
-template <> struct type_of_lane<lane::f32> { using type = float; };
-template <> struct type_of_lane<lane::f64> { using type = double; };
-template <> struct type_of_lane<lane::i32> { using type = std::int32_t; };
-template <> struct type_of_lane<lane::u32> { using type = std::uint32_t; };
-template <> struct type_of_lane<lane::i64> { using type = std::int64_t; };
-template <> struct type_of_lane<lane::u64> { using type = std::uint64_t; };
+constexpr auto lane_value() {
+  if constexpr (L == lane::f32) return float{};
+  if constexpr (L == lane::f64) return double{};
+  if constexpr (L == lane::i32) return std::int32_t{};
+  if constexpr (L == lane::u32) return std::uint32_t{};
+  if constexpr (L == lane::i64) return std::int64_t{};
+  if constexpr (L == lane::u64) return std::uint64_t{};
+}
 template <lane L>
-using type = typename type_of_lane<L>::type;
+using type = decltype(lane_value<L>());
+
+// How an argument is handed over. A wide one is less aligned than the library's type: its place on the stack is the
+// same, and the compiler copies it there straight from the array, not by way of a temporary.
+template <class A, int W, bool InMemory = (sizeof(abi<A, W>) > 16)>
+struct handed_over {
+  using as = abi<A, W>;
+};
+template <class A, int W>
+struct handed_over<A, W, true> {
+  struct [[gnu::may_alias]] alignas(8) as {
+    A v[padded(W)];
+  };
+};
+template <lane L, int W>
+using argument_type = typename handed_over<type<L>, W>::as;
 
 // Calls a function of signature S and width W.
 template <signature S, int W, std::size_t... I>
 void invoke(void* address, const invoker_arguments& a, std::index_sequence<I...>) {
   using T = type<S.result>;
-  const auto argument = [&]<std::size_t i>(std::size_t at) {
-    using A = type<S.arguments[i]>;
-    abi<A, W> value;
-    std::memcpy(&value, static_cast<const A*>(a.inputs[i]) + at, sizeof value);
-    return value;
+  // Copies, which no store through the pointers can change: this loop is timed.
+  const std::array<const void*, sizeof...(I)> inputs{a.inputs[I]...};
+  auto* const results = static_cast<T*>(a.result);
+  const std::size_t lanes = a.lanes;
+
+  const auto argument = [&]<std::size_t i>(std::size_t at) -> decltype(auto) {
+    using A = argument_type<S.arguments[i], W>;
+    const auto* first = static_cast<const type<S.arguments[i]>*>(inputs[i]) + at;
+    if constexpr (sizeof(A) > 16) {
+      return *reinterpret_cast<const A*>(first);
+    } else {
+      A value;
+      std::memcpy(&value, first, sizeof value);
+      return value;
+    }
   };
-  for (std::size_t at = 0; at < a.lanes; at += padded(W)) {
-    auto* result = static_cast<T*>(a.result) + at;
+  for (std::size_t at = 0; at < lanes; at += padded(W)) {
+    auto* result = results + at;
     if constexpr (S.how == delivery::none) {
-      const auto f = reinterpret_cast<abi<T, W> (*)(abi<type<S.arguments[I]>, W>...)>(address);
+      const auto f = reinterpret_cast<abi<T, W> (*)(argument_type<S.arguments[I], W>...)>(address);
       const auto y = f(argument.template operator()<I>(at)...);
       std::memcpy(result, &y, sizeof y);
     } else {
       using U = type<S.second>;
       auto* second = static_cast<U*>(a.second) + at;
       if constexpr (S.how == delivery::pointer) {
-        const auto f = reinterpret_cast<abi<T, W> (*)(abi<type<S.arguments[I]>, W>..., void*)>(address);
+        const auto f = reinterpret_cast<abi<T, W> (*)(argument_type<S.arguments[I], W>..., void*)>(address);
         const auto y = f(argument.template operator()<I>(at)..., second);
         std::memcpy(result, &y, sizeof y);
       } else {
-        const auto f = reinterpret_cast<abi_pair<T, U, W> (*)(abi<type<S.arguments[I]>, W>...)>(address);
+        const auto f = reinterpret_cast<abi_pair<T, U, W> (*)(argument_type<S.arguments[I], W>...)>(address);
         const auto y = f(argument.template operator()<I>(at)...);
         std::memcpy(result, &y.first, sizeof y.first);
         std::memcpy(second, &y.second, sizeof y.second);
@@ -69,7 +95,8 @@ constexpr std::array<invoker, widths.size()> invokers_of(std::index_sequence<W..
 // invokers[operation][place of the width]
 constexpr auto invokers = []<std::size_t... I>(std::index_sequence<I...>) {
   return std::array{invokers_of<catalogue[I].sig>(std::make_index_sequence<widths.size()>{})...};
-}(std::make_index_sequence<catalogue.size()>{});
+}
+(std::make_index_sequence<catalogue.size()>{});
 
 }  // namespace
 
