@@ -25,12 +25,6 @@ V light_exp2(V y, const light_exp_rows& c) {
   return from_bits(bits(p) + e);
 }
 
-// Lanes above a magnitude, given as a bit pattern, with infinities and NaNs.
-template <class V>
-auto magnitude_above(V x, std::int32_t bound) {
-  return (bits(x) & 0x7FFFFFFF) > bound;
-}
-
 // The rare routines work in double and round to float once.
 
 // +0 at -infinity, x * x at +infinity and at a NaN, which makes it quiet. Whether x was one of them.

@@ -187,9 +187,11 @@ LANEMATH_INLINE auto evaluate(const X&... x) {
   return y;
 }
 
-template <class T>
-LANEMATH_INLINE lanes<T, 4> with_filler(lanes<T, 4> v, T filler) {
+template <std::size_t Index, class T>
+LANEMATH_INLINE lanes<T, 4> with_filler(lanes<T, 4> v) {
   constexpr int per_group = 16 / int(sizeof(T));
+  // A constant of the lane's own type: under -frounding-math the conversion is else made by every call.
+  constexpr T filler = static_cast<T>(catalogue[Index].filler);
   v.g[3 / per_group][3 % per_group] = filler;
   return v;
 }
@@ -202,8 +204,7 @@ LANEMATH_INLINE auto enter(const Arguments&... arguments) {
   return crossing::template call<W>(
       [](auto... x) LANEMATH_LAMBDA {
         if constexpr (W == 3)
-          return evaluate<Op, 4>(
-              with_filler(x, static_cast<typename decltype(x)::value_type>(catalogue[Index].filler))...);
+          return evaluate<Op, 4>(with_filler<Index>(x)...);
         else
           return evaluate<Op, W>(x...);
       },

@@ -302,5 +302,27 @@ LANEMATH_INLINE double opaque(double v) {
   asm("" : "+x"(v));
   return v;
 }
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> opaque(lanes<T, W> v) {
+  for (auto& each : v.g)
+    if constexpr (W == 1 && std::is_integral_v<T>)
+      asm("" : "+r"(each));
+    else
+      asm("" : "+x"(each));
+  return v;
+}
+
+// Lanes whose magnitude is above a bound, given as a bit pattern (the upper half of it for doubles): infinities and
+// NaNs are among them.
+template <class T, int W>
+LANEMATH_INLINE auto magnitude_above(const lanes<T, W>& x, std::int32_t bound) {
+  lanes<std::int32_t, W> pattern;
+  if constexpr (sizeof(T) == 4)
+    pattern = bits(x);
+  else
+    pattern = upper(x);
+  // Opaque: a compiler that knows the sign bit to be clear makes two instructions of the comparison.
+  return opaque(pattern & 0x7FFFFFFF) > bound;
+}
 
 }  // namespace lanemath

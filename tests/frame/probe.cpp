@@ -9,11 +9,11 @@ namespace {
 // Marked: magnitudes above a million.
 template <int W>
 auto marked(lanes<float, W> x) {
-  return (bits(x) & 0x7FFFFFFF) > 0x49742400;
+  return magnitude_above(x, 0x49742400);
 }
 template <int W>
 auto marked(lanes<double, W> x) {
-  return (upper(x) & 0x7FFFFFFF) > 0x412E8480;
+  return magnitude_above(x, 0x412E8480);
 }
 template <int W>
 auto marked(lanes<std::int32_t, W> x) {

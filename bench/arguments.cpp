@@ -1,0 +1,69 @@
+#include "arguments.h"
+
+#include <cmath>
+#include <cstdint>
+#include <iterator>
+#include <limits>
+#include <random>
+#include <type_traits>
+
+#include "ranges.h"
+
+namespace lanemath::bench {
+namespace {
+
+using generator = std::mt19937_64;
+
+template <class T>
+T typical_value(const range& r, generator& random) {
+  const auto uniform = [&](double low, double high) { return std::uniform_real_distribution(low, high)(random); };
+  return static_cast<T>(r.logarithmic ? std::exp2(uniform(std::log2(r.low), std::log2(r.high)))
+                                      : uniform(r.low, r.high));
+}
+
+// What no fast path serves. Of integers neither 0 nor -1: a division by them may trap.
+template <class T>
+T rare_value(generator& random) {
+  using limits = std::numeric_limits<T>;
+  const auto one_of = [&](auto... values) {
+    const T all[] = {values...};
+    return all[random() % std::size(all)];
+  };
+  if constexpr (std::is_floating_point_v<T>)
+    return one_of(limits::quiet_NaN(), limits::infinity(), -limits::infinity(), limits::max(), limits::lowest(),
+                  limits::min(), limits::denorm_min(), -limits::denorm_min(), T(0), -T(0));
+  else
+    return one_of(limits::min(), limits::max(), T(1));
+}
+
+template <class T>
+void fill(std::byte* lanes, const range& r, std::size_t seed, std::size_t rare_every) {
+  generator random(seed);
+  generator rare_random;  // drawn apart: the rare lanes are the same ones in every argument
+  auto* values = reinterpret_cast<T*>(lanes);
+  for (std::size_t i = 0; i < lane_count; ++i) {
+    values[i] = typical_value<T>(r, random);
+    if (rare_every != 0 && rare_random() % rare_every == 0) values[i] = rare_value<T>(rare_random);
+  }
+}
+
+}  // namespace
+
+arguments::arguments(const operation& o, std::size_t rare_every) {
+  const auto ranges = typical_arguments(o);
+  for (std::size_t i = 0; i < values_.size(); ++i) {
+    auto* lanes = values_[i].lanes;
+    inputs_[i] = lanes;
+    switch (o.sig.arguments[i]) {
+      case lane::f32: fill<float>(lanes, ranges[i], i, rare_every); break;
+      case lane::f64: fill<double>(lanes, ranges[i], i, rare_every); break;
+      case lane::i32: fill<std::int32_t>(lanes, ranges[i], i, rare_every); break;
+      case lane::u32: fill<std::uint32_t>(lanes, ranges[i], i, rare_every); break;
+      case lane::i64: fill<std::int64_t>(lanes, ranges[i], i, rare_every); break;
+      case lane::u64: fill<std::uint64_t>(lanes, ranges[i], i, rare_every); break;
+      case lane::none: break;
+    }
+  }
+}
+
+}  // namespace lanemath::bench

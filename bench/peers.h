@@ -1,0 +1,25 @@
+// Other libraries' functions for the same task, as a caller of those libraries has them.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "frame/catalogue.h"
+#include "harness/harness.h"
+
+namespace lanemath::bench {
+
+struct peer {
+  std::string_view name;
+  int width;
+  harness::function throughput;
+  std::optional<harness::function> latency;  // of scalar functions
+};
+
+// SLEEF's 128-bit function: of its lighter class (mostly 3.5 ulp) for the _native and _half variants where it has one.
+std::optional<peer> sleef(const operation& o, variant v);
+
+// The C library's scalar function.
+std::optional<peer> c_library(const operation& o);
+
+}  // namespace lanemath::bench

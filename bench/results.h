@@ -1,0 +1,34 @@
+// Keeps the best time of every benchmark, and passes all that was measured on to a JSON file.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <fstream>
+#include <map>
+#include <optional>
+#include <string>
+
+namespace lanemath::bench {
+
+// The counter that holds a benchmark's time per lane.
+inline constexpr auto seconds_per_lane = "seconds_per_lane";
+
+class results : public benchmark::BenchmarkReporter {
+ public:
+  explicit results(const std::string& json_path);
+  ~results() override;
+
+  // Per lane, the least of all repetitions: on a shared machine what is above it is other people's work.
+  std::optional<double> nanoseconds(const std::string& benchmark) const;
+
+  bool ReportContext(const Context& context) override;
+  void ReportRuns(const std::vector<Run>& runs) override;
+
+ private:
+  std::map<std::string, double> best_;
+  std::ofstream json_file_;
+  std::optional<benchmark::JSONReporter> json_;
+  bool context_reported_ = false;
+};
+
+}  // namespace lanemath::bench
