@@ -2,9 +2,26 @@
 #include <fmt/format.h>
 
 #include <exception>
+#include <fstream>
+#include <set>
+#include <stdexcept>
+#include <string>
 #include <string_view>
 
 #include "generate.h"
+#include "opencl.h"
+
+namespace {
+
+std::set<std::string> lines_of(const char* path) {
+  std::ifstream in(path);
+  if (!in) throw std::runtime_error(fmt::format("cannot read {}", path));
+  std::set<std::string> lines;
+  for (std::string line; std::getline(in, line);) lines.insert(line);
+  return lines;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) try {
   const std::string_view what = argc > 1 ? argv[1] : "";
@@ -12,8 +29,10 @@ int main(int argc, char** argv) try {
     write_export_list(stdout);
   } else if (what == "public-header" && argc == 3) {
     write_public_header(stdout, argv[2]);
+  } else if (what == "opencl" && argc == 3) {
+    write_opencl_builtins(stdout, lines_of(argv[2]));
   } else {
-    fmt::print(stderr, "usage: {} export-list | public-header FAMILY\n", argv[0]);
+    fmt::print(stderr, "usage: {} export-list | public-header FAMILY | opencl FILE_OF_EXPORTED_NAMES\n", argv[0]);
     return 2;
   }
   return std::fflush(stdout) == 0 ? 0 : 1;
