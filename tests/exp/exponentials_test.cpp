@@ -1,10 +1,14 @@
 // Stated results of the exponentials at stated inputs, and what tells their forms apart.
 #include <gtest/gtest.h>
+#include <xmmintrin.h>
 
 #include <bit>
+#include <cfenv>
 #include <limits>
+#include <utility>
 
 #include "support/lanes_of.h"
+#include "tables/exp.h"
 
 namespace lanemath::testing {
 namespace {
@@ -90,6 +94,47 @@ TEST(Exponentials, Exp2IsExactAtIntegersInAllButTheLightForms) {
   EXPECT_NE(bits_of("exp2f", variant::native, 4, 3.0f), std::bit_cast<u32>(8.0f));
   // The exponent is added as an integer, also where the polynomial is below 1 and the exponent the least.
   EXPECT_EQ(bits_of("exp2f", variant::native, 4, -126.0f), 0x007FFB49u);
+}
+
+// The library neither reads nor writes the rounding direction, but its overflows are products that follow it; e^x
+// alone sets the lanes beyond its range as they are.
+TEST(Exponentials, OverflowAndUnderflowFollowTheRoundingDirection) {
+  struct direction {
+    int mode;
+    u32 overflow, underflow;
+  };
+  constexpr u32 largest_bits = 0x7F7FFFFF;
+  for (const auto& [mode, overflow, underflow] :
+       {direction{FE_TONEAREST, infinity_bits, 0}, direction{FE_UPWARD, infinity_bits, 1},
+        direction{FE_DOWNWARD, largest_bits, 0}, direction{FE_TOWARDZERO, largest_bits, 0}}) {
+    ASSERT_EQ(std::fesetround(mode), 0);
+    const unsigned control = _mm_getcsr() & 0xFFC0;
+    const auto exp2_above = bits_of("exp2f", variant::standard, 8, 200.0f);
+    const auto exp2_below = bits_of("exp2f", variant::standard, 8, -200.0f);
+    const auto exp10_above = bits_of("exp10f", variant::native, 1, 40.0f);
+    const auto exp_above = bits_of("expf", variant::standard, 8, 200.0f);
+    const auto exp_below = bits_of("expf", variant::standard, 8, -200.0f);
+    const unsigned control_after = _mm_getcsr() & 0xFFC0;
+    std::fesetround(FE_TONEAREST);
+    EXPECT_EQ(exp2_above, overflow);
+    EXPECT_EQ(exp2_below, underflow);
+    EXPECT_EQ(exp10_above, overflow);
+    EXPECT_EQ(exp_above, infinity_bits);
+    EXPECT_EQ(exp_below, 0u);
+    EXPECT_EQ(control_after, control);
+  }
+}
+
+TEST(Exponentials, TablesHaveTheirStatedEntries) {
+  const auto bits = [](float v) { return std::bit_cast<u32>(v); };
+  EXPECT_EQ(bits(exp2_128[0].hi), one_bits);
+  EXPECT_EQ(bits(exp2_128[0].lo), 0u);
+  EXPECT_EQ(bits(exp2_128[1].hi), 0x3F80B1EDu);
+  EXPECT_EQ(bits(exp2_128[1].lo), 0x331FB333u);
+  EXPECT_EQ(bits(exp2_monic_64[0].hi), 0x3E75FDF0u);
+  const std::pair<int, u32> lowered[] = {{12, 0x3E8C1100}, {20, 0x3E98BE56}, {29, 0x3EA861BC}, {30, 0x3EAA3720},
+                                         {52, 0x3ED8030E}, {58, 0x3EE683DB}, {60, 0x3EEB900C}};
+  for (const auto& [j, value] : lowered) EXPECT_EQ(bits(exp2_monic_64[j].hi), value) << j;
 }
 
 // Each accuracy variant and standalone form has bits of its own: a form that is routed to another's kernel shows.

@@ -64,38 +64,6 @@ std::uint64_t pattern_of(lane type, double value) {
 
 bool is_floating(lane l) { return l == lane::f32 || l == lane::f64; }
 
-struct judgement {
-  double error;
-  bool correct;
-};
-
-// `exact` against what was got, a number of the lane type.
-judgement judge(lane type, const mpfr_t exact, double got) {
-  constexpr double infinity = std::numeric_limits<double>::infinity();
-  if (mpfr_nan_p(exact) || std::isnan(got)) {
-    const bool both = mpfr_nan_p(exact) && std::isnan(got);
-    return {both ? 0 : infinity, both};
-  }
-  if (!is_floating(type)) {
-    const bool same = mpfr_cmp_d(exact, got) == 0;
-    return {same ? 0 : infinity, same};
-  }
-  const format f = format_of(type);
-  // The nearest number of the format.
-  const double nearest = type == lane::f32 ? double(mpfr_get_flt(exact, MPFR_RNDN)) : mpfr_get_d(exact, MPFR_RNDN);
-  if (nearest == got && std::isinf(got)) return {0, true};
-
-  big difference;
-  if (std::isinf(got))
-    mpfr_set_si_2exp(difference.v, got > 0 ? 1 : -1, f.greatest_exponent, MPFR_RNDN);
-  else
-    mpfr_set_d(difference.v, got, MPFR_RNDN);
-  mpfr_sub(difference.v, difference.v, exact, MPFR_RNDN);
-  const long exponent = mpfr_regular_p(exact) ? long(mpfr_get_exp(exact)) - f.precision : f.least_exponent;
-  mpfr_mul_2si(difference.v, difference.v, -std::max<long>(exponent, f.least_exponent), MPFR_RNDN);
-  return {std::fabs(mpfr_get_d(difference.v, MPFR_RNDN)), nearest == got};
-}
-
 unsigned cores() { return std::max(1u, std::thread::hardware_concurrency()); }
 
 // work(part) on every core, part counting the cores; the tallies together.
@@ -140,6 +108,32 @@ std::uint64_t draw(lane type, const interval& from, bool over_patterns, std::mt1
 }
 
 }  // namespace
+
+judgement judge(lane type, const mpfr_t exact, double got) {
+  constexpr double infinity = std::numeric_limits<double>::infinity();
+  if (mpfr_nan_p(exact) || std::isnan(got)) {
+    const bool both = mpfr_nan_p(exact) && std::isnan(got);
+    return {both ? 0 : infinity, both};
+  }
+  if (!is_floating(type)) {
+    const bool same = mpfr_cmp_d(exact, got) == 0;
+    return {same ? 0 : infinity, same};
+  }
+  const format f = format_of(type);
+  // The nearest number of the format.
+  const double nearest = type == lane::f32 ? double(mpfr_get_flt(exact, MPFR_RNDN)) : mpfr_get_d(exact, MPFR_RNDN);
+  if (nearest == got && std::isinf(got)) return {0, true};
+
+  big difference;
+  if (std::isinf(got))
+    mpfr_set_si_2exp(difference.v, got > 0 ? 1 : -1, f.greatest_exponent, MPFR_RNDN);
+  else
+    mpfr_set_d(difference.v, got, MPFR_RNDN);
+  mpfr_sub(difference.v, difference.v, exact, MPFR_RNDN);
+  const long exponent = mpfr_regular_p(exact) ? long(mpfr_get_exp(exact)) - f.precision : f.least_exponent;
+  mpfr_mul_2si(difference.v, difference.v, -std::max<long>(exponent, f.least_exponent), MPFR_RNDN);
+  return {std::fabs(mpfr_get_d(difference.v, MPFR_RNDN)), nearest == got};
+}
 
 std::string text_of(lane type, std::uint64_t pattern) {
   if (!is_floating(type)) return fmt::format("{}", value_of(type, pattern));

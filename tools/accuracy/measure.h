@@ -31,6 +31,13 @@ struct tally {
   }
 };
 
+struct judgement {
+  double error;  // ulp of the exact value's binade; below the normals, of the smallest step
+  bool correct;  // the nearest number of the type
+};
+// A number of a lane type that was got, against the exact value. One that rounds to infinity is at 2^128 or 2^1024.
+judgement judge(lane type, const mpfr_t exact, double got);
+
 // A value of a lane type as text: the number and its pattern.
 std::string text_of(lane type, std::uint64_t pattern);
 

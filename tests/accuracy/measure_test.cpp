@@ -1,0 +1,91 @@
+// The accuracy tool's own judgement, which every stated error rests on.
+#include "accuracy/measure.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "support/lanes_of.h"
+
+namespace lanemath::testing {
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity(), nan = std::numeric_limits<double>::quiet_NaN();
+
+// The judgement of `got` where the exact value is base + excess.
+accuracy::judgement judge(lane type, double base, double excess, double got) {
+  mpfr_t exact;
+  mpfr_init2(exact, 400);
+  mpfr_set_d(exact, base, MPFR_RNDN);
+  mpfr_add_d(exact, exact, excess, MPFR_RNDN);
+  const auto verdict = accuracy::judge(type, exact, got);
+  mpfr_clear(exact);
+  return verdict;
+}
+
+TEST(Judgement, CountsInUnitsOfTheExactValuesBinade) {
+  EXPECT_DOUBLE_EQ(judge(lane::f32, 1, 0x1p-25, 1).error, 0.25);
+  EXPECT_DOUBLE_EQ(judge(lane::f32, 1, -0x1p-25, 1).error, 0.5);
+  EXPECT_DOUBLE_EQ(judge(lane::f32, 3, 0x1p-22, 3).error, 1);
+  EXPECT_DOUBLE_EQ(judge(lane::f64, -1, -0x1p-54, -1).error, 0.25);
+  EXPECT_DOUBLE_EQ(judge(lane::f64, 1, 0, 1 + 0x1p-50).error, 4);
+}
+
+TEST(Judgement, CountsInSmallestStepsBelowTheNormals) {
+  EXPECT_DOUBLE_EQ(judge(lane::f32, 0x1p-149, 0x1p-150, 0x1p-149).error, 0.5);
+  EXPECT_DOUBLE_EQ(judge(lane::f32, 0x1p-140, 0, 0x1p-140 + 0x1p-148).error, 2);
+  EXPECT_DOUBLE_EQ(judge(lane::f32, 0x1p-151, 0, 0).error, 0.25);
+  EXPECT_DOUBLE_EQ(judge(lane::f32, 0, 0, 0x1p-149).error, 1);
+  EXPECT_DOUBLE_EQ(judge(lane::f64, 0x1p-1074, 0, 0).error, 1);
+}
+
+TEST(Judgement, TellsCorrectlyRoundedResults) {
+  EXPECT_TRUE(judge(lane::f32, 1, 0x1.fp-25, 1).correct);
+  EXPECT_FALSE(judge(lane::f32, 1, 0x1.01p-24, 1).correct);
+  EXPECT_TRUE(judge(lane::f32, 1, 0x1.01p-24, 1 + 0x1p-23).correct);
+  EXPECT_TRUE(judge(lane::f64, 1, 0x1.fp-54, 1).correct);
+}
+
+TEST(Judgement, TakesOverflowAsTheNextPowerOfTwo) {
+  constexpr double largest = 0x1.fffffep127;
+  const auto overflowed = judge(lane::f32, 0x1p128, 0x1p120, infinity);
+  EXPECT_EQ(overflowed.error, 0);
+  EXPECT_TRUE(overflowed.correct);
+  EXPECT_DOUBLE_EQ(judge(lane::f32, largest, 0, infinity).error, 1);
+  EXPECT_DOUBLE_EQ(judge(lane::f32, 0x1p127, 0, infinity).error, 0x1p23);
+  EXPECT_FALSE(judge(lane::f32, 0x1p128, 0x1p120, largest).correct);
+  EXPECT_GT(judge(lane::f32, -0x1p130, 0, infinity).error, 0x1p23);
+}
+
+TEST(Judgement, TakesANaNForANumberAsInfinitelyWrong) {
+  EXPECT_EQ(judge(lane::f32, nan, 0, nan).error, 0);
+  EXPECT_EQ(judge(lane::f32, 1, 0, nan).error, infinity);
+  EXPECT_EQ(judge(lane::f32, nan, 0, 1).error, infinity);
+  EXPECT_EQ(judge(lane::i32, 7, 0, 8).error, infinity);
+  EXPECT_EQ(judge(lane::i32, 7, 0, 7).error, 0);
+}
+
+TEST(Sampling, StaysInTheRangeAndReachesTheBounds) {
+  const auto& o = catalogue[index_of("expf")];
+  const auto value = [](const arguments& a) { return std::bit_cast<float>(std::uint32_t(a[0])); };
+  std::size_t tiny = 0;
+  for (const auto& a : accuracy::sample(o, {"some", {{-2, 3}}}, 10'000, 1)) {
+    EXPECT_TRUE(value(a) >= -2 && value(a) <= 3) << value(a);
+    tiny += std::fabs(value(a)) < 1e-6;
+  }
+  EXPECT_GT(tiny, 1'000u);  // over the bit patterns, most binades are small
+
+  std::size_t infinite = 0, zero = 0, at_bound = 0;
+  for (const auto& a : accuracy::around_bounds(o, *accuracy::find_reference(o), 40'000, 1)) {
+    infinite += std::isinf(value(a));
+    zero += value(a) == 0;
+    at_bound += std::uint32_t(a[0]) == std::bit_cast<std::uint32_t>(88.72283f);
+  }
+  EXPECT_GT(infinite, 0u);
+  EXPECT_GT(zero, 0u);
+  EXPECT_GT(at_bound, 0u);
+}
+
+}  // namespace
+}  // namespace lanemath::testing

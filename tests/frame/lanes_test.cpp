@@ -1,0 +1,142 @@
+// The lane operations that kernels are written in, at every width against the same scalar arithmetic.
+#include "frame/lanes.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+namespace lanemath {
+namespace {
+
+template <class T>
+const std::array<T, 16>& some_values() {
+  static const std::array<T, 16> values = [] {
+    std::array<T, 16> v;
+    for (int i = 0; i < 16; ++i) v[i] = T(i * 7 - 50);
+    if constexpr (std::is_floating_point_v<T>) {
+      v[1] = std::numeric_limits<T>::quiet_NaN();
+      v[4] = -T(0);
+      v[6] = std::numeric_limits<T>::infinity();
+    } else {
+      v[1] = std::numeric_limits<T>::max();
+      v[6] = std::numeric_limits<T>::min();
+    }
+    return v;
+  }();
+  return values;
+}
+
+template <class T, int W>
+lanes<T, W> load(const std::array<T, 16>& from) {
+  lanes<T, W> v{};
+  std::memcpy(&v, from.data(), W * sizeof(T));
+  return v;
+}
+template <class T, int W>
+std::array<T, 16> store(const lanes<T, W>& v) {
+  std::array<T, 16> to{};
+  std::memcpy(to.data(), &v, W * sizeof(T));
+  return to;
+}
+
+// Lane i of `got` has the bits of due(i).
+template <class T, int W, class F>
+void expect_lanes(const lanes<T, W>& got, F due) {
+  const auto lane = store(got);
+  for (int i = 0; i < W; ++i) {
+    const T want = due(i);
+    EXPECT_EQ(std::memcmp(&lane[i], &want, sizeof want), 0) << "lane " << i << " of " << W << ": " << lane[i];
+  }
+}
+
+template <class F>
+void at_every_width(F check) {
+  check(std::integral_constant<int, 1>());
+  check(std::integral_constant<int, 2>());
+  check(std::integral_constant<int, 4>());
+  check(std::integral_constant<int, 8>());
+  check(std::integral_constant<int, 16>());
+}
+
+template <class T>
+class FloatingLanes : public ::testing::Test {};
+using floating_types = ::testing::Types<float, double>;
+TYPED_TEST_SUITE(FloatingLanes, floating_types);
+
+TYPED_TEST(FloatingLanes, CompareSelectAndTellMasks) {
+  using T = TypeParam;
+  using I = int_of_size<sizeof(T)>;
+  const auto& a = some_values<T>();
+  at_every_width([&](auto width) {
+    constexpr int W = width;
+    const auto x = load<T, W>(a);
+    expect_lanes(x < T(3), [&](int i) { return I(a[i] < 3 ? -1 : 0); });
+    expect_lanes(~(x <= T(3)), [&](int i) { return I(!(a[i] <= 3) ? -1 : 0); });  // a NaN is marked
+    expect_lanes(select(x < T(3), x + T(1), x), [&](int i) { return a[i] < 3 ? a[i] + 1 : a[i]; });
+    unsigned bits = 0;
+    for (int i = 0; i < W; ++i) bits |= unsigned(!(a[i] <= 3)) << i;
+    EXPECT_EQ(mask_bits(~(x <= T(3))), bits);
+    EXPECT_EQ(any(~(x <= T(3))), bits != 0);
+    EXPECT_FALSE(any(x < x));
+  });
+}
+
+TYPED_TEST(FloatingLanes, TellMagnitudesAboveABoundWithInfinitiesAndNaNs) {
+  using T = TypeParam;
+  const auto& a = some_values<T>();
+  const std::int32_t bound = sizeof(T) == 4 ? 0x41A80000 : 0x40350000;  // 21
+  at_every_width([&](auto width) {
+    const auto marked = magnitude_above(load<T, width>(a), bound);
+    expect_lanes(marked, [&](int i) { return !(std::fabs(a[i]) <= T(21.999)) ? -1 : 0; });
+  });
+}
+
+template <class T>
+class IntegerLanes : public ::testing::Test {};
+using integer_types = ::testing::Types<std::int32_t, std::uint32_t, std::int64_t, std::uint64_t>;
+TYPED_TEST_SUITE(IntegerLanes, integer_types);
+
+TYPED_TEST(IntegerLanes, WrapAndShift) {
+  using T = TypeParam;
+  using U = std::make_unsigned_t<T>;
+  const auto& a = some_values<T>();
+  at_every_width([&](auto width) {
+    const auto x = load<T, width>(a);
+    expect_lanes(x + x, [&](int i) { return T(U(a[i]) + U(a[i])); });
+    expect_lanes(T(0) - x, [&](int i) { return T(U(0) - U(a[i])); });
+    expect_lanes(x << 3, [&](int i) { return T(U(a[i]) << 3); });
+    expect_lanes(x >> 3, [&](int i) { return T(a[i] >> 3); });  // arithmetic if signed
+    expect_lanes(~x ^ T(5), [&](int i) { return T(~a[i] ^ T(5)); });
+  });
+}
+
+TEST(Lanes, GoBetweenLanesOf32And64Bits) {
+  const auto& doubles = some_values<double>();
+  const auto& ints = some_values<std::int32_t>();
+  const auto& uints = some_values<std::uint32_t>();
+  at_every_width([&](auto width) {
+    const auto x = load<double, width>(doubles);
+    const auto pattern = [&](int i) { return std::bit_cast<std::uint64_t>(doubles[i]); };
+    expect_lanes(upper(x), [&](int i) { return std::int32_t(pattern(i) >> 32); });
+    expect_lanes(lower(x), [&](int i) { return std::int32_t(pattern(i)); });
+    expect_lanes(widen(load<std::int32_t, width>(ints)), [&](int i) { return std::int64_t(ints[i]); });
+    expect_lanes(widen(load<std::uint32_t, width>(uints)), [&](int i) { return std::uint64_t(uints[i]); });
+  });
+}
+
+TEST(Lanes, LookUpBothPartsOfEveryLanesEntry) {
+  static constexpr two_part<float> table[4] = {{1, 10}, {2, 20}, {3, 30}, {4, 40}};
+  std::array<std::int32_t, 16> index;
+  for (int i = 0; i < 16; ++i) index[i] = (i * 7 + 1) % 4;
+  at_every_width([&](auto width) {
+    const auto [hi, lo] = look_up(table, load<std::int32_t, width>(index));
+    expect_lanes(hi, [&](int i) { return table[index[i]].hi; });
+    expect_lanes(lo, [&](int i) { return table[index[i]].lo; });
+  });
+}
+
+}  // namespace
+}  // namespace lanemath
