@@ -15,10 +15,11 @@ struct family_text {
 inline constexpr family_text families[] = {
     {family::exponential, "exponential", "Exponentials",
      R"(Any x. The result overflows to +infinity and underflows through the denormals to +0. Base to the power +infinity
-is +infinity, to -infinity +0 (expm1: -1), to a zero 1 (expm1: the zero itself). A NaN gives a quiet NaN with its sign and payload; exp2f4 alone returns a signalling NaN
-as it is. Method: reduction by multiples of ln 2 / 2^k with the logarithm in two parts, a table of 2^(j/2^k) in
-two parts and a short polynomial (P. T. P. Tang, ACM TOMS 15, 1989). The light forms use one low-degree polynomial
-and no table, and exp2f_native and the light exp10f are not exact at integers.)"},
+is +infinity, to -infinity +0 (expm1: -1), to a zero 1 (expm1: the zero itself). A NaN gives a quiet NaN with its
+sign and payload; exp2f4 alone returns a signalling NaN as it is. Method: reduction by multiples of ln 2 / 2^k
+with the logarithm in two parts, a table of 2^(j/2^k) in two parts and a short polynomial (P. T. P. Tang, ACM TOMS
+15, 1989). The light forms use one low-degree polynomial and no table, and exp2f_native and the light exp10f are
+not exact at integers.)"},
     {family::logarithm, "logarithm", "Logarithms",
      R"(x >= 0 (log1p: x >= -1). The logarithm of a zero is -infinity, of +infinity +infinity, of a negative x a NaN. A
 NaN gives a quiet NaN. Method: a table of reciprocals and logarithms in two parts and a short polynomial (P. T. P.
