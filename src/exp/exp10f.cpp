@@ -28,15 +28,7 @@ constexpr exp10f_rows exp10f_table{
     .JMASK = 0x7F,
 };
 
-constexpr light_exp_rows exp10f_native_table{
-    .LOG2B = 0x40549A78_f32,
-    .S = 0x4B400000_f32,
-    .A0 = 0x3F7FFB49_f32,
-    .A1 = 0x3F31798D_f32,
-    .A2 = 0x3E786F13_f32,
-    .A3 = 0x3D61FBCC_f32,
-};
-
+constexpr float LOG2T = 0x40549A78_f32;    // log2(10)
 constexpr std::int32_t RARE = 0x4217B818;  // 37.92978
 
 LANEMATH_RARE exp10f_rare(const float* px, float* py) {
@@ -96,8 +88,7 @@ struct exp10f_standard : exp10f_guards {
 struct exp10f_native : exp10f_guards {
   template <class V>
   static V kernel(V x) {
-    constexpr auto& c = exp10f_native_table;
-    return light_exp2(x * c.LOG2B, c);
+    return light_exp2(x * LOG2T, light_exp2_table);
   }
 };
 

@@ -28,15 +28,6 @@ constexpr exp2f_rows exp2f_table{
     .C6 = 0x39213C8C_f32,
 };
 
-constexpr light_exp_rows exp2f_native_table{
-    .LOG2B = 1.0f,
-    .S = 0x4B400000_f32,
-    .A0 = 0x3F7FFB49_f32,
-    .A1 = 0x3F31798D_f32,
-    .A2 = 0x3E786F13_f32,
-    .A3 = 0x3D61FBCC_f32,
-};
-
 // Keeps the integer add to the exponent field away from the ends of the range.
 constexpr std::int32_t RARE = 0x42FC0000;  // 126
 
@@ -97,7 +88,7 @@ struct exp2f_frame : exp2f_guards {
 struct exp2f_native : exp2f_guards {
   template <class V>
   static V kernel(V x) {
-    return light_exp2(x, exp2f_native_table);
+    return light_exp2(x, light_exp2_table);
   }
 };
 

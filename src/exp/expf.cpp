@@ -31,8 +31,9 @@ constexpr expf_rows expf_table{
     .HALF = 0.5f,
 };
 
+constexpr float LOG2E = 0x3FB8AA3B_f32;  // 1 / ln 2
+
 constexpr light_exp_rows expf_native_table{
-    .LOG2B = 0x3FB8AA3B_f32,
     .S = 0x4B400000_f32,
     .A0 = 1.0f,
     .A1 = 0x3F317422_f32,
@@ -41,13 +42,11 @@ constexpr light_exp_rows expf_native_table{
 };
 
 struct expf_rm_rows {
-  float LOG2E;  // 1 / ln 2
-  float S;      // shifter
-  float H, L;   // ln 2, high and low part
+  float S;     // shifter
+  float H, L;  // ln 2, high and low part
   float B0, B1, B2, B3, B4, B5;
 };
 constexpr expf_rm_rows expf_rm_table{
-    .LOG2E = 0x3FB8AA3B_f32,
     .S = 0x4B400000_f32,
     .H = 0x3F317200_f32,
     .L = 0x35BFBE8E_f32,
@@ -157,8 +156,7 @@ struct expf_standard : expf_guards {
 struct expf_native : expf_guards {
   template <class V>
   static V kernel(V x) {
-    constexpr auto& c = expf_native_table;
-    return light_exp2(x * c.LOG2B, c);
+    return light_exp2(x * LOG2E, expf_native_table);
   }
 };
 
@@ -166,7 +164,7 @@ struct expf_rm : expf_guards {
   template <class V>
   static V kernel(V x) {
     constexpr auto& c = expf_rm_table;
-    const V t = x * c.LOG2E + c.S;
+    const V t = x * LOG2E + c.S;
     const auto e = bits(t) << 23;
     const V m = t - c.S;
     const V r = (x - m * c.H) - m * c.L;

@@ -8,11 +8,18 @@
 
 namespace lanemath {
 
-// Constants of the light kernels: base^x as 2^y with y = x * log2(base), one cubic over a whole binade, no table.
+// Constants of the light kernels: 2^y by one cubic over a whole binade, no table.
 struct light_exp_rows {
-  float LOG2B;  // log2 of the base
-  float S;      // shifter: the sum's low bits are y rounded to an integer
+  float S;  // shifter: the sum's low bits are y rounded to an integer
   float A0, A1, A2, A3;
+};
+// Fitted over the whole interval: the constant term is not 1, and so not even integers give exact powers.
+inline constexpr light_exp_rows light_exp2_table{
+    .S = 0x4B400000_f32,
+    .A0 = 0x3F7FFB49_f32,
+    .A1 = 0x3F31798D_f32,
+    .A2 = 0x3E786F13_f32,
+    .A3 = 0x3D61FBCC_f32,
 };
 
 // 2^y. The integer part is added to the exponent field of the polynomial's bits.
