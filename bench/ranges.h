@@ -126,11 +126,8 @@ constexpr argument_ranges typical_arguments(const operation& o) {
     const bool negative = !is_unsigned(o.sig.arguments[0]) && !is_unsigned(o.sig.result);
     return {between(negative ? -1e6 : 0, 1e6)};
   }
-  auto name = o.name();
-  if (o.group != family::integer_division && (o.sig.result == lane::f32 || o.sig.arguments[0] == lane::f32))
-    name.remove_suffix(1);
   const auto* found = rows;
-  while (found->operation != name) ++found;
+  while (found->operation != o.base_name()) ++found;
   return found->ranges;
 }
 static_assert([] {

@@ -62,7 +62,7 @@ std::string suite::name_of_peer(const peer& p, std::string_view kind) const {
 }
 
 void suite::add(const std::string& benchmark, const harness::function& f, int width, arguments& on) const {
-  const auto lanes = lane_count / harness::stride(width) * width;
+  const auto lanes = lane_count / padded(width) * width;
   benchmark::RegisterBenchmark(benchmark.c_str(), [f, lanes, &on](benchmark::State& state) {
     for (auto _ : state) on.pass_to(f);
     count_lanes(state, lanes);

@@ -59,15 +59,7 @@ LANEMATH_RARE exp10f_rare(const float* px, float* py) {
   return x <= 0xC042F70320000000_f64 ? 4 : 0;  // -37.92978
 }
 
-struct exp10f_guards {
-  using signature = float(float);
-  static constexpr auto rare = exp10f_rare;
-
-  template <class V>
-  static auto rare_test(V x) {
-    return magnitude_above(x, RARE);
-  }
-};
+using exp10f_guards = rare_above<float(float), exp10f_rare, RARE>;
 
 struct exp10f_standard : exp10f_guards {
   template <class V>

@@ -58,15 +58,7 @@ LANEMATH_RARE exp2f_rare(const float* px, float* py) {
   return x < -126.0 ? 4 : 0;
 }
 
-struct exp2f_guards {
-  using signature = float(float);
-  static constexpr auto rare = exp2f_rare;
-
-  template <class V>
-  static auto rare_test(V x) {
-    return magnitude_above(x, RARE);
-  }
-};
+using exp2f_guards = rare_above<float(float), exp2f_rare, RARE>;
 
 struct exp2f_frame : exp2f_guards {
   template <class V>
@@ -93,7 +85,7 @@ struct exp2f_native : exp2f_guards {
 };
 
 // The default form at width 1.
-struct exp2f_scalar {
+struct exp2f1 {
   using signature = float(float);
 
   static lanes<float, 1> kernel(lanes<float, 1> lane) {
@@ -130,13 +122,12 @@ struct exp2f_scalar {
 };
 
 // The default form at width 4.
-namespace wide {
 
-struct rows {
+struct exp2f4_rows {
   float S2;      // shifter that leaves 6 fraction bits, 1.5 * 2^17
   float Q1, Q0;  // monic quadratic
 };
-constexpr rows table{.S2 = 0x48400000_f32, .Q1 = 0x4038AA68_f32, .Q0 = 0x40853526_f32};
+constexpr exp2f4_rows exp2f4_table{.S2 = 0x48400000_f32, .Q1 = 0x4038AA68_f32, .Q0 = 0x40853526_f32};
 
 template <class V>
 V flush_denormals(V x) {
@@ -146,14 +137,14 @@ V flush_denormals(V x) {
 // One lane, on bit patterns: a NaN comes back as it is.
 LANEMATH_RARE exp2f_lane(const float* px, float* py) {
   using scalar = lanes<float, 1>;
-  constexpr auto& c = table;
+  constexpr auto& c = exp2f4_table;
   const scalar x = flush_denormals(scalar(*px));
   const auto pattern = std::bit_cast<std::int32_t>(x.g[0]);
   const auto magnitudes = std::uint32_t(pattern);           // orders the negative values by magnitude
   if (pattern >= 0x43000000 || magnitudes >= 0xC3160000) {  // 128, -150
     auto special = pattern >= 0x43000000 ? 0x7F800000 : 0;
     if ((pattern & 0x7FFFFFFF) > 0x7F800000) special = pattern;
-    *reinterpret_cast<std::int32_t*>(py) = special;
+    __builtin_memcpy(py, &special, sizeof special);
     return 0;
   }
   float shift = 0.0f, factor = 1.0f;
@@ -175,13 +166,10 @@ LANEMATH_RARE exp2f_lane(const float* px, float* py) {
   return 0;
 }
 
-struct exp2f {
-  using signature = float(float);
-  static constexpr auto rare = exp2f_lane;
-
+struct exp2f4 : rare_above<float(float), exp2f_lane, 0x42F70000> {  // 123.5
   template <class V>
   static V kernel(V x) {
-    constexpr auto& c = table;
+    constexpr auto& c = exp2f4_table;
     const V d = flush_denormals(x);
     const V t = c.S2 + x;
     const V f = (c.S2 - t) + d;
@@ -190,10 +178,6 @@ struct exp2f {
     const V scale = from_bits(((bits(t) + 0x1FC0) >> 6) << 23);
     return (look_up(exp2_monic_64, j).hi * scale) * g;
   }
-  template <class V>
-  static auto rare_test(V x) {
-    return magnitude_above(x, 0x42F70000);  // 123.5
-  }
   // One marked lane sends all four to the scalar routine.
   template <class V, class M>
   static void fix_up(V, V&, M& rare) {
@@ -201,17 +185,16 @@ struct exp2f {
   }
 };
 
-}  // namespace wide
 }  // namespace
 
 LANEMATH_EXPORT(unary, exp2f, exp2f_frame, _rm)
 LANEMATH_EXPORT(unary, exp2f, exp2f_native, _native)
 LANEMATH_SAME(exp2f, _native, _half)
 
-LANEMATH_EXPORT_AT(1, unary, exp2f, exp2f_scalar, )
+LANEMATH_EXPORT_AT(1, unary, exp2f, exp2f1, )
 LANEMATH_SAME_AT(2, exp2f, _rm, )
 LANEMATH_SAME_AT(3, exp2f, _rm, )
-LANEMATH_EXPORT_AT(4, unary, exp2f, wide::exp2f, )
+LANEMATH_EXPORT_AT(4, unary, exp2f, exp2f4, )
 LANEMATH_SAME_AT(8, exp2f, _rm, )
 LANEMATH_SAME_AT(16, exp2f, _rm, )
 

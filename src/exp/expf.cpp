@@ -120,14 +120,7 @@ LANEMATH_RARE expf_rare(const float* px, float* py) {
   return 4;
 }
 
-struct expf_guards {
-  using signature = float(float);
-  static constexpr auto rare = expf_rare;
-
-  template <class V>
-  static auto rare_test(V x) {
-    return magnitude_above(x, RARE);
-  }
+struct expf_guards : rare_above<float(float), expf_rare, RARE> {
   template <class V, class M>
   static void fix_up(V x, V& y, M& rare) {
     const auto over = OVF < x;

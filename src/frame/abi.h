@@ -5,12 +5,10 @@
 
 #include <type_traits>
 
+#include "frame/catalogue.h"
 #include "frame/lanes.h"
 
 namespace lanemath {
-
-// A 3-lane vector takes the room of a 4-lane one.
-constexpr int padded(int width) { return width == 3 ? 4 : width; }
 
 namespace abi_detail {
 template <class T, int W, int Bytes>

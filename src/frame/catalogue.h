@@ -18,6 +18,16 @@ inline constexpr std::array widths{1, 2, 3, 4, 8, 16};
 
 enum class lane : std::uint8_t { none, f32, f64, i32, u32, i64, u64 };
 
+constexpr std::size_t size_of(lane l) {
+  return l == lane::none ? 0 : l == lane::f64 || l == lane::i64 || l == lane::u64 ? 8 : 4;
+}
+constexpr std::string_view type_name(lane l) {
+  return std::array<std::string_view, 7>{"", "float", "double", "int", "uint", "long", "ulong"}[std::size_t(l)];
+}
+
+// Lanes that a vector takes the room of.
+constexpr int padded(int width) { return width == 3 ? 4 : width; }
+
 // How a second result reaches the caller.
 enum class delivery : std::uint8_t { none, pointer, pair };
 
@@ -65,6 +75,14 @@ struct operation {
 
   constexpr std::string_view name() const { return spelling; }
   constexpr bool has(variant v) const { return variant_bits >> int(v) & 1; }
+
+  // Not to be told from the name alone: erf and modf are double precision.
+  constexpr bool single() const { return sig.result == lane::f32 || sig.arguments[0] == lane::f32; }
+  // Without the f of single precision, where both precisions are one operation.
+  constexpr std::string_view base_name() const {
+    const bool closes = single() && group != family::conversion;
+    return name().substr(0, name().size() - closes);
+  }
 };
 
 namespace catalogue_detail {

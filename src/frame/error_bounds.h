@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string_view>
 
 #include "frame/catalogue.h"
@@ -19,15 +20,32 @@ struct error_bound {
 
 inline constexpr error_bound error_bounds[] = {
     {"expf", {0.569, 2169, 2169, 2.94}},
-    {"exp2f", {2.56, 1231, 1231, 1.11}},
+    {"exp2f", {1.11, 1231, 1231, 1.11}},
     {"exp10f", {0.557, 1305, 1305, 1305}},
 };
 
-// The bounds of an operation, or a null pointer.
-constexpr const error_bound* bounds_of(const operation& o) {
+// Standalone forms have errors of their own.
+struct standalone_bound {
+  std::string_view name;
+  int width;
+  variant of;
+  double ulp;
+};
+inline constexpr standalone_bound standalone_bounds[] = {
+    {"exp2f", 1, variant::standard, 0.507},
+    {"exp2f", 4, variant::standard, 2.56},
+};
+
+// The bound of a function, or nothing if none is stated.
+constexpr std::optional<double> bound_of(const operation& o, variant v, int width) {
+  if (is_standalone(o.name(), width, v)) {
+    for (const auto& bound : standalone_bounds)
+      if (bound.name == o.name() && bound.width == width && bound.of == v) return bound.ulp;
+    return std::nullopt;
+  }
   for (const auto& bound : error_bounds)
-    if (bound.name == o.name()) return &bound;
-  return nullptr;
+    if (bound.name == o.name()) return bound.ulp[std::size_t(v)];
+  return std::nullopt;
 }
 
 }  // namespace lanemath

@@ -43,6 +43,14 @@ struct two_results {
   Second second;
 };
 
+// What an operation of one argument inherits whose rare lanes are those above a magnitude.
+template <class Signature, auto Routine, std::int32_t Bound>
+struct rare_above {
+  using signature = Signature;
+  static constexpr auto rare = Routine;
+  static auto rare_test(auto x) { return magnitude_above(x, Bound); }
+};
+
 namespace frame_detail {
 
 template <class T>

@@ -49,10 +49,6 @@ struct lanes {
         each = group{value, value};
     }
   }
-
-  // The same number of lanes of another type.
-  template <class U>
-  using of = lanes<U, W>;
 };
 
 // f over corresponding groups; the result's lanes are U.

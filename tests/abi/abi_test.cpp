@@ -54,13 +54,13 @@ TEST_P(Caller, GetsEveryLaneOfEveryShape) {
         alignas(128) std::array<std::array<std::byte, 128>, 5> buffers{};
         for (int lane = 0; lane < width; ++lane)
           for (int i = 0; i < o.sig.arity(); ++i) {
-            const auto size = harness::size_of(o.sig.arguments[i]);
+            const auto size = size_of(o.sig.arguments[i]);
             std::memcpy(&buffers[i][lane * size], &tuples[n + lane][i], size);
           }
         call(&buffers[0], &buffers[1], &buffers[2], &buffers[3], &buffers[4]);
         for (int lane = 0; lane < width; ++lane) {
           outcome got;
-          const auto size = harness::size_of(o.sig.result), second_size = harness::size_of(o.sig.second);
+          const auto size = size_of(o.sig.result), second_size = size_of(o.sig.second);
           std::memcpy(&got.first, &buffers[3][lane * size], size);
           if (second_size) std::memcpy(&got.second, &buffers[4][lane * second_size], second_size);
           ASSERT_EQ(got, due[n + lane]) << o.name() << width << " lane " << lane;

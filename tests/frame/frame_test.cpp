@@ -108,7 +108,7 @@ std::vector<arguments> values(const operation& o, std::size_t count, int rare) {
       switch (o.sig.arguments[i]) {
         case lane::f32: tuple[i] = model<float>::bits(float(v)); break;
         case lane::f64: tuple[i] = model<double>::bits(v); break;
-        default: tuple[i] = harness::size_of(o.sig.arguments[i]) == 4 ? u32(random() % 100'000) : random();
+        default: tuple[i] = size_of(o.sig.arguments[i]) == 4 ? u32(random() % 100'000) : random();
       }
     }
   return all;
@@ -156,7 +156,7 @@ TEST_P(Frame, LaneThreeOfWidthThreeIsTheValueAtTheFiller) {
   f->call(from.data(), &first, &second, 4);
   const auto lane3 = [](const auto& of, lane l) {
     u64 pattern = 0;
-    std::memcpy(&pattern, reinterpret_cast<const std::byte*>(&of) + 3 * harness::size_of(l), harness::size_of(l));
+    std::memcpy(&pattern, reinterpret_cast<const std::byte*>(&of) + 3 * size_of(l), size_of(l));
     return pattern;
   };
   const auto due = expected(filler);
@@ -172,7 +172,7 @@ TEST_P(Frame, SecondResultIsOneStoreOfTheVectorAtAnyAddress) {
     for (int offset : {0, 1, 4}) {
       const auto f = probe().find(index, variant::standard, width);
       ASSERT_TRUE(f);
-      const std::size_t lanes = harness::stride(width), size = lanes * harness::size_of(o.sig.second);
+      const std::size_t lanes = padded(width), size = lanes * size_of(o.sig.second);
       std::array<std::array<u64, 16>, 2> inputs{};
       std::array<u64, 16> first;
       alignas(64) std::array<unsigned char, 256> second;
@@ -181,7 +181,7 @@ TEST_P(Frame, SecondResultIsOneStoreOfTheVectorAtAnyAddress) {
       f->call(from.data(), &first, second.data() + 64 + offset, lanes);
       for (std::size_t at = 0; at < second.size(); ++at) {
         const std::size_t inside = at - 64 - offset;
-        const std::size_t told = width * harness::size_of(o.sig.second);  // beyond it is the filler's lane
+        const std::size_t told = width * size_of(o.sig.second);  // beyond it is the filler's lane
         if (inside < told || inside >= size) {
           ASSERT_EQ(int(second[at]), inside < told ? 0 : 0xA5) << "byte " << inside << " at width " << width;
         }

@@ -89,9 +89,9 @@ void fill(bytes& out, bool integers, std::mt19937_64& random) {
 }
 
 bytes inputs_of(lane l, std::mt19937_64& random) {
-  bytes all(lanes * harness::size_of(l));
+  bytes all(lanes * size_of(l));
   const bool integers = l != lane::f32 && l != lane::f64;
-  if (harness::size_of(l) == 4)
+  if (size_of(l) == 4)
     fill<std::uint32_t>(all, integers, random);
   else
     fill<std::uint64_t>(all, integers, random);
@@ -141,7 +141,7 @@ std::string kernel_source(const operation& o, variant v, std::size_t name_index,
     }
     body += fmt::format(
         "  for (size_t i = first; i < first + {}; i += {}) {{ {}*(global {}*)(result + {} * lanes + i) = {});{} }}\n",
-        lanes_per_item, harness::stride(width), before, opencl_type(o.sig.result, width), place, call, after);
+        lanes_per_item, padded(width), before, opencl_type(o.sig.result, width), place, call, after);
   }
   return fmt::format(
       "kernel void conformance({}) {{\n"
@@ -192,14 +192,14 @@ std::string hexadecimal(const std::byte* lane, std::size_t size) {
 // How many lanes differ; the first that does is printed.
 std::size_t differences(const std::string& what, int width, lane l, const std::byte* kernel, const std::byte* direct,
                         const std::vector<bytes>& inputs, const signature& s) {
-  const std::size_t size = harness::size_of(l);
+  const std::size_t size = size_of(l);
   std::size_t count = 0;
   for (std::size_t i = 0; i < lanes; ++i) {
     if (width == 3 && i % 4 == 3) continue;
     if (std::memcmp(kernel + i * size, direct + i * size, size) == 0 || ++count > 1) continue;
     fmt::print("{} at width {}: {} for", what, width, hexadecimal(kernel + i * size, size));
     for (std::size_t a = 0; a < inputs.size(); ++a) {
-      const std::size_t input_size = harness::size_of(s.arguments[a]);
+      const std::size_t input_size = size_of(s.arguments[a]);
       fmt::print(" {}", hexadecimal(inputs[a].data() + i * input_size, input_size));
     }
     fmt::print(" instead of {}\n", hexadecimal(direct + i * size, size));
@@ -237,9 +237,9 @@ int main(int argc, char** argv) try {
         for (const auto& how : manners) {
           std::vector<bytes> inputs;
           for (int i = 0; i < o.sig.arity(); ++i) inputs.push_back(inputs_of(o.sig.arguments[i], random));
-          if (how.scalar_last) spread_first_lanes(inputs.back(), harness::size_of(o.sig.arguments[o.sig.arity() - 1]));
-          const std::size_t result_part = lanes * harness::size_of(o.sig.result);
-          const std::size_t second_part = lanes * harness::size_of(o.sig.second);
+          if (how.scalar_last) spread_first_lanes(inputs.back(), size_of(o.sig.arguments[o.sig.arity() - 1]));
+          const std::size_t result_part = lanes * size_of(o.sig.result);
+          const std::size_t second_part = lanes * size_of(o.sig.second);
           bytes result(widths.size() * result_part), second(widths.size() * second_part);
           device.run(kernel_source(o, v, n, how), inputs, result, second);
 

@@ -26,7 +26,7 @@ inline std::vector<std::uint64_t> special_patterns(lane l) {
   const auto both_signs = [&](std::uint64_t sign, std::initializer_list<std::uint64_t> magnitudes) {
     for (auto m : magnitudes) all.insert(all.end(), {m, m | sign});
   };
-  if (harness::size_of(l) == 4)
+  if (size_of(l) == 4)
     both_signs(0x80000000, {0, 1, 0x007FFFFF, 0x00800000, 0x3F000000, 0x3F800000, 0x40490FDB, 0x42C80000, 0x4B000000,
                             0x7F7FFFFF, 0x7F800000, 0x7F800001, 0x7FC00000, 0x7FFFFFFF});
   else
@@ -44,7 +44,7 @@ inline std::vector<arguments> mixed_tuples(const operation& o, std::size_t count
   for (auto& tuple : all)
     for (int i = 0; i < o.sig.arity(); ++i) {
       const lane l = o.sig.arguments[i];
-      const bool narrow = harness::size_of(l) == 4;
+      const bool narrow = size_of(l) == 4;
       const auto specials = special_patterns(l);
       const double ordinary = std::ldexp(double(std::int64_t(random())), -58);  // to 32
       switch (random() % 4) {

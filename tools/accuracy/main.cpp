@@ -71,9 +71,9 @@ class report {
                           share, input_text(o, t.input));
       if (!csv_.flush()) throw std::runtime_error("cannot write the CSV file");
     }
-    const auto* bound = bounds_of(o);
-    if (bound && t.largest_error > bound->ulp[std::size_t(v)]) {
-      fmt::print("  above the stated bound of {} ulp\n", bound->ulp[std::size_t(v)]);
+    const auto bound = bound_of(o, v, width);
+    if (bound && t.largest_error > *bound) {
+      fmt::print("  above the stated bound of {} ulp\n", *bound);
       within_bounds_ = false;
     }
   }

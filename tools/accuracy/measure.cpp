@@ -80,9 +80,7 @@ tally on_all_cores(F work) {
 }
 
 // A pattern of any lane type, drawn evenly; the seed decides.
-std::uint64_t any_pattern(lane type, std::mt19937_64& random) {
-  return harness::size_of(type) == 4 ? random() >> 32 : random();
-}
+std::uint64_t any_pattern(lane type, std::mt19937_64& random) { return size_of(type) == 4 ? random() >> 32 : random(); }
 
 // Patterns of a floating type in the order of their values, as integers.
 std::int64_t ordered(lane type, std::uint64_t pattern) {

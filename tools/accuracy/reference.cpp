@@ -40,11 +40,8 @@ const std::vector<reference>& references() {
 }  // namespace
 
 const reference* find_reference(const operation& o) {
-  std::string_view name = o.name();
-  for (const auto& each : references()) {
-    if (name == each.name) return &each;
-    if (name.back() == 'f' && name.substr(0, name.size() - 1) == each.name) return &each;
-  }
+  for (const auto& each : references())
+    if (each.name == o.base_name()) return &each;
   return nullptr;
 }
 

@@ -15,13 +15,7 @@ constexpr std::array<std::string_view, 3> parameter_names{"x", "y", "z"};
 constexpr std::array<std::string_view, 3> address_spaces{"global", "local", "private"};
 
 bool is_integer(lane l) { return l != lane::f32 && l != lane::f64; }
-// Not to be told from the name: erf and modf are double precision.
-bool is_single(const operation& o) { return o.sig.result == lane::f32 || o.sig.arguments[0] == lane::f32; }
-
-bool crosses_in_registers(lane l, int width) {
-  const int size = l == lane::f64 || l == lane::i64 || l == lane::u64 ? 8 : 4;
-  return (width == 3 ? 4 : width) * size <= 16;
-}
+bool crosses_in_registers(lane l, int width) { return std::size_t(padded(width)) * size_of(l) <= 16; }
 
 // A call with these lanes touches no memory.
 bool touches_registers_only(const signature& s, int width) {
@@ -44,8 +38,7 @@ std::vector<std::string> conversion_names(const operation& o, int width) {
 
 // The name without `native_` or `half_`; empty where OpenCL has none.
 std::string_view plain_name(const operation& o, variant v) {
-  auto name = o.name();
-  if (is_single(o)) name.remove_suffix(1);
+  const auto name = o.base_name();
   if (name == "rcbrt" || name == "nearbyint" || o.sig.how == delivery::pair) return {};
   if (name == "div") return v == variant::standard ? "" : "divide";
   if (name == "inv") return v == variant::standard ? "" : "recip";
@@ -115,9 +108,7 @@ void define_with_pointer(std::FILE* out, const builtin& b) {
 }  // namespace
 
 std::string opencl_type(lane l, int width) {
-  constexpr std::array<std::string_view, 7> names{"", "float", "double", "int", "uint", "long", "ulong"};
-  const auto name = names[std::size_t(l)];
-  return width == 1 ? std::string(name) : fmt::format("{}{}", name, width);
+  return width == 1 ? std::string(type_name(l)) : fmt::format("{}{}", type_name(l), width);
 }
 
 std::vector<std::string> opencl_names(const operation& o, variant v, int width) {
@@ -127,7 +118,7 @@ std::vector<std::string> opencl_names(const operation& o, variant v, int width) 
   if (name.empty()) return {};
   if (v == variant::standard) return {std::string(name)};
   // OpenCL C has native and half forms of the same functions, in single precision.
-  if (v == variant::rm || !is_single(o) || !o.has(variant::half)) return {};
+  if (v == variant::rm || !o.single() || !o.has(variant::half)) return {};
   return {fmt::format("{}_{}", v == variant::native ? "native" : "half", name)};
 }
 

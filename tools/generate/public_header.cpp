@@ -3,6 +3,9 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
+#include <array>
+#include <cctype>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -13,11 +16,6 @@
 namespace {
 
 using namespace lanemath;
-
-std::string_view type_name(lane l) {
-  constexpr std::array<std::string_view, 7> names{"", "float", "double", "int", "uint", "long", "ulong"};
-  return names[std::size_t(l)];
-}
 
 std::string_view shape(const signature& s) {
   if (s.how == delivery::none) return std::array{"UNARY", "BINARY", "TERNARY"}[s.arity() - 1];
@@ -61,14 +59,22 @@ std::string call(const operation& o) {
 }
 
 std::string bound_text(const operation& o) {
-  const auto* bound = bounds_of(o);
-  if (!bound) return "";
-  std::string text = "\n * Largest error in ulp:";
-  for (auto v : variants)
-    if (o.has(v))
-      text += fmt::format(" {} {:g};", v == variant::standard ? "default" : suffix(v), bound->ulp[std::size_t(v)]);
-  text.back() = '.';
-  return text;
+  std::vector<std::string> forms;
+  for (auto v : variants) {
+    if (!o.has(v)) continue;
+    const auto name = v == variant::standard ? "default" : suffix(v);
+    // The widths that share a bound are told by one of them that has no algorithm of its own.
+    for (int width : widths)
+      if (!is_standalone(o.name(), width, v)) {
+        if (const auto bound = bound_of(o, v, width)) forms.push_back(fmt::format("{} {:g}", name, *bound));
+        break;
+      }
+    for (int width : widths)
+      if (is_standalone(o.name(), width, v))
+        if (const auto bound = bound_of(o, v, width))
+          forms.push_back(fmt::format("{} at width {} {:g}", name, width, *bound));
+  }
+  return forms.empty() ? "" : fmt::format("\n * Largest error in ulp: {}.", fmt::join(forms, "; "));
 }
 
 }  // namespace

@@ -120,8 +120,8 @@ std::optional<function> library::find(std::size_t operation_index, variant v, in
 
 std::vector<outcome> evaluate(const operation& o, const function& f, int width, std::span<const arguments> tuples,
                               std::uint64_t junk) {
-  const std::size_t count = tuples.size(), vectors = (count + width - 1) / width, lanes = vectors * stride(width);
-  const auto place = [&](std::size_t tuple) { return tuple / width * stride(width) + tuple % width; };
+  const std::size_t count = tuples.size(), vectors = (count + width - 1) / width, lanes = vectors * padded(width);
+  const auto place = [&](std::size_t tuple) { return tuple / width * padded(width) + tuple % width; };
 
   std::array<std::vector<std::byte>, 3> inputs;
   std::array<const void*, 3> from{};

@@ -13,13 +13,6 @@
 
 namespace lanemath::harness {
 
-constexpr std::size_t size_of(lane l) {
-  return l == lane::none ? 0 : l == lane::f64 || l == lane::i64 || l == lane::u64 ? 8 : 4;
-}
-
-// Lanes that a vector takes the room of.
-constexpr int stride(int width) { return width == 3 ? 4 : width; }
-
 struct invoker_arguments {
   const void* const* inputs;
   void* result;
@@ -32,7 +25,7 @@ class function {
   function(void* address, void (*invoker)(void*, const invoker_arguments&)) : address_(address), invoker_(invoker) {}
 
   // One call for every vector of the arrays. `lanes` counts the room that the vectors take, a multiple of
-  // stride(width). `second` receives the second result, through a pointer or from a pair.
+  // padded(width). `second` receives the second result, through a pointer or from a pair.
   void call(const void* const* inputs, void* result, void* second, std::size_t lanes) const {
     invoker_(address_, {inputs, result, second, lanes});
   }
