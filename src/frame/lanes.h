@@ -252,6 +252,148 @@ LANEMATH_INLINE bool any(const lanes<T, W>& mask) {
   }
 }
 
+// The processor's own operations, lane by lane. `F` has a packed form and a scalar form for each precision; the scalar
+// form's register is the value's own, so that no other lane is computed on.
+namespace lanes_detail {
+
+template <class T>
+using packed = std::conditional_t<sizeof(T) == 4, __m128, __m128d>;
+
+LANEMATH_INLINE __m128 in_register(float v) { return _mm_set_ss(v); }
+LANEMATH_INLINE __m128d in_register(double v) { return _mm_set_sd(v); }
+
+template <class Packed, class Scalar, class T, int W, class... Rest>
+LANEMATH_INLINE lanes<T, W> instruction(Packed on_group, Scalar on_lane, const lanes<T, W>& first,
+                                        const Rest&... rest) {
+  return map<T>(
+      [&](auto... v) LANEMATH_LAMBDA {
+        if constexpr (W == 1)
+          return T(on_lane(in_register(v)...)[0]);
+        else
+          return std::bit_cast<typename lanes<T, W>::group>(on_group(std::bit_cast<packed<T>>(v)...));
+      },
+      first, rest...);
+}
+
+}  // namespace lanes_detail
+
+// MINPS and MAXPS: x < y ? x : y and x > y ? x : y, so that y is the answer to a tie and to a NaN in either.
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> minimum(const lanes<T, W>& x, const std::type_identity_t<lanes<T, W>>& y) {
+  if constexpr (sizeof(T) == 4)
+    return lanes_detail::instruction(_mm_min_ps, _mm_min_ss, x, y);
+  else
+    return lanes_detail::instruction(_mm_min_pd, _mm_min_sd, x, y);
+}
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> maximum(const lanes<T, W>& x, const std::type_identity_t<lanes<T, W>>& y) {
+  if constexpr (sizeof(T) == 4)
+    return lanes_detail::instruction(_mm_max_ps, _mm_max_ss, x, y);
+  else
+    return lanes_detail::instruction(_mm_max_pd, _mm_max_sd, x, y);
+}
+
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> square_root(const lanes<T, W>& x) {
+  if constexpr (sizeof(T) == 4)
+    return lanes_detail::instruction(_mm_sqrt_ps, _mm_sqrt_ss, x);
+  else
+    return lanes_detail::instruction(
+        _mm_sqrt_pd, [](__m128d v) LANEMATH_LAMBDA { return _mm_sqrt_sd(v, v); }, x);
+}
+
+// About 11.5 good bits; which ones differs between processors.
+template <int W>
+LANEMATH_INLINE lanes<float, W> reciprocal_estimate(const lanes<float, W>& x) {
+  return lanes_detail::instruction(_mm_rcp_ps, _mm_rcp_ss, x);
+}
+template <int W>
+LANEMATH_INLINE lanes<float, W> reciprocal_root_estimate(const lanes<float, W>& x) {
+  return lanes_detail::instruction(_mm_rsqrt_ps, _mm_rsqrt_ss, x);
+}
+
+// Rounded to an integral value by the rounding instruction, with its control values.
+enum class direction { nearest = 0, down = 1, up = 2, zero = 3, current = 4, current_quietly = 12 };
+template <direction D, class T, int W>
+LANEMATH_INLINE lanes<T, W> round_to(const lanes<T, W>& x) {
+  if constexpr (sizeof(T) == 4)
+    return lanes_detail::instruction([](__m128 v) LANEMATH_LAMBDA { return _mm_round_ps(v, int(D)); },
+                                     [](__m128 v) LANEMATH_LAMBDA { return _mm_round_ss(v, v, int(D)); }, x);
+  else
+    return lanes_detail::instruction([](__m128d v) LANEMATH_LAMBDA { return _mm_round_pd(v, int(D)); },
+                                     [](__m128d v) LANEMATH_LAMBDA { return _mm_round_sd(v, v, int(D)); }, x);
+}
+
+// Lanes of another type, by value. To integers: in the direction in force, and `truncate` toward zero; what does not
+// fit is 0x80000000. To a narrower floating type: in the direction in force.
+namespace lanes_detail {
+
+template <class U, bool Truncate, class T>
+LANEMATH_INLINE auto convert_group(T v) {
+  if constexpr (std::is_same_v<U, double>) {
+    if constexpr (std::is_same_v<T, __m128>)
+      return _mm_cvtps_pd(v);
+    else
+      return _mm_cvtepi32_pd(v);
+  } else if constexpr (std::is_same_v<U, float>) {
+    if constexpr (std::is_same_v<T, __m128d>)
+      return _mm_cvtpd_ps(v);
+    else
+      return _mm_cvtepi32_ps(v);
+  } else if constexpr (std::is_same_v<T, __m128>) {
+    return Truncate ? _mm_cvttps_epi32(v) : _mm_cvtps_epi32(v);
+  } else {
+    return Truncate ? _mm_cvttpd_epi32(v) : _mm_cvtpd_epi32(v);
+  }
+}
+
+template <class T>
+using register_of = std::conditional_t<std::is_integral_v<T>, __m128i, packed<T>>;
+
+template <class U, bool Truncate, class T, int W>
+LANEMATH_INLINE lanes<U, W> convert(const lanes<T, W>& v) {
+  lanes<U, W> result;
+  using from = register_of<T>;
+  using to = typename lanes<U, W>::group;
+  if constexpr (W == 1) {
+    if constexpr (std::is_floating_point_v<U>)
+      result.g[0] = U(v.g[0]);
+    else if constexpr (sizeof(T) == 4)
+      result.g[0] = Truncate ? _mm_cvttss_si32(_mm_set_ss(v.g[0])) : _mm_cvtss_si32(_mm_set_ss(v.g[0]));
+    else
+      result.g[0] = Truncate ? _mm_cvttsd_si32(_mm_set_sd(v.g[0])) : _mm_cvtsd_si32(_mm_set_sd(v.g[0]));
+  } else if constexpr (sizeof(U) == sizeof(T)) {
+    for (int i = 0; i < result.groups; ++i)
+      result.g[i] = std::bit_cast<to>(convert_group<U, Truncate>(std::bit_cast<from>(v.g[i])));
+  } else if constexpr (sizeof(U) == 8) {
+    for (int i = 0; i < result.groups; ++i) {
+      const auto whole = std::bit_cast<__m128i>(v.g[i / 2]);
+      const auto half = std::bit_cast<from>(i % 2 ? _mm_unpackhi_epi64(whole, whole) : whole);
+      result.g[i] = std::bit_cast<to>(convert_group<U, Truncate>(half));
+    }
+  } else {
+    for (int i = 0; i < result.groups; ++i) {
+      const auto half = [&](int k) LANEMATH_LAMBDA {
+        return std::bit_cast<__m128i>(convert_group<U, Truncate>(std::bit_cast<from>(v.g[k])));
+      };
+      const auto low = half(2 * i);
+      result.g[i] = std::bit_cast<to>(W == 2 ? low : _mm_unpacklo_epi64(low, half(2 * i + 1)));
+    }
+  }
+  return result;
+}
+
+}  // namespace lanes_detail
+
+template <class U, class T, int W>
+LANEMATH_INLINE lanes<U, W> convert(const lanes<T, W>& v) {
+  return lanes_detail::convert<U, false>(v);
+}
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> truncate(const lanes<T, W>& v) {
+  return lanes_detail::convert<std::int32_t, true>(v);
+}
+
 // A table entry of a high and a low part, side by side so that one load brings both.
 template <class T>
 struct two_part {
@@ -262,27 +404,70 @@ struct looked_up {
   V hi, lo;
 };
 
+namespace lanes_detail {
+
+// The four indices of a group of 32-bit ones, two at a time.
+struct index_pair {
+  std::uint32_t first, second;
+  LANEMATH_INLINE explicit index_pair(long long both)
+      : first(std::uint32_t(both)), second(std::uint32_t(std::uint64_t(both) >> 32)) {}
+};
+template <int W>
+LANEMATH_INLINE index_pair indices(const lanes<std::int32_t, W>& index, int pair) {
+  const auto group = std::bit_cast<__m128i>(index.g[pair / 2]);
+  return index_pair(pair % 2 ? _mm_extract_epi64(group, 1) : _mm_cvtsi128_si64(group));
+}
+
+}  // namespace lanes_detail
+
 // The entries at the lanes' indices, which must all be inside the table. One load a lane.
 template <class T, std::size_t Size, int W>
 LANEMATH_INLINE looked_up<lanes<T, W>> look_up(const two_part<T> (&table)[Size], const lanes<std::int32_t, W>& index) {
   looked_up<lanes<T, W>> result;
+  using group = typename lanes<T, W>::group;
   if constexpr (W == 1) {
     const auto& entry = table[std::uint32_t(index.g[0])];
     result.hi = entry.hi;
     result.lo = entry.lo;
-  } else {
-    static_assert(sizeof(T) == 4);
-    for (int i = 0; i < index.groups; ++i) {
-      const auto j = std::bit_cast<__m128i>(index.g[i]);
-      const auto two = [&](std::uint64_t first_and_second) LANEMATH_LAMBDA {
-        const auto first = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&table[std::uint32_t(first_and_second)]));
-        return _mm_loadh_pi(_mm_castsi128_ps(first), reinterpret_cast<const __m64*>(&table[first_and_second >> 32]));
+  } else if constexpr (sizeof(T) == 4) {
+    for (int i = 0; i < result.hi.groups; ++i) {
+      const auto two = [&](lanes_detail::index_pair at) LANEMATH_LAMBDA {
+        const auto first = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&table[at.first]));
+        return _mm_loadh_pi(_mm_castsi128_ps(first), reinterpret_cast<const __m64*>(&table[at.second]));
       };
-      const auto low = two(std::uint64_t(_mm_cvtsi128_si64(j)));
-      const auto high = W == 2 ? low : two(std::uint64_t(_mm_extract_epi64(j, 1)));
-      using group = typename lanes<T, W>::group;
+      const auto low = two(lanes_detail::indices(index, 2 * i));
+      const auto high = W == 2 ? low : two(lanes_detail::indices(index, 2 * i + 1));
       result.hi.g[i] = std::bit_cast<group>(_mm_shuffle_ps(low, high, _MM_SHUFFLE(2, 0, 2, 0)));
       result.lo.g[i] = std::bit_cast<group>(_mm_shuffle_ps(low, high, _MM_SHUFFLE(3, 1, 3, 1)));
+    }
+  } else {
+    for (int i = 0; i < result.hi.groups; ++i) {
+      const auto at = lanes_detail::indices(index, i);
+      const auto first = _mm_loadu_pd(&table[at.first].hi), second = _mm_loadu_pd(&table[at.second].hi);
+      result.hi.g[i] = std::bit_cast<group>(_mm_unpacklo_pd(first, second));
+      result.lo.g[i] = std::bit_cast<group>(_mm_unpackhi_pd(first, second));
+    }
+  }
+  return result;
+}
+
+// The same for a table of single values.
+template <class T, std::size_t Size, int W>
+LANEMATH_INLINE lanes<T, W> look_up(const T (&table)[Size], const lanes<std::int32_t, W>& index) {
+  lanes<T, W> result;
+  if constexpr (W == 1) {
+    result = table[std::uint32_t(index.g[0])];
+  } else if constexpr (sizeof(T) == 4) {
+    for (int i = 0; i < result.groups; ++i) {
+      const auto low = lanes_detail::indices(index, 2 * i);
+      const auto high = W == 2 ? low : lanes_detail::indices(index, 2 * i + 1);
+      result.g[i] =
+          typename lanes<T, W>::group{table[low.first], table[low.second], table[high.first], table[high.second]};
+    }
+  } else {
+    for (int i = 0; i < result.groups; ++i) {
+      const auto at = lanes_detail::indices(index, i);
+      result.g[i] = typename lanes<T, W>::group{table[at.first], table[at.second]};
     }
   }
   return result;

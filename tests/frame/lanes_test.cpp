@@ -127,14 +127,44 @@ TEST(Lanes, GoBetweenLanesOf32And64Bits) {
   });
 }
 
-TEST(Lanes, LookUpBothPartsOfEveryLanesEntry) {
-  static constexpr two_part<float> table[4] = {{1, 10}, {2, 20}, {3, 30}, {4, 40}};
+TYPED_TEST(FloatingLanes, LookUpEveryLanesEntry) {
+  using T = TypeParam;
+  static constexpr two_part<T> table[4] = {{1, 10}, {2, 20}, {3, 30}, {4, 40}};
+  static constexpr T plain[4] = {5, 6, 7, 8};
   std::array<std::int32_t, 16> index;
   for (int i = 0; i < 16; ++i) index[i] = (i * 7 + 1) % 4;
   at_every_width([&](auto width) {
     const auto [hi, lo] = look_up(table, load<std::int32_t, width>(index));
     expect_lanes(hi, [&](int i) { return table[index[i]].hi; });
     expect_lanes(lo, [&](int i) { return table[index[i]].lo; });
+    expect_lanes(look_up(plain, load<std::int32_t, width>(index)), [&](int i) { return plain[index[i]]; });
+  });
+}
+
+TYPED_TEST(FloatingLanes, RoundPickAndConvertAsTheProcessorDoes) {
+  using T = TypeParam;
+  std::array<T, 16> a = some_values<T>(), b;
+  for (auto& each : a) each /= 4;
+  for (int i = 0; i < 16; ++i) {
+    b[i] = a[(i + 3) % 16];
+  }
+  b[5] = -a[4], b[9] = a[9];
+  at_every_width([&](auto width) {
+    const auto x = load<T, width>(a), y = load<T, width>(b);
+    expect_lanes(minimum(x, y), [&](int i) { return a[i] < b[i] ? a[i] : b[i]; });
+    expect_lanes(maximum(x, y), [&](int i) { return a[i] > b[i] ? a[i] : b[i]; });
+    expect_lanes(round_to<direction::nearest>(x), [&](int i) { return std::nearbyint(a[i]); });
+    expect_lanes(round_to<direction::up>(x), [&](int i) { return std::ceil(a[i]); });
+    expect_lanes(square_root(x * x), [&](int i) { return std::sqrt(a[i] * a[i]); });
+
+    const auto integer = [&](T v) { return std::isfinite(v) ? std::int32_t(v) : INT32_MIN; };
+    expect_lanes(truncate(x), [&](int i) { return integer(std::trunc(a[i])); });
+    expect_lanes(convert<std::int32_t>(x), [&](int i) { return integer(std::nearbyint(a[i])); });
+    expect_lanes(convert<T>(truncate(x)), [&](int i) { return T(integer(std::trunc(a[i]))); });
+    if constexpr (sizeof(T) == 4)
+      expect_lanes(convert<double>(x), [&](int i) { return double(a[i]); });
+    else
+      expect_lanes(convert<float>(x), [&](int i) { return float(a[i]); });
   });
 }
 
