@@ -9,6 +9,9 @@
 //     static constexpr auto rare = expf_rare;                              // the scalar routine for one lane
 //   };
 //
+// Where the rare test looks at what the kernel computes on the way, marked_kernel stands in place of kernel and
+// rare_test and returns both, made by `marked`.
+//
 // A kernel-only operation has no rare_test; an always-scalar one says `always_scalar = true` instead. With
 // two results the signature's result is through_pointer<T, U> or pair_of<T, U>, kernel returns two_results,
 // and fix_up and the rare routine take the second result after the first.
@@ -42,6 +45,12 @@ struct two_results {
   First first;
   Second second;
 };
+
+// What marked_kernel returns: the kernel's result and the mask of lanes not to be trusted.
+template <class V, class M>
+LANEMATH_INLINE two_results<V, M> marked(const V& result, const M& rare) {
+  return {result, rare};
+}
 
 // What an operation of one argument inherits whose rare lanes are those above a magnitude.
 template <class Signature, auto Routine, std::int32_t Bound>
@@ -174,25 +183,35 @@ constexpr int groups_at_once() {
     return 4;
 }
 
+// Mends the marked lanes of the kernel's result.
+template <class Op, class Y, class M, class... X>
+LANEMATH_INLINE void settle(M rare, Y& y, const X&... x) {
+  if (any(rare)) [[unlikely]] {
+    if constexpr (requires { Op::fix_up(x..., y, rare); })
+      Op::fix_up(x..., y, rare);
+    else if constexpr (requires { Op::fix_up(x..., y.first, y.second, rare); })
+      Op::fix_up(x..., y.first, y.second, rare);
+    if (const unsigned mask = mask_bits(rare)) y = mended<Op>(mask, y, x...);
+  }
+}
+
 template <class Op, int W, class... X>
 LANEMATH_INLINE auto evaluate(const X&... x) {
   // Never less than a group of the narrowest lanes.
   constexpr int piece = std::max(4, groups_at_once<Op>() * 16 / int(border<typename Op::signature>::widest_lane));
-  auto y = in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::kernel(v...); }, x...);
-
-  if constexpr (requires { Op::always_scalar; }) {
-    y = mended<Op>((1u << W) - 1, y, x...);
-  } else if constexpr (requires { Op::rare_test(x...); }) {
-    auto rare = in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::rare_test(v...); }, x...);
-    if (any(rare)) [[unlikely]] {
-      if constexpr (requires { Op::fix_up(x..., y, rare); })
-        Op::fix_up(x..., y, rare);
-      else if constexpr (requires { Op::fix_up(x..., y.first, y.second, rare); })
-        Op::fix_up(x..., y.first, y.second, rare);
-      if (const unsigned mask = mask_bits(rare)) y = mended<Op>(mask, y, x...);
-    }
+  if constexpr (requires { Op::marked_kernel(x...); }) {
+    auto [y, rare] = in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::marked_kernel(v...); }, x...);
+    settle<Op>(rare, y, x...);
+    return y;
+  } else {
+    auto y = in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::kernel(v...); }, x...);
+    if constexpr (requires { Op::always_scalar; })
+      y = mended<Op>((1u << W) - 1, y, x...);
+    else if constexpr (requires { Op::rare_test(x...); })
+      settle<Op>(in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::rare_test(v...); }, x...), y,
+                 x...);
+    return y;
   }
-  return y;
 }
 
 template <std::size_t Index, class T>

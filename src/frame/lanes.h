@@ -473,6 +473,41 @@ LANEMATH_INLINE lanes<T, W> look_up(const T (&table)[Size], const lanes<std::int
   return result;
 }
 
+// An entry of three values in the room of four, so that one load brings them all.
+template <class T>
+struct alignas(4 * sizeof(T)) triple {
+  T first, second, third;
+};
+template <class V>
+struct looked_up_triple {
+  V first, second, third;
+};
+
+template <std::size_t Size, int W>
+LANEMATH_INLINE looked_up_triple<lanes<float, W>> look_up(const triple<float> (&table)[Size],
+                                                          const lanes<std::int32_t, W>& index) {
+  looked_up_triple<lanes<float, W>> result;
+  if constexpr (W == 1) {
+    const auto& entry = table[std::uint32_t(index.g[0])];
+    result.first = entry.first;
+    result.second = entry.second;
+    result.third = entry.third;
+  } else {
+    using group = typename lanes<float, W>::group;
+    for (int i = 0; i < result.first.groups; ++i) {
+      const auto low = lanes_detail::indices(index, 2 * i);
+      const auto high = W == 2 ? low : lanes_detail::indices(index, 2 * i + 1);
+      const auto entry = [&](std::uint32_t at) LANEMATH_LAMBDA { return _mm_load_ps(&table[at].first); };
+      const auto a = entry(low.first), b = entry(low.second), c = entry(high.first), d = entry(high.second);
+      const auto ab = _mm_unpacklo_ps(a, b), cd = _mm_unpacklo_ps(c, d);
+      result.first.g[i] = std::bit_cast<group>(_mm_movelh_ps(ab, cd));
+      result.second.g[i] = std::bit_cast<group>(_mm_movehl_ps(cd, ab));
+      result.third.g[i] = std::bit_cast<group>(_mm_movelh_ps(_mm_unpackhi_ps(a, b), _mm_unpackhi_ps(c, d)));
+    }
+  }
+  return result;
+}
+
 // A value that the optimiser cannot see through, for a step that exists for its effect (the quieting of a NaN
 // by x * 1.0, an overflow that depends on the direction in force) and would otherwise be folded away.
 LANEMATH_INLINE float opaque(float v) {

@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 #include <mpfr.h>
 
+#include <array>
 #include <cstdio>
 #include <string_view>
 #include <type_traits>
@@ -64,6 +65,14 @@ class table_writer {
     table(name, meaning, fmt::format("two_part<{}>", type<T>()), size, [&](int j) {
       const auto [hi, lo] = entry(j);
       return fmt::format("{{{}, {}}}", literal(T(hi)), literal(T(lo)));
+    });
+  }
+  // entry(j) is an array of three.
+  template <class T, class F>
+  void triples(std::string_view name, std::string_view meaning, int size, F entry) {
+    table(name, meaning, fmt::format("triple<{}>", type<T>()), size, [&](int j) {
+      const std::array<T, 3> e = entry(j);
+      return fmt::format("{{{}, {}, {}}}", literal(e[0]), literal(e[1]), literal(e[2]));
     });
   }
 
