@@ -200,7 +200,8 @@ LANEMATH_INLINE auto evaluate(const X&... x) {
   // Never less than a group of the narrowest lanes.
   constexpr int piece = std::max(4, groups_at_once<Op>() * 16 / int(border<typename Op::signature>::widest_lane));
   if constexpr (requires { Op::marked_kernel(x...); }) {
-    auto [y, rare] = in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::marked_kernel(v...); }, x...);
+    auto [y, rare] =
+        in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::marked_kernel(v...); }, x...);
     settle<Op>(rare, y, x...);
     return y;
   } else {

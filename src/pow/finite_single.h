@@ -1,0 +1,129 @@
+// The scalar power of a finite base that is not zero and a finite exponent, in pairs of floats: log2 |x| by three
+// stages of short reciprocals and a cubic, 2^v by a table of 128 pairs and a cubic.
+#pragma once
+
+#include "pow/special_cases.h"
+#include "tables/pow.h"
+
+namespace lanemath::powers {
+
+// A value in two parts of 12 bits.
+struct split_float {
+  float hi, lo;
+  explicit split_float(float v) {
+    const float scaled = v * 4097.0f;
+    hi = scaled - (scaled - v);
+    lo = v - hi;
+  }
+};
+
+inline exponent<float> exponent_of(float y) {
+  const split_float parts(y);
+  return {y, parts.hi, parts.lo};
+}
+// What a float cannot hold of n goes to the low part.
+inline exponent<float> exponent_of(std::int32_t n) {
+  const float y = float(n);
+  const split_float parts(y);
+  return {y, parts.hi, parts.lo + float(std::int64_t(n) - std::int64_t(y))};
+}
+inline exponent<float> reciprocal_exponent(std::int32_t n, float) {
+  const float y = float(n);
+  const float value = 1.0f / y;
+  const float hi = split_float(value).hi;
+  const float d = 1.0f - y * hi;
+  return {value, hi, d * (1.0f + d) * hi};
+}
+
+// How the last sums go together: each operation has its own order.
+enum class product_sum { before_rounding, high_only };
+enum class denormal_sum { scaled_then_signed, scaled_with_sign, each_scaled_with_sign };
+
+template <product_sum Product, denormal_sum Denormal>
+float finite_power(float x, const exponent<float>& y, float sign) {
+  constexpr float tiny = 0x00800000_f32, huge = 0x7F000000_f32;
+
+  float ax = without_sign(x);
+  int adjustment = 0;
+  if (biased_exponent(x) == 0) {
+    ax *= 0x5F800000_f32;  // 2^64
+    adjustment = -64;
+  }
+  const auto b = std::int32_t(pattern_of(ax));
+  const float M = value_of<float>((pattern_of(ax) & 0x007FFFFF) | 0x3F800000);
+  const float K = float(((b - 0x3F380000) >> 23) + adjustment);
+
+  const auto index = [](float v, std::uint32_t mask, std::uint32_t half, int shift) {
+    return ((pattern_of(v) & mask) + half) >> shift;
+  };
+  const auto [r1, hi1, lo1] = log2_stage_1[index(M, 0x00780000, 0x00080000, 20)];
+  const float z1 = M * r1;
+  const float S1 = hi1 + K;
+  const float c1 = hi1 + (K - S1);
+  const auto [r2, hi2, lo2] = log2_stage_2[index(z1, 0x001E0000, 0x00020000, 18)];
+  const float z2 = z1 * r2;
+  const float S2 = S1 + hi2;
+  const float c2 = (S1 - S2) + hi2;
+  const auto [r3, hi3, lo3] = log2_stage_3[index(z2, 0x0007C000, 0x00004000, 15)];
+  const float z3 = z2 * r3;
+  const float S3 = S2 + hi3;
+  const float c3 = (S2 - S3) + hi3;
+  const float R = r1 * r2 * r3;  // exact
+  float C = ((((c1 + c2) + c3) + lo1) + lo2) + lo3;
+
+  const float s0 = z3 - 0x3FB88000_f32;
+  const split_float m(M), r(R);
+  const float d = (((m.hi * r.hi - z3) + r.hi * m.lo) + m.hi * r.lo) + m.lo * r.lo;
+  const float H = s0 + S3;
+  const float c4 = (S3 - H) + s0;
+
+  const int size = biased_exponent(y.value) + biased_exponent(H);
+  if (size >= 265) return square(has_sign(y.value) != has_sign(H) ? tiny : huge) * sign;
+  if (size < 193) return (1.0f + opaque(tiny)) * sign;
+
+  const float s = s0 + d;
+  C = C + (d + c4);
+  const float pol = (((0xBDAB1EA1_f32 * s + 0x3E246F69_f32) * s + 0xBEB1C35D_f32) * s + 0x3A6A6369_f32) * s;
+  const float A = H + pol;
+  const float a = (H - A) + pol;
+  const float B = A + C;
+  const float b_low = (A - B) + C;
+  const split_float log(B);
+
+  constexpr float shifter = 0x47C00000_f32;  // 98304: leaves 7 fraction bits
+  const float p = y.hi * log.hi;
+  float G, rest;
+  if constexpr (Product == product_sum::before_rounding) {
+    const float q = y.hi * log.lo + log.hi * y.lo;
+    const float T = p + q;
+    G = shifter + T;
+    rest = ((b_low + a) * y.value) + (((p - T) + q) + log.lo * y.lo) + (T - (G - shifter));
+  } else {
+    G = shifter + p;
+    rest = ((b_low + a) * y.value) + (log.lo * y.lo + y.hi * log.lo + log.hi * y.lo) + (p - (G - shifter));
+  }
+  const auto [power_hi, power_lo] = exp2_short_128[pattern_of(G) & 127];
+  const int n = std::int32_t(pattern_of(G) << 10) >> 17;
+  const float v = ((0x3D635847_f32 * rest + 0x3E75FDF0_f32) * rest + 0x3F317218_f32) * rest * power_hi + power_lo;
+  const float E = v + power_hi;
+
+  const int f = biased_exponent(E) + n - 127;
+  if (f >= 128) return square(huge) * sign;
+  if (f >= -126) return value_of<float>((pattern_of(E) & 0x007FFFFF) | std::uint32_t(f + 127) << 23) * sign;
+  if (f < -159) return square(tiny) * sign;
+  constexpr float down = 0x1F800000_f32;  // 2^-64
+  const float scale = value_of<float>((std::uint32_t(n + 191) & 255) << 23);
+  if (f < -136) return (E * scale) * (sign * down) + square(tiny);
+  const float low = (power_hi - E) + v;
+  const split_float whole(E);
+  const float high_sum = whole.hi * scale;
+  const float low_sum = (low + whole.lo) * scale;
+  if constexpr (Denormal == denormal_sum::scaled_then_signed)
+    return ((high_sum + low_sum) * down + square(tiny)) * sign;
+  else if constexpr (Denormal == denormal_sum::scaled_with_sign)
+    return (sign * down) * (high_sum + low_sum) + square(tiny);
+  else
+    return (high_sum * (sign * down) + low_sum * (sign * down)) + square(tiny);
+}
+
+}  // namespace lanemath::powers

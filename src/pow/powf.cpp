@@ -1,0 +1,41 @@
+// x^y, single precision.
+//
+// Default: y ln x in double, by a table of logarithms for every integer reciprocal and a cubic; e^s by a table of 2048
+// entries and a chord; one rounding to float, which makes infinities and denormals as well. Light form (_native, _rm):
+// polynomials in single floats. Rare lanes in pairs of floats.
+//
+// MEASURED
+#include "pow/finite_single.h"
+#include "pow/single.h"
+#include "pow/widened.h"
+
+namespace lanemath {
+namespace {
+
+constexpr std::int32_t RARE = 0x4059FE36;  // 103.972, 150 ln 2: infinities and denormals are within
+
+LANEMATH_RARE powf_rare(const float* px, const float* py, float* pz) {
+  using namespace powers;
+  return power_lane(*px, *py, *pz, [&](float x, float sign) {
+    return finite_power<product_sum::before_rounding, denormal_sum::scaled_then_signed>(x, exponent_of(*py), sign);
+  });
+}
+
+struct powf_standard {
+  using signature = float(float, float);
+  static constexpr auto rare = powf_rare;
+  template <class V>
+  static auto marked_kernel(V x, V y) {
+    const auto s = widened_product(taken_apart(x), convert<double>(y));
+    return marked(convert<float>(widened_exp(s)),
+                  beyond_plain(bits(x)) | magnitude_above(y, LARGEST) | magnitude_above(s, RARE));
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, powf, powf_standard, )
+LANEMATH_EXPORT(binary, powf, short_powf<powf_rare>, _native)
+LANEMATH_SAME(powf, _native, _rm)
+
+}  // namespace lanemath

@@ -1,0 +1,47 @@
+// x^n for an integer n, double precision: the kernels of pow on the magnitude of x; n is exact as a double. Rare lanes
+// in pairs of doubles.
+//
+// MEASURED
+#include "pow/double.h"
+#include "pow/finite_double.h"
+#include "pow/widened.h"
+
+namespace lanemath {
+namespace {
+
+LANEMATH_RARE pown_rare(const double* px, const std::int32_t* pn, double* pz) {
+  using namespace powers;
+  return power_lane(*px, *pn, *pz,
+                    [&](double x, double sign) { return finite_power(x, powers::exponent_of(double(*pn)), sign); });
+}
+
+struct pown_guards {
+  using signature = double(double, std::int32_t);
+  static constexpr auto rare = pown_rare;
+};
+
+struct pown_standard : pown_guards {
+  template <class V, class N>
+  static auto marked_kernel(V x, N n) {
+    const V ax = magnitude(x);
+    const auto [z, rare] = double_power(ax, exponent_of(convert<double>(n)));
+    return marked(with_sign(z, odd_sign(upper(x), n)), rare | beyond_plain_upper(upper(ax)));
+  }
+};
+
+struct pown_native : pown_guards {
+  template <class V, class N>
+  static auto marked_kernel(V x, N n) {
+    const V ax = magnitude(x);
+    const V s = widened_product(taken_apart(ax), convert<double>(n));
+    return marked(with_sign(widened_exp(s), odd_sign(upper(x), n)),
+                  magnitude_above(s, WIDENED_RANGE) | beyond_plain_upper(upper(ax)));
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, pown, pown_standard, )
+LANEMATH_EXPORT(binary, pown, pown_native, _native)
+
+}  // namespace lanemath

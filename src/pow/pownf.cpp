@@ -1,0 +1,63 @@
+// x^n for an integer n, single precision.
+//
+// Default: the kernel of powrf on the magnitude of x, with the bits of n that a float cannot hold in the exponent's
+// low part. Light form (_native): polynomials in single floats. Neither has 1 as its constant term, so that x^0 and
+// 1^n are next to 1 and not 1. Rare lanes in pairs of floats.
+//
+// MEASURED
+#include "pow/finite_single.h"
+#include "pow/single.h"
+
+namespace lanemath {
+namespace {
+
+constexpr split_exp_rows pownf_table{
+    .c0 = 0x3F800001_f32,
+    .c1 = 0x3F800001_f32,
+    .c2 = 0x3EFFFE85_f32,
+    .c3 = 0x3E2AA9C6_f32,
+    .c4 = 0x3D2BB1B6_f32,
+    .c5 = 0x3C0950EF_f32,
+};
+
+constexpr std::int32_t RARE = 0x42AE9A00;  // 87.30078
+
+LANEMATH_RARE pownf_rare(const float* px, const std::int32_t* pn, float* pz) {
+  using namespace powers;
+  return power_lane(*px, *pn, *pz, [&](float x, float sign) {
+    return finite_power<product_sum::high_only, denormal_sum::scaled_with_sign>(x, exponent_of(*pn), sign);
+  });
+}
+
+struct pownf_guards {
+  using signature = float(float, std::int32_t);
+  static constexpr auto rare = pownf_rare;
+};
+
+struct pownf_standard : pownf_guards {
+  template <class V, class N>
+  static auto marked_kernel(V x, N n) {
+    const auto b = bits(magnitude(x));
+    const V y = convert<float>(n);
+    const V hi = high_part(y);
+    const V lo = (y - hi) + convert<float>(n - convert<std::int32_t>(y));
+    const auto [z, rare] = split_power(b, {hi, lo}, pownf_table, RARE);
+    return marked(with_sign(z, odd_sign(bits(x), n)), rare | beyond_plain(b));
+  }
+};
+
+struct pownf_native : pownf_guards {
+  template <class V, class N>
+  static auto marked_kernel(V x, N n) {
+    const auto b = bits(magnitude(x));
+    const auto [z, rare] = short_power(b, convert<float>(n), short_exp_integer_table);
+    return marked(with_sign(z, odd_sign(bits(x), n)), rare | beyond_plain(b));
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, pownf, pownf_standard, )
+LANEMATH_EXPORT(binary, pownf, pownf_native, _native)
+
+}  // namespace lanemath

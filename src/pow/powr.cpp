@@ -1,0 +1,21 @@
+// x^y for x >= 0, double precision: the kernels of pow; other special cases.
+//
+// MEASURED
+#include "pow/double.h"
+#include "pow/finite_double.h"
+#include "pow/widened.h"
+
+namespace lanemath {
+namespace {
+
+LANEMATH_RARE powr_rare(const double* px, const double* py, double* pz) {
+  using namespace powers;
+  return powr_lane(*px, *py, *pz, [&](double x) { return finite_power(x, powers::exponent_of(*py), 1.0); });
+}
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, powr, double_pow<powr_rare>, )
+LANEMATH_EXPORT(binary, powr, widened_pow<powr_rare>, _native)
+
+}  // namespace lanemath

@@ -1,0 +1,39 @@
+// x^y for x >= 0, single precision.
+//
+// Default: ln x in two floats, by a table of 65 short reciprocals and a cubic; the product with y in two parts; e^r by
+// a quintic. Light form (_native, _half): that of powf. Rare lanes in pairs of floats.
+//
+// MEASURED
+#include "pow/finite_single.h"
+#include "pow/single.h"
+
+namespace lanemath {
+namespace {
+
+constexpr std::int32_t RARE = 0x42819F00;  // 64.81055, less than the kernel could serve
+
+LANEMATH_RARE powrf_rare(const float* px, const float* py, float* pz) {
+  using namespace powers;
+  return powr_lane(*px, *py, *pz, [&](float x) {
+    return finite_power<product_sum::high_only, denormal_sum::each_scaled_with_sign>(x, exponent_of(*py), 1.0f);
+  });
+}
+
+struct powrf_standard {
+  using signature = float(float, float);
+  static constexpr auto rare = powrf_rare;
+  template <class V>
+  static auto marked_kernel(V x, V y) {
+    const V hi = high_part(y);
+    const auto [z, rare] = split_power(bits(x), {hi, y - hi}, split_exp_table, RARE);
+    return marked(z, rare | beyond_plain(bits(x)) | magnitude_above(y, LARGEST));
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, powrf, powrf_standard, )
+LANEMATH_EXPORT(binary, powrf, short_powf<powrf_rare>, _native)
+LANEMATH_SAME(powrf, _native, _half)
+
+}  // namespace lanemath

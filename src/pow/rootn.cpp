@@ -1,0 +1,56 @@
+// The n-th root of x, x^(1/n), double precision: the kernels of pow on the magnitude of x, with 1/n in two parts; the
+// light form (_native) takes 1/n in one. Rare lanes in pairs of doubles.
+//
+// MEASURED
+#include "pow/double.h"
+#include "pow/finite_double.h"
+#include "pow/widened.h"
+
+namespace lanemath {
+namespace {
+
+LANEMATH_RARE rootn_rare(const double* px, const std::int32_t* pn, double* pz) {
+  using namespace powers;
+  return rootn_lane(*px, *pn, *pz, [&](double x) { return finite_power(x, reciprocal_exponent(*pn, x), 1.0); });
+}
+
+struct rootn_guards {
+  using signature = double(double, std::int32_t);
+  static constexpr auto rare = rootn_rare;
+};
+
+struct rootn_standard : rootn_guards {
+  template <class V, class N>
+  static auto marked_kernel(V x, N n) {
+    const V ax = magnitude(x);
+    const V y = convert<double>(n);
+    const V value = 1.0 / y;
+    const V scaled = value * 0x41A0000002000000_f64;  // 2^27 + 1
+    const V hi = scaled - (scaled - value);
+    const V d = 1.0 - y * hi;
+    const V lo = d * (d + 1.0) * hi;
+    const auto [z, rare] = double_power(ax, {value, hi, lo});
+    return marked(with_sign(z, odd_sign(upper(x), n)), rare | beyond_plain_upper(upper(ax)) |
+                                                           magnitude_above(value, LARGEST) |
+                                                           even_root_of_negative(upper(x), n));
+  }
+};
+
+struct rootn_native : rootn_guards {
+  template <class V, class N>
+  static auto marked_kernel(V x, N n) {
+    const V ax = magnitude(x);
+    const V y = 1.0 / convert<double>(n);
+    const V s = widened_product(taken_apart(ax), y);
+    return marked(with_sign(widened_exp(s), odd_sign(upper(x), n)),
+                  magnitude_above(s, WIDENED_RANGE) | beyond_plain_upper(upper(ax)) | magnitude_above(y, LARGEST) |
+                      even_root_of_negative(upper(x), n));
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, rootn, rootn_standard, )
+LANEMATH_EXPORT(binary, rootn, rootn_native, _native)
+
+}  // namespace lanemath

@@ -1,0 +1,57 @@
+// The n-th root of x, x^(1/n), single precision.
+//
+// Default: the kernel of powrf on the magnitude of x, with 1/n in two parts. Light form (_native): that of pownf, with
+// 1/n. Rare lanes in pairs of floats.
+//
+// MEASURED
+#include "pow/finite_single.h"
+#include "pow/single.h"
+
+namespace lanemath {
+namespace {
+
+constexpr std::int32_t RARE = 0x42AE9A00;  // 87.30078
+
+LANEMATH_RARE rootnf_rare(const float* px, const std::int32_t* pn, float* pz) {
+  using namespace powers;
+  return rootn_lane(*px, *pn, *pz, [&](float x) {
+    return finite_power<product_sum::high_only, denormal_sum::each_scaled_with_sign>(x, reciprocal_exponent(*pn, x),
+                                                                                     1.0f);
+  });
+}
+
+struct rootnf_guards {
+  using signature = float(float, std::int32_t);
+  static constexpr auto rare = rootnf_rare;
+};
+
+struct rootnf_standard : rootnf_guards {
+  template <class V, class N>
+  static auto marked_kernel(V x, N n) {
+    const auto b = bits(magnitude(x));
+    const V y = convert<float>(n);
+    const V hi = high_part(V(1.0f) / y);
+    const V d = 1.0f - y * hi;
+    const V lo = d * (d + 1.0f) * hi;
+    const auto [z, rare] = split_power(b, {hi, lo}, split_exp_table, RARE);
+    return marked(with_sign(z, odd_sign(bits(x), n)), rare | beyond_plain(b) | even_root_of_negative(bits(x), n));
+  }
+};
+
+struct rootnf_native : rootnf_guards {
+  template <class V, class N>
+  static auto marked_kernel(V x, N n) {
+    const auto b = bits(magnitude(x));
+    const V y = 1.0f / convert<float>(n);
+    const auto [z, rare] = short_power(b, y, short_exp_integer_table);
+    return marked(with_sign(z, odd_sign(bits(x), n)),
+                  rare | beyond_plain(b) | magnitude_above(y, LARGEST) | even_root_of_negative(bits(x), n));
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, rootnf, rootnf_standard, )
+LANEMATH_EXPORT(binary, rootnf, rootnf_native, _native)
+
+}  // namespace lanemath

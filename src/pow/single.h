@@ -1,0 +1,130 @@
+// The float kernels of the powers: in pairs of floats, and the short one.
+#pragma once
+
+#include "pow/marks.h"
+#include "tables/pow.h"
+
+namespace lanemath {
+
+// An exponent value in two parts, the high one of 12 bits.
+template <class V>
+struct split_exponent {
+  V hi, lo;
+};
+
+template <class V>
+V high_part(const V& v) {
+  const V scaled = v * 0x45800800_f32;  // 4097
+  return scaled - (scaled - v);
+}
+
+// e^r over a binade, in pairs.
+struct split_exp_rows {
+  float c0, c1, c2, c3, c4, c5;
+};
+inline constexpr split_exp_rows split_exp_table{
+    .c0 = 1.0f,
+    .c1 = 0x3F7FFFFE_f32,
+    .c2 = 0x3EFFFF34_f32,
+    .c3 = 0x3E2AACAC_f32,
+    .c4 = 0x3D2B8392_f32,
+    .c5 = 0x3C07D9FE_f32,
+};
+
+inline constexpr float LN2_HI = 0x3F317200_f32, LN2_LO = 0x35BFBE8E_f32, LOG2E = 0x3FB8AA3B_f32,
+                       SHIFTER = 0x4B400000_f32;  // 1.5 * 2^23
+
+// e^(y ln x) from the pattern of x, with the logarithm in two parts. Marked: beyond |y ln x| of the pattern `bound`.
+template <int W>
+auto split_power(const lanes<std::int32_t, W>& b, const split_exponent<lanes<float, W>>& y, const split_exp_rows& c,
+                 std::int32_t bound) {
+  using V = lanes<float, W>;
+
+  // ln x = E ln 2 - ln C + ln(1 + p)
+  const V E = convert<float>((b >> 23) - 127);
+  const V m = from_bits((b & 0x007FFFFF) | 0x3F800000);
+  const auto [A, B, C] = look_up(ln_65, ((b & 0x007F0000) + 0x00010000) >> 17);
+  const V mh = from_bits(bits(m) & 0x7FFFC000);
+  const V ml = m - mh;
+  const V t = mh * C - 1.0f;
+  const V a = A + t;
+  const V u = ml * C;
+  const V p = t + u;
+  const V q = ((p * 0xBE800000_f32 + 0x3EAAAAAB_f32) * p + 0xBF000000_f32) * (p * p);
+  V H = E * 0x3F317000_f32 + a;
+  V Lo = q + (E * 0x3805FDF4_f32 + B);
+  // Near 1 the high part is small, and what is left of m belongs to it.
+  const auto near_one = b + 0x407E0000 > 0x7FFC0000;
+  H = H + from_bits(bits(u) & near_one);
+  Lo = Lo + from_bits(bits(u) & ~near_one);
+
+  const V S = H + Lo;
+  const V scaled = S * 0x45800800_f32;
+  const V Lh = (S + scaled) - scaled;
+  const V Ll = Lo + (H - Lh);
+
+  const V P = Lh * y.hi;
+  const V R = y.hi * Ll + (Lh * y.lo + Ll * y.lo);
+  const V N = P * LOG2E + SHIFTER;
+  const V n = N - SHIFTER;
+  const V r = ((P - n * LN2_HI) - n * LN2_LO) + R;
+  const V e = ((((r * c.c5 + c.c4) * r + c.c3) * r + c.c2) * r + c.c1) * r + c.c0;
+  return marked(from_bits(bits(e) + (bits(N) << 23)), magnitude_above(P, bound));
+}
+
+// A cubic for e^r.
+struct short_exp_rows {
+  float c0, c1, c2, c3;
+};
+inline constexpr short_exp_rows short_exp_table{
+    .c0 = 1.0f,
+    .c1 = 0x3F8003DE_f32,
+    .c2 = 0x3F00F2D6_f32,
+    .c3 = 0x3E2963AC_f32,
+};
+// Of the ops with an integer exponent: the constant term is not 1.
+inline constexpr short_exp_rows short_exp_integer_table{
+    .c0 = 0x3F7FFB0D_f32,
+    .c1 = 0x3F7FFC0B_f32,
+    .c2 = 0x3F014935_f32,
+    .c3 = 0x3E2C359F_f32,
+};
+
+inline constexpr std::int32_t SHORT_RANGE = 0x42AE9A00;  // 87.30078
+
+// The same in single floats and without a table.
+template <int W>
+auto short_power(const lanes<std::int32_t, W>& b, const lanes<float, W>& y, const short_exp_rows& c) {
+  using V = lanes<float, W>;
+
+  // m lies in [2/3, 4/3).
+  const auto d = b - 0x3F2AAAAB;
+  const V K = convert<float>(d >> 23);
+  const V z = from_bits((d & 0x007FFFFF) + 0x3F2AAAAB) - 1.0f;
+  const V q =
+      ((((z * 0x3E2B350C_f32 + 0xBE424B46_f32) * z + 0x3E4B62C0_f32) * z + 0xBE7F0F0F_f32) * z + 0x3EAAAD03_f32) * z +
+      0xBF000000_f32;
+  const V p = z + q * (z * z);
+  const V L = K * LN2_HI + (K * LN2_LO + p);
+
+  const V s = L * y;
+  const V N = s * LOG2E + SHIFTER;
+  const V n = N - SHIFTER;
+  const V r = s - n * 0x3F317218_f32;
+  const V e = ((r * c.c3 + c.c2) * r + c.c1) * r + c.c0;
+  return marked(from_bits(bits(e) + (bits(N) << 23)), magnitude_above(s, SHORT_RANGE));
+}
+
+// The light form of powf and of powrf: they differ in the rare routine.
+template <auto Routine>
+struct short_powf {
+  using signature = float(float, float);
+  static constexpr auto rare = Routine;
+  template <class V>
+  static auto marked_kernel(V x, V y) {
+    const auto [z, rare] = short_power(bits(x), y, short_exp_table);
+    return marked(z, rare | beyond_plain(bits(x)) | magnitude_above(y, LARGEST));
+  }
+};
+
+}  // namespace lanemath
