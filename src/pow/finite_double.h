@@ -77,11 +77,11 @@ inline double scaled(two_doubles p, int n, double sign) {
   if (f > 1023) return square(huge) * sign;
   if (f >= -1022) return by_exponent(p.hi, n) * sign;
   if (f < -1084) return square(tiny) * sign;
-  // Rounds at the place of the smallest denormal.
-  const double shifter = by_exponent(1.5, -1022 - n);
+  // Rounds at the place of the smallest denormal: the sum stays in the binade of the shifter.
+  const double shifter = by_exponent(1.0, -1022 - n);
   const double sum = shifter + p.hi;
   const double rounded = sum + (((shifter - sum) + p.hi) + p.lo);
-  return by_exponent(rounded - shifter, 0) * by_exponent(1.0, n + 64) * (sign * 0x1p-64);
+  return (rounded - shifter) * by_exponent(1.0, n + 64) * (sign * 0x1p-64);
 }
 
 inline double finite_power(double x, two_doubles y, double sign) {
