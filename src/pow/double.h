@@ -13,11 +13,11 @@ struct exponent_parts {
 };
 
 template <class V>
-V short_part(const V& v) {
+LANEMATH_INLINE V short_part(const V& v) {
   return from_bits(bits(v) & std::int64_t(0xFFFFFFFFF8000000));
 }
 template <class V>
-exponent_parts<V> exponent_of(const V& y) {
+LANEMATH_INLINE exponent_parts<V> exponent_of(const V& y) {
   const V hi = short_part(y);
   return {y, hi, y - hi};
 }
@@ -26,7 +26,7 @@ inline constexpr std::int32_t RANGE = 0x408F3FFE;  // 999.9995
 
 // 2^(y log2 x) of a positive x.
 template <int W>
-auto double_power(const lanes<double, W>& x, const exponent_parts<lanes<double, W>>& y) {
+LANEMATH_INLINE auto double_power(const lanes<double, W>& x, const exponent_parts<lanes<double, W>>& y) {
   using V = lanes<double, W>;
   constexpr double scale = 0x3FF7154740000000_f64;  // of the reciprocals, near 1 / ln 2
 
@@ -82,7 +82,7 @@ struct double_pow {
   using signature = double(double, double);
   static constexpr auto rare = Routine;
   template <class V>
-  static auto marked_kernel(V x, V y) {
+  LANEMATH_INLINE static auto marked_kernel(V x, V y) {
     const auto [z, rare] = double_power(x, exponent_of(y));
     return marked(z, rare | beyond_plain_upper(upper(x)) | magnitude_above(y, LARGEST));
   }

@@ -8,12 +8,12 @@ namespace lanemath {
 // Patterns of floats outside the least normal up to just below the largest: zeros, denormals, infinities, NaNs, any
 // with the sign set, and the largest float.
 template <int W>
-auto beyond_plain(const lanes<std::int32_t, W>& pattern) {
+LANEMATH_INLINE auto beyond_plain(const lanes<std::int32_t, W>& pattern) {
   return pattern - std::int32_t(0x80800000) > std::int32_t(0xFEFFFFFE);
 }
 // The same of doubles by their upper words, the largest double being plain.
 template <int W>
-auto beyond_plain_upper(const lanes<std::int32_t, W>& word) {
+LANEMATH_INLINE auto beyond_plain_upper(const lanes<std::int32_t, W>& word) {
   return word + 0x00100000 < 0x00200000;
 }
 
@@ -21,27 +21,27 @@ constexpr std::int32_t LARGEST = 0x7F7FFFFF;  // infinities and NaNs are above, 
 
 // The bits of x that n lets through to the result's sign: all ones below a set sign bit where n is odd.
 template <int W>
-auto odd_sign(const lanes<std::int32_t, W>& x, const lanes<std::int32_t, W>& n) {
+LANEMATH_INLINE auto odd_sign(const lanes<std::int32_t, W>& x, const lanes<std::int32_t, W>& n) {
   return x & (n << 31);
 }
 // Lanes with the sign of x set and n even, which have no real root.
 template <int W>
-auto even_root_of_negative(const lanes<std::int32_t, W>& x, const lanes<std::int32_t, W>& n) {
+LANEMATH_INLINE auto even_root_of_negative(const lanes<std::int32_t, W>& x, const lanes<std::int32_t, W>& n) {
   return (x & ~(n << 31)) >> 31;
 }
 
 // y with a sign bit, given in the upper word, set as well.
 template <int W>
-auto with_sign(const lanes<float, W>& y, const lanes<std::int32_t, W>& sign) {
+LANEMATH_INLINE auto with_sign(const lanes<float, W>& y, const lanes<std::int32_t, W>& sign) {
   return from_bits(bits(y) | sign);
 }
 template <int W>
-auto with_sign(const lanes<double, W>& y, const lanes<std::int32_t, W>& sign) {
+LANEMATH_INLINE auto with_sign(const lanes<double, W>& y, const lanes<std::int32_t, W>& sign) {
   return from_bits(bits(y) | (widen(sign) << 32));
 }
 
 template <class T, int W>
-auto magnitude(const lanes<T, W>& x) {
+LANEMATH_INLINE auto magnitude(const lanes<T, W>& x) {
   constexpr auto mask = std::numeric_limits<int_of_size<sizeof(T)>>::max();
   return from_bits(bits(x) & mask);
 }

@@ -25,7 +25,7 @@ struct powf_standard {
   using signature = float(float, float);
   static constexpr auto rare = powf_rare;
   template <class V>
-  static auto marked_kernel(V x, V y) {
+  LANEMATH_INLINE static auto marked_kernel(V x, V y) {
     const auto s = widened_product(taken_apart(x), convert<double>(y));
     return marked(convert<float>(widened_exp(s)),
                   beyond_plain(bits(x)) | magnitude_above(y, LARGEST) | magnitude_above(s, RARE));

@@ -22,7 +22,7 @@ struct pown_guards {
 
 struct pown_standard : pown_guards {
   template <class V, class N>
-  static auto marked_kernel(V x, N n) {
+  LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const V ax = magnitude(x);
     const auto [z, rare] = double_power(ax, exponent_of(convert<double>(n)));
     return marked(with_sign(z, odd_sign(upper(x), n)), rare | beyond_plain_upper(upper(ax)));
@@ -31,7 +31,7 @@ struct pown_standard : pown_guards {
 
 struct pown_native : pown_guards {
   template <class V, class N>
-  static auto marked_kernel(V x, N n) {
+  LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const V ax = magnitude(x);
     const V s = widened_product(taken_apart(ax), convert<double>(n));
     return marked(with_sign(widened_exp(s), odd_sign(upper(x), n)),

@@ -36,7 +36,7 @@ struct pownf_guards {
 
 struct pownf_standard : pownf_guards {
   template <class V, class N>
-  static auto marked_kernel(V x, N n) {
+  LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const auto b = bits(magnitude(x));
     const V y = convert<float>(n);
     const V hi = high_part(y);
@@ -48,7 +48,7 @@ struct pownf_standard : pownf_guards {
 
 struct pownf_native : pownf_guards {
   template <class V, class N>
-  static auto marked_kernel(V x, N n) {
+  LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const auto b = bits(magnitude(x));
     const auto [z, rare] = short_power(b, convert<float>(n), short_exp_integer_table);
     return marked(with_sign(z, odd_sign(bits(x), n)), rare | beyond_plain(b));

@@ -23,7 +23,7 @@ struct powrf_standard {
   using signature = float(float, float);
   static constexpr auto rare = powrf_rare;
   template <class V>
-  static auto marked_kernel(V x, V y) {
+  LANEMATH_INLINE static auto marked_kernel(V x, V y) {
     const V hi = high_part(y);
     const auto [z, rare] = split_power(bits(x), {hi, y - hi}, split_exp_table, RARE);
     return marked(z, rare | beyond_plain(bits(x)) | magnitude_above(y, LARGEST));

@@ -21,7 +21,7 @@ struct rootn_guards {
 
 struct rootn_standard : rootn_guards {
   template <class V, class N>
-  static auto marked_kernel(V x, N n) {
+  LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const V ax = magnitude(x);
     const V y = convert<double>(n);
     const V value = 1.0 / y;
@@ -38,7 +38,7 @@ struct rootn_standard : rootn_guards {
 
 struct rootn_native : rootn_guards {
   template <class V, class N>
-  static auto marked_kernel(V x, N n) {
+  LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const V ax = magnitude(x);
     const V y = 1.0 / convert<double>(n);
     const V s = widened_product(taken_apart(ax), y);

@@ -27,7 +27,7 @@ struct rootnf_guards {
 
 struct rootnf_standard : rootnf_guards {
   template <class V, class N>
-  static auto marked_kernel(V x, N n) {
+  LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const auto b = bits(magnitude(x));
     const V y = convert<float>(n);
     const V hi = high_part(V(1.0f) / y);
@@ -40,7 +40,7 @@ struct rootnf_standard : rootnf_guards {
 
 struct rootnf_native : rootnf_guards {
   template <class V, class N>
-  static auto marked_kernel(V x, N n) {
+  LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const auto b = bits(magnitude(x));
     const V y = 1.0f / convert<float>(n);
     const auto [z, rare] = short_power(b, y, short_exp_integer_table);

@@ -13,7 +13,7 @@ struct split_exponent {
 };
 
 template <class V>
-V high_part(const V& v) {
+LANEMATH_INLINE V high_part(const V& v) {
   const V scaled = v * 0x45800800_f32;  // 4097
   return scaled - (scaled - v);
 }
@@ -36,8 +36,8 @@ inline constexpr float LN2_HI = 0x3F317200_f32, LN2_LO = 0x35BFBE8E_f32, LOG2E =
 
 // e^(y ln x) from the pattern of x, with the logarithm in two parts. Marked: beyond |y ln x| of the pattern `bound`.
 template <int W>
-auto split_power(const lanes<std::int32_t, W>& b, const split_exponent<lanes<float, W>>& y, const split_exp_rows& c,
-                 std::int32_t bound) {
+LANEMATH_INLINE auto split_power(const lanes<std::int32_t, W>& b, const split_exponent<lanes<float, W>>& y,
+                                 const split_exp_rows& c, std::int32_t bound) {
   using V = lanes<float, W>;
 
   // ln x = E ln 2 - ln C + ln(1 + p)
@@ -94,7 +94,7 @@ inline constexpr std::int32_t SHORT_RANGE = 0x42AE9A00;  // 87.30078
 
 // The same in single floats and without a table.
 template <int W>
-auto short_power(const lanes<std::int32_t, W>& b, const lanes<float, W>& y, const short_exp_rows& c) {
+LANEMATH_INLINE auto short_power(const lanes<std::int32_t, W>& b, const lanes<float, W>& y, const short_exp_rows& c) {
   using V = lanes<float, W>;
 
   // m lies in [2/3, 4/3).
@@ -121,7 +121,7 @@ struct short_powf {
   using signature = float(float, float);
   static constexpr auto rare = Routine;
   template <class V>
-  static auto marked_kernel(V x, V y) {
+  LANEMATH_INLINE static auto marked_kernel(V x, V y) {
     const auto [z, rare] = short_power(bits(x), y, short_exp_table);
     return marked(z, rare | beyond_plain(bits(x)) | magnitude_above(y, LARGEST));
   }

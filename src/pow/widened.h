@@ -15,19 +15,19 @@ struct mantissa_and_exponent {
   lanes<std::int32_t, W> exponent;
 };
 template <int W>
-mantissa_and_exponent<W> taken_apart(const lanes<float, W>& x) {
+LANEMATH_INLINE mantissa_and_exponent<W> taken_apart(const lanes<float, W>& x) {
   const auto narrow = from_bits((bits(x) & 0x007FFFFF) | 0x3A800000);
   return {convert<double>(narrow), narrow, (bits(x) >> 23) - 127};
 }
 template <int W>
-mantissa_and_exponent<W> taken_apart(const lanes<double, W>& x) {
+LANEMATH_INLINE mantissa_and_exponent<W> taken_apart(const lanes<double, W>& x) {
   const auto m = from_bits((bits(x) & 0x000FFFFFFFFFFFFF) | 0x3F50000000000000);
   return {m, convert<float>(m), (upper(x) >> 20) - 1023};
 }
 
 // y ln x
 template <int W>
-lanes<double, W> widened_product(const mantissa_and_exponent<W>& x, const lanes<double, W>& y) {
+LANEMATH_INLINE lanes<double, W> widened_product(const mantissa_and_exponent<W>& x, const lanes<double, W>& y) {
   using V = lanes<double, W>;
 
   // An integer next to 1/m, 512 to 1024 with any estimate of 11 bits. A neighbour only picks a neighbouring entry.
@@ -43,7 +43,7 @@ lanes<double, W> widened_product(const mantissa_and_exponent<W>& x, const lanes<
 
 // e^s
 template <int W>
-lanes<double, W> widened_exp(const lanes<double, W>& s) {
+LANEMATH_INLINE lanes<double, W> widened_exp(const lanes<double, W>& s) {
   using V = lanes<double, W>;
   constexpr double shifter = 0x4338000000000000_f64;  // 1.5 * 2^52
 
@@ -64,7 +64,7 @@ struct widened_pow {
   using signature = double(double, double);
   static constexpr auto rare = Routine;
   template <class V>
-  static auto marked_kernel(V x, V y) {
+  LANEMATH_INLINE static auto marked_kernel(V x, V y) {
     const V s = widened_product(taken_apart(x), y);
     return marked(widened_exp(s),
                   magnitude_above(s, WIDENED_RANGE) | beyond_plain_upper(upper(x)) | magnitude_above(y, LARGEST));
