@@ -189,6 +189,15 @@ LANEMATH_INLINE lanes<std::int32_t, W> lower(const lanes<T, W>& v) {
   return lanes_detail::halves<0>(v);
 }
 
+// The 32 bits of a lane that hold its sign and exponent, or the sign of an integer.
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> leading_word(const lanes<T, W>& v) {
+  if constexpr (sizeof(T) == 4)
+    return bits(v);
+  else
+    return upper(v);
+}
+
 // 32-bit integers as 64-bit ones of the same signedness.
 template <class T, int W>
 LANEMATH_INLINE auto widen(const lanes<T, W>& v) {
@@ -206,6 +215,25 @@ LANEMATH_INLINE auto widen(const lanes<T, W>& v) {
     }
   }
   return result;
+}
+
+// Each 64-bit lane shifted left by its own count, from 0 to 63. A lane with another count is anybody's guess.
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> shifted_left(const lanes<T, W>& v, const lanes<T, W>& count) {
+  static_assert(sizeof(T) == 8);
+  using U = std::make_unsigned_t<T>;
+  return as<T>(map<U>(
+      [](auto a, auto n) LANEMATH_LAMBDA {
+        if constexpr (W == 1) {
+          return a << (n & 63);
+        } else {
+          const auto both = std::bit_cast<__m128i>(a), first = std::bit_cast<__m128i>(n);
+          const auto second = _mm_unpackhi_epi64(first, first);
+          return std::bit_cast<typename lanes<U, W>::group>(
+              _mm_blend_epi16(_mm_sll_epi64(both, first), _mm_sll_epi64(both, second), 0xF0));
+        }
+      },
+      as<U>(v), as<U>(count)));
 }
 
 // Lanes first .. first + C - 1, whole groups of them; and their way back.
@@ -497,13 +525,8 @@ LANEMATH_INLINE lanes<T, W> opaque(lanes<T, W> v) {
 // NaNs are among them.
 template <class T, int W>
 LANEMATH_INLINE auto magnitude_above(const lanes<T, W>& x, std::int32_t bound) {
-  lanes<std::int32_t, W> pattern;
-  if constexpr (sizeof(T) == 4)
-    pattern = bits(x);
-  else
-    pattern = upper(x);
   // Opaque: a compiler that knows the sign bit to be clear makes two instructions of the comparison.
-  return opaque(pattern & 0x7FFFFFFF) > bound;
+  return opaque(leading_word(x) & 0x7FFFFFFF) > bound;
 }
 
 }  // namespace lanemath
