@@ -16,20 +16,20 @@
 namespace lanemath {
 
 template <class T, int W>
-lanes<T, W> magnitude(const lanes<T, W>& x) {
+LANEMATH_INLINE lanes<T, W> magnitude(const lanes<T, W>& x) {
   return from_bits(bits(x) & std::numeric_limits<int_of_size<sizeof(T)>>::max());
 }
 
 // A mask, or a small integer, between lanes of 32 and of 64 bits. The identity where it has that size already.
 template <class T, int W>
-auto as_32(const lanes<T, W>& v) {
+LANEMATH_INLINE auto as_32(const lanes<T, W>& v) {
   if constexpr (sizeof(T) == 4)
     return v;
   else
     return lower(v);
 }
 template <class T, int W>
-auto as_64(const lanes<T, W>& v) {
+LANEMATH_INLINE auto as_64(const lanes<T, W>& v) {
   if constexpr (sizeof(T) == 4)
     return widen(v);
   else

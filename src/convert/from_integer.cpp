@@ -32,11 +32,11 @@ struct from_integer_rows<double> {
 
 // P plus a field of P's lowest bits.
 template <class U, int W>
-auto placed(auto p, const lanes<U, W>& field) {
+LANEMATH_INLINE auto placed(auto p, const lanes<U, W>& field) {
   return from_bits(field | std::bit_cast<U>(p));
 }
 template <class U, int W>
-auto value_of(auto p, const lanes<U, W>& field) {
+LANEMATH_INLINE auto value_of(auto p, const lanes<U, W>& field) {
   return placed(p, field) - p;
 }
 
@@ -48,7 +48,7 @@ struct taken_apart {
   lanes<std::make_unsigned_t<I>, W> m;
   word sign{0}, step{1};
 
-  explicit taken_apart(const lanes<I, W>& x) {
+  LANEMATH_INLINE explicit taken_apart(const lanes<I, W>& x) {
     if constexpr (std::is_signed_v<I>) {
       const auto negative = x >> (8 * int(sizeof(I)) - 1);
       m = as<std::make_unsigned_t<I>>((x ^ negative) - negative);
@@ -65,7 +65,7 @@ struct taken_apart {
 };
 
 template <int W, class T, class B>
-lanes<T, W> with_bits(const lanes<T, W>& v, const lanes<B, W>& more) {
+LANEMATH_INLINE lanes<T, W> with_bits(const lanes<T, W>& v, const lanes<B, W>& more) {
   return from_bits(bits(v) | more);
 }
 
@@ -117,7 +117,7 @@ struct three_fields {
   field low;
   lanes<float, V::width> middle, high;
 
-  explicit three_fields(const V& m)
+  LANEMATH_INLINE explicit three_fields(const V& m)
       : low(as<std::uint32_t>(lower(m)) & c::FIELD),
         middle(value_of(c::P1, as<std::uint32_t>(lower(m >> 23)) & c::FIELD)),
         high(value_of(c::P2, as<std::uint32_t>(upper(m)) >> 14)) {}

@@ -36,7 +36,7 @@ struct to_int64 {
     using c = to_int64_rows<T>;
     using wide = lanes<std::int64_t, V::width>;
     constexpr bool is_signed = std::is_signed_v<I>;
-    constexpr T LIMIT = is_signed ? 0x1p63 : 0x1p64;
+    constexpr T ZERO = 0, LIMIT = is_signed ? 0x1p63 : 0x1p64;
 
     const V r = round_to<D>(x);
     // A negative lane gives its magnitude, or 0 by the last mask below.
@@ -44,9 +44,9 @@ struct to_int64 {
     const auto small = a < c::INTEGRAL;
     auto m = select(small, bits(a + c::INTEGRAL) & c::FRACTION, (bits(a) & c::FRACTION) | c::IMPLICIT);
     const auto k = ((bits(a) >> c::fraction_bits) - c::SHIFT_BASE) & ~small;
-    const auto negative = r < T(0);
+    const auto negative = r < ZERO;
     if constexpr (is_signed) m = (m ^ negative) - negative;
-    if constexpr (Saturated) m = m & (is_signed ? r == r : r >= T(0));
+    if constexpr (Saturated) m = m & (is_signed ? r == r : r >= ZERO);
     const wide v = shifted_left(as_64(m), as_64(k));
 
     if constexpr (!Saturated)

@@ -36,8 +36,12 @@ inline constexpr standalone_bound standalone_bounds[] = {
     {"exp2f", 4, variant::standard, 2.56},
 };
 
+// Families of exact operations: each result is the one that its operation's rule gives, and no error is counted.
+constexpr bool is_exact(family f) { return f == family::conversion || f == family::integer_division; }
+
 // The bound of a function, or nothing if none is stated.
 constexpr std::optional<double> bound_of(const operation& o, variant v, int width) {
+  if (is_exact(o.group)) return 0;
   if (is_standalone(o.name(), width, v)) {
     for (const auto& bound : standalone_bounds)
       if (bound.name == o.name() && bound.width == width && bound.of == v) return bound.ulp;

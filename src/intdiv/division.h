@@ -20,17 +20,17 @@ struct division_rows {
 };
 
 template <int W>
-lanes<double, W> to_double(const lanes<std::int32_t, W>& v) {
+LANEMATH_INLINE lanes<double, W> to_double(const lanes<std::int32_t, W>& v) {
   return convert<double>(v);
 }
 template <int W>
-lanes<double, W> to_double(const lanes<std::uint32_t, W>& v) {
+LANEMATH_INLINE lanes<double, W> to_double(const lanes<std::uint32_t, W>& v) {
   constexpr double BIAS = division_rows::BIAS;
   return from_bits(widen(v) | std::bit_cast<std::uint64_t>(BIAS)) - BIAS;
 }
 
 template <class T, int W>
-lanes<T, W> truncated_to(const lanes<double, W>& v) {
+LANEMATH_INLINE lanes<T, W> truncated_to(const lanes<double, W>& v) {
   if constexpr (std::is_signed_v<T>)
     return truncate(v);
   else
@@ -39,14 +39,14 @@ lanes<T, W> truncated_to(const lanes<double, W>& v) {
 
 struct processor_estimate {
   template <class V>
-  static V of(V x) {
+  LANEMATH_INLINE static V of(V x) {
     return reciprocal_estimate(x);
   }
 };
 
 // The result does not depend on the estimate's low bits.
 template <class Estimate = processor_estimate, class T, int W>
-lanes<T, W> quotient(const lanes<T, W>& a, const lanes<T, W>& b) {
+LANEMATH_INLINE lanes<T, W> quotient(const lanes<T, W>& a, const lanes<T, W>& b) {
   using c = division_rows;
   const auto ad = to_double(a), bd = to_double(b);
   lanes<float, W> estimate;
