@@ -2,8 +2,7 @@
 // rounded up. The public documentation states these figures and the tests hold every form to them. Results that
 // round to a denormal or overflow count in units of the format's smallest step there.
 //
-// An operation gets its line when it is built. 0.5 is correctly rounded, up to the digits shown; 0 is exact, and what
-// the operations are that move bits and integers, unless they have a line.
+// An operation gets its line when it is built. 0.5 is correctly rounded, up to the digits shown; 0 is exact.
 #pragma once
 
 #include <array>
@@ -46,6 +45,12 @@ inline constexpr standalone_bound standalone_bounds[] = {
     {"exp2f", 4, variant::standard, 2.56},
 };
 
+// Families of operations that are exact unless they have a line: each result is the one that the operation's rule
+// gives.
+constexpr bool is_exact(family f) {
+  return f == family::conversion || f == family::integer_division || f == family::manipulation;
+}
+
 // The bound of a function, or nothing if none is stated.
 constexpr std::optional<double> bound_of(const operation& o, variant v, int width) {
   if (is_standalone(o.name(), width, v)) {
@@ -55,7 +60,7 @@ constexpr std::optional<double> bound_of(const operation& o, variant v, int widt
   }
   for (const auto& bound : error_bounds)
     if (bound.name == o.name()) return bound.ulp[std::size_t(v)];
-  if (o.group == family::manipulation || o.group == family::conversion || o.group == family::integer_division) return 0;
+  if (is_exact(o.group)) return 0;
   return std::nullopt;
 }
 

@@ -205,6 +205,20 @@ LANEMATH_INLINE lanes<std::int32_t, W> lower(const lanes<T, W>& v) {
   return lanes_detail::halves<0>(v);
 }
 
+// The word with the sign and the exponent, or an integer's sign: the whole of a 32-bit lane, the upper half of another.
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> top_word(const lanes<T, W>& x) {
+  if constexpr (sizeof(T) == 4)
+    return bits(x);
+  else
+    return upper(x);
+}
+// A mask over lanes of any size as one over 32-bit lanes.
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> narrow_mask(const lanes<T, W>& mask) {
+  return top_word(mask);
+}
+
 // 32-bit integers as 64-bit ones of the same signedness.
 template <class T, int W>
 LANEMATH_INLINE auto widen(const lanes<T, W>& v) {
@@ -222,6 +236,25 @@ LANEMATH_INLINE auto widen(const lanes<T, W>& v) {
     }
   }
   return result;
+}
+
+// Each 64-bit lane shifted left by its own count, from 0 to 63. A lane with another count is anybody's guess.
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> shifted_left(const lanes<T, W>& v, const lanes<T, W>& count) {
+  static_assert(sizeof(T) == 8);
+  using U = std::make_unsigned_t<T>;
+  return as<T>(map<U>(
+      [](auto a, auto n) LANEMATH_LAMBDA {
+        if constexpr (W == 1) {
+          return a << (n & 63);
+        } else {
+          const auto both = std::bit_cast<__m128i>(a), first = std::bit_cast<__m128i>(n);
+          const auto second = _mm_unpackhi_epi64(first, first);
+          return std::bit_cast<typename lanes<U, W>::group>(
+              _mm_blend_epi16(_mm_sll_epi64(both, first), _mm_sll_epi64(both, second), 0xF0));
+        }
+      },
+      as<U>(v), as<U>(count)));
 }
 
 // Lanes first .. first + C - 1, whole groups of them; and their way back.
@@ -507,20 +540,6 @@ LANEMATH_INLINE lanes<T, W> opaque(lanes<T, W> v) {
     else
       asm("" : "+x"(each));
   return v;
-}
-
-// The word with the sign and the exponent: the whole of a float, the upper half of a double.
-template <class T, int W>
-LANEMATH_INLINE lanes<std::int32_t, W> top_word(const lanes<T, W>& x) {
-  if constexpr (sizeof(T) == 4)
-    return bits(x);
-  else
-    return upper(x);
-}
-// A mask over lanes of any size as one over 32-bit lanes.
-template <class T, int W>
-LANEMATH_INLINE lanes<std::int32_t, W> narrow_mask(const lanes<T, W>& mask) {
-  return top_word(mask);
 }
 
 // The sign bit alone, as a pattern; the value without it; a pattern joined to a value's.
