@@ -69,8 +69,9 @@ auto expm1_beyond(V x, typename V::value_type bound) {
 // Only lanes beyond that bound come here: e^x - 1 is rounded like e^x, or like -1.
 template <class T>
 int expm1_rare_lane(const T* px, T* py, const rare_bounds& bounds) {
-  if (*px < 0) {
-    *py = -1;
+  constexpr T zero = 0, minus_one = -1;
+  if (*px < zero) {
+    *py = minus_one;
     return 0;
   }
   return exp_rare_lane(px, py, exp_power, bounds);
