@@ -86,6 +86,7 @@ struct to_double {
 template <direction D, class I, class T>
 struct from_two_fields {
   using signature = T(I);
+  static constexpr int groups_at_once = 2;
   template <class V>
   static auto kernel(V x) {
     using c = from_integer_rows<T>;

@@ -31,6 +31,7 @@ struct to_int64_rows<double> {
 template <direction D, class I, class T, bool Saturated>
 struct to_int64 {
   using signature = I(T);
+  static constexpr int groups_at_once = 2;
   template <class V>
   static auto kernel(V x) {
     using c = to_int64_rows<T>;
