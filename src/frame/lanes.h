@@ -405,7 +405,10 @@ LANEMATH_INLINE lanes<U, W> convert(const lanes<T, W>& v) {
   using from = register_of<T>;
   using to = typename lanes<U, W>::group;
   if constexpr (W == 1) {
-    if constexpr (std::is_floating_point_v<U>)
+    if constexpr (std::is_integral_v<T>)
+      // Not the scalar instruction: it keeps the upper part of its register and so waits for what was there.
+      result.g[0] = convert_group<U, Truncate>(_mm_cvtsi32_si128(v.g[0]))[0];
+    else if constexpr (std::is_floating_point_v<U>)
       result.g[0] = U(v.g[0]);
     else if constexpr (sizeof(T) == 4)
       result.g[0] = Truncate ? _mm_cvttss_si32(_mm_set_ss(v.g[0])) : _mm_cvtss_si32(_mm_set_ss(v.g[0]));
