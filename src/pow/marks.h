@@ -40,10 +40,4 @@ LANEMATH_INLINE auto with_sign(const lanes<double, W>& y, const lanes<std::int32
   return from_bits(bits(y) | (widen(sign) << 32));
 }
 
-template <class T, int W>
-LANEMATH_INLINE auto magnitude(const lanes<T, W>& x) {
-  constexpr auto mask = std::numeric_limits<int_of_size<sizeof(T)>>::max();
-  return from_bits(bits(x) & mask);
-}
-
 }  // namespace lanemath
