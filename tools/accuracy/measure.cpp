@@ -173,7 +173,9 @@ std::vector<arguments> around_bounds(const operation& o, const reference& r, std
     for (int i = 0; i < o.sig.arity(); ++i) {
       const lane type = o.sig.arguments[i];
       if (!is_floating(type)) {
+        // Integers of every size.
         tuple[i] = any_pattern(type, random);
+        if (type == lane::i32) tuple[i] = std::uint32_t(std::int32_t(tuple[i]) >> random() % 32);
         continue;
       }
       const auto values = centres(type);
