@@ -153,6 +153,18 @@ TYPED_TEST(FloatingLanes, LookUpEveryLanesEntry) {
   });
 }
 
+TEST(SingleLanes, LookUpTriples) {
+  static constexpr triple<float> table[4] = {{1, 10, 100}, {2, 20, 200}, {3, 30, 300}, {4, 40, 400}};
+  std::array<std::int32_t, 16> index;
+  for (int i = 0; i < 16; ++i) index[i] = (i * 7 + 1) % 4;
+  at_every_width([&](auto width) {
+    const auto [first, second, third] = look_up(table, load<std::int32_t, width>(index));
+    expect_lanes(first, [&](int i) { return table[index[i]].first; });
+    expect_lanes(second, [&](int i) { return table[index[i]].second; });
+    expect_lanes(third, [&](int i) { return table[index[i]].third; });
+  });
+}
+
 TYPED_TEST(FloatingLanes, RoundPickAndConvertAsTheProcessorDoes) {
   using T = TypeParam;
   std::array<T, 16> a = some_values<T>(), b;

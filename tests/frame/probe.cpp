@@ -32,10 +32,11 @@ struct unary : any_marked {
   static auto kernel(auto x) { return x + x; }
   static constexpr auto rare = [](const T* x, T* y) { return *y = 3 * *x, 0; };
 };
+// One that marks its own lanes.
 template <class T>
-struct binary : any_marked {
+struct binary {
   using signature = T(T, T);
-  static auto kernel(auto x, auto y) { return x - y; }
+  static auto marked_kernel(auto x, auto y) { return lanemath::marked(x - y, marked(x) | marked(y)); }
   static constexpr auto rare = [](const T* x, const T* y, T* z) { return *z += 3 * *x + *y, 0; };
 };
 template <class T>
