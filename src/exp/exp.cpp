@@ -93,6 +93,8 @@ struct exp_at_2_rows {
   double S;       // shifter, 1.5 * 2^52
   double L1, L2;  // ln 2 / 64, high and low part
   double D2, D3, D4, D5;
+  double DOWN_200, UP_200;  // 2^-200, 2^200
+  double TINY, HUGE_ONE;    // whose squares are beyond the range
 };
 constexpr exp_at_2_rows exp_at_2_table{
     .K = 0x40571547652B82FE_f64,
@@ -103,6 +105,10 @@ constexpr exp_at_2_rows exp_at_2_table{
     .D3 = 0x3FC555555555E58E_f64,
     .D4 = 0x3FA555594C77FF02_f64,
     .D5 = 0x3F81111001A21E3A_f64,
+    .DOWN_200 = 0x3370000000000000_f64,
+    .UP_200 = 0x4C70000000000000_f64,
+    .TINY = 0x0010000000000000_f64,
+    .HUGE_ONE = 0x7FE0000000000000_f64,
 };
 
 struct exp_at_2 {
@@ -133,10 +139,10 @@ struct exp_at_2 {
     const V ax = magnitude(x);
     const auto negative = x < 0.0;
     const auto shifted = field + select(negative, whole(200), whole(-200));
-    const V back = select(negative, V(0x3370000000000000_f64), V(0x4C70000000000000_f64));  // 2^-200, 2^200
+    const V back = select(negative, V(c.DOWN_200), V(c.UP_200));
     const V near_end = p * from_bits((shifted << 52) | mantissa) * back;
 
-    const V finite = select(negative, V(0x0010000000000000_f64), V(0x7FE0000000000000_f64));
+    const V finite = select(negative, V(c.TINY), V(c.HUGE_ONE));
     const V infinite = select(negative, V(0.0), V(infinity));
     const V root = opaque(select(ax < infinity, finite, select(ax == infinity, infinite, x)));
     return select(ax < 704.0, ordinary, select(ax < 768.0, near_end, root * root));
