@@ -165,8 +165,9 @@ LANEMATH_INLINE auto in_pieces(F f, const X&... x) {
   } else {
     const auto piece_at = [&](int first) LANEMATH_LAMBDA { return f(part<C>(x, first)...); };
     // Not a loop: a compiler leaves one a loop where the pieces are large.
-    const auto for_each_piece = [&]<int... I>(std::integer_sequence<int, I...>, auto put)
-                                    LANEMATH_LAMBDA { (put(I * C, piece_at(I * C)), ...); };
+    const auto for_each_piece = [&]<int... I>(std::integer_sequence<int, I...>, auto put) LANEMATH_LAMBDA {
+      (put(I * C, piece_at(I * C)), ...);
+    };
     constexpr std::make_integer_sequence<int, W / C> pieces;
     using piece = decltype(piece_at(0));
     if constexpr (requires { piece::width; }) {

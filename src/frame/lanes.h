@@ -347,7 +347,8 @@ LANEMATH_INLINE lanes<T, W> square_root(const lanes<T, W>& x) {
   if constexpr (sizeof(T) == 4)
     return lanes_detail::instruction(_mm_sqrt_ps, _mm_sqrt_ss, x);
   else
-    return lanes_detail::instruction(_mm_sqrt_pd, [](__m128d v) LANEMATH_LAMBDA { return _mm_sqrt_sd(v, v); }, x);
+    return lanes_detail::instruction(
+        _mm_sqrt_pd, [](__m128d v) LANEMATH_LAMBDA { return _mm_sqrt_sd(v, v); }, x);
 }
 
 // About 11.5 good bits; which ones differs between processors.
