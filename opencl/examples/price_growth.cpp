@@ -1,0 +1,149 @@
+// Compound growth between any two years of a price index on an OpenCL device: the average yearly inflation, which is
+// one power, and what money that was put away at interest buys in the end, which is one exponential.
+#define CL_HPP_ENABLE_EXCEPTIONS
+#define CL_HPP_MINIMUM_OPENCL_VERSION 120
+#define CL_HPP_TARGET_OPENCL_VERSION 120
+#include <dlfcn.h>
+#include <fmt/format.h>
+#include <CL/opencl.hpp>
+
+#include <CLI/CLI.hpp>
+#include <cmath>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace {
+
+// From one year to four others. The roles of the two years may be exchanged: growth per year stays the same.
+constexpr const char* kernel_source = R"(
+kernel void growth(global const double* prices, double interest, global double4* inflation, global double4* worth) {
+  const size_t from = get_global_id(0), block = get_global_id(1);
+  const double4 ratio = vload4(block, prices) / prices[from];
+  const double4 years = (double4)(0, 1, 2, 3) + ((double)(4 * block) - (double)from);
+  const size_t i = from * get_global_size(1) + block;
+  inflation[i] = pow(ratio, 1 / years);
+  worth[i] = exp(interest * years) / ratio;
+}
+)";
+
+struct price_index {
+  int first_year;
+  std::vector<double> prices;  // year by year
+};
+
+price_index read_prices(const std::string& path) {
+  std::ifstream file(path);
+  std::string titles;
+  std::getline(file, titles);
+  price_index all{};
+  int year;
+  char comma;
+  double price;
+  while (file >> year >> comma >> price) {
+    if (all.prices.empty()) all.first_year = year;
+    if (comma != ',' || year != all.first_year + int(all.prices.size()) || !(price > 0) || !std::isfinite(price))
+      throw std::runtime_error(fmt::format("{}: year {}: needs a price for every year in turn", path, year));
+    all.prices.push_back(price);
+  }
+  if (!file.eof() || all.prices.size() < 2)
+    throw std::runtime_error(fmt::format("{}: needs titles and two lines of YEAR,PRICE or more", path));
+  return all;
+}
+
+// Factors from each year to each, row by row.
+struct factors {
+  std::size_t columns;
+  std::vector<double> inflation, worth;
+  std::string device;
+};
+
+factors compute(std::vector<double> prices, double interest) {
+  const std::size_t rows = prices.size(), columns = (rows + 3) / 4 * 4;
+  prices.resize(columns, 1);
+  const cl::Context context(CL_DEVICE_TYPE_ALL);
+  cl::CommandQueue queue(context);
+  cl::Program program(context, kernel_source);
+  program.build();
+  cl::Kernel kernel(program, "growth");
+  factors all{columns, std::vector<double>(rows * columns), std::vector<double>(rows * columns),
+              queue.getInfo<CL_QUEUE_DEVICE>().getInfo<CL_DEVICE_NAME>()};
+  cl::Buffer given(context, prices.begin(), prices.end(), true);
+  cl::Buffer inflation(context, CL_MEM_WRITE_ONLY, rows * columns * sizeof(double));
+  cl::Buffer worth(context, CL_MEM_WRITE_ONLY, rows * columns * sizeof(double));
+  kernel.setArg(0, given);
+  kernel.setArg(1, interest);
+  kernel.setArg(2, inflation);
+  kernel.setArg(3, worth);
+  queue.enqueueNDRangeKernel(kernel, cl::NullRange, cl::NDRange(rows, columns / 4));
+  cl::copy(queue, inflation, all.inflation.begin(), all.inflation.end());
+  cl::copy(queue, worth, all.worth.begin(), all.worth.end());
+  return all;
+}
+
+// Compares every factor with the host's, and its bits with the library's own if that is loaded.
+std::string check(const factors& got, const std::vector<double>& prices, double interest) {
+  const auto pow1 = reinterpret_cast<double (*)(double, double)>(dlsym(RTLD_DEFAULT, "__ocl_lanemath_h8_pow1"));
+  const auto exp1 = reinterpret_cast<double (*)(double)>(dlsym(RTLD_DEFAULT, "__ocl_lanemath_h8_exp1"));
+  const auto expect = [](bool right, const char* what, std::size_t from, std::size_t to) {
+    if (!right) throw std::runtime_error(fmt::format("wrong {} from year {} to year {}", what, from, to));
+  };
+  for (std::size_t from = 0; from < prices.size(); ++from)
+    for (std::size_t to = 0; to < prices.size(); ++to) {
+      const double ratio = prices[to] / prices[from], years = double(to) - double(from);
+      const double inflation = got.inflation[from * got.columns + to], worth = got.worth[from * got.columns + to];
+      const double exact_inflation = std::pow(ratio, 1 / years), exact_worth = std::exp(interest * years) / ratio;
+      expect(std::abs(inflation / exact_inflation - 1) < 1e-14, "inflation", from, to);
+      expect(std::abs(worth / exact_worth - 1) < 1e-14, "worth", from, to);
+      if (pow1) expect(inflation == pow1(ratio, 1 / years), "bits of inflation", from, to);
+      if (exp1) expect(worth == exp1(interest * years) / ratio, "bits of worth", from, to);
+    }
+  return pow1 ? "lanemath's pow and exp, bit for bit" : "the runtime's own pow and exp";
+}
+
+}  // namespace
+
+int main(int argc, char** argv) try {
+  std::string data;
+  double interest = 0.03;
+  CLI::App app("Inflation and the worth of savings between the years of a price index, on an OpenCL device.");
+  app.add_option("data", data, "CSV file of years and prices with titles")->required()->check(CLI::ExistingFile);
+  app.add_option("--interest", interest, "of savings, compounded continuously")
+      ->check(CLI::Range(-1.0, 1.0))
+      ->capture_default_str();
+  CLI11_PARSE(app, argc, argv);
+
+  const auto index = read_prices(data);
+  const auto got = compute(index.prices, interest);
+  const auto built_ins = check(got, index.prices, interest);
+
+  // Every tenth year back from the last.
+  std::vector<std::size_t> places;
+  for (std::size_t place = (index.prices.size() - 1) % 10; place < index.prices.size(); place += 10)
+    places.push_back(place);
+  const auto print_table = [&](const std::string& title, const std::vector<double>& values, auto shown) {
+    fmt::print("{}\n from \\ to", title);
+    for (auto to : places)
+      if (to != places.front()) fmt::print("{:>7}", index.first_year + int(to));
+    for (auto from : places) {
+      if (from == places.back()) continue;
+      fmt::print("\n{:>10}", index.first_year + int(from));
+      for (auto to : places)
+        if (to != places.front()) fmt::print("{:>7}", to > from ? shown(values[from * got.columns + to]) : "");
+    }
+    fmt::print("\n\n");
+  };
+  print_table("Average yearly inflation, percent", got.inflation,
+              [](double factor) { return fmt::format("{:.2f}", 100 * (factor - 1)); });
+  print_table(fmt::format("What 100 put away at {:.3g} percent buys, in prices of the first year", 100 * interest),
+              got.worth, [](double factor) { return fmt::format("{:.1f}", 100 * factor); });
+  fmt::print("device      {}\nbuilt-ins   {}\n", got.device, built_ins);
+  return 0;
+} catch (const cl::Error& error) {
+  fmt::print(stderr, "OpenCL: {} gave error {}\n", error.what(), error.err());
+  return 1;
+} catch (const std::exception& error) {
+  fmt::print(stderr, "{}\n", error.what());
+  return 1;
+}
