@@ -6,12 +6,6 @@
 
 namespace lanemath {
 
-// An exponent value, and the same in two parts.
-template <class V>
-struct exponent_parts {
-  V value, hi, lo;
-};
-
 template <class V>
 LANEMATH_INLINE V short_part(const V& v) {
   return from_bits(bits(v) & std::int64_t(0xFFFFFFFFF8000000));
@@ -78,9 +72,7 @@ LANEMATH_INLINE auto double_power(const lanes<double, W>& x, const exponent_part
 
 // The default form of pow and of powr: they differ in the rare routine.
 template <auto Routine>
-struct double_pow {
-  using signature = double(double, double);
-  static constexpr auto rare = Routine;
+struct double_pow : power<double(double, double), Routine> {
   template <class V>
   LANEMATH_INLINE static auto marked_kernel(V x, V y) {
     const auto [z, rare] = double_power(x, exponent_of(y));

@@ -2,6 +2,7 @@
 // stages of short reciprocals and a cubic, 2^v by a table of 128 pairs and a cubic.
 #pragma once
 
+#include "pow/marks.h"
 #include "pow/special_cases.h"
 #include "tables/pow.h"
 
@@ -17,17 +18,17 @@ struct split_float {
   }
 };
 
-inline exponent<float> exponent_of(float y) {
+inline exponent_parts<float> exponent_of(float y) {
   const split_float parts(y);
   return {y, parts.hi, parts.lo};
 }
 // What a float cannot hold of n goes to the low part.
-inline exponent<float> exponent_of(std::int32_t n) {
+inline exponent_parts<float> exponent_of(std::int32_t n) {
   const float y = float(n);
   const split_float parts(y);
   return {y, parts.hi, parts.lo + float(std::int64_t(n) - std::int64_t(y))};
 }
-inline exponent<float> reciprocal_exponent(std::int32_t n, float) {
+inline exponent_parts<float> reciprocal_exponent(std::int32_t n, float) {
   const float y = float(n);
   const float value = 1.0f / y;
   const float hi = split_float(value).hi;
@@ -40,7 +41,7 @@ enum class product_sum { before_rounding, high_only };
 enum class denormal_sum { scaled_then_signed, scaled_with_sign, each_scaled_with_sign };
 
 template <product_sum Product, denormal_sum Denormal>
-float finite_power(float x, const exponent<float>& y, float sign) {
+float finite_power(float x, const exponent_parts<float>& y, float sign) {
   constexpr float tiny = 0x00800000_f32, huge = 0x7F000000_f32;
 
   float ax = without_sign(x);

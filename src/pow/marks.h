@@ -1,9 +1,22 @@
-// How the powers tell their rare lanes, and what they do with an integer exponent.
+// What the powers share: how they tell their rare lanes, and what they do with the exponent.
 #pragma once
 
 #include "frame/frame.h"
 
 namespace lanemath {
+
+// What every power inherits: its signature and the scalar routine for its rare lanes.
+template <class Signature, auto Routine>
+struct power {
+  using signature = Signature;
+  static constexpr auto rare = Routine;
+};
+
+// An exponent's value, and the same in two parts whose products with short numbers are exact.
+template <class V>
+struct exponent_parts {
+  V value, hi, lo;
+};
 
 // Patterns of floats outside the least normal up to just below the largest: zeros, denormals, infinities, NaNs, any
 // with the sign set, and the largest float.

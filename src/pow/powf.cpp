@@ -22,9 +22,7 @@ LANEMATH_RARE powf_rare(const float* px, const float* py, float* pz) {
   });
 }
 
-struct powf_standard {
-  using signature = float(float, float);
-  static constexpr auto rare = powf_rare;
+struct powf_standard : power<float(float, float), powf_rare> {
   template <class V>
   LANEMATH_INLINE static auto marked_kernel(V x, V y) {
     const auto s = widened_product(taken_apart(x), convert<double>(y));

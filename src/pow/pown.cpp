@@ -16,12 +16,9 @@ LANEMATH_RARE pown_rare(const double* px, const std::int32_t* pn, double* pz) {
                     [&](double x, double sign) { return finite_power(x, powers::exponent_of(double(*pn)), sign); });
 }
 
-struct pown_guards {
-  using signature = double(double, std::int32_t);
-  static constexpr auto rare = pown_rare;
-};
+using pown_power = power<double(double, std::int32_t), pown_rare>;
 
-struct pown_standard : pown_guards {
+struct pown_standard : pown_power {
   template <class V, class N>
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const V ax = magnitude(x);
@@ -30,7 +27,7 @@ struct pown_standard : pown_guards {
   }
 };
 
-struct pown_native : pown_guards {
+struct pown_native : pown_power {
   template <class V, class N>
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const V ax = magnitude(x);

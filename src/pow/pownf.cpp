@@ -30,24 +30,21 @@ LANEMATH_RARE pownf_rare(const float* px, const std::int32_t* pn, float* pz) {
   });
 }
 
-struct pownf_guards {
-  using signature = float(float, std::int32_t);
-  static constexpr auto rare = pownf_rare;
-};
+using pownf_power = power<float(float, std::int32_t), pownf_rare>;
 
-struct pownf_standard : pownf_guards {
+struct pownf_standard : pownf_power {
   template <class V, class N>
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const auto b = bits(magnitude(x));
     const V y = convert<float>(n);
     const V hi = high_part(y);
     const V lo = (y - hi) + convert<float>(n - convert<std::int32_t>(y));
-    const auto [z, rare] = split_power(b, {hi, lo}, pownf_table, RARE);
+    const auto [z, rare] = split_power(b, {y, hi, lo}, pownf_table, RARE);
     return marked(with_sign(z, odd_sign(bits(x), n)), rare | beyond_plain(b));
   }
 };
 
-struct pownf_native : pownf_guards {
+struct pownf_native : pownf_power {
   template <class V, class N>
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const auto b = bits(magnitude(x));

@@ -15,12 +15,9 @@ LANEMATH_RARE rootn_rare(const double* px, const std::int32_t* pn, double* pz) {
   return rootn_lane(*px, *pn, *pz, [&](double x) { return finite_power(x, reciprocal_exponent(*pn, x), 1.0); });
 }
 
-struct rootn_guards {
-  using signature = double(double, std::int32_t);
-  static constexpr auto rare = rootn_rare;
-};
+using rootn_power = power<double(double, std::int32_t), rootn_rare>;
 
-struct rootn_standard : rootn_guards {
+struct rootn_standard : rootn_power {
   template <class V, class N>
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const V ax = magnitude(x);
@@ -37,7 +34,7 @@ struct rootn_standard : rootn_guards {
   }
 };
 
-struct rootn_native : rootn_guards {
+struct rootn_native : rootn_power {
   template <class V, class N>
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const V ax = magnitude(x);

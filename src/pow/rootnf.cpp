@@ -21,25 +21,23 @@ LANEMATH_RARE rootnf_rare(const float* px, const std::int32_t* pn, float* pz) {
   });
 }
 
-struct rootnf_guards {
-  using signature = float(float, std::int32_t);
-  static constexpr auto rare = rootnf_rare;
-};
+using rootnf_power = power<float(float, std::int32_t), rootnf_rare>;
 
-struct rootnf_standard : rootnf_guards {
+struct rootnf_standard : rootnf_power {
   template <class V, class N>
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const auto b = bits(magnitude(x));
     const V y = convert<float>(n);
-    const V hi = high_part(V(1.0f) / y);
+    const V value = 1.0f / y;
+    const V hi = high_part(value);
     const V d = 1.0f - y * hi;
     const V lo = d * (d + 1.0f) * hi;
-    const auto [z, rare] = split_power(b, {hi, lo}, split_exp_table, RARE);
+    const auto [z, rare] = split_power(b, {value, hi, lo}, split_exp_table, RARE);
     return marked(with_sign(z, odd_sign(bits(x), n)), rare | beyond_plain(b) | even_root_of_negative(bits(x), n));
   }
 };
 
-struct rootnf_native : rootnf_guards {
+struct rootnf_native : rootnf_power {
   template <class V, class N>
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const auto b = bits(magnitude(x));

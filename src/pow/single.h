@@ -6,12 +6,7 @@
 
 namespace lanemath {
 
-// An exponent value in two parts, the high one of 12 bits.
-template <class V>
-struct split_exponent {
-  V hi, lo;
-};
-
+// The upper 12 bits.
 template <class V>
 LANEMATH_INLINE V high_part(const V& v) {
   const V scaled = v * 0x45800800_f32;  // 4097
@@ -36,7 +31,7 @@ inline constexpr float LN2_HI = 0x3F317200_f32, LN2_LO = 0x35BFBE8E_f32, LOG2E =
 
 // e^(y ln x) from the pattern of x, with the logarithm in two parts. Marked: beyond |y ln x| of the pattern `bound`.
 template <int W>
-LANEMATH_INLINE auto split_power(const lanes<std::int32_t, W>& b, const split_exponent<lanes<float, W>>& y,
+LANEMATH_INLINE auto split_power(const lanes<std::int32_t, W>& b, const exponent_parts<lanes<float, W>>& y,
                                  const split_exp_rows& c, std::int32_t bound) {
   using V = lanes<float, W>;
 
@@ -117,9 +112,7 @@ LANEMATH_INLINE auto short_power(const lanes<std::int32_t, W>& b, const lanes<fl
 
 // The light form of powf and of powrf: they differ in the rare routine.
 template <auto Routine>
-struct short_powf {
-  using signature = float(float, float);
-  static constexpr auto rare = Routine;
+struct short_powf : power<float(float, float), Routine> {
   template <class V>
   LANEMATH_INLINE static auto marked_kernel(V x, V y) {
     const auto [z, rare] = short_power(bits(x), y, short_exp_table);

@@ -4,10 +4,8 @@
 // Infinities, zeros and NaNs are made by arithmetic.
 #pragma once
 
-#include <cmath>
 #include <cstdint>
 #include <limits>
-#include <type_traits>
 
 #include "frame/frame.h"
 
@@ -96,12 +94,6 @@ parity parity_of(T y) {
   return shifted & unit ? parity::odd : parity::even;
 }
 inline parity parity_of(std::int32_t n) { return n & 1 ? parity::odd : parity::even; }
-
-// An exponent's value, and the parts of it that the product takes.
-template <class T>
-struct exponent {
-  T value, hi, lo;
-};
 
 // What pow and pown share: everything but the exponent's own kind. `of_finite` takes the result's sign as well.
 template <class T, class Y, class F>

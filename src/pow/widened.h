@@ -60,9 +60,7 @@ inline constexpr std::int32_t WIDENED_RANGE = 0x4086232A;  // 708.39, for result
 
 // The light form of pow and of powr: they differ in the rare routine.
 template <auto Routine>
-struct widened_pow {
-  using signature = double(double, double);
-  static constexpr auto rare = Routine;
+struct widened_pow : power<double(double, double), Routine> {
   template <class V>
   LANEMATH_INLINE static auto marked_kernel(V x, V y) {
     const V s = widened_product(taken_apart(x), y);
