@@ -356,7 +356,13 @@ LANEMATH_INLINE lanes<U, W> convert(const lanes<T, W>& v) {
   using from = register_of<T>;
   using to = typename lanes<U, W>::group;
   if constexpr (W == 1) {
-    if constexpr (std::is_floating_point_v<U>)
+    // Between floating types the packed instruction: the scalar one keeps the rest of its destination, and so waits for
+    // what a call before this one left there.
+    if constexpr (std::is_same_v<T, float> && std::is_same_v<U, double>)
+      result.g[0] = _mm_cvtps_pd(_mm_set_ss(v.g[0]))[0];
+    else if constexpr (std::is_same_v<T, double> && std::is_same_v<U, float>)
+      result.g[0] = _mm_cvtpd_ps(_mm_set_sd(v.g[0]))[0];
+    else if constexpr (std::is_floating_point_v<U>)
       result.g[0] = U(v.g[0]);
     else if constexpr (sizeof(T) == 4)
       result.g[0] = Truncate ? _mm_cvttss_si32(_mm_set_ss(v.g[0])) : _mm_cvtss_si32(_mm_set_ss(v.g[0]));

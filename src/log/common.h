@@ -13,11 +13,15 @@ LANEMATH_INLINE V horner(V x, const T (&coefficients)[N]) {
   return y;
 }
 
+// Even the widest form is faster in one piece, some of its values on the stack, than with its chains one after another.
+inline constexpr int most_groups = 8;
+
 // What an operation inherits whose rare lanes are those that are no positive normal number. Adding the exponent 1 to
 // the pattern brings all of them below twice that: infinities and NaNs wrap to negative ones.
 template <class T, auto Routine>
 struct rare_unless_normal {
   using signature = T(T);
+  static constexpr int groups_at_once = most_groups;
   static constexpr auto rare = Routine;
   static auto rare_test(auto x) {
     if constexpr (sizeof(T) == 4)

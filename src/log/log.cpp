@@ -10,14 +10,14 @@ using log_guards = rare_unless_normal<double, log_rare>;
 struct log_standard : log_guards {
   template <class V>
   static V kernel(V x) {
-    return double_log(x, log_table, ln_of_integers);
+    return double_log<log_table, ln_of_integers>(x);
   }
 };
 
 struct log_native : log_guards {
   template <class V>
   static V kernel(V x) {
-    return light_double_log(x, log_table, ln_of_integers);
+    return light_double_log<log_table, ln_of_integers>(x);
   }
 };
 

@@ -19,14 +19,14 @@ using log10_guards = rare_unless_normal<double, log10_rare>;
 struct log10_standard : log10_guards {
   template <class V>
   static V kernel(V x) {
-    return double_log(x, log10_table, log10_of_integers);
+    return double_log<log10_table, log10_of_integers>(x);
   }
 };
 
 struct log10_native : log10_guards {
   template <class V>
   static V kernel(V x) {
-    return light_double_log(x, log10_table, log10_of_integers);
+    return light_double_log<log10_table, log10_of_integers>(x);
   }
 };
 

@@ -65,8 +65,9 @@ V with_sign_of(V x, V y) {
 // 1 + x = w + l exactly.
 template <class V>
 struct exact_sum {
+  static constexpr typename V::value_type ONE = 1;
   V larger, smaller;
-  LANEMATH_INLINE explicit exact_sum(V x) : larger(maximum(V(1), x)), smaller(minimum(V(1), x)) {}
+  LANEMATH_INLINE explicit exact_sum(V x) : larger(maximum(V(ONE), x)), smaller(minimum(V(ONE), x)) {}
   LANEMATH_INLINE V w() const { return larger + smaller; }
   LANEMATH_INLINE V lost_by(V w) const { return (larger - w) + smaller; }
 };
@@ -93,6 +94,7 @@ struct scaled_sum {
 template <class T, auto Routine>
 struct log1p_guards {
   using signature = T(T);
+  static constexpr int groups_at_once = most_groups;
   static constexpr auto rare = Routine;
   template <class V>
   static auto rare_test(V x) {
@@ -111,13 +113,14 @@ struct log1p_standard : log1p_guards<T, Routine> {
     const V w = from_bits(bits(sum.w()) & ((magnitude < c.TINY) | c.MASKH));
     const V l = sum.lost_by(w);
     const scaled_sum<V> a(w);
-    const V t1 = a.g * a.n - T(1);
+    const V t1 = a.g * a.n - sum.ONE;
     const V t2 = l * a.f;
     const V z = t1 + t2;
     const V d = t2 - (z - t1);
-    const auto [e, entry] = exponent_and_entry(w, a.near);
-    const V H = e * c.LN2H + entry.hi;
-    const V L = e * c.LN2L + entry.lo;
+    const V e = raw_exponent(w);
+    const auto [hi, lo] = minus_ln_of(a.near);
+    const V H = e * c.LN2H + hi;
+    const V L = e * c.LN2L + lo;
     const V s = z + H;
     const V r = z - (s - H);
     const V y = z * z;
@@ -132,12 +135,17 @@ struct log1p_standard : log1p_guards<T, Routine> {
   }
 
  private:
-  template <class V, class N>
-  LANEMATH_INLINE static two_results<V, looked_up<V>> exponent_and_entry(V w, N n) {
+  LANEMATH_INLINE static auto raw_exponent(auto w) {
     if constexpr (sizeof(T) == 4)
-      return {convert<T>(bits(w) >> 23), look_up(log1pf_of_integers, (bits(n) >> 16) - 0x4300)};  // 128
+      return convert<T>(bits(w) >> 23);
     else
-      return {convert<T>(upper(w) >> 20), look_up(log1p_of_integers, index_of_integer(n))};
+      return convert<T>(upper(w) >> 20);
+  }
+  LANEMATH_INLINE static auto minus_ln_of(auto n) {
+    if constexpr (sizeof(T) == 4)
+      return look_up(log1pf_of_integers, (bits(n) >> 16) - 0x4300);  // 128
+    else
+      return look_up(log1p_of_integers, index_of_integer(n));
   }
 };
 using log1pf_standard = log1p_standard<float, log1pf_rare>;
@@ -170,7 +178,7 @@ struct log1p_native : log1p_guards<double, log1p_rare> {
     const scaled_sum<V> a(w);
     const V z = (a.g * a.n - 1.0) + l * a.f;
     const V y = z + (log_table.P3 * z + log_table.P2) * (z * z);
-    return with_sign_of(x, with_exponent_term(y, w, a.near, log_table, ln_of_integers));
+    return with_sign_of(x, with_exponent_term<log_table, ln_of_integers>(y, w, a.near));
   }
 };
 

@@ -22,14 +22,14 @@ using log2_guards = rare_unless_normal<double, log2_rare>;
 struct log2_standard : log2_guards {
   template <class V>
   static V kernel(V x) {
-    return double_log(x, log2_table, log2_of_integers);
+    return double_log<log2_table, log2_of_integers>(x);
   }
 };
 
 struct log2_native : log2_guards {
   template <class V>
   static V kernel(V x) {
-    return light_double_log(x, log2_table, log2_of_integers);
+    return light_double_log<log2_table, log2_of_integers>(x);
   }
 };
 

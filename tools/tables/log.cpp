@@ -33,7 +33,8 @@ std::pair<T, T> split(const real& x, int bits) {
 // `bias` times the constant. First log(2^q scale / n) is split, for the q that keeps it small; what is then taken off
 // the high part leaves it exact.
 template <class T>
-std::pair<T, T> biased(function log, const real& scale, int n, int q, int bias, T constant_hi, T constant_lo, int bits) {
+std::pair<T, T> biased(function log, const real& scale, int n, int q, int bias, T constant_hi, T constant_lo,
+                       int bits) {
   const real u = apply(log, scale * power_of_two(q) / real(n));
   const real hi(on_grid<T>(u, bits)), times(bias + q);
   return {(hi - times * real(constant_hi)).nearest<T>(), (u - hi - times * real(constant_lo)).nearest<T>()};
@@ -85,7 +86,8 @@ void write_log_tables(table_writer& out) {
   // Of the rare routines.
   reciprocals<float>(out, "logf_reciprocals", "g near 1 / (1 + i/64), -ln g in two parts", mpfr_log, 128, 1.0f, 18);
   reciprocals<float>(out, "log2f_reciprocals", "g 256 / ln 2, -log2 g in two parts", mpfr_log2, 2048, 0x1.71548p8f, 16);
-  reciprocals<float>(out, "log10f_reciprocals", "g 256 / ln 10, -log10 g in two parts", mpfr_log10, 128, 0x1.bcb8p6f, 18);
+  reciprocals<float>(out, "log10f_reciprocals", "g 256 / ln 10, -log10 g in two parts", mpfr_log10, 128, 0x1.bcb8p6f,
+                     18);
   reciprocals<double>(out, "log_reciprocals", "g near 1 / (1 + i/64), -ln g in two parts", mpfr_log, 2048, 1.0, 42);
   reciprocals<double>(out, "log10_reciprocals", "g 111/256, -log10 g in two parts", mpfr_log10, 128, 0x1.bcp-2, 42);
 

@@ -14,12 +14,8 @@ std::vector<reference> logarithm_references() {
   // Beside 1: the ends of the mantissa's interval, where the exponent steps.
   const std::vector<double> bounds{0.6666667, 1.3333334, 0x1.6ap0, 0x1.6a8p-1, 0x1.7p0};
   const auto of = [&](std::string_view name, exact_function value, double (*fast)(double)) {
-    return reference{.name = name,
-                     .value = value,
-                     .ranges = ranges,
-                     .single_bounds = bounds,
-                     .double_bounds = bounds,
-                     .fast = fast};
+    return reference{
+        .name = name, .value = value, .ranges = ranges, .single_bounds = bounds, .double_bounds = bounds, .fast = fast};
   };
   return {
       of("log", unary<mpfr_log>, [](double x) { return std::log(x); }),
