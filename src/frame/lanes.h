@@ -78,8 +78,8 @@ LANEMATH_INLINE auto from_bits(const lanes<T, W>& v) {
 }
 
 // A constant by its bit pattern: 0x3F000000_f32 is 0.5f.
-consteval float operator""_f32(unsigned long long v) { return std::bit_cast<float>(std::uint32_t(v)); }
-consteval double operator""_f64(unsigned long long v) { return std::bit_cast<double>(std::uint64_t(v)); }
+constexpr float operator""_f32(unsigned long long v) { return std::bit_cast<float>(std::uint32_t(v)); }
+constexpr double operator""_f64(unsigned long long v) { return std::bit_cast<double>(std::uint64_t(v)); }
 // The same for either precision; T(0.5) in the midst of a kernel is a conversion at run time under -frounding-math.
 template <class T>
 inline constexpr T zero_v = 0;
