@@ -21,6 +21,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <type_traits>
+#include <utility>
 
 #include "frame/abi.h"
 #include "frame/catalogue.h"
@@ -129,15 +130,22 @@ LANEMATH_INLINE T* scratch(lanes<T, W>& v) {
   return reinterpret_cast<T*>(&v);
 }
 
-// The results with the marked lanes from the scalar routine. Everything comes as a copy: only the copies have an
-// address, so that the straight path keeps its values in registers.
+// Puts the scalar routine's results into the marked lanes. It works on copies: only they have an address, so that the
+// straight path keeps its values in registers. Of two results each is copied by itself, since a compiler copies a
+// structure of many groups by a call of memcpy.
 template <class Op, class Y, class... X>
-LANEMATH_INLINE Y mended(unsigned mask, Y y, X... x) {
-  if constexpr (requires { y.second; })
-    rare_loop<Op::rare>(mask, scratch(x)..., scratch(y.first), scratch(y.second));
-  else
-    rare_loop<Op::rare>(mask, scratch(x)..., scratch(y));
-  return y;
+LANEMATH_INLINE void mend(unsigned mask, Y& y, X... x) {
+  if constexpr (requires { y.second; }) {
+    auto first = y.first;
+    auto second = y.second;
+    rare_loop<Op::rare>(mask, scratch(x)..., scratch(first), scratch(second));
+    y.first = first;
+    y.second = second;
+  } else {
+    auto copy = y;
+    rare_loop<Op::rare>(mask, scratch(x)..., scratch(copy));
+    y = copy;
+  }
 }
 
 // f over pieces of C lanes each, in straight line; the results put together again.
@@ -146,20 +154,25 @@ LANEMATH_INLINE auto in_pieces(F f, const X&... x) {
   if constexpr (C >= W) {
     return f(x...);
   } else {
-    using piece = decltype(f(part<C>(x, 0)...));
+    const auto piece_at = [&](int first) LANEMATH_LAMBDA { return f(part<C>(x, first)...); };
+    // Not a loop: a compiler leaves one a loop where the pieces are large.
+    const auto for_each_piece = [&]<int... I>(std::integer_sequence<int, I...>, auto put) LANEMATH_LAMBDA {
+      (put(I * C, piece_at(I * C)), ...);
+    };
+    constexpr std::make_integer_sequence<int, W / C> pieces;
+    using piece = decltype(piece_at(0));
     if constexpr (requires { piece::width; }) {
       lanes<typename piece::value_type, W> all;
-      for (int i = 0; i < W; i += C) put_part(all, i, f(part<C>(x, i)...));
+      for_each_piece(pieces, [&](int first, const auto& y) LANEMATH_LAMBDA { put_part(all, first, y); });
       return all;
     } else {
       two_results<lanes<typename decltype(piece::first)::value_type, W>,
                   lanes<typename decltype(piece::second)::value_type, W>>
           all;
-      for (int i = 0; i < W; i += C) {
-        const auto y = f(part<C>(x, i)...);
-        put_part(all.first, i, y.first);
-        put_part(all.second, i, y.second);
-      }
+      for_each_piece(pieces, [&](int first, const auto& y) LANEMATH_LAMBDA {
+        put_part(all.first, first, y.first);
+        put_part(all.second, first, y.second);
+      });
       return all;
     }
   }
@@ -181,7 +194,7 @@ LANEMATH_INLINE auto evaluate(const X&... x) {
   auto y = in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::kernel(v...); }, x...);
 
   if constexpr (requires { Op::always_scalar; }) {
-    y = mended<Op>((1u << W) - 1, y, x...);
+    mend<Op>((1u << W) - 1, y, x...);
   } else if constexpr (requires { Op::rare_test(x...); }) {
     auto rare = in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::rare_test(v...); }, x...);
     if (any(rare)) [[unlikely]] {
@@ -189,7 +202,7 @@ LANEMATH_INLINE auto evaluate(const X&... x) {
         Op::fix_up(x..., y, rare);
       else if constexpr (requires { Op::fix_up(x..., y.first, y.second, rare); })
         Op::fix_up(x..., y.first, y.second, rare);
-      if (const unsigned mask = mask_bits(rare)) y = mended<Op>(mask, y, x...);
+      if (const unsigned mask = mask_bits(rare)) mend<Op>(mask, y, x...);
     }
   }
   return y;

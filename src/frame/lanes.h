@@ -8,6 +8,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <type_traits>
 
 #include <smmintrin.h>
@@ -79,6 +80,13 @@ LANEMATH_INLINE auto from_bits(const lanes<T, W>& v) {
 // A constant by its bit pattern: 0x3F000000_f32 is 0.5f.
 consteval float operator""_f32(unsigned long long v) { return std::bit_cast<float>(std::uint32_t(v)); }
 consteval double operator""_f64(unsigned long long v) { return std::bit_cast<double>(std::uint64_t(v)); }
+// The same for either precision; T(0.5) in the midst of a kernel is a conversion at run time under -frounding-math.
+template <class T>
+inline constexpr T zero_v = 0;
+template <class T>
+inline constexpr T half_v = 0.5;
+template <class T>
+inline constexpr T one_v = 1;
 
 namespace lanes_detail {
 
@@ -93,33 +101,38 @@ LANEMATH_INLINE lanes<T, W> wrapping(F f, const lanes<T, W>& a, const lanes<T, W
   }
 }
 
-template <class F, class T, int W>
-LANEMATH_INLINE auto compare(F f, const lanes<T, W>& a, const lanes<T, W>& b) {
+// Scalar floating comparisons are the instructions that make a mask: what a compiler makes of a < b is a branch.
+template <class T, class F, class Single, class Double, int W>
+LANEMATH_INLINE auto compare(F f, Single single, Double wide, const lanes<T, W>& a, const lanes<T, W>& b) {
   using I = int_of_size<sizeof(T)>;
   return map<I>(
-      [f](auto p, auto q) LANEMATH_LAMBDA {
-        if constexpr (W == 1)
-          return f(p, q) ? I(-1) : I(0);
-        else
+      [&](auto p, auto q) LANEMATH_LAMBDA {
+        if constexpr (W > 1)
           return std::bit_cast<typename lanes<I, W>::group>(f(p, q));
+        else if constexpr (std::is_same_v<T, float>)
+          return std::bit_cast<I>(single(_mm_set_ss(p), _mm_set_ss(q))[0]);
+        else if constexpr (std::is_same_v<T, double>)
+          return std::bit_cast<I>(wide(_mm_set_sd(p), _mm_set_sd(q))[0]);
+        else
+          return f(p, q) ? I(-1) : I(0);
       },
       a, b);
 }
 
 }  // namespace lanes_detail
 
-#define LANEMATH_OPERATOR(op, how)                                                         \
-  template <class T, int W>                                                                \
-  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, const lanes<T, W>& b) {           \
-    return lanes_detail::how([](auto p, auto q) LANEMATH_LAMBDA { return p op q; }, a, b); \
-  }                                                                                        \
-  template <class T, int W>                                                                \
-  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, std::type_identity_t<T> b) {      \
-    return a op lanes<T, W>(b);                                                            \
-  }                                                                                        \
-  template <class T, int W>                                                                \
-  LANEMATH_INLINE auto operator op(std::type_identity_t<T> a, const lanes<T, W>& b) {      \
-    return lanes<T, W>(a) op b;                                                            \
+#define LANEMATH_OPERATOR(op, how, ...)                                                                               \
+  template <class T, int W>                                                                                           \
+  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, const lanes<T, W>& b) {                                      \
+    return lanes_detail::how([](auto p, auto q) LANEMATH_LAMBDA { return p op q; } __VA_OPT__(, ) __VA_ARGS__, a, b); \
+  }                                                                                                                   \
+  template <class T, int W>                                                                                           \
+  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, std::type_identity_t<T> b) {                                 \
+    return a op lanes<T, W>(b);                                                                                       \
+  }                                                                                                                   \
+  template <class T, int W>                                                                                           \
+  LANEMATH_INLINE auto operator op(std::type_identity_t<T> a, const lanes<T, W>& b) {                                 \
+    return lanes<T, W>(a) op b;                                                                                       \
   }
 LANEMATH_OPERATOR(+, wrapping)
 LANEMATH_OPERATOR(-, wrapping)
@@ -128,12 +141,12 @@ LANEMATH_OPERATOR(/, wrapping)
 LANEMATH_OPERATOR(&, wrapping)
 LANEMATH_OPERATOR(|, wrapping)
 LANEMATH_OPERATOR(^, wrapping)
-LANEMATH_OPERATOR(<, compare)
-LANEMATH_OPERATOR(<=, compare)
-LANEMATH_OPERATOR(>, compare)
-LANEMATH_OPERATOR(>=, compare)
-LANEMATH_OPERATOR(==, compare)
-LANEMATH_OPERATOR(!=, compare)
+LANEMATH_OPERATOR(<, compare, _mm_cmplt_ss, _mm_cmplt_sd)
+LANEMATH_OPERATOR(<=, compare, _mm_cmple_ss, _mm_cmple_sd)
+LANEMATH_OPERATOR(>, compare, _mm_cmpgt_ss, _mm_cmpgt_sd)
+LANEMATH_OPERATOR(>=, compare, _mm_cmpge_ss, _mm_cmpge_sd)
+LANEMATH_OPERATOR(==, compare, _mm_cmpeq_ss, _mm_cmpeq_sd)
+LANEMATH_OPERATOR(!=, compare, _mm_cmpneq_ss, _mm_cmpneq_sd)
 #undef LANEMATH_OPERATOR
 
 template <class T, int W>
@@ -156,7 +169,10 @@ LANEMATH_INLINE lanes<T, W> operator>>(const lanes<T, W>& v, int count) {
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> select(const lanes<int_of_size<sizeof(T)>, W>& mask, const lanes<T, W>& yes,
                                    const lanes<T, W>& no) {
-  return map<T>([](auto m, auto a, auto b) LANEMATH_LAMBDA { return m ? a : b; }, mask, yes, no);
+  if constexpr (W == 1 && std::is_floating_point_v<T>)
+    return from_bits((bits(yes) & mask) | (bits(no) & ~mask));
+  else
+    return map<T>([](auto m, auto a, auto b) LANEMATH_LAMBDA { return m ? a : b; }, mask, yes, no);
 }
 
 namespace lanes_detail {
@@ -189,6 +205,20 @@ LANEMATH_INLINE lanes<std::int32_t, W> lower(const lanes<T, W>& v) {
   return lanes_detail::halves<0>(v);
 }
 
+// The word with the sign and the exponent, or an integer's sign: the whole of a 32-bit lane, the upper half of another.
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> top_word(const lanes<T, W>& x) {
+  if constexpr (sizeof(T) == 4)
+    return bits(x);
+  else
+    return upper(x);
+}
+// A mask over lanes of any size as one over 32-bit lanes.
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> narrow_mask(const lanes<T, W>& mask) {
+  return top_word(mask);
+}
+
 // 32-bit integers as 64-bit ones of the same signedness.
 template <class T, int W>
 LANEMATH_INLINE auto widen(const lanes<T, W>& v) {
@@ -206,6 +236,25 @@ LANEMATH_INLINE auto widen(const lanes<T, W>& v) {
     }
   }
   return result;
+}
+
+// Each 64-bit lane shifted left by its own count, from 0 to 63. A lane with another count is anybody's guess.
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> shifted_left(const lanes<T, W>& v, const lanes<T, W>& count) {
+  static_assert(sizeof(T) == 8);
+  using U = std::make_unsigned_t<T>;
+  return as<T>(map<U>(
+      [](auto a, auto n) LANEMATH_LAMBDA {
+        if constexpr (W == 1) {
+          return a << (n & 63);
+        } else {
+          const auto both = std::bit_cast<__m128i>(a), first = std::bit_cast<__m128i>(n);
+          const auto second = _mm_unpackhi_epi64(first, first);
+          return std::bit_cast<typename lanes<U, W>::group>(
+              _mm_blend_epi16(_mm_sll_epi64(both, first), _mm_sll_epi64(both, second), 0xF0));
+        }
+      },
+      as<U>(v), as<U>(count)));
 }
 
 // Lanes first .. first + C - 1, whole groups of them; and their way back.
@@ -356,12 +405,14 @@ LANEMATH_INLINE lanes<U, W> convert(const lanes<T, W>& v) {
   using from = register_of<T>;
   using to = typename lanes<U, W>::group;
   if constexpr (W == 1) {
-    // Between floating types the packed instruction: the scalar one keeps the rest of its destination, and so waits for
+    // The packed instructions where there are any: the scalar ones keep the rest of their destination, and so wait for
     // what a call before this one left there.
-    if constexpr (std::is_same_v<T, float> && std::is_same_v<U, double>)
-      result.g[0] = _mm_cvtps_pd(_mm_set_ss(v.g[0]))[0];
+    if constexpr (std::is_integral_v<T>)
+      result.g[0] = convert_group<U, Truncate>(_mm_cvtsi32_si128(v.g[0]))[0];
+    else if constexpr (std::is_same_v<T, float> && std::is_same_v<U, double>)
+      result.g[0] = convert_group<U, Truncate>(_mm_set_ss(v.g[0]))[0];
     else if constexpr (std::is_same_v<T, double> && std::is_same_v<U, float>)
-      result.g[0] = _mm_cvtpd_ps(_mm_set_sd(v.g[0]))[0];
+      result.g[0] = convert_group<U, Truncate>(_mm_set_sd(v.g[0]))[0];
     else if constexpr (std::is_floating_point_v<U>)
       result.g[0] = U(v.g[0]);
     else if constexpr (sizeof(T) == 4)
@@ -499,17 +550,42 @@ LANEMATH_INLINE lanes<T, W> opaque(lanes<T, W> v) {
   return v;
 }
 
+// The sign bit alone, as a pattern; the value without it; a pattern joined to a value's.
+template <class T>
+inline constexpr auto sign_mask = std::numeric_limits<int_of_size<sizeof(T)>>::min();
+template <class T, int W>
+LANEMATH_INLINE auto sign_of(const lanes<T, W>& x) {
+  return bits(x) & sign_mask<T>;
+}
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> magnitude(const lanes<T, W>& x) {
+  return from_bits(bits(x) & ~sign_mask<T>);
+}
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> with_bits(const lanes<T, W>& x, const lanes<int_of_size<sizeof(T)>, W>& more) {
+  return from_bits(bits(x) | more);
+}
+// The value where the mask holds, else +0.
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> where(const lanes<int_of_size<sizeof(T)>, W>& mask, const lanes<T, W>& x) {
+  return from_bits(bits(x) & mask);
+}
+
+// Lanes in which either is a NaN.
+template <class T, int W>
+LANEMATH_INLINE auto unordered(const lanes<T, W>& x, const lanes<T, W>& y) {
+  if constexpr (sizeof(T) == 4)
+    return bits(lanes_detail::instruction(_mm_cmpunord_ps, _mm_cmpunord_ss, x, y));
+  else
+    return bits(lanes_detail::instruction(_mm_cmpunord_pd, _mm_cmpunord_sd, x, y));
+}
+
 // Lanes whose magnitude is above a bound, given as a bit pattern (the upper half of it for doubles): infinities and
 // NaNs are among them.
 template <class T, int W>
 LANEMATH_INLINE auto magnitude_above(const lanes<T, W>& x, std::int32_t bound) {
-  lanes<std::int32_t, W> pattern;
-  if constexpr (sizeof(T) == 4)
-    pattern = bits(x);
-  else
-    pattern = upper(x);
   // Opaque: a compiler that knows the sign bit to be clear makes two instructions of the comparison.
-  return opaque(pattern & 0x7FFFFFFF) > bound;
+  return opaque(top_word(x) & 0x7FFFFFFF) > bound;
 }
 
 }  // namespace lanemath

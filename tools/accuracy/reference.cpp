@@ -10,6 +10,7 @@ const std::vector<reference>& references() {
     std::vector<reference> joined;
     for (const auto family : {
              exponential_references,
+             manipulation_references,
              logarithm_references,
          })
       for (auto& each : family()) joined.push_back(std::move(each));
