@@ -46,7 +46,7 @@ LANEMATH_INLINE V times(V x, double factor) {
 template <auto& c, auto& table, class V, class N>
 LANEMATH_INLINE V with_exponent_term(V y, V x, N n) {
   const auto k = (upper(x) >> 20) - 1022 + (n > 724.0f);  // the mask is -1
-  return (y + look_up(table, index_of_integer(n))) + times < c.LOG2 == 1.0 > (convert<double>(k), c.LOG2);
+  return (y + look_up(table, index_of_integer(n))) + times<c.LOG2 == 1.0>(convert<double>(k), c.LOG2);
 }
 
 template <auto& c, auto& table, class V>
@@ -57,7 +57,7 @@ LANEMATH_INLINE V double_log(V x) {
   const V gh = from_bits(bits(g) & std::int64_t(0xFFFFFFFFFC000000)), gl = g - gh;
   const V z = (gh * n - 1.0) + gl * n;
   const V s = z * z;
-  const V y = s * ((c.P5 * z + c.P4) * s + (c.P3 * z + c.P2)) + times < c.P1 == 1.0 > (z, c.P1);
+  const V y = s * ((c.P5 * z + c.P4) * s + (c.P3 * z + c.P2)) + times<c.P1 == 1.0>(z, c.P1);
   return with_exponent_term<c, table>(y, x, near);
 }
 
@@ -66,7 +66,7 @@ LANEMATH_INLINE V light_double_log(V x) {
   const V g = scaled_mantissa(x);
   const auto near = integer_near_reciprocal(g);
   const V z = g * convert<double>(near) - 1.0;
-  const V y = (c.P3 * z + c.P2) * (z * z) + times < c.P1 == 1.0 > (z, c.P1);
+  const V y = (c.P3 * z + c.P2) * (z * z) + times<c.P1 == 1.0>(z, c.P1);
   return with_exponent_term<c, table>(y, x, near);
 }
 

@@ -4,6 +4,9 @@
 // unless x is tiny, so that the mantissa g of w times n, an integer near 1 / g, is exact; ln(1 + x) from the raw biased
 // exponent, a table of -ln n that has the bias taken off, and a short polynomial in z = (w + l) n 2^j - 1. _native: the
 // light logarithm of w with l added to its residual. The sign of x is put on the result, for -0.
+//
+// Largest errors in ulp. log1pf, over all inputs: 0.574 in the kernel, 1.0000 at 9.457452e+37 (0x7E8E4CC8), a rare
+// lane; _native 1567.7 at -0.22119504 (0xBE6280F4). log1p, in tens of millions of lanes: @LOG1P@
 #include "log/double.h"
 #include "log/rare.h"
 #include "log/single.h"
@@ -56,16 +59,10 @@ constexpr auto& rows_of() {
     return log1p_table;
 }
 
-template <class V>
-V with_sign_of(V x, V y) {
-  using pattern = typename decltype(bits(x))::value_type;
-  return from_bits(bits(y) | (bits(x) & std::numeric_limits<pattern>::min()));
-}
-
 // 1 + x = w + l exactly.
 template <class V>
 struct exact_sum {
-  static constexpr typename V::value_type ONE = 1;
+  static constexpr auto ONE = one_v<typename V::value_type>;
   V larger, smaller;
   LANEMATH_INLINE explicit exact_sum(V x) : larger(maximum(V(ONE), x)), smaller(minimum(V(ONE), x)) {}
   LANEMATH_INLINE V w() const { return larger + smaller; }
@@ -109,15 +106,14 @@ struct log1p_standard : log1p_guards<T, Routine> {
   static V kernel(V x) {
     constexpr auto& c = rows_of<T>();
     const exact_sum<V> sum(x);
-    const V magnitude = from_bits(bits(x) & std::numeric_limits<typename log1p_rows<T>::pattern>::max());
-    const V w = from_bits(bits(sum.w()) & ((magnitude < c.TINY) | c.MASKH));
+    const V w = from_bits(bits(sum.w()) & ((magnitude(x) < c.TINY) | c.MASKH));
     const V l = sum.lost_by(w);
     const scaled_sum<V> a(w);
     const V t1 = a.g * a.n - sum.ONE;
     const V t2 = l * a.f;
     const V z = t1 + t2;
     const V d = t2 - (z - t1);
-    const V e = raw_exponent(w);
+    const V e = convert<T>(top_word(w) >> format<T>::top_shift);
     const auto [hi, lo] = minus_ln_of(a.near);
     const V H = e * c.LN2H + hi;
     const V L = e * c.LN2L + lo;
@@ -126,21 +122,15 @@ struct log1p_standard : log1p_guards<T, Routine> {
     const V y = z * z;
     if constexpr (sizeof(T) == 4) {
       const V q = (C3 * z + C2) * y + d;
-      return with_sign_of(x, ((L + r) + q) + s);
+      return with_bits(((L + r) + q) + s, sign_of(x));
     } else {
       constexpr auto& p = log_table;
       const V q = ((p.P5 * z + p.P4) * y + (p.P3 * z + p.P2)) * y + (L + d);
-      return with_sign_of(x, (r + q) + s);
+      return with_bits((r + q) + s, sign_of(x));
     }
   }
 
  private:
-  LANEMATH_INLINE static auto raw_exponent(auto w) {
-    if constexpr (sizeof(T) == 4)
-      return convert<T>(bits(w) >> 23);
-    else
-      return convert<T>(upper(w) >> 20);
-  }
   LANEMATH_INLINE static auto minus_ln_of(auto n) {
     if constexpr (sizeof(T) == 4)
       return look_up(log1pf_of_integers, (bits(n) >> 16) - 0x4300);  // 128
@@ -165,7 +155,7 @@ struct log1pf_native {
     const centred_mantissa<V> a(w);
     const V c = from_bits(0x3F800000 - (a.k << 23));  // 2^-k
     const V y = ln_of_one_plus(a.r + l * c, light_ln_polynomial);
-    return with_sign_of(x, convert<float>(a.k) * LN2_F32 + y);
+    return with_bits(convert<float>(a.k) * LN2_F32 + y, sign_of(x));
   }
 };
 
@@ -178,7 +168,7 @@ struct log1p_native : log1p_guards<double, log1p_rare> {
     const scaled_sum<V> a(w);
     const V z = (a.g * a.n - 1.0) + l * a.f;
     const V y = z + (log_table.P3 * z + log_table.P2) * (z * z);
-    return with_sign_of(x, with_exponent_term<log_table, ln_of_integers>(y, w, a.near));
+    return with_bits(with_exponent_term<log_table, ln_of_integers>(y, w, a.near), sign_of(x));
   }
 };
 

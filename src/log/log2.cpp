@@ -45,7 +45,7 @@ struct log22 {
     const auto denormal = (bits(x) & 0x7FF0000000000000) == 0;
     const V scaled = from_bits(bits(x) | 0x3FF0000000000000) - 1.0;
     V y = of_normal(select(denormal, scaled, x)) - select(denormal, V(1022.0), V(0.0));
-    y = select(x < 0.0, V(log_detail::format<double>::of_zero_by_zero), y);
+    y = select(x < 0.0, V(0xFFF8000000000000_f64), y);  // what zero by zero gives
     y = select(x == 0.0, V(-std::numeric_limits<double>::infinity()), y);
     return select(x < std::numeric_limits<double>::infinity(), y, x);
   }

@@ -5,11 +5,10 @@
 // exact. What c m is off 1 goes into a polynomial, -log c comes from a table in two parts.
 #pragma once
 
-#include <bit>
 #include <cmath>
-#include <limits>
 #include <optional>
 
+#include "frame/fields.h"
 #include "log/common.h"
 #include "tables/log.h"
 
@@ -17,43 +16,25 @@ namespace lanemath {
 
 namespace log_detail {
 
+// Adding it leaves m - 1 in 64ths, rounded, in the lowest bits.
 template <class T>
-struct format;
+constexpr T index_shifter;
 template <>
-struct format<float> {
-  using pattern = std::uint32_t;
-  static constexpr int mantissa_bits = 23, bias = 127;
-  static constexpr float of_zero_by_zero = 0xFFC00000_f32;
-  static constexpr float index_shifter = 0x48000040_f32;  // 2^17 + 1
-};
+inline constexpr float index_shifter<float> = 0x48000040_f32;  // 2^17 + 1
 template <>
-struct format<double> {
-  using pattern = std::uint64_t;
-  static constexpr int mantissa_bits = 52, bias = 1023;
-  static constexpr double of_zero_by_zero = 0xFFF8000000000000_f64;
-  static constexpr double index_shifter = 0x42D0000000000040_f64;  // 2^46 + 1
-};
-
-template <class T>
-auto pattern_of(T x) {
-  return std::bit_cast<typename format<T>::pattern>(x);
-}
-template <class T>
-int exponent_field(T x) {
-  return int(pattern_of(x) >> format<T>::mantissa_bits) & (2 * format<T>::bias + 1);
-}
+inline constexpr double index_shifter<double> = 0x42D0000000000040_f64;  // 2^46 + 1
 
 // The status of an argument that is no positive number below infinity.
 template <class T>
 std::optional<int> of_special(T x, T& y) {
-  constexpr T infinity = std::numeric_limits<T>::infinity();
+  constexpr T infinity = value_of<T>(format<T>::infinity);
   if (x > 0 && x < infinity) return std::nullopt;
   if (x == 0) {
     y = -infinity;
     return 2;
   }
   if (x < 0) {
-    y = format<T>::of_zero_by_zero;
+    y = default_nan<T>();
     return 1;
   }
   y = x * x;  // makes a NaN quiet
@@ -68,17 +49,16 @@ struct reduced {
 // `grid` leaves as many bits in g as its product with c has room for.
 template <class T>
 reduced<T> reduce(T x, T grid, int correction) {
-  using bits_t = typename format<T>::pattern;
-  const bits_t mantissa = (bits_t(1) << format<T>::mantissa_bits) - 1;
-  const T m = std::bit_cast<T>(bits_t((pattern_of(x) & mantissa) | (pattern_of(T(1)))));
+  const T m = value_of<T>((pattern_of(x) & format<T>::fraction) | pattern_of(one_v<T>));
   return {T(exponent_field(x) - format<T>::bias + correction), m, (m + grid) - grid,
-          int(pattern_of(m + format<T>::index_shifter) & 127)};
+          int(pattern_of(m + index_shifter<T>) & 127)};
 }
 
 template <class T>
 struct natural_rows {
   T RESCALE;  // what denormals are multiplied by,
   int SHIFT;  // a power of two
+  T NEAR;     // where x - 1 goes into the polynomial as it is
   T GRID;
   T LN2H, LN2L;              // ln 2 in two parts,
   T DENORMAL_H, DENORMAL_L;  // and for denormals
@@ -87,6 +67,7 @@ struct natural_rows {
 inline constexpr natural_rows<float> natural_single{
     .RESCALE = 0x4D000000_f32,
     .SHIFT = -27,
+    .NEAR = 0.009765625f,
     .GRID = 8192.0f,
     .LN2H = 0x3F317200_f32,
     .LN2L = 0x35BFBE8E_f32,
@@ -98,6 +79,7 @@ inline constexpr natural_rows<float> natural_single{
 inline constexpr natural_rows<double> natural_double{
     .RESCALE = 0x43B0000000000000_f64,
     .SHIFT = -60,
+    .NEAR = 0.009765625,
     .GRID = 2097152.0,
     .LN2H = 0x3FE62E42FEFA3800_f64,
     .LN2L = 0x3D2EF35793C76730_f64,
@@ -112,15 +94,15 @@ int natural(T x, T& y, const natural_rows<T>& rows, const T (&table)[65][3]) {
   if (const auto status = of_special(x, y)) return *status;
   const bool denormal = exponent_field(x) == 0;
   if (denormal) x = x * rows.RESCALE;
-  const T d = x - 1;
-  if (std::fabs(d) <= T(0.009765625)) {
+  const T d = x - one_v<T>;
+  if (std::fabs(d) <= rows.NEAR) {
     y = d + (horner(d, rows.Q) * d) * d;
     return 0;
   }
   const auto [k, m, g, i] = reduce(x, rows.GRID, denormal ? rows.SHIFT : 0);
   const T H = k * (denormal ? rows.DENORMAL_H : rows.LN2H), L = k * (denormal ? rows.DENORMAL_L : rows.LN2L);
   const auto& [c, hi, lo] = table[i];
-  const T z0 = g * c - 1;
+  const T z0 = g * c - one_v<T>;
   const T z1 = c * (m - g);
   const T z = z0 + z1;
   y = (z0 + (H + hi)) + ((z1 + (L + lo)) + (horner(z, rows.Q) * z) * z);
@@ -133,8 +115,7 @@ template <class T>
 struct based_rows {
   T RESCALE;
   int SHIFT;
-  T NEAR;  // where x - 1 goes into the polynomial as it is
-  T GRID, SCALE;
+  T NEAR, GRID, SCALE;
   T LOG2H, LOG2L;  // the logarithm of 2 in two parts
   T W[8];
 };
@@ -177,7 +158,7 @@ int to_base(T x, T& y, const based_rows<T>& rows, const T (&table)[65][3]) {
   if (const auto status = of_special(x, y)) return *status;
   const bool denormal = exponent_field(x) == 0;
   if (denormal) x = x * rows.RESCALE;
-  const T d = x - 1;
+  const T d = x - one_v<T>;
   if (std::fabs(d) <= rows.NEAR) {
     const T z = d * rows.SCALE;
     y = z + horner(z, rows.W) * z;
