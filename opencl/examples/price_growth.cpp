@@ -1,11 +1,7 @@
 // Compound growth between any two years of a price index on an OpenCL device: the average yearly inflation, which is
 // one power, and what money that was put away at interest buys in the end, which is one exponential.
-#define CL_HPP_ENABLE_EXCEPTIONS
-#define CL_HPP_MINIMUM_OPENCL_VERSION 120
-#define CL_HPP_TARGET_OPENCL_VERSION 120
 #include <dlfcn.h>
 #include <fmt/format.h>
-#include <CL/opencl.hpp>
 
 #include <CLI/CLI.hpp>
 #include <cmath>
@@ -13,6 +9,8 @@
 #include <stdexcept>
 #include <string>
 #include <vector>
+
+#include "example.h"
 
 namespace {
 
@@ -102,9 +100,7 @@ std::string check(const factors& got, const std::vector<double>& prices, double 
   return pow1 ? "lanemath's pow and exp, bit for bit" : "the runtime's own pow and exp";
 }
 
-}  // namespace
-
-int main(int argc, char** argv) try {
+int run(int argc, char** argv) {
   std::string data;
   double interest = 0.03;
   CLI::App app("Inflation and the worth of savings between the years of a price index, on an OpenCL device.");
@@ -140,10 +136,10 @@ int main(int argc, char** argv) try {
               got.worth, [](double factor) { return fmt::format("{:.1f}", 100 * factor); });
   fmt::print("device      {}\nbuilt-ins   {}\n", got.device, built_ins);
   return 0;
-} catch (const cl::Error& error) {
-  fmt::print(stderr, "OpenCL: {} gave error {}\n", error.what(), error.err());
-  return 1;
-} catch (const std::exception& error) {
-  fmt::print(stderr, "{}\n", error.what());
-  return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  return example::guarded([&] { return run(argc, argv); });
 }

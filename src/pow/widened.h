@@ -3,6 +3,7 @@
 #pragma once
 
 #include "pow/marks.h"
+#include "tables/log.h"
 #include "tables/pow.h"
 
 namespace lanemath {
@@ -35,7 +36,7 @@ LANEMATH_INLINE lanes<double, W> widened_product(const mantissa_and_exponent<W>&
   const auto& [m, narrow, exponent] = x;
   const V t = m * convert<double>(r) - 1.0;
   const V p = t + (t * 0x3FD55555555543C5_f64 + 0xBFDFFFFFFFFFF81F_f64) * (t * t);
-  const V T = look_up(ln_reciprocal, (bits(r) >> 14) & 0x3FF);
+  const V T = look_up(ln_of_integers, (bits(r) >> 14) & 0x3FF);
   const V k = convert<double>(exponent + 1 + (r > 724.0f));
   const V L = (p + T) + k * 0x3FE62E42FEFA39EF_f64;
   return L * y;

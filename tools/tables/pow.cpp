@@ -1,42 +1,17 @@
 // Tables of the powers, each entry exact and rounded once.
-#include <cmath>
-
 #include "table_writer.h"
 
 namespace {
 
-template <auto F>
-real of(const real& x) {
-  real y;
-  F(y.v, x.v, MPFR_RNDN);
-  return y;
-}
-real ln(const real& x) { return of<mpfr_log>(x); }
-real log2(const real& x) { return of<mpfr_log2>(x); }
-real exp2(const real& x) { return of<mpfr_exp2>(x); }
-
-// Rounded to a multiple of 2^-bits.
-real on_grid(const real& x, int bits, mpfr_rnd_t rounding) {
-  real y;
-  mpfr_mul_2si(y.v, x.v, bits, MPFR_RNDN);
-  mpfr_rint(y.v, y.v, rounding);
-  mpfr_mul_2si(y.v, y.v, -bits, MPFR_RNDN);
-  return y + real(0);  // no negative zero
-}
-
-// A high part that is a multiple of 2^-bits, and what is left.
-template <class T>
-std::pair<T, T> split(const real& x, int bits) {
-  const real high = on_grid(x, bits, MPFR_RNDN);
-  return {high.nearest<T>(), (x - high).nearest<T>()};
-}
+real log2(const real& x) { return apply(mpfr_log2, x); }
+real exp2(const real& x) { return apply(mpfr_exp2, x); }
 
 template <std::size_t N>
 void write_stage(table_writer& out, std::string_view name, const float (&reciprocals)[N], double scale, int stepped) {
   out.triples<float>(name, "a reciprocal r, and the base-2 logarithm that it removes in two parts", N, [&](int i) {
     const real removed = log2(real(scale)) - log2(real(reciprocals[i])) - real(i >= stepped);
     const auto [hi, lo] = split<float>(removed, 17);
-    return std::array{reciprocals[i], hi, lo};
+    return std::tuple(reciprocals[i], hi, lo);
   });
 }
 
@@ -44,20 +19,16 @@ void write_stage(table_writer& out, std::string_view name, const float (&recipro
 
 void write_pow_tables(table_writer& out) {
   // The kernel in double for float results.
-  out.values<double>("ln_reciprocal", "ln(1024/r) for r = 512 + i above 724, ln(512/r) up to it", 513, [](int i) {
-    const int r = 512 + i;
-    return ln(real(r > 724 ? 1024 : 512) / real(r)).nearest<double>();
-  });
+  const real ln_2 = apply(mpfr_log, real(2));
   const real bias(0x1.ffffffc27dd9ep-1);
   out.values<double>("exp2_biased_2048", "2^(j/2048), less half of what a chord lies above the curve", 2048,
                      [&](int j) { return (exp2(real(j) / real(2048)) * bias).nearest<double>(); });
 
   // The kernel in pairs of floats.
-  out.triples<float>("ln_65", "-ln C in two parts, and C, the short reciprocal of 1 + j/64", 65, [](int j) {
-    const real reciprocal = on_grid(real(64) / real(64 + j), 8, MPFR_RNDN);
-    const real exact = real(0) - ln(reciprocal);
-    const real high = on_grid(exact, 14, MPFR_RNDD);
-    return std::array{high.nearest<float>(), (exact - high).nearest<float>(), reciprocal.nearest<float>()};
+  out.wide_triples<float>("ln_65", "-ln C in two parts, and C, the short reciprocal of 1 + j/64", 65, [](int j) {
+    const auto reciprocal = on_grid<float>(real(64) / real(64 + j), 8);
+    const auto [hi, lo] = split<float>(real(0) - apply(mpfr_log, real(reciprocal)), 14, mpfr_rint_floor);
+    return std::tuple(hi, lo, reciprocal);
   });
 
   // The scalar routine in pairs of floats. The scale of the third stage is near 1 / ln 2.
@@ -92,13 +63,13 @@ void write_pow_tables(table_writer& out) {
   out.pairs<double>("log2_series", "coefficients of the powers of w in log2(1 + w/c); of the first, less 1", 9,
                     [&](int n) {
                       if (n == 0) return std::pair(0.0, 0.0);
-                      real power = of<mpfr_log>(real(2)) * real(n % 2 ? n : -n);
+                      real power = ln_2 * real(n % 2 ? n : -n);
                       for (int i = 0; i < n; ++i) power = power * scale;
                       return two_doubles(real(1) / power - real(n == 1));
                     });
   out.pairs<double>("exp2_series", "coefficients of the powers of v in 2^v", 8, [&](int n) {
     real power(1);
-    for (int i = 1; i <= n; ++i) power = power * ln(real(2)) / real(i);
+    for (int i = 1; i <= n; ++i) power = power * ln_2 / real(i);
     return two_doubles(power);
   });
 }

@@ -4,7 +4,6 @@
 #include <fmt/format.h>
 #include <mpfr.h>
 
-#include <array>
 #include <cstdio>
 #include <string_view>
 #include <type_traits>
@@ -44,6 +43,32 @@ struct real {
 #undef REAL_OPERATOR
 };
 
+using function = int (*)(mpfr_t, const mpfr_t, mpfr_rnd_t);
+inline real apply(function f, const real& x) {
+  real y;
+  f(y.v, x.v, MPFR_RNDN);
+  return y;
+}
+
+inline real power_of_two(int k) {
+  real y(1);
+  mpfr_mul_2si(y.v, y.v, k, MPFR_RNDN);
+  return y;
+}
+
+// A multiple of 2^-bits, the nearest one if nothing else is said.
+template <class T>
+T on_grid(const real& x, int bits, function rounding = mpfr_rint_roundeven) {
+  return (apply(rounding, x * power_of_two(bits)) / power_of_two(bits)).nearest<T>();
+}
+
+// x as a multiple of 2^-bits and the rest.
+template <class T>
+std::pair<T, T> split(const real& x, int bits, function rounding = mpfr_rint_roundeven) {
+  const T hi = on_grid<T>(x, bits, rounding);
+  return {hi, (x - real(hi)).nearest<T>()};
+}
+
 // Writes tables as C++ arrays, their entries as hexadecimal floating literals.
 class table_writer {
  public:
@@ -57,26 +82,35 @@ class table_writer {
   // entry(j) is a value.
   template <class T, class F>
   void values(std::string_view name, std::string_view meaning, int size, F entry) {
-    table(name, meaning, type<T>(), size, [&](int j) { return literal(T(entry(j))); });
+    table(fmt::format("{}[{}]", name, size), meaning, type<T>(), size, [&](int j) { return literal(T(entry(j))); });
   }
   // entry(j) is a pair, high part first.
   template <class T, class F>
   void pairs(std::string_view name, std::string_view meaning, int size, F entry) {
-    table(name, meaning, fmt::format("two_part<{}>", type<T>()), size, [&](int j) {
+    table(fmt::format("{}[{}]", name, size), meaning, fmt::format("two_part<{}>", type<T>()), size, [&](int j) {
       const auto [hi, lo] = entry(j);
       return fmt::format("{{{}, {}}}", literal(T(hi)), literal(T(lo)));
     });
   }
-  // entry(j) is an array of three.
+  // entry(j) is a tuple of three; the table is an array of arrays of three.
   template <class T, class F>
   void triples(std::string_view name, std::string_view meaning, int size, F entry) {
-    table(name, meaning, fmt::format("triple<{}>", type<T>()), size, [&](int j) {
-      const std::array<T, 3> e = entry(j);
-      return fmt::format("{{{}, {}, {}}}", literal(e[0]), literal(e[1]), literal(e[2]));
-    });
+    threes<T>(fmt::format("{}[{}][3]", name, size), meaning, type<T>(), size, entry);
+  }
+  // The same; the table is an array of structures that one load brings whole.
+  template <class T, class F>
+  void wide_triples(std::string_view name, std::string_view meaning, int size, F entry) {
+    threes<T>(fmt::format("{}[{}]", name, size), meaning, fmt::format("triple<{}>", type<T>()), size, entry);
   }
 
  private:
+  template <class T, class F>
+  void threes(std::string_view declarator, std::string_view meaning, std::string_view type, int size, F entry) {
+    table(declarator, meaning, type, size, [&](int j) {
+      const auto [a, b, c] = entry(j);
+      return fmt::format("{{{}, {}, {}}}", literal(T(a)), literal(T(b)), literal(T(c)));
+    });
+  }
   template <class T>
   static constexpr std::string_view type() {
     return std::is_same_v<T, float> ? "float" : "double";
@@ -86,8 +120,8 @@ class table_writer {
     return fmt::format("{:a}{}", value, std::is_same_v<T, float> ? "f" : "");
   }
   template <class F>
-  void table(std::string_view name, std::string_view meaning, std::string_view of, int size, F entry) {
-    fmt::print(to_, "\n// {}\nalignas(64) inline constexpr {} {}[{}] = {{\n", meaning, of, name, size);
+  void table(std::string_view declarator, std::string_view meaning, std::string_view of, int size, F entry) {
+    fmt::print(to_, "\n// {}\nalignas(64) inline constexpr {} {} = {{\n", meaning, of, declarator);
     for (int j = 0; j < size; ++j) fmt::print(to_, "    {},\n", entry(j));
     fmt::print(to_, "}};\n");
   }
