@@ -247,6 +247,16 @@ TYPED_TEST(Powers, NaNsComeBackQuietedWithSignAndPayload) {
   }
 }
 
+// Rows of powr that only a denormal base or an exponent of its last binades brings to the routine.
+TEST(PowerRoutines, OneFromTheRoutineOfPowr) {
+  for (std::string_view name : {"powrf", "powr"})
+    for_each_form(name, [&](variant v, int width) {
+      const u64 one = name == "powr" ? pattern<double>(1) : pattern<float>(1);
+      EXPECT_EQ(bits_of(name, v, width, {1, 0}), one);
+      if (name == "powr") EXPECT_EQ(bits_of(name, v, width, {one, pattern<double>(-0x1p1020)}), one);
+    });
+}
+
 // Constant terms that are not 1, and are kept.
 TEST(PowerKernels, NextToOne) {
   const u64 three = pattern<float>(3), one = pattern<float>(1), wide_three = pattern<double>(3);
