@@ -42,7 +42,7 @@ inline two_doubles reciprocal_exponent(std::int32_t n, double) {
 
 inline two_doubles log2_of(double magnitude) {
   int adjustment = 0;
-  if (biased_exponent(magnitude) == 0) {
+  if (exponent_field(magnitude) == 0) {
     magnitude *= 0x1p64;
     adjustment = -64;
   }
@@ -73,7 +73,7 @@ inline double scaled(two_doubles p, int n, double sign) {
   constexpr double tiny = 0x1p-1022, huge = 0x1p1023;
   const auto by_exponent = [](double v, int k) { return value_of<double>(pattern_of(v) + (std::uint64_t(k) << 52)); };
 
-  const int f = biased_exponent(p.hi) + n - 1023;
+  const int f = exponent_field(p.hi) + n - 1023;
   if (f > 1023) return square(huge) * sign;
   if (f >= -1022) return by_exponent(p.hi, n) * sign;
   if (f < -1084) return square(tiny) * sign;
@@ -87,7 +87,7 @@ inline double scaled(two_doubles p, int n, double sign) {
 inline double finite_power(double x, two_doubles y, double sign) {
   const auto log = log2_of(without_sign(x));
   // |y log2 x| of 2^11 and more, or too small to tell the result from 1.
-  const int size = biased_exponent(y.hi) + biased_exponent(log.hi);
+  const int size = exponent_field(y.hi) + exponent_field(log.hi);
   if (size >= 2057) return square(has_sign(y.hi) != has_sign(log.hi) ? 0x1p-1022 : 0x1p1023) * sign;
   if (size < 1986) return (1.0 + opaque(0x1p-1022)) * sign;
 

@@ -46,7 +46,7 @@ float finite_power(float x, const exponent_parts<float>& y, float sign) {
 
   float ax = without_sign(x);
   int adjustment = 0;
-  if (biased_exponent(x) == 0) {
+  if (exponent_field(x) == 0) {
     ax *= 0x5F800000_f32;  // 2^64
     adjustment = -64;
   }
@@ -78,7 +78,7 @@ float finite_power(float x, const exponent_parts<float>& y, float sign) {
   const float H = s0 + S3;
   const float c4 = (S3 - H) + s0;
 
-  const int size = biased_exponent(y.value) + biased_exponent(H);
+  const int size = exponent_field(y.value) + exponent_field(H);
   if (size >= 265) return square(has_sign(y.value) != has_sign(H) ? tiny : huge) * sign;
   if (size < 193) return (1.0f + opaque(tiny)) * sign;
 
@@ -108,7 +108,7 @@ float finite_power(float x, const exponent_parts<float>& y, float sign) {
   const float v = ((0x3D635847_f32 * rest + 0x3E75FDF0_f32) * rest + 0x3F317218_f32) * rest * power_hi + power_lo;
   const float E = v + power_hi;
 
-  const int f = biased_exponent(E) + n - 127;
+  const int f = exponent_field(E) + n - 127;
   if (f >= 128) return square(huge) * sign;
   if (f >= -126) return value_of<float>((pattern_of(E) & 0x007FFFFF) | std::uint32_t(f + 127) << 23) * sign;
   if (f < -159) return square(tiny) * sign;

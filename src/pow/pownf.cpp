@@ -5,7 +5,8 @@
 // 1^n are next to 1 and not 1. Rare lanes in pairs of floats.
 //
 // Largest errors found, in ulp: default 8.173 at 0x3F825649, 4423, and 8015 at 0x3F7AB00F, 4165, where a result next to
-// the normals is below them and the exponent has no room; light form 4951 at 0x3FAAB2E1, -301; rare lanes 1.319 at 0x3F7EAB63, -17011.
+// the normals is below them and the exponent has no room; light form 4951 at 0x3FAAB2E1, -301; rare lanes 1.319 at
+// 0x3F7EAB63, -17011.
 #include "pow/finite_single.h"
 #include "pow/single.h"
 
