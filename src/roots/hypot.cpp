@@ -22,7 +22,7 @@ bool hypot_of_non_finite(T x, T y, T& z) {
   if (finite(x) || (x != x && infinite(y)))
     z = y * y;
   else if (x != x && y != y)
-    z = x * y;
+    z = ordered_product(lanes<T, 1>(x), lanes<T, 1>(y)).g[0];
   else
     z = x * x;
   return true;
@@ -106,7 +106,7 @@ struct hypotf_native {
 
   template <class V>
   static V kernel(V x, V y) {
-    const V s = x * x + y * y;
+    const V s = ordered_sum(x * x, y * y);
     return where(s != 0.0f, reciprocal_root_estimate(s)) * s;
   }
 };

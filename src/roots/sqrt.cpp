@@ -72,7 +72,8 @@ struct sqrt_native {
   using signature = double(double);
   template <class V>
   static V kernel(V x) {
-    return x * convert<double>(reciprocal_root_estimate(convert<float>(x)));
+    // Narrowing may cut a NaN's low bits: x's own are kept.
+    return ordered_product(x, convert<double>(reciprocal_root_estimate(convert<float>(x))));
   }
 };
 

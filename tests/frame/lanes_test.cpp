@@ -139,6 +139,14 @@ TEST(Lanes, ShiftEachByItsOwnCount) {
   });
 }
 
+TEST(Lanes, MakeDoublesOfUpperHalves) {
+  const auto& halves = some_values<std::int32_t>();
+  at_every_width([&](auto width) {
+    expect_lanes(bits(from_upper(load<std::int32_t, width>(halves))),
+                 [&](int i) { return std::int64_t(std::uint64_t(std::uint32_t(halves[i])) << 32); });
+  });
+}
+
 TYPED_TEST(FloatingLanes, LookUpEveryLanesEntry) {
   using T = TypeParam;
   static constexpr two_part<T> table[4] = {{1, 10}, {2, 20}, {3, 30}, {4, 40}};
