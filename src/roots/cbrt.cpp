@@ -5,6 +5,10 @@
 // series of (1 + r)^(1/3) or (1 + r)^(-1/3). The quotient becomes a power of two, which also carries the sign. In
 // single precision the entries have a low part; the light forms do without it and keep one term of four. In double the
 // light forms keep five terms of seven. Zeros, denormals, infinities and NaNs are rare.
+//
+// Largest errors found in samples, in ulp: cbrtf 0.5103 at 3.5698952e-07, _native 355.9 at 0.5; rcbrtf 0.5099 at
+// -6.77168e-36, _native 888.7 at 1.0000027; cbrt 1.097 at -2.349179977752495e-53, _native 2265.1; rcbrt 1.010, _native
+// 13370 at 1.0000000000000067.
 #include "roots/roots.h"
 #include "tables/roots.h"
 
