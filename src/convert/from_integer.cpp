@@ -81,6 +81,7 @@ struct to_double {
 template <direction D, class I, class T>
 struct from_two_fields {
   using signature = T(I);
+  static constexpr int groups_at_once = 2;
   template <class V>
   static auto kernel(V x) {
     using c = from_integer_rows<T>;
@@ -170,17 +171,15 @@ struct from_three_fields<direction::nearest, I> : from_three_fields_to_nearest<I
 
 }  // namespace
 
-// clang-format off
-#define FORMS(rounding, D)                                                                                \
-  LANEMATH_CONVERSION(cvti32tofp##rounding, to_double<std::int32_t>)                                      \
-  LANEMATH_CONVERSION(cvtu32tofp##rounding, to_double<std::uint32_t>)                                     \
-  LANEMATH_CONVERSION(cvti32tofp##rounding##f, from_two_fields<direction::D, std::int32_t, float>)     \
-  LANEMATH_CONVERSION(cvtu32tofp##rounding##f, from_two_fields<direction::D, std::uint32_t, float>)    \
-  LANEMATH_CONVERSION(cvti64tofp##rounding, from_two_fields<direction::D, std::int64_t, double>)       \
-  LANEMATH_CONVERSION(cvtu64tofp##rounding, from_two_fields<direction::D, std::uint64_t, double>)      \
-  LANEMATH_CONVERSION(cvti64tofp##rounding##f, from_three_fields<direction::D, std::int64_t>)          \
+#define FORMS(rounding, D)                                                                          \
+  LANEMATH_CONVERSION(cvti32tofp##rounding, to_double<std::int32_t>)                                \
+  LANEMATH_CONVERSION(cvtu32tofp##rounding, to_double<std::uint32_t>)                               \
+  LANEMATH_CONVERSION(cvti32tofp##rounding##f, from_two_fields<direction::D, std::int32_t, float>)  \
+  LANEMATH_CONVERSION(cvtu32tofp##rounding##f, from_two_fields<direction::D, std::uint32_t, float>) \
+  LANEMATH_CONVERSION(cvti64tofp##rounding, from_two_fields<direction::D, std::int64_t, double>)    \
+  LANEMATH_CONVERSION(cvtu64tofp##rounding, from_two_fields<direction::D, std::uint64_t, double>)   \
+  LANEMATH_CONVERSION(cvti64tofp##rounding##f, from_three_fields<direction::D, std::int64_t>)       \
   LANEMATH_CONVERSION(cvtu64tofp##rounding##f, from_three_fields<direction::D, std::uint64_t>)
-// clang-format on
 LANEMATH_FOR_ROUNDINGS(FORMS)
 
 }  // namespace lanemath

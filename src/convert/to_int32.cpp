@@ -71,17 +71,15 @@ struct to_unsigned {
 
 }  // namespace
 
-// clang-format off
-#define FORMS(rounding, D)                                                              \
-  LANEMATH_CONVERSION(cvtfptoi32##rounding##nosatf, to_signed<direction::D, float>)            \
-  LANEMATH_CONVERSION(cvtfptoi32##rounding##nosat, to_signed<direction::D, double>)            \
-  LANEMATH_CONVERSION(cvtfptoi32##rounding##satf, to_signed_saturated<direction::D, float>)    \
-  LANEMATH_CONVERSION(cvtfptoi32##rounding##sat, to_signed_saturated<direction::D, double>)    \
-  LANEMATH_CONVERSION(cvtfptou32##rounding##nosatf, to_unsigned<direction::D, float, false>)   \
-  LANEMATH_CONVERSION(cvtfptou32##rounding##nosat, to_unsigned<direction::D, double, false>)   \
-  LANEMATH_CONVERSION(cvtfptou32##rounding##satf, to_unsigned<direction::D, float, true>)      \
+#define FORMS(rounding, D)                                                                   \
+  LANEMATH_CONVERSION(cvtfptoi32##rounding##nosatf, to_signed<direction::D, float>)          \
+  LANEMATH_CONVERSION(cvtfptoi32##rounding##nosat, to_signed<direction::D, double>)          \
+  LANEMATH_CONVERSION(cvtfptoi32##rounding##satf, to_signed_saturated<direction::D, float>)  \
+  LANEMATH_CONVERSION(cvtfptoi32##rounding##sat, to_signed_saturated<direction::D, double>)  \
+  LANEMATH_CONVERSION(cvtfptou32##rounding##nosatf, to_unsigned<direction::D, float, false>) \
+  LANEMATH_CONVERSION(cvtfptou32##rounding##nosat, to_unsigned<direction::D, double, false>) \
+  LANEMATH_CONVERSION(cvtfptou32##rounding##satf, to_unsigned<direction::D, float, true>)    \
   LANEMATH_CONVERSION(cvtfptou32##rounding##sat, to_unsigned<direction::D, double, true>)
-// clang-format on
 LANEMATH_FOR_ROUNDINGS(FORMS)
 
 }  // namespace lanemath

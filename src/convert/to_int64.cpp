@@ -31,6 +31,7 @@ struct to_int64_rows<double> {
 template <direction D, class I, class T, bool Saturated>
 struct to_int64 {
   using signature = I(T);
+  static constexpr int groups_at_once = 2;
   template <class V>
   static auto kernel(V x) {
     using c = to_int64_rows<T>;
@@ -60,17 +61,15 @@ struct to_int64 {
 
 }  // namespace
 
-// clang-format off
-#define FORMS(rounding, D)                                                                                   \
-  LANEMATH_CONVERSION(cvtfptoi64##rounding##nosatf, to_int64<direction::D, std::int64_t, float, false>)   \
-  LANEMATH_CONVERSION(cvtfptoi64##rounding##nosat, to_int64<direction::D, std::int64_t, double, false>)   \
-  LANEMATH_CONVERSION(cvtfptoi64##rounding##satf, to_int64<direction::D, std::int64_t, float, true>)      \
-  LANEMATH_CONVERSION(cvtfptoi64##rounding##sat, to_int64<direction::D, std::int64_t, double, true>)      \
-  LANEMATH_CONVERSION(cvtfptou64##rounding##nosatf, to_int64<direction::D, std::uint64_t, float, false>)  \
-  LANEMATH_CONVERSION(cvtfptou64##rounding##nosat, to_int64<direction::D, std::uint64_t, double, false>)  \
-  LANEMATH_CONVERSION(cvtfptou64##rounding##satf, to_int64<direction::D, std::uint64_t, float, true>)     \
+#define FORMS(rounding, D)                                                                               \
+  LANEMATH_CONVERSION(cvtfptoi64##rounding##nosatf, to_int64<direction::D, std::int64_t, float, false>)  \
+  LANEMATH_CONVERSION(cvtfptoi64##rounding##nosat, to_int64<direction::D, std::int64_t, double, false>)  \
+  LANEMATH_CONVERSION(cvtfptoi64##rounding##satf, to_int64<direction::D, std::int64_t, float, true>)     \
+  LANEMATH_CONVERSION(cvtfptoi64##rounding##sat, to_int64<direction::D, std::int64_t, double, true>)     \
+  LANEMATH_CONVERSION(cvtfptou64##rounding##nosatf, to_int64<direction::D, std::uint64_t, float, false>) \
+  LANEMATH_CONVERSION(cvtfptou64##rounding##nosat, to_int64<direction::D, std::uint64_t, double, false>) \
+  LANEMATH_CONVERSION(cvtfptou64##rounding##satf, to_int64<direction::D, std::uint64_t, float, true>)    \
   LANEMATH_CONVERSION(cvtfptou64##rounding##sat, to_int64<direction::D, std::uint64_t, double, true>)
-// clang-format on
 LANEMATH_FOR_ROUNDINGS(FORMS)
 
 }  // namespace lanemath

@@ -22,6 +22,11 @@ inline constexpr error_bound error_bounds[] = {
     {"expf", {0.569, 2169, 2169, 2.94}},
     {"exp2f", {1.11, 1231, 1231, 1.11}},
     {"exp10f", {0.557, 1305, 1305, 1305}},
+    {"exp", {3.09, 2.98e7}},
+    {"exp2", {1.65, 1.54e7}},
+    {"exp10", {1.01, 1.54e7}},
+    {"expm1f", {1.81, 284}},
+    {"expm1", {2.97, 5.20e6}},
 
     {"div", {0.5, 0.5}},
     {"divf", {0.5, 6150, 6150, 6150}},
@@ -65,6 +70,8 @@ struct standalone_bound {
 inline constexpr standalone_bound standalone_bounds[] = {
     {"exp2f", 1, variant::standard, 0.507},
     {"exp2f", 4, variant::standard, 2.56},
+    {"exp", 2, variant::standard, 2.96},
+    {"exp2", 2, variant::standard, 2.60},
 };
 
 // Families of operations that are exact unless they have a line: each result is the one that the operation's rule

@@ -78,8 +78,8 @@ LANEMATH_INLINE auto from_bits(const lanes<T, W>& v) {
 }
 
 // A constant by its bit pattern: 0x3F000000_f32 is 0.5f.
-consteval float operator""_f32(unsigned long long v) { return std::bit_cast<float>(std::uint32_t(v)); }
-consteval double operator""_f64(unsigned long long v) { return std::bit_cast<double>(std::uint64_t(v)); }
+constexpr float operator""_f32(unsigned long long v) { return std::bit_cast<float>(std::uint32_t(v)); }
+constexpr double operator""_f64(unsigned long long v) { return std::bit_cast<double>(std::uint64_t(v)); }
 // The same for either precision; T(0.5) in the midst of a kernel is a conversion at run time under -frounding-math.
 template <class T>
 inline constexpr T zero_v = 0;
@@ -445,7 +445,10 @@ LANEMATH_INLINE lanes<U, W> convert(const lanes<T, W>& v) {
   using from = register_of<T>;
   using to = typename lanes<U, W>::group;
   if constexpr (W == 1) {
-    if constexpr (std::is_floating_point_v<U>)
+    if constexpr (std::is_integral_v<T>)
+      // Not the scalar instruction: it keeps the upper part of its register and so waits for what was there.
+      result.g[0] = convert_group<U, Truncate>(_mm_cvtsi32_si128(v.g[0]))[0];
+    else if constexpr (std::is_floating_point_v<U>)
       result.g[0] = U(v.g[0]);
     else if constexpr (sizeof(T) == 4)
       result.g[0] = Truncate ? _mm_cvttss_si32(_mm_set_ss(v.g[0])) : _mm_cvtss_si32(_mm_set_ss(v.g[0]));
