@@ -6,9 +6,9 @@
 // single precision the entries have a low part; the light forms do without it and keep one term of four. In double the
 // light forms keep five terms of seven. Zeros, denormals, infinities and NaNs are rare.
 //
-// Largest errors found in samples, in ulp: cbrtf 0.5103 at 3.5698952e-07, _native 355.9 at 0.5; rcbrtf 0.5099 at
-// -6.77168e-36, _native 888.7 at 1.0000027; cbrt 1.097 at -2.349179977752495e-53, _native 2265.1; rcbrt 1.010, _native
-// 13370 at 1.0000000000000067.
+// Largest errors found, in ulp: of all normal floats, cbrtf 0.5140 at 4.6294818 (0x409424B7), _native 355.8 at 4;
+// rcbrtf 0.5143 at 1.1247123 (0x3F8FF693), _native 888.7 at 1.0000027; in samples, cbrt 1.097 at
+// -2.349179977752495e-53, _native 2265; rcbrt 1.010, _native 13370 at 1.0000000000000067.
 #include "roots/roots.h"
 #include "tables/roots.h"
 
@@ -18,41 +18,27 @@ namespace {
 constexpr int root = 1, inverse = -1;
 
 template <class T>
-struct layout;
-template <>
-struct layout<float> {
-  static constexpr int exponent_shift = 23;
-  static constexpr std::int32_t exponent = 0xFF, sign = 0x100;
-  static constexpr std::int32_t significand = 0x007FFFFF, top_six = 0x007E0000;
-  static constexpr auto minus_one = std::int32_t(0xBF800000);
-  static constexpr auto minus_middle = std::int32_t(0xBF820000);  // of the first cell; its last bit is the half cell
-  static constexpr std::uint32_t least = 0x00800000, greatest = 0x7F7FFFFF;
-  static constexpr std::int32_t root_bias = 85, inverse_bias = 169;
-  static constexpr auto& minus_inverse_middle = minus_inverse_middle_f32;
-
-  static auto third(auto e) { return (e * 1365) >> 12; }
-  static auto remainder(auto e, auto q) { return (e - 1) - q * 3; }
-};
-template <>
-struct layout<double> {
-  static constexpr int exponent_shift = 20;
-  static constexpr std::int32_t exponent = 0x7FF, sign = 0x800;
-  static constexpr std::int64_t significand = 0x000FFFFFFFFFFFFF, top_six = 0x000FC00000000000;
-  static constexpr auto minus_one = std::int64_t(0xBFF0000000000000);
-  static constexpr auto minus_middle = std::int64_t(0xBFF0400000000000);
-  static constexpr std::uint32_t least = 0x00100000, greatest = 0x7FEFFFFF;
-  static constexpr std::int32_t root_bias = 682, inverse_bias = 1364;
-  static constexpr auto& minus_inverse_middle = minus_inverse_middle_f64;
-
-  // This bias is a multiple of 3.
-  static auto third(auto e) { return (e * 0x1556) >> 14; }
-  static auto remainder(auto e, auto q) { return e - q * 3; }
-};
-
-template <class T, int W>
-LANEMATH_INLINE auto not_normal(const lanes<T, W>& x) {
-  return outside(top_word(x) & 0x7FFFFFFF, layout<T>::least, layout<T>::greatest);
+constexpr auto& chosen(const auto& single, const auto& wide) {
+  if constexpr (sizeof(T) == 4)
+    return single;
+  else
+    return wide;
 }
+
+template <class T>
+struct layout : format<T> {
+  using format<T>::bias, format<T>::fraction, format<T>::implicit_bit;
+  using pattern = format<T>::signed_pattern;
+
+  static constexpr std::int32_t sign_in_field = format<T>::top_field + 1;
+  static constexpr auto significand = pattern(fraction), top_six = pattern(fraction & ~(fraction >> 6));
+  static constexpr auto minus_one = pattern(pattern_of(T(-1)));
+  static constexpr auto minus_middle = pattern(minus_one | implicit_bit >> 6);  // of the first cell
+  static constexpr auto& minus_inverse_middle = chosen<T>(minus_inverse_middle_f32, minus_inverse_middle_f64);
+
+  // e / 3 for exponent fields, rounded down.
+  static auto third(auto e) { return sizeof(T) == 4 ? (e * 1365) >> 12 : (e * 0x1556) >> 14; }
+};
 
 template <class V>
 struct reduced {
@@ -65,19 +51,20 @@ LANEMATH_INLINE reduced<V> reduce(V x) {
   using T = typename V::value_type;
   using at = layout<T>;
   const auto word = top_word(x);
-  const auto field = as<std::int32_t>(as<std::uint32_t>(word) >> at::exponent_shift);
-  const auto e = field & at::exponent;
-  const auto sign = field & at::sign;
+  const auto field = as<std::int32_t>(as<std::uint32_t>(word) >> at::top_shift);
+  const auto e = field & at::top_field;
+  const auto sign = field & at::sign_in_field;
   const auto q = at::third(e);
-  const auto m = at::remainder(e, q);
-  const auto cell = (word >> (at::exponent_shift - 5)) & 31;
+  const auto m = (e - at::bias % 3) - q * 3;
+  const auto cell = (word >> (at::top_shift - 5)) & 31;
 
   const V d =
       from_bits((bits(x) & at::significand) | at::minus_one) - from_bits((bits(x) & at::top_six) | at::minus_middle);
   const V r = d * look_up(at::minus_inverse_middle, cell);
 
-  const auto scale_field = Power == root ? (sign | at::root_bias) + q : (sign | at::inverse_bias) - q;
-  const auto scale_word = scale_field << at::exponent_shift;
+  const auto scale_field =
+      Power == root ? (sign | (at::bias - at::bias / 3)) + q : (sign | (at::bias + at::bias / 3)) - q;
+  const auto scale_word = scale_field << at::top_shift;
   // In rare lanes m may be negative: their index is cleared.
   const auto index = (m * 32 + cell) & ~not_normal(x);
   if constexpr (sizeof(T) == 4)
@@ -148,8 +135,8 @@ T evaluate_one(T x) {
 template <class T>
 LANEMATH_RARE cbrt_rare(const T* px, T* py) {
   const T x = *px * opaque(one_v<T>);
-  constexpr T infinity = std::numeric_limits<T>::infinity(), scale = 0x1p126, unscale = 0x1p-42;
-  if (!(-infinity < x && x < infinity))
+  constexpr T scale = 0x1p126, unscale = 0x1p-42;
+  if (is_nan(x) || is_infinite(x))
     *py = x + x;
   else if (x == 0)
     *py = x;
@@ -162,10 +149,9 @@ LANEMATH_RARE cbrt_rare(const T* px, T* py) {
 template <class T>
 LANEMATH_RARE rcbrt_rare(const T* px, T* py) {
   const T x = *px;
-  constexpr T infinity = std::numeric_limits<T>::infinity();
-  if (x != x) {
+  if (is_nan(x)) {
     *py = x / x;
-  } else if (x == infinity || x == -infinity) {
+  } else if (is_infinite(x)) {
     *py = zero_v<T> / x;
   } else if (x == 0) {
     *py = one_v<T> / x;

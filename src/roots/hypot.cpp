@@ -18,13 +18,11 @@ namespace {
 // Infinities and NaNs, of which at least one argument is one. An infinity wins.
 template <class T>
 bool hypot_of_non_finite(T x, T y, T& z) {
-  constexpr T infinity = std::numeric_limits<T>::infinity();
-  const auto finite = [](T v) { return -infinity < v && v < infinity; };
-  const auto infinite = [](T v) { return v == infinity || v == -infinity; };
+  const auto finite = [](T v) { return magnitude_pattern(v) < format<T>::infinity; };
   if (finite(x) && finite(y)) return false;
-  if (finite(x) || (x != x && infinite(y)))
+  if (finite(x) || (is_nan(x) && is_infinite(y)))
     z = y * y;
-  else if (x != x && y != y)
+  else if (is_nan(x) && is_nan(y))
     z = ordered_product(lanes<T, 1>(x), lanes<T, 1>(y)).g[0];
   else
     z = x * x;
@@ -56,9 +54,9 @@ LANEMATH_RARE hypotf_rare(const float* px, const float* py, float* pz) {
   const double x = std::fabs(*px), y = std::fabs(*py);
   const double a = x < y ? y : x, b = x < y ? x : y;
   const auto [root, rest] = root_of(sum_of_squares(a, b));
-  auto pattern = std::bit_cast<std::uint64_t>(root);
+  auto pattern = pattern_of(root);
   if (rest != 0 && pattern % 2 == 0) pattern += rest > 0 ? 1 : -1;
-  *pz = float(std::bit_cast<double>(pattern));
+  *pz = float(value_of<double>(pattern));
   return 0;
 }
 
@@ -68,19 +66,19 @@ LANEMATH_RARE hypot_rare(const double* px, const double* py, double* pz) {
   if (hypot_of_non_finite(*px, *py, *pz)) return 0;
   const double x = std::fabs(*px), y = std::fabs(*py);
   const double a = x < y ? y : x, b = x < y ? x : y;
-  const auto exponent_field = std::bit_cast<std::uint64_t>(a) >> 52;
-  if (exponent_field == 0) {
+  const auto field = std::uint64_t(exponent_field(a));
+  if (field == 0) {
     using wide = unsigned __int128;
-    const wide m = std::bit_cast<std::uint64_t>(a), n = std::bit_cast<std::uint64_t>(b), sum = m * m + n * n;
+    const wide m = pattern_of(a), n = pattern_of(b), sum = m * m + n * n;
     const double da = double(std::int64_t(m)), db = double(std::int64_t(n));
     wide root = std::uint64_t(std::int64_t(root_of({da * da + db * db, 0}).hi));
     while (sum > root * root + root) ++root;
     while (root != 0 && sum <= root * root - root) --root;
-    *pz = std::bit_cast<double>(std::uint64_t(root));
+    *pz = value_of<double>(std::uint64_t(root));
     return 0;
   }
-  const double down = std::bit_cast<double>((2047 - exponent_field) << 52);
-  const double up = std::bit_cast<double>(exponent_field << 52);
+  const double down = value_of<double>((2047 - field) << 52);
+  const double up = value_of<double>(field << 52);
   const auto [root, rest] = root_of(sum_of_squares(a * down, b * down));
   *pz = ((root + rest / (root + root)) * 0.5) * up;
   return 0;

@@ -2,7 +2,7 @@
 // their scalar routines are made of.
 #pragma once
 
-#include "frame/frame.h"
+#include "frame/fields.h"
 
 namespace lanemath {
 
@@ -19,26 +19,19 @@ LANEMATH_INLINE auto not_positive_normal(const lanes<float, W>& x) {
   return outside(bits(x), 0x00800000, 0x7F7FFFFF);
 }
 
-// What an invalid operation of the processor gives.
-inline double invalid() {
-  const double zero = opaque(0.0);
-  return zero / zero;
-}
-
 // The exponent of a normal number, and the number with the exponent of 1.
 struct binary_parts {
   std::int32_t exponent;
   double significand;
   explicit binary_parts(double x) {
-    const auto pattern = std::bit_cast<std::uint64_t>(x);
-    exponent = std::int32_t(pattern >> 52 & 0x7FF) - 1023;
-    significand = std::bit_cast<double>((pattern & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
+    exponent = exponent_field(x) - format<double>::bias;
+    significand = value_of<double>((pattern_of(x) & format<double>::fraction) | pattern_of(1.0));
   }
 };
 
 // 2^exponent
 inline double power_of_two(std::int32_t exponent) {
-  return std::bit_cast<double>(std::uint64_t((exponent + 1023) & 2047) << 52);
+  return value_of<double>(std::uint64_t((exponent + 1023) & 2047) << 52);
 }
 
 // A number and what the split leaves of it: with 2^27 + 1 both halves have so few bits that their products are exact.

@@ -15,28 +15,22 @@ namespace {
 
 LANEMATH_RARE sqrtf_rare(const float* px, float* py) {
   const float x = *px;
-  const auto pattern = std::bit_cast<std::uint32_t>(x);
-  const auto field = pattern >> 23 & 0xFF;
-  if (field == 255 && pattern != 0xFF800000) {
-    *py = x + x;
-    return 0;
-  }
-  if (x == 0) {
-    *py = x;
-    return 0;
-  }
   if (x < 0) {
-    *py = float(invalid());
+    *py = default_nan<float>();
     return 1;
   }
+  if (!(0 < x && x < std::numeric_limits<float>::infinity())) {
+    *py = x == 0 ? x : x + x;
+    return 0;
+  }
 
-  const bool denormal = field == 0;
+  const bool denormal = exponent_field(x) == 0;
   double scaled = x;
   if (denormal) scaled *= 0x4C70000000000000_f64;  // 2^200
   const auto [k, m] = binary_parts(scaled);
   const int odd = k & 1;
   const double v = m * (odd ? 2.0 : 1.0);
-  const double s = root_seed[(std::bit_cast<std::uint64_t>(m) >> 44 & 255) + 256 * odd];
+  const double s = root_seed[(pattern_of(m) >> 44 & 255) + 256 * odd];
 
   double g = 0.5 * s, y = s * v;
   for (int round = 0; round < 3; ++round) {
