@@ -81,7 +81,7 @@ inline constexpr standalone_bound standalone_bounds[] = {
     {"exp2f", 4, variant::standard, 2.56},
     {"exp", 2, variant::standard, 2.96},
     {"exp2", 2, variant::standard, 2.60},
-    {"log2", 2, variant::standard, 2.11},
+    {"log2", 2, variant::standard, 1.90},
 };
 
 // Families of operations that are exact unless they have a line: each result is the one that the operation's rule

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 #include <random>
+#include <string_view>
+#include <vector>
 
 #include "log/log2_rare.h"
 #include "support/lanes_of.h"
@@ -39,7 +41,7 @@ constexpr auto standard = variant::standard, native = variant::native, half = va
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
 template <class F>
-void for_each_form(std::initializer_list<std::string_view> names, F visit) {
+void for_each_form(const std::vector<std::string_view>& names, F visit) {
   for (auto name : names)
     for (auto v : variants)
       for (int width : widths) {
@@ -48,8 +50,8 @@ void for_each_form(std::initializer_list<std::string_view> names, F visit) {
         visit(name, v, width);
       }
 }
-constexpr std::initializer_list<std::string_view> logarithms{"logf", "log2f", "log10f", "log", "log2", "log10"};
-constexpr std::initializer_list<std::string_view> logarithms_of_sums{"log1pf", "log1p"};
+const std::vector<std::string_view> logarithms{"logf", "log2f", "log10f", "log", "log2", "log10"};
+const std::vector<std::string_view> logarithms_of_sums{"log1pf", "log1p"};
 
 // What zero by zero gives.
 u64 default_nan(std::string_view name) { return is_single(name) ? 0xFFC00000 : 0xFFF8000000000000; }
