@@ -28,7 +28,7 @@ constexpr auto& chosen(const auto& single, const auto& wide) {
 template <class T>
 struct layout : format<T> {
   using format<T>::bias, format<T>::fraction, format<T>::implicit_bit;
-  using pattern = format<T>::signed_pattern;
+  using pattern = typename format<T>::signed_pattern;
 
   static constexpr std::int32_t sign_in_field = format<T>::top_field + 1;
   static constexpr auto significand = pattern(fraction), top_six = pattern(fraction & ~(fraction >> 6));
