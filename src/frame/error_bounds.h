@@ -46,6 +46,21 @@ inline constexpr error_bound error_bounds[] = {
     {"powr", {1.45, 2.15e9}},
     {"pown", {1.45, 2.15e9}},
     {"rootn", {1.04, 6.45e7}},
+    // Whatever processor: with estimates that err by 1.5 * 2^-12, the most that makers promise.
+    {"div", {0.5, 0.5}},
+    {"divf", {0.5, 6150, 6150, 6150}},
+    {"inv", {0.5, 4.47e5}},
+    {"invf", {0.5, 6150, 6150, 6150}},
+    {"sqrt", {0.5, 3.31e12}},
+    {"sqrtf", {0.5, 6150, 6150}},
+    {"rsqrt", {1.00, 1.20e6}},
+    {"rsqrtf", {1.00, 5.20, 5.20}},
+    {"cbrt", {1.12, 2270}},
+    {"cbrtf", {0.515, 356}},
+    {"rcbrt", {1.02, 13400}},
+    {"rcbrtf", {0.515, 889}},
+    {"hypot", {2.40, 1.20e6}},
+    {"hypotf", {1.34, 6150}},
 
     {"fdim", {0.5}},
     {"fdimf", {0.5}},
@@ -56,6 +71,13 @@ inline constexpr error_bound error_bounds[] = {
     {"fma", {0.5}},
     {"fmaf", {0.5, 0, 0, 0.5}},
 };
+
+// Light forms that test nothing: their bounds hold where the processor's estimate of the argument is a normal number,
+// and nothing is promised elsewhere.
+constexpr bool is_unguarded(const operation& o, variant v) {
+  return v == variant::native &&
+         (o.name() == "inv" || o.name() == "sqrt" || o.name() == "sqrtf" || o.name() == "hypotf");
+}
 
 // Standalone forms have errors of their own.
 struct standalone_bound {

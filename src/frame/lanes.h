@@ -257,6 +257,23 @@ LANEMATH_INLINE lanes<T, W> shifted_left(const lanes<T, W>& v, const lanes<T, W>
       as<U>(v), as<U>(count)));
 }
 
+// Doubles with these upper halves, and zero below.
+template <int W>
+LANEMATH_INLINE lanes<double, W> from_upper(const lanes<std::int32_t, W>& v) {
+  lanes<double, W> result;
+  if constexpr (W == 1) {
+    result.g[0] = std::bit_cast<double>(std::uint64_t(std::uint32_t(v.g[0])) << 32);
+  } else {
+    const auto zero = _mm_setzero_si128();
+    for (int i = 0; i < result.groups; ++i) {
+      const auto from = std::bit_cast<__m128i>(v.g[i / 2]);
+      result.g[i] = std::bit_cast<typename lanes<double, W>::group>(i % 2 ? _mm_unpackhi_epi32(zero, from)
+                                                                          : _mm_unpacklo_epi32(zero, from));
+    }
+  }
+  return result;
+}
+
 // Lanes first .. first + C - 1, whole groups of them; and their way back.
 template <int C, class T, int W>
 LANEMATH_INLINE lanes<T, C> part(const lanes<T, W>& v, int first) {
@@ -325,6 +342,29 @@ LANEMATH_INLINE lanes<T, W> instruction(Packed on_group, Scalar on_lane, const l
 }
 
 }  // namespace lanes_detail
+
+// x + y and x * y where two different NaNs may meet: x is the one that survives. Compilers swap the operands of the
+// plain operators as suits their registers.
+#define LANEMATH_IN_ORDER(name, mnemonic)                                        \
+  template <class T, int W>                                                      \
+  LANEMATH_INLINE lanes<T, W> name(const lanes<T, W>& x, const lanes<T, W>& y) { \
+    return map<T>(                                                               \
+        [](auto first, auto second) LANEMATH_LAMBDA {                            \
+          if constexpr (W == 1 && sizeof(T) == 4)                                \
+            asm(mnemonic "ss %1, %0" : "+x"(first) : "x"(second));               \
+          else if constexpr (W == 1)                                             \
+            asm(mnemonic "sd %1, %0" : "+x"(first) : "x"(second));               \
+          else if constexpr (sizeof(T) == 4)                                     \
+            asm(mnemonic "ps %1, %0" : "+x"(first) : "x"(second));               \
+          else                                                                   \
+            asm(mnemonic "pd %1, %0" : "+x"(first) : "x"(second));               \
+          return first;                                                          \
+        },                                                                       \
+        x, y);                                                                   \
+  }
+LANEMATH_IN_ORDER(ordered_sum, "add")
+LANEMATH_IN_ORDER(ordered_product, "mul")
+#undef LANEMATH_IN_ORDER
 
 // MINPS and MAXPS: x < y ? x : y and x > y ? x : y, so that y is the answer to a tie and to a NaN in either.
 template <class T, int W>

@@ -139,6 +139,26 @@ TEST(Lanes, ShiftEachByItsOwnCount) {
   });
 }
 
+TEST(Lanes, MakeDoublesOfUpperHalves) {
+  const auto& halves = some_values<std::int32_t>();
+  at_every_width([&](auto width) {
+    expect_lanes(bits(from_upper(load<std::int32_t, width>(halves))),
+                 [&](int i) { return std::int64_t(std::uint64_t(std::uint32_t(halves[i])) << 32); });
+  });
+}
+
+TYPED_TEST(FloatingLanes, KeepTheFirstOfTwoNaNsWhereOrdered) {
+  using T = TypeParam;
+  const T first = std::numeric_limits<T>::quiet_NaN(), second = -first;
+  at_every_width([&](auto width) {
+    using V = lanes<T, width>;
+    for (const auto& [x, y] : {std::pair(first, second), std::pair(second, first)}) {
+      expect_lanes(ordered_sum(V(x), V(y)), [&](int) { return x; });
+      expect_lanes(ordered_product(V(x), V(y)), [&](int) { return x; });
+    }
+  });
+}
+
 TYPED_TEST(FloatingLanes, LookUpEveryLanesEntry) {
   using T = TypeParam;
   static constexpr two_part<T> table[4] = {{1, 10}, {2, 20}, {3, 30}, {4, 40}};

@@ -13,6 +13,7 @@ const std::vector<reference>& references() {
              manipulation_references,
              logarithm_references,
              power_references,
+             root_references,
          })
       for (auto& each : family()) joined.push_back(std::move(each));
     return joined;

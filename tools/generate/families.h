@@ -38,7 +38,9 @@ x) is the angle of the point (x, y).)"},
      R"(Any x for sinh, cosh, tanh and asinh; x >= 1 for acosh and -1 <= x <= 1 for atanh, NaN outside.)"},
     {family::root, "root", "Division, reciprocals and roots",
      R"(The default forms of division, reciprocal and square root are correctly rounded. The light forms start from the
-processor's estimates, whose low bits differ between makes of processor.)"},
+processor's estimates, whose low bits differ between makes of processor; those of division, reciprocal and square root
+are nothing but such an estimate. The native forms of inv, sqrt, sqrtf and hypotf test nothing: they are for arguments,
+and of hypotf for a sum of squares, well inside the range of a float, of inv for normal numbers below 2^1021.)"},
     {family::special, "special", "Error and gamma functions",
      R"(Any x. Gamma has poles at zero and the negative integers.)"},
     {family::manipulation, "manipulation", "Rounding, selection, decomposition, remainders, fused multiply-add",

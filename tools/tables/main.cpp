@@ -8,10 +8,15 @@
 void write_exp_tables(table_writer&);
 void write_log_tables(table_writer&);
 void write_pow_tables(table_writer&);
+void write_roots_tables(table_writer&);
 
 int main(int argc, char** argv) {
   const std::map<std::string, void (*)(table_writer&)> families{
-      {"exp", write_exp_tables}, {"log", write_log_tables}, {"pow", write_pow_tables}};
+      {"exp", write_exp_tables},
+      {"log", write_log_tables},
+      {"pow", write_pow_tables},
+      {"roots", write_roots_tables},
+  };
   const auto family = argc == 2 ? families.find(argv[1]) : families.end();
   if (family == families.end()) {
     fmt::print(stderr, "usage: {} FAMILY\nfamilies:", argv[0]);

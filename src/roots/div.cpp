@@ -1,0 +1,55 @@
+// x / y.
+//
+// Default: the processor's division, correctly rounded. The light form in single precision is one multiplication by
+// the reciprocal's estimate of about 12 bits, nothing after it; divisors whose reciprocal is no normal float are rare.
+//
+// Largest error of the light form found: 5197 ulp at 1.4140251e-05 / 1.3215106e-14.
+#include "roots/reciprocal.h"
+
+namespace lanemath {
+namespace {
+
+template <class T>
+LANEMATH_RARE div_rare(const T* x, const T* y, T* z) {
+  *z = *x / *y;
+  return *y == 0 ? 2 : 0;
+}
+
+template <class T>
+struct divide {
+  using signature = T(T, T);
+  template <class V>
+  static V kernel(V x, V y) {
+    return x / y;
+  }
+};
+
+// The rare routine only repeats the division: the test and the status tell a zero divisor.
+template <std::uint64_t Ignored>
+struct watched_divide : divide<double> {
+  static constexpr auto rare = div_rare<double>;
+  static auto rare_test(auto, auto y) { return zero_without(y, Ignored); }
+};
+
+struct divf_light {
+  using signature = float(float, float);
+  static constexpr auto rare = div_rare<float>;
+  static auto rare_test(auto, auto y) { return reciprocal_beyond(y, 0x7DFFFFFF); }
+
+  template <class V>
+  static V kernel(V x, V y) {
+    return x * reciprocal_estimate(y);
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, divf, divide<float>, )
+LANEMATH_EXPORT(binary, divf, divf_light, _native)
+LANEMATH_SAME(divf, _native, _half)
+LANEMATH_SAME(divf, _native, _rm)
+LANEMATH_EXPORT(binary, div, watched_divide<0x800FFFFFFFFFFFFF>, )
+// Other bits are left out than those of sign and significand, so that the mask differs and no result does.
+LANEMATH_EXPORT(binary, div, watched_divide<0x3F8000003F800000>, _native)
+
+}  // namespace lanemath
