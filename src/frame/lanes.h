@@ -293,6 +293,29 @@ LANEMATH_INLINE lanes<T, W> instruction(Packed on_group, Scalar on_lane, const l
 
 }  // namespace lanes_detail
 
+// x + y and x * y where two different NaNs may meet: x is the one that survives. Compilers swap the operands of the
+// plain operators as suits their registers.
+#define LANEMATH_IN_ORDER(name, mnemonic)                                        \
+  template <class T, int W>                                                      \
+  LANEMATH_INLINE lanes<T, W> name(const lanes<T, W>& x, const lanes<T, W>& y) { \
+    return map<T>(                                                               \
+        [](auto first, auto second) LANEMATH_LAMBDA {                            \
+          if constexpr (W == 1 && sizeof(T) == 4)                                \
+            asm(mnemonic "ss %1, %0" : "+x"(first) : "x"(second));               \
+          else if constexpr (W == 1)                                             \
+            asm(mnemonic "sd %1, %0" : "+x"(first) : "x"(second));               \
+          else if constexpr (sizeof(T) == 4)                                     \
+            asm(mnemonic "ps %1, %0" : "+x"(first) : "x"(second));               \
+          else                                                                   \
+            asm(mnemonic "pd %1, %0" : "+x"(first) : "x"(second));               \
+          return first;                                                          \
+        },                                                                       \
+        x, y);                                                                   \
+  }
+LANEMATH_IN_ORDER(ordered_sum, "add")
+LANEMATH_IN_ORDER(ordered_product, "mul")
+#undef LANEMATH_IN_ORDER
+
 // MINPS and MAXPS: x < y ? x : y and x > y ? x : y, so that y is the answer to a tie and to a NaN in either.
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> minimum(const lanes<T, W>& x, const std::type_identity_t<lanes<T, W>>& y) {

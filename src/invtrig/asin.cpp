@@ -1,0 +1,38 @@
+// Arc sine of x in radians, both precisions.
+//
+// Below 1/2 in magnitude x + x Q(x²), above it pi/2 - 2 sqrt(h) (1 + Q(h)) with h = (1 - |x|) / 2: no table, no branch.
+// Light form (_native): a shorter polynomial; in double the root from a float estimate. Beyond 1 a NaN.
+#include "invtrig/sine.h"
+
+namespace lanemath {
+namespace {
+
+template <class T, variant Variant>
+struct arc_sine {
+  using signature = T(T);
+  static constexpr auto rare = radians_rare<T>;
+
+  template <class V>
+  static V kernel(V x) {
+    const auto [w, base, big] = reduce_for_sine<Variant>(x);
+    V q = fitted(radian_rows<T, Variant>::c, w);
+    if constexpr (!(sizeof(T) == 4 && Variant == variant::native)) q = w * q;
+    const V v = ordered_sum(base, q * base) + where(big, V(half_pi<T>));
+    return from_bits(bits(v) ^ sign_of(x));
+  }
+  static auto rare_test(auto x) { return one_v<T> < magnitude(x); }
+};
+
+using asinf_standard = arc_sine<float, variant::standard>;
+using asinf_native = arc_sine<float, variant::native>;
+using asin_standard = arc_sine<double, variant::standard>;
+using asin_native = arc_sine<double, variant::native>;
+
+}  // namespace
+
+LANEMATH_EXPORT(unary, asinf, asinf_standard, )
+LANEMATH_EXPORT(unary, asinf, asinf_native, _native)
+LANEMATH_EXPORT(unary, asin, asin_standard, )
+LANEMATH_EXPORT(unary, asin, asin_native, _native)
+
+}  // namespace lanemath
