@@ -22,6 +22,7 @@ template <class T, variant Variant>
 struct arc_sine {
   using signature = T(T);
   static constexpr auto rare = asinpi_rare<T>;
+  static constexpr int groups_at_once = sizeof(T) == 4 ? 4 : 2;  // more doubles than that spill
 
   template <class V>
   static V kernel(V x) {

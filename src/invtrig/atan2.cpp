@@ -13,6 +13,7 @@ namespace {
 template <class T, class Factor, class Quotient>
 struct radians_of : quadrants<T, Factor, Quotient, false> {
   static constexpr auto rare = arc_tangent2_rare<T, false>;
+  static constexpr int groups_at_once = sizeof(T) == 4 ? 4 : 2;  // more doubles than that spill
 };
 
 using atan2f_standard = radians_of<float, split_factor<atanf_table>, by_division>;
