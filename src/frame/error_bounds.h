@@ -24,6 +24,23 @@ inline constexpr error_bound error_bounds[] = {
     {"exp2f", {1.11, 1231, 1231, 1.11}},
     {"exp10f", {0.557, 1305, 1305, 1305}},
 
+    {"asin", {2.08, 4.75e6}},
+    {"asinf", {2.28, 536}},
+    {"acos", {1.26, 4.65e6}},
+    {"acosf", {1.24, 533}},
+    {"asinpi", {2.86, 6.05e6}},
+    {"asinpif", {3.21, 682}},
+    {"acospi", {2.27, 4.51e6}},
+    {"acospif", {2.46, 532}},
+    {"atan", {2.51, 2.18e7}},
+    {"atanf", {2.82, 3780}},
+    {"atan2", {3.56, 2.19e7}},
+    {"atan2f", {3.2, 3780}},
+    {"atanpi", {3.28, 2.19e7}},
+    {"atanpif", {3.61, 3780}},
+    {"atan2pi", {3.87, 2.19e7}},
+    {"atan2pif", {4.08, 3780}},
+
     {"fdim", {0.5}},
     {"fdimf", {0.5}},
     {"fract", {1}},
@@ -42,8 +59,9 @@ struct standalone_bound {
   double ulp;
 };
 inline constexpr standalone_bound standalone_bounds[] = {
-    {"exp2f", 1, variant::standard, 0.507},
-    {"exp2f", 4, variant::standard, 2.56},
+    {"exp2f", 1, variant::standard, 0.507}, {"exp2f", 4, variant::standard, 2.56},
+    {"atan", 2, variant::standard, 3.81},   {"atanf", 4, variant::standard, 3.76},
+    {"atan2", 2, variant::standard, 3.56},  {"atan2f", 4, variant::standard, 3.13},
 };
 
 // The bound of a function, or nothing if none is stated.
