@@ -4,6 +4,9 @@
 // and 1 by the larger, with coefficients of its own. Double: atan(c) from a table of quarters below 7.875 and
 // atan((|x| - c) / (1 + |x| c)) by a short polynomial; at width 2 a long polynomial and no table. Light form (_native):
 // an estimated reciprocal, which fails at infinity alone.
+//
+// Largest errors in ulp, all floats from 2^-20 to 2^20: 2.8115 at 1.0060743 (0x3F80C70B), width 4 3.7520 at 0.95090866
+// (0x3F736EC0), light 3771. Double, sampled: 2.37, width 2 3.15, light 2.17e7.
 #include "invtrig/tangent.h"
 #include "invtrig/tangent_rare.h"
 

@@ -3,6 +3,9 @@
 // t = |x|, or -1 by |x| above 1, where 0.5 is added; a polynomial on [-1, 1] with 1/pi in it. The reciprocal is an
 // estimate with a correction but for the default double form, which divides. Light form (_native): a shorter
 // polynomial.
+//
+// Largest errors in ulp, all floats from 2^-20 to 2^20: 3.6072 at 0.99697936 (0x3F7F3A0A), light 3773.1. Double,
+// sampled: 2.97, light 2.18e7.
 #include "invtrig/tangent.h"
 #include "invtrig/tangent_rare.h"
 
