@@ -26,4 +26,11 @@ LANEMATH_INLINE lanes<T, W> horner(const T (&c)[N], const lanes<T, W>& z) {
   return p;
 }
 
+// An estimate in float for doubles, group by group: to join two groups for one estimate costs more than it saves.
+template <class F, int W>
+LANEMATH_INLINE lanes<double, W> by_floats(F estimate, const lanes<double, W>& x) {
+  return frame_detail::in_pieces<2, W>(
+      [&](const auto& v) LANEMATH_LAMBDA { return convert<double>(estimate(convert<float>(v))); }, x);
+}
+
 }  // namespace lanemath

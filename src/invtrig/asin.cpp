@@ -24,7 +24,8 @@ struct arc_sine {
     const V v = ordered_sum(base, q * base) + where(big, V(half_pi<T>));
     return from_bits(bits(v) ^ sign_of(x));
   }
-  static auto rare_test(auto x) { return one_v<T> < magnitude(x); }
+  // Where (1 - |x|) / 2 is negative.
+  static auto rare_test(auto x) { return bits(half_v<T> - half_v<T> * magnitude(x)) < 0; }
 };
 
 using asinf_standard = arc_sine<float, variant::standard>;

@@ -82,7 +82,7 @@ lanes<float, W> signed_reciprocal(const lanes<float, W>& x) {
 // Where x is too large for a float the estimate is 0 and the reciprocal too.
 template <int W>
 lanes<double, W> signed_reciprocal(const lanes<double, W>& x) {
-  const auto y0 = convert<double>(reciprocal_estimate(convert<float>(x)));
+  const auto y0 = by_floats([](auto v) LANEMATH_LAMBDA { return reciprocal_estimate(v); }, x);
   const auto e = 1.0 - x * y0;
   return ordered_sum(y0, (e + e * e) * y0);
 }
