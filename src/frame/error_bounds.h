@@ -61,6 +61,22 @@ inline constexpr error_bound error_bounds[] = {
     {"rcbrtf", {0.515, 889}},
     {"hypot", {2.40, 1.20e6}},
     {"hypotf", {1.34, 6150}},
+    {"asin", {2.17, 6.30e6}},
+    {"asinf", {2.28, 536}},
+    {"acos", {1.31, 6.40e6}},
+    {"acosf", {1.24, 533}},
+    {"asinpi", {3.02, 7.60e6}},
+    {"asinpif", {3.21, 682}},
+    {"acospi", {2.29, 6.10e6}},
+    {"acospif", {2.46, 532}},
+    {"atan", {2.62, 2.25e7}},
+    {"atanf", {2.82, 3780}},
+    {"atan2", {4.48, 2.25e7}},
+    {"atan2f", {3.77, 3780}},
+    {"atanpi", {3.28, 2.25e7}},
+    {"atanpif", {4.80, 3780}},
+    {"atan2pi", {4.36, 2.25e7}},
+    {"atan2pif", {6.30, 3780}},
 
     {"fdim", {0.5}},
     {"fdimf", {0.5}},
@@ -87,11 +103,11 @@ struct standalone_bound {
   double ulp;
 };
 inline constexpr standalone_bound standalone_bounds[] = {
-    {"exp2f", 1, variant::standard, 0.507},
-    {"exp2f", 4, variant::standard, 2.56},
-    {"exp", 2, variant::standard, 2.96},
-    {"exp2", 2, variant::standard, 2.60},
-    {"log2", 2, variant::standard, 1.90},
+    {"exp2f", 1, variant::standard, 0.507}, {"exp2f", 4, variant::standard, 2.56},
+    {"exp", 2, variant::standard, 2.96},    {"exp2", 2, variant::standard, 2.60},
+    {"log2", 2, variant::standard, 1.90},   {"atan", 2, variant::standard, 4.41},
+    {"atanf", 4, variant::standard, 3.76},  {"atan2", 2, variant::standard, 4.48},
+    {"atan2f", 4, variant::standard, 3.91},
 };
 
 // Families of operations that are exact unless they have a line: each result is the one that the operation's rule

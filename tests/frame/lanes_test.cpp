@@ -212,5 +212,22 @@ TYPED_TEST(FloatingLanes, RoundPickAndConvertAsTheProcessorDoes) {
   });
 }
 
+// Whatever registers the compiler would like better.
+TYPED_TEST(FloatingLanes, KeepTheFirstOfTwoNaNsInOrder) {
+  using T = TypeParam;
+  using I = int_of_size<sizeof(T)>;
+  const auto nan = [](I payload) { return I(std::bit_cast<I>(std::numeric_limits<T>::quiet_NaN()) | payload); };
+  const T x = std::bit_cast<T>(nan(1)), y = std::bit_cast<T>(I(nan(2) | sign_mask<T>));
+  const auto pattern = [](auto v) { return std::bit_cast<I>(T(v.g[0])); };
+  using one = lanes<T, 1>;
+  EXPECT_EQ(pattern(ordered_sum(one(x), one(y))), nan(1));
+  EXPECT_EQ(pattern(ordered_product(one(y), one(x))), nan(2) | sign_mask<T>);
+  using group = lanes<T, 16 / sizeof(T)>;
+  for (const auto& [first, second] : {std::pair(x, y), std::pair(y, x)}) {
+    EXPECT_EQ(I(bits(ordered_sum(group(first), group(second))).g[0][1]), std::bit_cast<I>(first));
+    EXPECT_EQ(I(bits(ordered_product(group(first), group(second))).g[0][1]), std::bit_cast<I>(first));
+  }
+}
+
 }  // namespace
 }  // namespace lanemath

@@ -10,6 +10,7 @@ const std::vector<reference>& references() {
     std::vector<reference> joined;
     for (const auto family : {
              exponential_references,
+             inverse_trigonometric_references,
              manipulation_references,
              logarithm_references,
              power_references,

@@ -8,6 +8,7 @@
 void write_exp_tables(table_writer&);
 void write_log_tables(table_writer&);
 void write_pow_tables(table_writer&);
+void write_invtrig_tables(table_writer&);
 void write_roots_tables(table_writer&);
 
 int main(int argc, char** argv) {

@@ -1,0 +1,124 @@
+// Arc tangent of x in radians, both precisions.
+//
+// Float: t = x or -1/x, a polynomial on [-1, 1], pi/2 added outside; at width 4 by one division of the smaller of |x|
+// and 1 by the larger, with coefficients of its own. Double: atan(c) from a table of quarters below 7.875 and
+// atan((|x| - c) / (1 + |x| c)) by a short polynomial; at width 2 a long polynomial and no table. Light form (_native):
+// an estimated reciprocal, which fails at infinity alone.
+//
+// Largest errors in ulp, all floats from 2^-20 to 2^20: 2.8115 at 1.0060743 (0x3F80C70B), width 4 3.7520 at 0.95090866
+// (0x3F736EC0), light 3771.0 at 9.5367432e-07 (0x35800000). Double, searched: 2.6187 at -0.125599668442933
+// (0xBFC013A6622CE850), width 2 4.4058 at 1.00137658360956 (0x3FF005A373D9551C), light 2.165e7 at -0.00048828120987162
+// (0xBF3FFFFFD3E0DD7F).
+#include "invtrig/tangent.h"
+#include "invtrig/tangent_rare.h"
+
+namespace lanemath {
+namespace {
+
+// pi/2 with the sign of x where the reciprocal is taken.
+template <class M, class V>
+V offset(M outside, V x) {
+  return from_bits(bits(where(outside, V(half_pi<typename V::value_type>))) ^ sign_of(x));
+}
+template <class V>
+V negated(V x) {
+  using T = typename V::value_type;
+  return from_bits(bits(x) ^ sign_mask<T>);
+}
+
+struct atanf_frame {
+  using signature = float(float);
+
+  template <class V>
+  static V kernel(V x) {
+    const auto small = magnitude(x) <= 1.0f;
+    const V t = select(small, x, negated(1.0f / x));
+    const V u = t * t, q = u * u;
+    const V p = (horner(atanf_table.even, q) * u + horner(atanf_table.odd, q)) * u + 1.0f;
+    return t * p + offset(~small, x);
+  }
+};
+
+struct atan_frame {
+  using signature = double(double);
+
+  template <class V>
+  static V kernel(V x) {
+    const V a = magnitude(x);
+    const V w = a + 0x4318000000000000_f64;  // 1.5 * 2^50: rounds to quarters
+    const V c = w - 0x4318000000000000_f64;
+    const auto big = 7.875 <= a;
+    const V num = select(big, V(-1.0), a - c);
+    const V den = select(big, minimum(a, 0x47F0000000000000_f64), 1.0 + a * c);  // 2^128: finite
+    const V t = num / den;
+    const V base = select(big, V(half_pi<double>), look_up(arc_tangent_quarters, lower(w) & 31));
+    const V u = t * t, q = u * u;
+    V p = (0x3FB2E9B9F5C4FE97_f64 * u + 0xBFB74257C46790CC_f64) * q +
+          (0x3FBC71BFEFF916A0_f64 * u + 0xBFC249248EEF04DA_f64);
+    p = p * q + (0x3FC999999998741E_f64 * u + 0xBFD555555555554D_f64);
+    return from_bits(bits((p * (u * t) + t) + base) ^ sign_of(x));
+  }
+};
+
+// The forms without a table at the width of one group. A NaN is on the side above 1.
+template <class T, class Factor>
+struct one_division {
+  using signature = T(T);
+
+  template <class V>
+  static V kernel(V x) {
+    const V a = magnitude(x);
+    const V t = minimum(a, V(one_v<T>)) / maximum(V(one_v<T>), a);
+    const auto above = ~(a <= one_v<T>);
+    const V v = from_bits(bits(t) ^ sign_of(x) ^ (above & sign_mask<T>));
+    return ordered_product(Factor::at(t), v) + offset(above, x);
+  }
+};
+using atanf4 = one_division<float, split_factor<atanf4_table>>;
+using atan2_doubles = one_division<double, four_chain_factor>;
+
+template <int W>
+lanes<float, W> signed_reciprocal(const lanes<float, W>& x) {
+  return reciprocal(x);
+}
+// Where x is too large for a float the estimate is 0 and the reciprocal too.
+template <int W>
+lanes<double, W> signed_reciprocal(const lanes<double, W>& x) {
+  const auto y0 = by_floats([](auto v) LANEMATH_LAMBDA { return reciprocal_estimate(v); }, x);
+  const auto e = 1.0 - x * y0;
+  return ordered_sum(y0, (e + e * e) * y0);
+}
+
+template <class T>
+struct atan_light {
+  using signature = T(T);
+  static constexpr auto rare = arc_tangent_rare<T, false>;
+
+  template <class V>
+  static V kernel(V x) {
+    const auto small = magnitude(x) <= one_v<T>;
+    const V t = select(small, x, negated(signed_reciprocal(x)));
+    return t * light_factor<light_rows<T>>::at(t) + offset(~small, x);
+  }
+  static auto rare_test(auto x) { return magnitude(x) == std::numeric_limits<T>::infinity(); }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT_AT(1, unary, atanf, atanf_frame, )
+LANEMATH_EXPORT_AT(2, unary, atanf, atanf_frame, )
+LANEMATH_EXPORT_AT(3, unary, atanf, atanf_frame, )
+LANEMATH_EXPORT_AT(4, unary, atanf, atanf4, )
+LANEMATH_EXPORT_AT(8, unary, atanf, atanf_frame, )
+LANEMATH_EXPORT_AT(16, unary, atanf, atanf_frame, )
+LANEMATH_EXPORT(unary, atanf, atan_light<float>, _native)
+
+LANEMATH_EXPORT_AT(1, unary, atan, atan_frame, )
+LANEMATH_EXPORT_AT(2, unary, atan, atan2_doubles, )
+LANEMATH_EXPORT_AT(3, unary, atan, atan_frame, )
+LANEMATH_EXPORT_AT(4, unary, atan, atan_frame, )
+LANEMATH_EXPORT_AT(8, unary, atan, atan_frame, )
+LANEMATH_EXPORT_AT(16, unary, atan, atan_frame, )
+LANEMATH_EXPORT(unary, atan, atan_light<double>, _native)
+
+}  // namespace lanemath

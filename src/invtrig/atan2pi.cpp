@@ -1,0 +1,32 @@
+// The angle of the point (x, y) divided by pi, both precisions.
+//
+// As the angle in radians, with the polynomials of the arc tangent divided by pi and an estimated reciprocal, corrected
+// once, in the default double form twice. Light form (_native): a shorter polynomial.
+//
+// Largest errors in ulp, searched: float 5.1199 at (-1.4276179e-06, 5.9768219e-05), light 3774.2 at (4.9900286e-06,
+// 0.013013597); double 4.3560 at (-5.9712781422362005e-05, 6.0949581827809614e-05), light 2.179e7 at
+// (-168.77989988836865, 440128.12895473349).
+#include "invtrig/tangent.h"
+#include "invtrig/tangent_rare.h"
+
+namespace lanemath {
+namespace {
+
+template <class T, class Factor, class Quotient>
+struct half_turns_of : quadrants<T, Factor, Quotient, true> {
+  static constexpr auto rare = arc_tangent2_rare<T, true>;
+};
+
+using atan2pif_standard = half_turns_of<float, pi_factor<float>, by_estimate>;
+using atan2pif_native = half_turns_of<float, light_factor<light_pi_rows<float>>, by_estimate>;
+using atan2pi_standard = half_turns_of<double, pi_factor<double>, by_corrected_estimate>;
+using atan2pi_native = half_turns_of<double, light_factor<light_pi_rows<double>>, by_estimate>;
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, atan2pif, atan2pif_standard, )
+LANEMATH_EXPORT(binary, atan2pif, atan2pif_native, _native)
+LANEMATH_EXPORT(binary, atan2pi, atan2pi_standard, )
+LANEMATH_EXPORT(binary, atan2pi, atan2pi_native, _native)
+
+}  // namespace lanemath

@@ -1,0 +1,45 @@
+// Arc tangent of x divided by pi, both precisions.
+//
+// t = |x|, or -1 by |x| above 1, where 0.5 is added; a polynomial on [-1, 1] with 1/pi in it. The reciprocal is an
+// estimate with a correction but for the default double form, which divides. Light form (_native): a shorter
+// polynomial.
+//
+// Largest errors in ulp, all floats from 2^-20 to 2^20: 3.6072 at 0.99697936 (0x3F7F3A0A), light 3773.1 at
+// 0.00038349515 (0x39C90FD9). Double, searched: 3.2661 at 0.988375435798731 (0x3FEFA0C5859D9C06), light 2.178e7 at
+// -0.000383495209267511 (0xBF3921FB61C93882).
+#include "invtrig/tangent.h"
+#include "invtrig/tangent_rare.h"
+
+namespace lanemath {
+namespace {
+
+template <class T, class Factor, class Quotient>
+struct half_turns_of {
+  using signature = T(T);
+  static constexpr auto rare = arc_tangent_rare<T, true>;
+
+  template <class V>
+  static V kernel(V x) {
+    const V a = magnitude(x);
+    const auto small = a <= one_v<T>;
+    const V den = select(small, V(one_v<T>), a);
+    const V num = select(small, a, V(-one_v<T>));
+    const V t = Quotient::of(num, den);
+    return with_bits(t * Factor::at(t) + where(~small, V(half_v<T>)), sign_of(x));
+  }
+  static auto rare_test(auto x) { return beyond_reciprocals(magnitude(x)); }
+};
+
+using atanpif_standard = half_turns_of<float, pi_factor<float>, by_estimate>;
+using atanpif_native = half_turns_of<float, light_factor<light_pi_rows<float>>, by_estimate>;
+using atanpi_standard = half_turns_of<double, pi_factor<double>, by_inverse>;
+using atanpi_native = half_turns_of<double, light_factor<light_pi_rows<double>>, by_estimate>;
+
+}  // namespace
+
+LANEMATH_EXPORT(unary, atanpif, atanpif_standard, )
+LANEMATH_EXPORT(unary, atanpif, atanpif_native, _native)
+LANEMATH_EXPORT(unary, atanpi, atanpi_standard, )
+LANEMATH_EXPORT(unary, atanpi, atanpi_native, _native)
+
+}  // namespace lanemath

@@ -1,0 +1,148 @@
+// The rare routines of the inverse tangents: special values, and pairs of doubles for what the kernels' reciprocals
+// cannot reach.
+#pragma once
+
+#include "invtrig/angles.h"
+#include "invtrig/double_pair.h"
+#include "tables/invtrig.h"
+
+namespace lanemath {
+
+template <class T>
+T with_sign_of(T value, T sign) {
+  using I = int_of_size<sizeof(T)>;
+  return std::bit_cast<T>(I((std::bit_cast<I>(value) & ~sign_mask<T>) | (std::bit_cast<I>(sign) & sign_mask<T>)));
+}
+
+// A part of half a turn, in radians or divided by pi.
+template <class T, bool Scaled>
+T half_turns(double part) {
+  return T(Scaled ? part : part * pi<double>);
+}
+
+// atan(c) is tabled at two points c of each binade from 1/8 up: 1 and 1.5 times a power of two, which q is rounded to,
+// or the middles 1.25 and 1.75 of the halves in which it lies.
+struct at_halves {
+  static constexpr auto& table = arc_tangent_at_halves;
+  static constexpr std::uint32_t rounding = 0x00040000, first = 0x3FC00000;
+};
+struct at_middles {
+  static constexpr auto& table = arc_tangent_at_middles;
+  static constexpr std::uint32_t rounding = 0, first = 0x3FC40000;
+};
+
+// atan(q), q > 0: atan(c) + atan((q - c) / (1 + q c)).
+template <class Points>
+double_pair arc_tangent(const double_pair& q) {
+  double_pair base = 0.0, r = q;
+  if (q.hi >= 0.125) {
+    const auto top = std::uint32_t(std::bit_cast<std::uint64_t>(q.hi) >> 32);
+    const auto index = std::min((top + Points::rounding - 0x3FC00000) >> 19, 113u);
+    const double_pair c = std::bit_cast<double>(std::uint64_t(Points::first + (index << 19)) << 32);
+    base = {Points::table[index].hi, Points::table[index].lo};
+    r = (q + -c) / (double_pair(1.0) + q * c);
+  }
+  const double s = r.hi * r.hi;
+  double p = -0.06313688776899645 * s + 0.07683539769703819;
+  p = p * s - 0.0909079559611586;
+  p = p * s + 0.11111110301985087;
+  p = p * s - 0.1428571428262597;
+  p = p * s + 0.19999999999994408;
+  p = p * s - 0x3FD5555555555555_f64;  // 1/3
+  return base + double_pair(r.hi, r.lo + r.hi * s * p);
+}
+
+// An angle times 2^k as the result, rounded once. Floats are rounded from a double, whose range needs no k.
+template <class T, bool Scaled>
+T rounded(double_pair angle, int k = 0) {
+  if constexpr (sizeof(T) == 4) {
+    const double v = angle.hi + angle.lo;
+    return float(Scaled ? v * over_pi<double> : v);
+  } else {
+    if (Scaled) angle = angle * double_pair(0.31830988824367523, -2.0598845603958264e-9);  // 1 / pi
+    return scaled(angle, k);
+  }
+}
+
+// atan(num / den) where the quotient is below 2^-52.
+template <class T, bool Scaled>
+T tiny_arc_tangent(double num, double den) {
+  if constexpr (sizeof(T) == 8 && Scaled) {
+    const parts n(num), d(den);
+    return rounded<T, Scaled>(double_pair(n.significand) / d.significand, n.exponent - d.exponent);
+  } else {
+    const double q = num / den;
+    const double v = q < double(std::numeric_limits<T>::min()) ? double(T(q * q)) + q : q * (1.0 + q);
+    return T(Scaled ? v * over_pi<double> : v);
+  }
+}
+
+template <class T, bool Scaled>
+LANEMATH_RARE arc_tangent_rare(const T* px, T* py) {
+  const T x = *px;
+  if (x != x) {
+    *py = x + x;
+    return 0;
+  }
+  const double a = with_sign_of(x, zero_v<T>);
+  T y;
+  if (a >= 0x4350000000000000_f64)  // 2^54
+    y = half_turns<T, Scaled>(0.5);
+  else if (a < 0x3CA0000000000000_f64)  // 2^-53
+    y = a == 0.0 ? zero_v<T> : tiny_arc_tangent<T, Scaled>(a, 1.0);
+  else
+    y = rounded<T, Scaled>(arc_tangent<at_middles>(a));
+  *py = with_sign_of(y, x);
+  return 0;
+}
+
+// The angle of a point with a coordinate that is zero, infinite or a NaN, its sign left to the caller. Whether it was
+// one.
+template <class T, bool Scaled>
+bool special_angle(T y, T x, T& angle) {
+  const T infinity = std::numeric_limits<T>::infinity();
+  const T ay = with_sign_of(y, zero_v<T>), ax = with_sign_of(x, zero_v<T>);
+  const bool left = std::bit_cast<int_of_size<sizeof(T)>>(x) < 0;
+  if (y != y || x != x) {
+    const T nan = y != y ? y : x;
+    angle = nan + nan;
+  } else if (ay == infinity) {
+    angle = half_turns<T, Scaled>(ax != infinity ? 0.5 : left ? 0.75 : 0.25);
+  } else if (ax == infinity || ay == zero_v<T>) {
+    angle = half_turns<T, Scaled>(left ? 1.0 : 0.0);
+  } else if (ax == zero_v<T>) {
+    angle = half_turns<T, Scaled>(0.5);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+template <class T, bool Scaled>
+T finite_angle(double ay, double x) {
+  const double ax = with_sign_of(x, 0.0);
+  const auto field = [](double v) { return int(std::bit_cast<std::uint64_t>(v) >> 52); };
+  const int apart = field(ay) - field(ax);
+  constexpr double_pair quarter_turn(half_pi<double>, 0x3C91A62633145C07_f64);
+  constexpr double_pair half_turn(pi<double>, 0x3CA1A62633145C07_f64);
+  if (apart < -53) return x < 0.0 ? half_turns<T, Scaled>(1.0) : tiny_arc_tangent<T, Scaled>(ay, ax);
+  if (apart >= 74) return half_turns<T, Scaled>(0.5);
+  if (apart >= 54) return rounded<T, Scaled>(double_pair::fast_sum(quarter_turn.hi, quarter_turn.lo - x / ay));
+  const parts n(ay), d(ax);
+  const double scale = power_of_two(n.exponent - d.exponent);
+  const auto quotient = double_pair(n.significand * scale) / d.significand;
+  const auto angle = arc_tangent<at_halves>(quotient);
+  return rounded<T, Scaled>(x < 0.0 ? half_turn + -angle : angle);
+}
+
+template <class T, bool Scaled>
+LANEMATH_RARE arc_tangent2_rare(const T* py, const T* px, T* result) {
+  const T one = opaque(one_v<T>);
+  const T y = *py * one, x = *px * one;
+  T angle;
+  if (!special_angle<T, Scaled>(y, x, angle)) angle = finite_angle<T, Scaled>(with_sign_of(y, zero_v<T>), x);
+  *result = with_sign_of(angle, y);
+  return 0;
+}
+
+}  // namespace lanemath
