@@ -16,6 +16,7 @@ int main(int argc, char** argv) {
       {"exp", write_exp_tables},
       {"log", write_log_tables},
       {"pow", write_pow_tables},
+      {"invtrig", write_invtrig_tables},
       {"roots", write_roots_tables},
   };
   const auto family = argc == 2 ? families.find(argv[1]) : families.end();
