@@ -4,7 +4,10 @@
 #include <fmt/format.h>
 #include <mpfr.h>
 
+#include <array>
+#include <cstdint>
 #include <cstdio>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -56,29 +59,47 @@ class table_writer {
   // entry(j) is a value.
   template <class T, class F>
   void values(std::string_view name, std::string_view meaning, int size, F entry) {
-    table(name, meaning, type<T>(), size, [&](int j) { return literal(T(entry(j))); });
+    table(name, meaning, type<T>(), size, "", [&](int j) { return literal(T(entry(j))); });
   }
   // entry(j) is a pair, high part first.
   template <class T, class F>
   void pairs(std::string_view name, std::string_view meaning, int size, F entry) {
-    table(name, meaning, fmt::format("two_part<{}>", type<T>()), size, [&](int j) {
+    table(name, meaning, fmt::format("two_part<{}>", type<T>()), size, "", [&](int j) {
       const auto [hi, lo] = entry(j);
       return fmt::format("{{{}, {}}}", literal(T(hi)), literal(T(lo)));
+    });
+  }
+  // entry(j) is an array, the columns of row j.
+  template <class F>
+  void rows(std::string_view name, std::string_view meaning, int size, F entry) {
+    using row = decltype(entry(0));
+    const auto columns = fmt::format("[{}]", std::tuple_size_v<row>);
+    table(name, meaning, type<typename row::value_type>(), size, columns, [&](int j) {
+      std::string text;
+      for (const auto value : entry(j)) text += (text.empty() ? "" : ", ") + literal(value);
+      return fmt::format("{{{}}}", text);
     });
   }
 
  private:
   template <class T>
   static constexpr std::string_view type() {
-    return std::is_same_v<T, float> ? "float" : "double";
+    if constexpr (std::is_same_v<T, float>) return "float";
+    if constexpr (std::is_same_v<T, double>) return "double";
+    if constexpr (std::is_same_v<T, std::uint32_t>) return "std::uint32_t";
+    if constexpr (std::is_same_v<T, std::uint64_t>) return "std::uint64_t";
   }
   template <class T>
   static std::string literal(T value) {
-    return fmt::format("{:a}{}", value, std::is_same_v<T, float> ? "f" : "");
+    if constexpr (std::is_integral_v<T>)
+      return fmt::format("{:#x}", value);
+    else
+      return fmt::format("{:a}{}", value, std::is_same_v<T, float> ? "f" : "");
   }
   template <class F>
-  void table(std::string_view name, std::string_view meaning, std::string_view of, int size, F entry) {
-    fmt::print(to_, "\n// {}\nalignas(64) inline constexpr {} {}[{}] = {{\n", meaning, of, name, size);
+  void table(std::string_view name, std::string_view meaning, std::string_view of, int size,
+             std::string_view columns, F entry) {
+    fmt::print(to_, "\n// {}\nalignas(64) inline constexpr {} {}[{}]{} = {{\n", meaning, of, name, size, columns);
     for (int j = 0; j < size; ++j) fmt::print(to_, "    {},\n", entry(j));
     fmt::print(to_, "}};\n");
   }
