@@ -10,6 +10,7 @@ const std::vector<reference>& references() {
     std::vector<reference> joined;
     for (const auto family : {
              exponential_references,
+             trigonometric_references,
          })
       for (auto& each : family()) joined.push_back(std::move(each));
     return joined;

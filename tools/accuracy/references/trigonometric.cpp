@@ -1,0 +1,33 @@
+#include <cmath>
+
+#include "accuracy/references/families.h"
+
+namespace lanemath::accuracy {
+namespace {
+
+reference of(std::string_view name, exact_function value, double (*fast)(double), exact_function second = nullptr) {
+  return {.name = name,
+          .value = value,
+          .ranges = {{"typical", {{-10, 10}}},
+                     {"main", {{-10000, 10000}}},
+                     {"middle", {{10000, 0x1p30}}},
+                     {"large", {{0x1p30, 0x1p127}}},
+                     {"negative", {{-0x1p127, -10000}}}},
+          // Multiples of pi/2, and the floats and doubles that come nearest to one.
+          .single_bounds = {0x1.921fb6p0, 0x1.921fb6p1, 0x1.f6a7a2p12, 8256, 10000, 0x1.f37694p95, 0x1p17, 0x1p30},
+          .double_bounds = {0x1.921fb54442d18p0, 0x1.921fb54442d18p1, 0x1p17, 0x1p23, 0x1p24, 0x1p30,
+                            0x1.6ac5b262ca1ffp849},
+          .fast = fast,
+          .second = second};
+}
+
+}  // namespace
+
+std::vector<reference> trigonometric_references() {
+  const auto sine = [](double x) { return std::sin(x); };
+  return {of("sin", unary<mpfr_sin>, sine), of("cos", unary<mpfr_cos>, [](double x) { return std::cos(x); }),
+          of("sincos", unary<mpfr_sin>, sine, unary<mpfr_cos>),
+          of("sincosreg", unary<mpfr_sin>, sine, unary<mpfr_cos>)};
+}
+
+}  // namespace lanemath::accuracy
