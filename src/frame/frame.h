@@ -129,15 +129,22 @@ LANEMATH_INLINE T* scratch(lanes<T, W>& v) {
   return reinterpret_cast<T*>(&v);
 }
 
-// The results with the marked lanes from the scalar routine. Everything comes as a copy: only the copies have an
-// address, so that the straight path keeps its values in registers.
+// Mends the marked lanes of the results by the scalar routine. It works on copies: only the copies have an address, so
+// that the straight path keeps its values in registers. Two results are copied one by one, for both together may be
+// more than a compiler copies without a call of memcpy.
 template <class Op, class Y, class... X>
-LANEMATH_INLINE Y mended(unsigned mask, Y y, X... x) {
-  if constexpr (requires { y.second; })
-    rare_loop<Op::rare>(mask, scratch(x)..., scratch(y.first), scratch(y.second));
-  else
-    rare_loop<Op::rare>(mask, scratch(x)..., scratch(y));
-  return y;
+LANEMATH_INLINE void mend(unsigned mask, Y& y, X... x) {
+  if constexpr (requires { y.second; }) {
+    auto first = y.first;
+    auto second = y.second;
+    rare_loop<Op::rare>(mask, scratch(x)..., scratch(first), scratch(second));
+    y.first = first;
+    y.second = second;
+  } else {
+    auto copy = y;
+    rare_loop<Op::rare>(mask, scratch(x)..., scratch(copy));
+    y = copy;
+  }
 }
 
 // f over pieces of C lanes each, in straight line; the results put together again.
@@ -181,7 +188,7 @@ LANEMATH_INLINE auto evaluate(const X&... x) {
   auto y = in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::kernel(v...); }, x...);
 
   if constexpr (requires { Op::always_scalar; }) {
-    y = mended<Op>((1u << W) - 1, y, x...);
+    mend<Op>((1u << W) - 1, y, x...);
   } else if constexpr (requires { Op::rare_test(x...); }) {
     auto rare = in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::rare_test(v...); }, x...);
     if (any(rare)) [[unlikely]] {
@@ -189,7 +196,7 @@ LANEMATH_INLINE auto evaluate(const X&... x) {
         Op::fix_up(x..., y, rare);
       else if constexpr (requires { Op::fix_up(x..., y.first, y.second, rare); })
         Op::fix_up(x..., y.first, y.second, rare);
-      if (const unsigned mask = mask_bits(rare)) y = mended<Op>(mask, y, x...);
+      if (const unsigned mask = mask_bits(rare)) mend<Op>(mask, y, x...);
     }
   }
   return y;
