@@ -22,6 +22,14 @@ inline constexpr error_bound error_bounds[] = {
     {"expf", {0.569, 2169, 2169, 2.94}},
     {"exp2f", {1.11, 1231, 1231, 1.11}},
     {"exp10f", {0.557, 1305, 1305, 1305}},
+    {"sinf", {2.49, 2540, 2540, 2540}},
+    {"cosf", {2.35, 2540, 2540, 2540}},
+    {"sincosf", {2.80, 2540, 0, 2540}},
+    {"sincosregf", {2.80, 2540}},
+    {"sin", {3.68, 6.14e7}},
+    {"cos", {3.40, 6.14e7}},
+    {"sincos", {3.49, 6.14e7}},
+    {"sincosreg", {3.49, 6.14e7}},
 };
 
 // Standalone forms have errors of their own.
