@@ -27,6 +27,7 @@ std::vector<reference> trigonometric_references() {
   const auto sine = [](double x) { return std::sin(x); };
   return {of("sin", unary<mpfr_sin>, sine), of("cos", unary<mpfr_cos>, [](double x) { return std::cos(x); }),
           of("sincos", unary<mpfr_sin>, sine, unary<mpfr_cos>),
+          of("tan", unary<mpfr_tan>, [](double x) { return std::tan(x); }),
           of("sincosreg", unary<mpfr_sin>, sine, unary<mpfr_cos>)};
 }
 
