@@ -2,7 +2,8 @@
 // rounded up. The public documentation states these figures and the tests hold every form to them. Results that
 // round to a denormal or overflow count in units of the format's smallest step there.
 //
-// An operation gets its line when it is built. 0.5 is correctly rounded, up to the digits shown; 0 is exact.
+// An operation gets its line when it is built. 0.5 is correctly rounded, up to the digits shown; 0 is exact, and what
+// the operations are that move bits and integers, unless they have a line.
 #pragma once
 
 #include <array>
@@ -31,6 +32,15 @@ inline constexpr error_bound error_bounds[] = {
     {"sincos", {3.49, 6.15e7}},
     {"sincosreg", {3.49, 6.15e7}},
     {"tanf", {3.58, 924, 924, 924}},
+
+    {"fdim", {0.5}},
+    {"fdimf", {0.5}},
+    {"fract", {1}},
+    {"fractf", {1}},
+    {"ldexp", {0.5}},
+    {"ldexpf", {0.5}},
+    {"fma", {0.5}},
+    {"fmaf", {0.5, 0, 0, 0.5}},
 };
 
 // Standalone forms have errors of their own.
@@ -54,6 +64,7 @@ constexpr std::optional<double> bound_of(const operation& o, variant v, int widt
   }
   for (const auto& bound : error_bounds)
     if (bound.name == o.name()) return bound.ulp[std::size_t(v)];
+  if (o.group == family::manipulation || o.group == family::conversion || o.group == family::integer_division) return 0;
   return std::nullopt;
 }
 

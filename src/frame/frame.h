@@ -129,9 +129,9 @@ LANEMATH_INLINE T* scratch(lanes<T, W>& v) {
   return reinterpret_cast<T*>(&v);
 }
 
-// Mends the marked lanes of the results by the scalar routine. It works on copies: only the copies have an address, so
-// that the straight path keeps its values in registers. Two results are copied one by one, for both together may be
-// more than a compiler copies without a call of memcpy.
+// Puts the scalar routine's results into the marked lanes. It works on copies: only they have an address, so that the
+// straight path keeps its values in registers. Of two results each is copied by itself, since a compiler copies a
+// structure of many groups by a call of memcpy.
 template <class Op, class Y, class... X>
 LANEMATH_INLINE void mend(unsigned mask, Y& y, X... x) {
   if constexpr (requires { y.second; }) {

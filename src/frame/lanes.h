@@ -9,6 +9,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <type_traits>
 
 #include <smmintrin.h>
@@ -80,6 +81,13 @@ LANEMATH_INLINE auto from_bits(const lanes<T, W>& v) {
 // A constant by its bit pattern: 0x3F000000_f32 is 0.5f.
 consteval float operator""_f32(unsigned long long v) { return std::bit_cast<float>(std::uint32_t(v)); }
 consteval double operator""_f64(unsigned long long v) { return std::bit_cast<double>(std::uint64_t(v)); }
+// The same for either precision; T(0.5) in the midst of a kernel is a conversion at run time under -frounding-math.
+template <class T>
+inline constexpr T zero_v = 0;
+template <class T>
+inline constexpr T half_v = 0.5;
+template <class T>
+inline constexpr T one_v = 1;
 
 namespace lanes_detail {
 
@@ -94,33 +102,38 @@ LANEMATH_INLINE lanes<T, W> wrapping(F f, const lanes<T, W>& a, const lanes<T, W
   }
 }
 
-template <class F, class T, int W>
-LANEMATH_INLINE auto compare(F f, const lanes<T, W>& a, const lanes<T, W>& b) {
+// Scalar floating comparisons are the instructions that make a mask: what a compiler makes of a < b is a branch.
+template <class T, class F, class Single, class Double, int W>
+LANEMATH_INLINE auto compare(F f, Single single, Double wide, const lanes<T, W>& a, const lanes<T, W>& b) {
   using I = int_of_size<sizeof(T)>;
   return map<I>(
-      [f](auto p, auto q) LANEMATH_LAMBDA {
-        if constexpr (W == 1)
-          return f(p, q) ? I(-1) : I(0);
-        else
+      [&](auto p, auto q) LANEMATH_LAMBDA {
+        if constexpr (W > 1)
           return std::bit_cast<typename lanes<I, W>::group>(f(p, q));
+        else if constexpr (std::is_same_v<T, float>)
+          return std::bit_cast<I>(single(_mm_set_ss(p), _mm_set_ss(q))[0]);
+        else if constexpr (std::is_same_v<T, double>)
+          return std::bit_cast<I>(wide(_mm_set_sd(p), _mm_set_sd(q))[0]);
+        else
+          return f(p, q) ? I(-1) : I(0);
       },
       a, b);
 }
 
 }  // namespace lanes_detail
 
-#define LANEMATH_OPERATOR(op, how)                                                         \
-  template <class T, int W>                                                                \
-  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, const lanes<T, W>& b) {           \
-    return lanes_detail::how([](auto p, auto q) LANEMATH_LAMBDA { return p op q; }, a, b); \
-  }                                                                                        \
-  template <class T, int W>                                                                \
-  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, std::type_identity_t<T> b) {      \
-    return a op lanes<T, W>(b);                                                            \
-  }                                                                                        \
-  template <class T, int W>                                                                \
-  LANEMATH_INLINE auto operator op(std::type_identity_t<T> a, const lanes<T, W>& b) {      \
-    return lanes<T, W>(a) op b;                                                            \
+#define LANEMATH_OPERATOR(op, how, ...)                                                                               \
+  template <class T, int W>                                                                                           \
+  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, const lanes<T, W>& b) {                                      \
+    return lanes_detail::how([](auto p, auto q) LANEMATH_LAMBDA { return p op q; } __VA_OPT__(, ) __VA_ARGS__, a, b); \
+  }                                                                                                                   \
+  template <class T, int W>                                                                                           \
+  LANEMATH_INLINE auto operator op(const lanes<T, W>& a, std::type_identity_t<T> b) {                                 \
+    return a op lanes<T, W>(b);                                                                                       \
+  }                                                                                                                   \
+  template <class T, int W>                                                                                           \
+  LANEMATH_INLINE auto operator op(std::type_identity_t<T> a, const lanes<T, W>& b) {                                 \
+    return lanes<T, W>(a) op b;                                                                                       \
   }
 LANEMATH_OPERATOR(+, wrapping)
 LANEMATH_OPERATOR(-, wrapping)
@@ -129,12 +142,12 @@ LANEMATH_OPERATOR(/, wrapping)
 LANEMATH_OPERATOR(&, wrapping)
 LANEMATH_OPERATOR(|, wrapping)
 LANEMATH_OPERATOR(^, wrapping)
-LANEMATH_OPERATOR(<, compare)
-LANEMATH_OPERATOR(<=, compare)
-LANEMATH_OPERATOR(>, compare)
-LANEMATH_OPERATOR(>=, compare)
-LANEMATH_OPERATOR(==, compare)
-LANEMATH_OPERATOR(!=, compare)
+LANEMATH_OPERATOR(<, compare, _mm_cmplt_ss, _mm_cmplt_sd)
+LANEMATH_OPERATOR(<=, compare, _mm_cmple_ss, _mm_cmple_sd)
+LANEMATH_OPERATOR(>, compare, _mm_cmpgt_ss, _mm_cmpgt_sd)
+LANEMATH_OPERATOR(>=, compare, _mm_cmpge_ss, _mm_cmpge_sd)
+LANEMATH_OPERATOR(==, compare, _mm_cmpeq_ss, _mm_cmpeq_sd)
+LANEMATH_OPERATOR(!=, compare, _mm_cmpneq_ss, _mm_cmpneq_sd)
 #undef LANEMATH_OPERATOR
 
 template <class T, int W>
@@ -157,7 +170,10 @@ LANEMATH_INLINE lanes<T, W> operator>>(const lanes<T, W>& v, int count) {
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> select(const lanes<int_of_size<sizeof(T)>, W>& mask, const lanes<T, W>& yes,
                                    const lanes<T, W>& no) {
-  return map<T>([](auto m, auto a, auto b) LANEMATH_LAMBDA { return m ? a : b; }, mask, yes, no);
+  if constexpr (W == 1 && std::is_floating_point_v<T>)
+    return from_bits((bits(yes) & mask) | (bits(no) & ~mask));
+  else
+    return map<T>([](auto m, auto a, auto b) LANEMATH_LAMBDA { return m ? a : b; }, mask, yes, no);
 }
 
 namespace lanes_detail {
@@ -566,17 +582,56 @@ LANEMATH_INLINE lanes<T, W> opaque(lanes<T, W> v) {
   return v;
 }
 
+// The word with the sign and the exponent: the whole of a float, the upper half of a double.
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> top_word(const lanes<T, W>& x) {
+  if constexpr (sizeof(T) == 4)
+    return bits(x);
+  else
+    return upper(x);
+}
+// A mask over lanes of any size as one over 32-bit lanes.
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> narrow_mask(const lanes<T, W>& mask) {
+  return top_word(mask);
+}
+
+// The sign bit alone, as a pattern; the value without it; a pattern joined to a value's.
+template <class T>
+inline constexpr auto sign_mask = std::numeric_limits<int_of_size<sizeof(T)>>::min();
+template <class T, int W>
+LANEMATH_INLINE auto sign_of(const lanes<T, W>& x) {
+  return bits(x) & sign_mask<T>;
+}
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> magnitude(const lanes<T, W>& x) {
+  return from_bits(bits(x) & ~sign_mask<T>);
+}
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> with_bits(const lanes<T, W>& x, const lanes<int_of_size<sizeof(T)>, W>& more) {
+  return from_bits(bits(x) | more);
+}
+// The value where the mask holds, else +0.
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> where(const lanes<int_of_size<sizeof(T)>, W>& mask, const lanes<T, W>& x) {
+  return from_bits(bits(x) & mask);
+}
+
+// Lanes in which either is a NaN.
+template <class T, int W>
+LANEMATH_INLINE auto unordered(const lanes<T, W>& x, const lanes<T, W>& y) {
+  if constexpr (sizeof(T) == 4)
+    return bits(lanes_detail::instruction(_mm_cmpunord_ps, _mm_cmpunord_ss, x, y));
+  else
+    return bits(lanes_detail::instruction(_mm_cmpunord_pd, _mm_cmpunord_sd, x, y));
+}
+
 // Lanes whose magnitude is above a bound, given as a bit pattern (the upper half of it for doubles): infinities and
 // NaNs are among them.
 template <class T, int W>
 LANEMATH_INLINE auto magnitude_above(const lanes<T, W>& x, std::int32_t bound) {
-  lanes<std::int32_t, W> pattern;
-  if constexpr (sizeof(T) == 4)
-    pattern = bits(x);
-  else
-    pattern = upper(x);
   // Opaque: a compiler that knows the sign bit to be clear makes two instructions of the comparison.
-  return opaque(pattern & 0x7FFFFFFF) > bound;
+  return opaque(top_word(x) & 0x7FFFFFFF) > bound;
 }
 
 }  // namespace lanemath

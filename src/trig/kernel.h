@@ -8,15 +8,6 @@
 
 namespace lanemath {
 
-// The sign bit alone.
-template <class T, int W>
-LANEMATH_INLINE auto sign_of(const lanes<T, W>& x) {
-  return bits(x) & std::numeric_limits<int_of_size<sizeof(T)>>::min();
-}
-template <class T, int W>
-LANEMATH_INLINE lanes<T, W> magnitude(const lanes<T, W>& x) {
-  return from_bits(bits(x) & std::numeric_limits<int_of_size<sizeof(T)>>::max());
-}
 // The lowest bit of a pattern, as a sign.
 template <class T, int W>
 LANEMATH_INLINE auto parity(const lanes<T, W>& shifted) {

@@ -1,9 +1,9 @@
 // Reduction of arguments of any size, in vectors: a step j of so many in a turn and a remainder in two parts, so that
 // x is 2 pi j / steps + r + rl up to whole turns.
 //
-// The significand is multiplied, in integers, by a window of the bits of 1 / (2 pi) that the exponent selects: what lies
-// before the window makes whole turns only. The product is the argument's fraction of a turn. It is cut into
-// three floating numbers and multiplied by 2 pi in two parts. No branch, no loop over the bits.
+// The significand is multiplied, in integers, by a window of the bits of 1 / (2 pi) that the exponent selects: what
+// lies before the window makes whole turns only. The product is the argument's fraction of a turn. It is cut into three
+// floating numbers and multiplied by 2 pi in two parts. No branch, no loop over the bits.
 #pragma once
 
 #include "frame/frame.h"

@@ -44,8 +44,7 @@ struct sincosf_form : rare_above<through_pointer<float, float>(float), sincosf_r
       const auto [j, r, rl] = reduce_to_step(magnitude(v));
       const large_single at(r, rl);
       using V = std::decay_t<decltype(r)>;
-      return two_results<V, V>{flipped(at.template sine<true>(j), sign_of(v)),
-                               at.template sine<true>((j + 64) & 0xFF)};
+      return two_results<V, V>{flipped(at.template sine<true>(j), sign_of(v)), at.template sine<true>((j + 64) & 0xFF)};
     };
     const auto y = frame_detail::in_pieces<4, W>(stage, x);
     sine = select(rare, y.first, sine);

@@ -1,7 +1,7 @@
 // sin x, single precision.
 //
-// x = N pi + r, pi in pieces (four, in the light form three), and an odd polynomial of r. Above 10000 the reduction by a
-// window of 1 / (2 pi), 256 steps in a turn and a table.
+// x = N pi + r, pi in pieces (four, in the light form three), and an odd polynomial of r. Above 10000 the reduction by
+// a window of 1 / (2 pi), 256 steps in a turn and a table.
 //
 // Largest errors found, in ulp: default 2.234 at -7547.575 (0xC5EBDC9A), light form 2523.7 at -3695.9314 (0xC566FEE7);
 // above 10000 0.567.

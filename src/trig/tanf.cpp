@@ -1,8 +1,8 @@
 // tan x, single precision.
 //
 // x = N pi/2 + r, pi/2 in pieces (four, in the light form three), and a quotient of two polynomials, upside down in odd
-// quadrants. Above 8256 the reduction by a window of 1 / (2 pi) and a table of 128 steps in half a turn: next to the pole
-// the pole's term apart, by a reciprocal.
+// quadrants. Above 8256 the reduction by a window of 1 / (2 pi) and a table of 128 steps in half a turn: next to the
+// pole the pole's term apart, by a reciprocal.
 //
 // Largest errors found, in ulp: default 3.136 at -6712.2705 (0xC5D1C22A), above 8256 1.334; light form above it 4.587.
 #include "trig/single.h"

@@ -1,0 +1,104 @@
+// frexp, ilogb, logb: the exponent field taken out, for normal numbers by the kernel. Exact.
+#include "fpmanip/fields.h"
+
+namespace lanemath {
+namespace {
+
+// The field of 0.5, whose binade significands are given in.
+template <class T>
+constexpr typename format<T>::pattern half_field = pattern_of(half_v<T>);
+
+template <class T>
+LANEMATH_RARE frexp_rare(const T* x, T* significand, std::int32_t* exponent) {
+  using f = format<T>;
+  const T v = quieted(*x);
+  *significand = v;
+  *exponent = 0;
+  if (magnitude_pattern(v) == 0 || exponent_field(v) == f::top_field) return 0;
+  const T lifted = v * f::lift;
+  *exponent = exponent_field(lifted) - (f::bias - 1 + f::lift_exponent);
+  *significand = value_of<T>((pattern_of(lifted) & ~f::infinity) | half_field<T>);
+  return 0;
+}
+
+template <class T>
+struct frexp {
+  using signature = through_pointer<T, std::int32_t>(T);
+  static constexpr auto rare = frexp_rare<T>;
+
+  template <class V>
+  static two_results<V, lanes<std::int32_t, V::width>> kernel(V x) {
+    using f = format<T>;
+    using I = typename f::signed_pattern;
+    constexpr std::int32_t half = (f::bias - 1) << f::top_shift;
+    const V significand = from_bits((bits(x) & ~I(f::infinity)) | I(half_field<T>));
+    return {significand, ((top_word(x) & f::top_exponent) - half) >> f::top_shift};
+  }
+  static auto rare_test(auto x) { return not_normal(x); }
+};
+
+template <class V>
+lanes<std::int32_t, V::width> unbiased_exponent(V x) {
+  using f = format<typename V::value_type>;
+  return ((top_word(x) & f::top_exponent) >> f::top_shift) - f::bias;
+}
+
+template <class T>
+int exponent_of_denormal(T x) {
+  using f = format<T>;
+  return exponent_field(x * f::lift) - (f::bias + f::lift_exponent);
+}
+
+template <class T>
+LANEMATH_RARE ilogb_rare(const T* x, std::int32_t* exponent) {
+  if (magnitude_pattern(*x) == 0) {
+    *exponent = std::numeric_limits<std::int32_t>::min();
+    return 1;
+  }
+  if (exponent_field(*x) == format<T>::top_field) {
+    *exponent = std::numeric_limits<std::int32_t>::max();
+    return 1;
+  }
+  *exponent = exponent_of_denormal(*x);
+  return 0;
+}
+
+template <class T>
+struct ilogb {
+  using signature = std::int32_t(T);
+  static constexpr auto rare = ilogb_rare<T>;
+  static auto kernel(auto x) { return unbiased_exponent(x); }
+  static auto rare_test(auto x) { return not_normal(x); }
+};
+
+template <class T>
+LANEMATH_RARE logb_rare(const T* x, T* exponent) {
+  if (magnitude_pattern(*x) == 0) {
+    *exponent = opaque(-one_v<T>) / zero_v<T>;
+    return 1;
+  }
+  if (exponent_field(*x) == format<T>::top_field)
+    *exponent = value_of<T>(magnitude_pattern(*x));
+  else
+    *exponent = T(exponent_of_denormal(*x));
+  return 0;
+}
+
+template <class T>
+struct logb {
+  using signature = T(T);
+  static constexpr auto rare = logb_rare<T>;
+  static auto kernel(auto x) { return convert<T>(unbiased_exponent(x)); }
+  static auto rare_test(auto x) { return not_normal(x); }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, frexpf, frexp<float>, )
+LANEMATH_EXPORT(binary, frexp, frexp<double>, )
+LANEMATH_EXPORT(unary, ilogbf, ilogb<float>, )
+LANEMATH_EXPORT(unary, ilogb, ilogb<double>, )
+LANEMATH_EXPORT(unary, logbf, logb<float>, )
+LANEMATH_EXPORT(unary, logb, logb<double>, )
+
+}  // namespace lanemath

@@ -1,0 +1,180 @@
+// fma: x y + z with one rounding, lane by lane in integer arithmetic: the exact product, the exact aligned sum, one
+// rounding at the end. Correctly rounded, in the direction of the x87 control word.
+//
+// What needs no such care (a factor or a summand that is zero, a factor of magnitude one, infinities, NaNs) is the
+// plain product and sum, in the direction of MXCSR.
+#include <utility>
+
+#include "fpmanip/fields.h"
+
+namespace lanemath {
+namespace {
+
+enum class rounding : std::uint16_t { nearest = 0, down = 0x400, up = 0x800, zero = 0xC00 };
+
+LANEMATH_INLINE rounding x87_rounding() {
+  std::uint16_t control;
+  asm volatile("fnstcw %0" : "=m"(control));
+  return rounding(control & 0xC00);
+}
+
+// Arithmetic for its flags alone.
+template <class T>
+LANEMATH_INLINE void raise_flags_of(T result) {
+  asm volatile("" ::"x"(result));
+}
+
+template <class T>
+struct exact_sum {
+  using f = format<T>;
+  using pattern = typename f::pattern;
+  // Holds a product of two significands and, below it, bits enough that what is shifted out beyond them can only
+  // matter as one bit that says that there was something.
+  using wide = std::conditional_t<sizeof(T) == 4, std::uint64_t, unsigned __int128>;
+
+  static constexpr int wide_bits = 8 * sizeof(wide);
+  static constexpr int point = wide_bits - 2;  // where the leading bit of an operand stands: a sum may carry above it
+  static constexpr int below_fraction = point - f::fraction_bits;
+  static constexpr T far = std::bit_cast<T>(pattern(f::bias + (sizeof(T) == 4 ? 100 : 1000)) << f::fraction_bits);
+  static constexpr T near = std::bit_cast<T>(pattern(f::bias - (sizeof(T) == 4 ? 100 : 1000)) << f::fraction_bits);
+
+  // A magnitude of significand / 2^point * 2^(exponent - bias).
+  struct operand {
+    wide significand;
+    int exponent;
+    bool negative;
+  };
+
+  static int leading_zeros(wide v) {
+    if constexpr (sizeof(wide) == 8)
+      return __builtin_clzll(v);
+    else if (const auto upper_half = std::uint64_t(v >> 64); upper_half != 0)
+      return __builtin_clzll(upper_half);
+    else
+      return 64 + __builtin_clzll(std::uint64_t(v));
+  }
+
+  static wide shifted_right(wide v, int count) {
+    if (count >= wide_bits) return v != 0;
+    const wide kept = v >> count;
+    return kept | wide(kept << count != v);
+  }
+
+  static operand unpack(T x) {
+    pattern significand = magnitude_pattern(x) & f::fraction;
+    int exponent = exponent_field(x);
+    if (exponent == 0) {
+      const int up = leading_zeros(significand) - (wide_bits - 1 - f::fraction_bits);
+      significand <<= up;
+      exponent = 1 - up;
+    } else {
+      significand |= f::implicit_bit;
+    }
+    return {wide(significand), exponent, (pattern_of(x) & f::sign) != 0};
+  }
+
+  static operand product(const operand& x, const operand& y) {
+    operand p{wide(x.significand * y.significand), x.exponent + y.exponent - f::bias, x.negative != y.negative};
+    // The leading bit is at 2 * fraction_bits or one above.
+    const bool above = p.significand >> (2 * f::fraction_bits + 1) != 0;
+    p.exponent += above;
+    p.significand <<= point - 2 * f::fraction_bits - above;
+    return p;
+  }
+
+  static T signed_value(pattern magnitude, bool negative) { return value_of<T>(magnitude | (negative ? f::sign : 0)); }
+
+  // Infinity or the largest number, as the direction in force has it.
+  static T overflow(bool negative) { return opaque(signed_value(pattern_of(far), negative)) * far; }
+
+  static T rounded(operand sum, rounding direction) {
+    int field = sum.exponent;
+    if (field >= f::top_field) return overflow(sum.negative);
+    if (field <= 0) {
+      sum.significand = shifted_right(sum.significand, 1 - field);
+      field = 0;
+    }
+    // The fraction and, left-aligned, what is below it.
+    auto magnitude = pattern(sum.significand >> below_fraction);
+    const wide rest = sum.significand << (wide_bits - below_fraction);
+    constexpr wide half = wide(1) << (wide_bits - 1);
+    if (field > 0) magnitude += pattern(field - 1) << f::fraction_bits;
+    if (rest == 0) return signed_value(magnitude, sum.negative);
+    if constexpr (sizeof(T) == 8) raise_flags_of(one_v<T> + opaque(near));
+
+    const bool away = direction == rounding::nearest ? rest > half || (rest == half && magnitude % 2 == 1)
+                                                     : direction == (sum.negative ? rounding::down : rounding::up);
+    const pattern before = magnitude;
+    magnitude += away;
+    if (magnitude == f::infinity) return overflow(sum.negative);
+    // Upward and downward a result is tiny by what it would be with more exponents.
+    const bool directed = direction == rounding::up || direction == rounding::down;
+    const bool tiny = !directed ? magnitude < f::implicit_bit || (magnitude == f::implicit_bit && rest == half)
+                      : away    ? before < f::fraction || (before == f::fraction && rest < half)
+                                : before < f::implicit_bit;
+    if (tiny) raise_flags_of(opaque(near) * near);
+    return signed_value(magnitude, sum.negative);
+  }
+
+  static T of(T x, T y, T z, rounding direction) {
+    operand large = product(unpack(x), unpack(y)), small = unpack(z);
+    small.significand <<= below_fraction;
+    if (large.exponent < small.exponent || (large.exponent == small.exponent && large.significand < small.significand))
+      std::swap(large, small);
+    small.significand = shifted_right(small.significand, large.exponent - small.exponent);
+
+    operand sum = large;
+    if (large.negative == small.negative) {
+      sum.significand += small.significand;
+      if (sum.significand >> (point + 1) != 0) {
+        sum.significand = shifted_right(sum.significand, 1);
+        ++sum.exponent;
+      }
+    } else {
+      sum.significand -= small.significand;
+      if (sum.significand == 0) return signed_value(0, direction == rounding::down);
+      const int up = leading_zeros(sum.significand) - (wide_bits - 1 - point);
+      sum.significand <<= up;
+      sum.exponent -= up;
+    }
+    return rounded(sum, direction);
+  }
+};
+
+template <class T>
+LANEMATH_RARE fma_rare(const T* px, const T* py, const T* pz, T* result) {
+  using f = format<T>;
+  const rounding direction = x87_rounding();
+  const T x = *px, y = *py, z = *pz;
+  const auto ax = magnitude_pattern(x), ay = magnitude_pattern(y), az = magnitude_pattern(z);
+  constexpr auto one = pattern_of(one_v<T>);
+  const auto trivial = [](auto a) { return a == 0 || a == one; };
+
+  if (is_nan(x) || is_nan(y))
+    *result = quieted(is_nan(x) ? x : y);
+  else if (is_nan(z))
+    *result = quieted(z);
+  else if (az == f::infinity && ax != f::infinity && ay != f::infinity)
+    *result = z;
+  else if (ax == f::infinity || ay == f::infinity || trivial(ax) || trivial(ay) || az == 0)
+    *result = x * y + z;
+  else
+    *result = exact_sum<T>::of(x, y, z, direction);
+  return 0;
+}
+
+template <class T>
+struct fma {
+  using signature = T(T, T, T);
+  static constexpr bool always_scalar = true;
+  static constexpr auto rare = fma_rare<T>;
+  static auto kernel(auto x, auto y, auto z) { return x * y + z; }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(ternary, fmaf, fma<float>, )
+LANEMATH_SAME(fmaf, , _rm)
+LANEMATH_EXPORT(ternary, fma, fma<double>, )
+
+}  // namespace lanemath

@@ -1,0 +1,86 @@
+// fmod: x - y trunc(x / y), exact, with the sign of x.
+//
+// Where the quotient has few bits: a division, truncated; the remainder by exact products with the two parts of y, and
+// one step back where the division had rounded up to the next integer. Rare lanes by long division.
+#include "fpmanip/long_division.h"
+
+namespace lanemath {
+namespace {
+
+// A multiple of the significand's last bit that no kernel sends, for |x| below 2^52.
+inline double fmod_by_2147483647(double x, double y) {
+  const double ax = value_of<double>(magnitude_pattern(x));
+  const auto quotient = std::uint32_t(std::int64_t(ax * 0x3E00000000000000_f64));  // 2^-31
+  double t = ax - double(quotient) * 0x41DFFFFFFFC00000_f64;
+  if (t >= y) t -= y;
+  return with_sign_of(pattern_of(t), x);
+}
+
+template <class T>
+LANEMATH_RARE fmod_rare(const T* px, const T* py, T* z) {
+  using f = format<T>;
+  const T x = *px, y = *py;
+  const auto ax = magnitude_pattern(x), ay = magnitude_pattern(y), one = pattern_of(one_v<T>);
+  const T zero = with_sign_of(0, x);
+  if (ay == one && ax < f::infinity) {
+    const int exponent = exponent_field(x) - f::bias;
+    if (ax < one)
+      *z = x;
+    else if (ax == one || exponent >= f::fraction_bits)
+      *z = zero;
+    else  // +0 from a difference of equals
+      *z = x - value_of<T>(pattern_of(x) & ~(f::fraction >> exponent));
+    return 0;
+  }
+  if (is_nan(x) || is_nan(y)) {
+    *z = quieted(is_nan(y) ? y : x);
+    return 0;
+  }
+  if (ay == 0 || ax == f::infinity) {
+    *z = default_nan<T>();
+    return 2;
+  }
+  if (ay == f::infinity || ax < ay) {
+    *z = x;
+    return 0;
+  }
+  if (ax == ay) {
+    *z = zero;
+    return 0;
+  }
+  if constexpr (sizeof(T) == 8)
+    if (ay == pattern_of(2147483647.0) && ax < pattern_of(0x1p52)) {
+      *z = fmod_by_2147483647(x, y);
+      return 0;
+    }
+  *z = with_sign_of(pattern_of(long_division<T>(x, y).remainder), x);
+  return 0;
+}
+
+template <class T, std::uint32_t Base, std::uint32_t Top>
+struct fmod {
+  using signature = T(T, T);
+  static constexpr auto rare = fmod_rare<T>;
+
+  template <class V>
+  static V kernel(V x, V y) {
+    const auto s = sign_of(x);
+    const V yh = from_bits(bits(y) & divisor_split<T>::high_bits);
+    const V yl = y - yh;
+    const V q = round_to<direction::zero>(x / y);
+    V t = magnitude(x) - from_bits(bits(yh) ^ s) * q - from_bits(bits(yl) ^ s) * q;
+    t = t + where(t < V(zero_v<T>), magnitude(y));
+    return with_bits(t, s);
+  }
+  static auto rare_test(auto x, auto y) { return rare_division<T, Base, Top>(x, y); }
+};
+
+using fmod_float = fmod<float, 0x8C000000, 0xF28FFFFF>;
+using fmod_double = fmod<double, 0x83300000, 0xFCBFFFFF>;
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, fmodf, fmod_float, )
+LANEMATH_EXPORT(binary, fmod, fmod_double, )
+
+}  // namespace lanemath

@@ -1,0 +1,40 @@
+// fract: x - floor(x), kept below 1, and floor(x).
+//
+// One rounding: at most 0.5 ulp, but up to 1 where a tiny negative x gives the largest number below 1.
+#include "fpmanip/fields.h"
+
+namespace lanemath {
+namespace {
+
+template <class T>
+LANEMATH_RARE fract_rare(const T* px, T* fraction, T* floor) {
+  const T x = *px;
+  *floor = x;
+  *fraction = is_infinite(x) ? with_sign_of(0, x) : x;
+  return 0;
+}
+
+template <class T>
+struct fract {
+  using signature = through_pointer<T, T>(T);
+  static constexpr auto rare = fract_rare<T>;
+  static constexpr T below_one = std::bit_cast<T>(pattern_of(one_v<T>) - 1);
+
+  template <class V>
+  static two_results<V, V> kernel(V x) {
+    const V floor = round_to<direction::down>(x);
+    return {minimum(x - floor, V(below_one)), floor};
+  }
+  template <class V>
+  static auto rare_test(V x) {
+    const auto zero = (bits(x) & ~sign_mask<T>) == 0;
+    return narrow_mask(zero) | magnitude_above(x, format<T>::top_exponent - 1);
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, fractf, fract<float>, )
+LANEMATH_EXPORT(binary, fract, fract<double>, )
+
+}  // namespace lanemath

@@ -1,0 +1,87 @@
+// ldexp: x times 2^n, rounded once and only where the result is denormal.
+#include "fpmanip/fields.h"
+
+namespace lanemath {
+namespace {
+
+// Beyond this every n has one result, and no sum with an exponent field can wrap.
+constexpr std::int32_t farthest = 65536;
+
+// A product beyond the range, by a multiplication that follows the direction in force.
+template <class T>
+T beyond(T x, int exponent) {
+  const T scale = value_of<T>(typename format<T>::pattern(format<T>::bias + exponent) << format<T>::fraction_bits);
+  return opaque(with_sign_of(pattern_of(scale), x)) * scale;
+}
+
+template <class T>
+LANEMATH_RARE ldexp_rare(const T* px, const std::int32_t* pn, T* y) {
+  using f = format<T>;
+  constexpr int far = sizeof(T) == 4 ? 100 : 1000;
+  T x = *px;
+  if (magnitude_pattern(x) == 0 || exponent_field(x) == f::top_field) {
+    *y = sizeof(T) == 4 ? x : quieted(x);
+    return 0;
+  }
+  int e = std::clamp(*pn, -farthest, farthest);
+  if (exponent_field(x) == 0) {
+    x = x * f::lift;
+    e -= f::lift_exponent;
+  }
+  e += exponent_field(x);
+  const auto with_field = [x](int field) {
+    return value_of<T>((pattern_of(x) & ~f::infinity) | typename f::pattern(field) << f::fraction_bits);
+  };
+  if (e >= f::top_field) {
+    *y = beyond(x, far);
+    return 3;
+  }
+  if (e > 0) {
+    *y = with_field(e);
+    return 0;
+  }
+  if (e >= 1 - std::numeric_limits<T>::digits) {
+    *y = with_field(e + f::lift_exponent) * f::lower;
+    if (magnitude_pattern(*y) != 0) return 0;
+  }
+  *y = beyond(x, -far);
+  return 4;
+}
+
+template <class T>
+struct ldexp {
+  using signature = T(T, std::int32_t);
+  static constexpr auto rare = ldexp_rare<T>;
+
+  template <int W>
+  static auto new_field(lanes<T, W> x, lanes<std::int32_t, W> n) {
+    using f = format<T>;
+    using I = lanes<std::int32_t, W>;
+    n = select(n < -farthest, I(-farthest), n);
+    n = select(n > farthest, I(farthest), n);
+    return ((top_word(x) >> f::top_shift) & f::top_field) + n;
+  }
+
+  template <int W>
+  static lanes<T, W> kernel(lanes<T, W> x, lanes<std::int32_t, W> n) {
+    using f = format<T>;
+    const auto e = new_field(x, n);
+    const auto rest = bits(x) & ~typename f::signed_pattern(f::infinity);
+    if constexpr (sizeof(T) == 4)
+      return from_bits(rest | e << f::fraction_bits);
+    else
+      return from_bits(rest | widen(e) << f::fraction_bits);
+  }
+  template <int W>
+  static auto rare_test(lanes<T, W> x, lanes<std::int32_t, W> n) {
+    const auto e = new_field(x, n);
+    return not_normal(x) | e <= 0 | e >= format<T>::top_field;
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, ldexpf, ldexp<float>, )
+LANEMATH_EXPORT(binary, ldexp, ldexp<double>, )
+
+}  // namespace lanemath

@@ -1,0 +1,19 @@
+// nan: a quiet NaN whose payload is the low bits of an integer. Its high bits reach the sign.
+#include "fpmanip/fields.h"
+
+namespace lanemath {
+namespace {
+
+template <class T>
+struct nan_of {
+  using pattern = typename format<T>::pattern;
+  using signature = T(pattern);
+  static auto kernel(auto payload) { return as<T>(payload | (format<T>::infinity | format<T>::implicit_bit >> 1)); }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(unary, nanf, nan_of<float>, )
+LANEMATH_EXPORT(unary, nan, nan_of<double>, )
+
+}  // namespace lanemath

@@ -1,0 +1,58 @@
+// nextafter: the pattern of x one up or one down. Exact.
+#include "fpmanip/fields.h"
+
+namespace lanemath {
+namespace {
+
+template <class T>
+LANEMATH_RARE nextafter_rare(const T* px, const T* py, T* z) {
+  using f = format<T>;
+  const T x = quieted(*px), y = quieted(*py);
+  if (is_nan(x) || is_nan(y)) {
+    *z = is_nan(x) ? x : y;
+    return 0;
+  }
+  if (x == y) {
+    *z = y;
+    return 0;
+  }
+  if (magnitude_pattern(x) == 0) {
+    *z = with_sign_of(1, y);
+    return 4;
+  }
+  const bool same_sign = ((pattern_of(x) ^ pattern_of(y)) & f::sign) == 0;
+  const bool up = same_sign && magnitude_pattern(y) > magnitude_pattern(x);
+  *z = value_of<T>(up ? pattern_of(x) + 1 : pattern_of(x) - 1);
+  const int field = exponent_field(*z);
+  return field == f::top_field ? 3 : field == 0 ? 4 : 0;
+}
+
+template <class T>
+struct nextafter {
+  using signature = T(T, T);
+  static constexpr auto rare = nextafter_rare<T>;
+
+  // Up where y is the larger and the signs are equal.
+  template <class V>
+  static V kernel(V x, V y) {
+    const auto different_sign = sign_of(from_bits(bits(x) ^ bits(y)));
+    const auto up = (magnitude(x) < magnitude(y)) & (different_sign == 0);
+    return from_bits(bits(x) - 1 + (up & 2));
+  }
+  // A float lane is left to the routine wherever the signs are equal, a double lane where x and y are.
+  template <class V>
+  static auto rare_test(V x, V y) {
+    const auto rare = not_normal(x) | not_normal(y) | not_normal(kernel(x, y));
+    if constexpr (sizeof(T) == 4)
+      return rare | ~(bits(x) ^ bits(y)) >> 31;
+    else
+      return rare | narrow_mask(bits(x) == bits(y));
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(binary, nextafterf, nextafter<float>, )
+LANEMATH_EXPORT(binary, nextafter, nextafter<double>, )
+
+}  // namespace lanemath

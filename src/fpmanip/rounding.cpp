@@ -1,0 +1,58 @@
+// ceil, floor, trunc, rint, nearbyint, round: one rounding instruction each, and for round a step after it.
+//
+// Exact, in every direction that the caller may have set. NaNs come back quiet with sign and payload kept, zeros and
+// infinities as they are; a result of zero has the sign of the input.
+#include "frame/frame.h"
+
+namespace lanemath {
+namespace {
+
+template <class T, direction D>
+struct rounding {
+  using signature = T(T);
+  template <class V>
+  static V kernel(V x) {
+    return round_to<D>(x);
+  }
+};
+
+// To nearest with halves to even; a half that went down, which leaves the difference +0.5, goes up after all.
+template <class T>
+struct rounding_half_away {
+  using signature = T(T);
+  template <class V>
+  static V kernel(V x) {
+    const V a = magnitude(x);
+    const V r = round_to<direction::nearest>(a);
+    const V d = a - r;
+    return with_bits(r + where(d == half_v<T>, V(one_v<T>)), sign_of(x));
+  }
+};
+
+using ceil_float = rounding<float, direction::up>;
+using ceil_double = rounding<double, direction::up>;
+using floor_float = rounding<float, direction::down>;
+using floor_double = rounding<double, direction::down>;
+using trunc_float = rounding<float, direction::zero>;
+using trunc_double = rounding<double, direction::zero>;
+using rint_float = rounding<float, direction::current>;
+using rint_double = rounding<double, direction::current>;
+using nearbyint_float = rounding<float, direction::current_quietly>;
+using nearbyint_double = rounding<double, direction::current_quietly>;
+
+}  // namespace
+
+LANEMATH_EXPORT(unary, ceilf, ceil_float, )
+LANEMATH_EXPORT(unary, ceil, ceil_double, )
+LANEMATH_EXPORT(unary, floorf, floor_float, )
+LANEMATH_EXPORT(unary, floor, floor_double, )
+LANEMATH_EXPORT(unary, truncf, trunc_float, )
+LANEMATH_EXPORT(unary, trunc, trunc_double, )
+LANEMATH_EXPORT(unary, rintf, rint_float, )
+LANEMATH_EXPORT(unary, rint, rint_double, )
+LANEMATH_EXPORT(unary, nearbyintf, nearbyint_float, )
+LANEMATH_EXPORT(unary, nearbyint, nearbyint_double, )
+LANEMATH_EXPORT(unary, roundf, rounding_half_away<float>, )
+LANEMATH_EXPORT(unary, round, rounding_half_away<double>, )
+
+}  // namespace lanemath
