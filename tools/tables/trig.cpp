@@ -2,8 +2,10 @@
 // the sine and cosine of evenly spaced angles.
 #include <gmp.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
 
 #include "table_writer.h"
 
@@ -80,6 +82,11 @@ struct step {
   }
 };
 
+// Columns c3 to c9 of the tangent's expansions, by step.
+constexpr float tangent_fit[128][7] = {
+#include "../fits/tangent.inc"
+};
+
 // The tangent's expansion about step j of 128 in half a turn; next to the pole that of what is left of it when the
 // pole's term is taken off.
 std::array<float, 12> tangent_step(int j) {
@@ -87,38 +94,11 @@ std::array<float, 12> tangent_step(int j) {
   mpfr_const_pi(pi.v, MPFR_RNDN);
   const real theta = pi * real(j < 64 ? j : j - 128) / real(128);
   const real pole = j == 64 ? real(0) : pi / real(j < 64 ? 2 : -2) - theta;
-  const bool near_pole = j >= 32 && j <= 95;
-  const auto g = [&](const real& x) {
-    if (j == 64 && mpfr_zero_p(x.v)) return real(0);
-    real t;
-    const real angle = theta + x;
-    mpfr_tan(t.v, angle.v, MPFR_RNDN);
-    return near_pole ? t - real(1) / (pole - x) : t;
-  };
-  // Derivatives by differences of so small a step that the error lies far below the precision.
-  const real h(0x1p-60), two(2);
-  const real f0 = g(real(0)), f1 = g(h), b1 = g(real(0) - h), f2 = g(h + h), b2 = g(real(0) - h - h);
-  const real slope = cut((f1 - b1) / (two * h), 26, MPFR_RNDN);
-  const real second = (f1 - two * f0 + b1) / (two * h * h);
-  const real third = (f2 - two * f1 + two * b1 - b2) / (real(12) * h * h * h);
-  const real fourth = (f2 - real(4) * f1 + real(6) * f0 - real(4) * b1 + b2) / (real(24) * h * h * h * h);
-
-  const double s = slope.nearest<double>();
-  const double below = std::exp2(std::floor(std::log2(s)));
-  const double c5 = s - below <= 2 * below - s ? below : 2 * below;
-  // An odd expansion has no even terms, and the differences leave nothing but noise there.
-  const bool odd = j == 0 || j == 64;
-  const float c0 = pole.nearest<float>(), c3 = odd ? 0.0f : f0.nearest<float>();
-  return {c0,
-          (pole - real(c0)).nearest<float>(),
-          near_pole ? 1.0f : 0.0f,
-          c3,
-          odd ? 0.0f : (f0 - real(c3)).nearest<float>(),
-          float(c5),
-          (slope - real(c5)).nearest<float>(),
-          odd ? 0.0f : second.nearest<float>(),
-          third.nearest<float>(),
-          odd ? 0.0f : fourth.nearest<float>()};
+  std::array<float, 12> row{pole.nearest<float>()};
+  row[1] = (pole - real(row[0])).nearest<float>();
+  row[2] = j >= 32 && j <= 95;
+  std::copy(std::begin(tangent_fit[j]), std::end(tangent_fit[j]), row.begin() + 3);
+  return row;
 }
 
 }  // namespace
@@ -167,8 +147,9 @@ void write_trig_tables(table_writer& out) {
              return std::array{s.cos_tail, s.sin_hi, s.sin_lo, s.cos_head == 0 ? -0.0 : s.cos_head};
            });
 
-  out.rows("tangent_128",
-           "By step j of 128 in half a turn: distance to the pole and its low part, 1 next to the pole, value and its low "
-           "part, a power of two near the slope and the rest, terms of degree 2, 3, 4; two columns that nothing reads",
-           128, tangent_step);
+  out.rows(
+      "tangent_128",
+      "By step j of 128 in half a turn: distance to the pole and its low part, 1 next to the pole, value and its low "
+      "part, a power of two near the slope and the rest, terms of degree 2, 3, 4; two columns that nothing reads",
+      128, tangent_step);
 }
