@@ -31,6 +31,13 @@ inline constexpr error_bound error_bounds[] = {
     {"cos", {3.40, 6.15e7}},
     {"sincos", {3.49, 6.15e7}},
     {"sincosreg", {3.49, 6.15e7}},
+    {"sinpi", {1, 6.15e7}},
+    {"sinpif", {1, 2540}},
+    {"cospi", {1, 6.15e7}},
+    {"cospif", {1, 2540}},
+    {"tan", {1, 6.15e7}},
+    {"tanpi", {1, 6.15e7}},
+    {"tanpif", {1, 2540}},
     {"tanf", {3.58, 924, 924, 924}},
 
     {"fdim", {0.5}},

@@ -84,10 +84,10 @@ struct reduced_angle {
   lanes<T, W> r, rl;
 };
 
-// A negative x makes a negative angle: j wraps. Whatever x holds, j is in range; what infinities and NaNs give
-// means nothing.
+// The shifter says the steps' size. A negative x makes a negative angle: j wraps. Whatever x holds, j is in range; what
+// infinities and NaNs give means nothing.
 template <class T, int W>
-LANEMATH_INLINE reduced_angle<T, W> reduce_to_step(const lanes<T, W>& x) {
+LANEMATH_INLINE reduced_angle<T, W> reduce_to_step(const lanes<T, W>& x, T shifter = reduction_rows<T>::SHIFTER) {
   using c = reduction_rows<T>;
   using word = std::make_unsigned_t<int_of_size<sizeof(T)>>;
   using words = lanes<word, W>;
@@ -99,13 +99,13 @@ LANEMATH_INLINE reduced_angle<T, W> reduce_to_step(const lanes<T, W>& x) {
   const words g = as<word>(x) & c::SIGN;
   const auto [high, low] = fraction_of_turn(x);
   const V t = number((high >> above_mid) | c::ONE | g);
-  const V shifted = t + c::SHIFTER;
+  const V shifted = t + shifter;
   lanes<std::int32_t, W> j;
   if constexpr (sizeof(T) == 4)
     j = bits(shifted) & c::STEPS;
   else
     j = lower(shifted) & c::STEPS;
-  const V d = t - (shifted - c::SHIFTER);
+  const V d = t - (shifted - shifter);
 
   // A field in the significand of a power of two, less that power, is the field as a number.
   const words mid_field = ((high & ones(above_mid)) << (c::significand - above_mid)) | (low >> c::low_bits);

@@ -21,14 +21,27 @@ reference of(std::string_view name, exact_function value, double (*fast)(double)
           .second = second};
 }
 
+// Of pi x: the quarters count, and everything from 2^23 or 2^52 on is whole.
+reference of_pi(std::string_view name, exact_function value) {
+  return {.name = name,
+          .value = value,
+          .ranges = {{"turn", {{-1, 1}}}, {"main", {{-1000, 1000}}}, {"large", {{1000, 0x1p25}}}},
+          .single_bounds = {0.25, 0.5, 0.75, 1, 1.25, 1.5, 2, 3, 0x1p22, 0x1p23, 0x1p24},
+          .double_bounds = {0.25, 0.5, 0.75, 1, 1.25, 1.5, 2, 3, 0x1p51, 0x1p52, 0x1p53}};
+}
+
 }  // namespace
 
 std::vector<reference> trigonometric_references() {
   const auto sine = [](double x) { return std::sin(x); };
-  return {of("sin", unary<mpfr_sin>, sine), of("cos", unary<mpfr_cos>, [](double x) { return std::cos(x); }),
+  return {of("sin", unary<mpfr_sin>, sine),
+          of("cos", unary<mpfr_cos>, [](double x) { return std::cos(x); }),
           of("sincos", unary<mpfr_sin>, sine, unary<mpfr_cos>),
           of("tan", unary<mpfr_tan>, [](double x) { return std::tan(x); }),
-          of("sincosreg", unary<mpfr_sin>, sine, unary<mpfr_cos>)};
+          of("sincosreg", unary<mpfr_sin>, sine, unary<mpfr_cos>),
+          of_pi("sinpi", unary<mpfr_sinpi>),
+          of_pi("cospi", unary<mpfr_cospi>),
+          of_pi("tanpi", unary<mpfr_tanpi>)};
 }
 
 }  // namespace lanemath::accuracy
