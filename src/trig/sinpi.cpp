@@ -3,7 +3,8 @@
 // Default: a distance r of at most 1/4 to a multiple of 1/2; pi r in two parts and an odd polynomial. The cosine of pi
 // r is 1 - 2 sin^2(pi r / 2). Light forms: a polynomial up to 1/2.
 //
-// Largest errors found, in ulp: TODO
+// Largest errors found, in ulp, in samples: sinpi 1.015 at -71.74100735341744 (0xC051EF6CAA1B4180), cospi 1.007, sinpif
+// 0.999 but 1.391 among denormals (0x0011D5B6), cospif 1.022; light forms 4.79e7 and 1816.
 #include "trig/pi_scaled.h"
 
 namespace lanemath {

@@ -4,7 +4,8 @@
 // reciprocal. Above 2^20 the reduction by a window of 1 / (2 pi), to quarters of a turn. Light form: r in one part,
 // fewer terms.
 //
-// Largest errors found, in ulp: TODO
+// Largest errors found, in ulp, in samples: default 1.058 at 995.0995836295915 (0x408F18CBF2808280), above 2^20 1.143 at
+// 991015040.5236015 (0x41CD88D840430560); light form 1.06e7.
 #include <tuple>
 
 #include "trig/double.h"
@@ -29,11 +30,12 @@ static constexpr double tan_native_c[] = {0x3FEFFFFFFF5EC8D8_f64, 0x3FD5555658CA
 
 LANEMATH_RARE tan_rare(const double* px, double* py) { return double_of_non_finite(*px, *py); }
 
-// a - b, and what the rounding took.
+// a - b, and what the rounding took: exact, since a is a multiple of the last place of b whenever it is the smaller
+// one.
 template <class V>
 LANEMATH_INLINE two_results<V, V> difference(const V& a, const V& b) {
-  const V d = a - b, taken = a - d;
-  return {d, (a - (d + taken)) + (taken - b)};
+  const V d = a - b;
+  return {d, (a - d) - b};
 }
 
 // A mask of the odd numbers.

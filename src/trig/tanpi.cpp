@@ -3,7 +3,8 @@
 // A distance r of at most 1/4 to a multiple of 1/2; pi r in two parts and an odd polynomial; next to the poles the
 // reciprocal of that. Light forms: one part, fewer terms.
 //
-// Largest errors found, in ulp: TODO
+// Largest errors found, in ulp, in samples: tanpi 1.037 at 1600064.226338479 (0x41386A4039F1518D), tanpif 1.391 at
+// 1.637868e-39 (0x0011D5B6); light forms 1.06e7 and 741.2.
 #include "trig/pi_scaled.h"
 #include "trig/tangent.h"
 

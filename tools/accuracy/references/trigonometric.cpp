@@ -22,12 +22,23 @@ reference of(std::string_view name, exact_function value, double (*fast)(double)
 }
 
 // Of pi x: the quarters count, and everything from 2^23 or 2^52 on is whole.
-reference of_pi(std::string_view name, exact_function value) {
+reference of_pi(std::string_view name, exact_function value, double (*fast)(double)) {
   return {.name = name,
           .value = value,
           .ranges = {{"turn", {{-1, 1}}}, {"main", {{-1000, 1000}}}, {"large", {{1000, 0x1p25}}}},
           .single_bounds = {0.25, 0.5, 0.75, 1, 1.25, 1.5, 2, 3, 0x1p22, 0x1p23, 0x1p24},
-          .double_bounds = {0.25, 0.5, 0.75, 1, 1.25, 1.5, 2, 3, 0x1p51, 0x1p52, 0x1p53}};
+          .double_bounds = {0.25, 0.5, 0.75, 1, 1.25, 1.5, 2, 3, 0x1p51, 0x1p52, 0x1p53},
+          .fast = fast};
+}
+
+double sine_of_pi(double x) {
+  const double r = std::remainder(x, 2.0);
+  return std::sin(M_PI * (std::fabs(r) > 0.5 ? std::copysign(1.0, r) - r : r));
+}
+double cosine_of_pi(double x) { return std::sin(M_PI * (0.5 - std::fabs(std::remainder(x, 2.0)))); }
+double tangent_of_pi(double x) {
+  const double r = std::remainder(x, 1.0), a = std::fabs(r);
+  return std::copysign(a > 0.25 ? 1.0 / std::tan(M_PI * (0.5 - a)) : std::tan(M_PI * a), r);
 }
 
 }  // namespace
@@ -39,9 +50,9 @@ std::vector<reference> trigonometric_references() {
           of("sincos", unary<mpfr_sin>, sine, unary<mpfr_cos>),
           of("tan", unary<mpfr_tan>, [](double x) { return std::tan(x); }),
           of("sincosreg", unary<mpfr_sin>, sine, unary<mpfr_cos>),
-          of_pi("sinpi", unary<mpfr_sinpi>),
-          of_pi("cospi", unary<mpfr_cospi>),
-          of_pi("tanpi", unary<mpfr_tanpi>)};
+          of_pi("sinpi", unary<mpfr_sinpi>, sine_of_pi),
+          of_pi("cospi", unary<mpfr_cospi>, cosine_of_pi),
+          of_pi("tanpi", unary<mpfr_tanpi>, tangent_of_pi)};
 }
 
 }  // namespace lanemath::accuracy
