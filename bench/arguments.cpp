@@ -33,7 +33,7 @@ T rare_value(generator& random) {
     return one_of(limits::quiet_NaN(), limits::infinity(), -limits::infinity(), limits::max(), limits::lowest(),
                   limits::min(), limits::denorm_min(), -limits::denorm_min(), T(0), -T(0));
   else
-    return one_of(limits::min(), limits::max(), T(1));
+    return one_of(limits::is_signed ? limits::min() : T(2), limits::max(), T(1));
 }
 
 template <class T>

@@ -1,4 +1,4 @@
-// Other libraries' functions for the same task, as a caller of those libraries has them.
+// What else does the same task: other libraries' functions, as a caller of those libraries has them, and plain C++.
 #pragma once
 
 #include <optional>
@@ -21,5 +21,8 @@ std::optional<peer> sleef(const operation& o, variant v);
 
 // The C library's scalar function.
 std::optional<peer> c_library(const operation& o);
+
+// A loop of casts or divisions, compiled for the instructions that the library is compiled for.
+std::optional<peer> plain(const operation& o);
 
 }  // namespace lanemath::bench

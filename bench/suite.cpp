@@ -52,7 +52,9 @@ suite::suite(const harness::library& library, std::size_t operation_index, varia
       typical_(catalogue[operation_index], 0),
       with_rare_(catalogue[operation_index], rare_every),
       sleef_(sleef(catalogue[operation_index], v)),
-      c_library_(c_library(catalogue[operation_index])) {}
+      scalar_(c_library(catalogue[operation_index])) {
+  if (!scalar_) scalar_ = plain(catalogue[operation_index]);
+}
 
 std::string suite::name(std::string_view kind, int width) const {
   return fmt::format("{}/lanemath/{}/{}", title_, kind, width);
@@ -85,7 +87,7 @@ void suite::register_benchmarks() {
         if (const auto chained = latency(catalogue[operation_index_], *f)) add(name(waiting, 1), *chained, 1, typical_);
     }
   add_peer(sleef_);
-  add_peer(c_library_);
+  add_peer(scalar_);
   benchmark::RegisterBenchmark((title_ + "/cycle").c_str(), [](benchmark::State& state) {
     for (auto _ : state) spend_cycles();
     count_lanes(state, additions);
@@ -96,7 +98,8 @@ void suite::print_heading() {
   fmt::print(
       "Nanoseconds. gap: the dearest width's cost over width 4's, narrow widths per call, wide ones per lane.\n"
       "cycles: per lane at width 4. rare: per lane at width 4 where one lane in {} is rare. latency: of width 1.\n"
-      "Peers: per lane on the same arguments, and how many times that is of ours at width 4.\n\n",
+      "Peers: per lane on the same arguments, and how many times that is of ours at width 4. Beside conversions and\n"
+      "integer divisions stands a loop of plain C++ in the C library's place, compiled for the same instructions.\n\n",
       rare_every);
   fmt::print("{:18}{:^28}{:^21}{:30}{:^21}{:^22}\n", "", "call at width", "lane at width", "", "SLEEF, 128 bits",
              "C library");
@@ -120,8 +123,8 @@ void suite::print_row(const results& r) const {
              number(lane(4, rare_lanes)), number(lane(1, waiting)));
   fmt::print("{:>8}{:>7}{:>6}", number(of_peer(sleef_)), number(of_peer(sleef_) / four),
              sleef_ ? bound_of(sleef_->name) : "-");
-  fmt::print("{:>7}{:>7}{:>9}\n", number(of_peer(c_library_)), number(of_peer(c_library_) / four),
-             number(of_peer(c_library_, waiting)));
+  fmt::print("{:>7}{:>7}{:>9}\n", number(of_peer(scalar_)), number(of_peer(scalar_) / four),
+             number(of_peer(scalar_, waiting)));
   std::fflush(stdout);
 }
 

@@ -38,7 +38,7 @@ class suite {
   bool exported_;
   std::string title_;
   arguments typical_, with_rare_;
-  std::optional<peer> sleef_, c_library_;
+  std::optional<peer> sleef_, scalar_;
 };
 
 }  // namespace lanemath::bench

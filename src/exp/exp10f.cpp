@@ -42,20 +42,8 @@ LANEMATH_RARE exp10f_rare(const float* px, float* py) {
     *py = 0.0f;
     return 4;
   }
-
-  constexpr double shifter = 0x4338000000000000_f64;      // 1.5 * 2^52
-  const double t = 0x406A934F0979A371_f64 * x + shifter;  // x * 64 log2(10)
-  const split_index n(t);
-  const double m = t - shifter;
-  const double r = (x - m * 0x3F734413509F0000_f64) - m * 0x3D1E7FBCC47C4ACD_f64;  // log10(2) / 64 in two parts
-  const auto [hi, lo] = exp2_64[n.j];
-  double q = 0x3FE1427C87C70A85_f64;
-  q = q * r + 0x3FF2BD77B840F0BF_f64;
-  q = q * r + 0x4000470591E2BC10_f64;
-  q = q * r + 0x40053524C73CD20A_f64;
-  q = q * r + 0x40026BB1BBB55515_f64;
-  q = q * r + lo;
-  *py = float((q * hi + hi) * power_of_two(n.k));
+  const rare_power p = exp10_power(x);
+  *py = float(scaled(p.w + p.hi, p.k));
   return x <= 0xC042F70320000000_f64 ? 4 : 0;  // -37.92978
 }
 

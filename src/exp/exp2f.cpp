@@ -42,19 +42,8 @@ LANEMATH_RARE exp2f_rare(const float* px, float* py) {
     *py = float(underflowed());
     return 4;
   }
-
-  constexpr double shifter = 0x42D8000000000000_f64;  // 1.5 * 2^46
-  const double t = x + shifter;
-  const split_index n(t);
-  const double f = x - (t - shifter);
-  const auto [hi, lo] = exp2_64[n.j];
-  double q = 0x3F55D870C4D8440A_f64;
-  q = q * f + 0x3F83B2AD33F8B48B_f64;
-  q = q * f + 0x3FAC6B08D7076268_f64;
-  q = q * f + 0x3FCEBFBDFF82A23A_f64;
-  q = q * f + 0x3FE62E42FEFA39EF_f64;
-  q = q * f + lo;
-  *py = float((q * hi + hi) * power_of_two(n.k));
+  const rare_power p = exp2_power(x);
+  *py = float(scaled(p.w + p.hi, p.k));
   return x < -126.0 ? 4 : 0;
 }
 

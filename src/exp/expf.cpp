@@ -63,70 +63,12 @@ constexpr std::int32_t RARE = 0x42AEAC4F;  // 87.33654
 constexpr float OVF = 0x42B17217_f32;      // 88.72283: infinite above
 constexpr float UNF = 0xC2CFF1B4_f32;      // -103.97208: zero below
 
-LANEMATH_RARE expf_rare(const float* px, float* py) {
-  if (exp_of_non_finite(*px, *py)) return 0;
-  const double x = *px;
-  const auto biased_exponent = std::bit_cast<std::uint32_t>(*px) >> 23 & 0xFF;
-  if (biased_exponent <= 74) {  // |x| < 2^-52
-    *py = float(1.0 + x);
-    return 0;
-  }
-  if (x > 0x40562E42E0000000_f64) {  // 88.72283
-    *py = float(overflowed());
-    return 3;
-  }
-  if (x < 0xC059FE3680000000_f64) {  // -103.97208
-    *py = float(underflowed());
-    return 4;
-  }
-
-  constexpr double shifter = 0x4338000000000000_f64;      // 1.5 * 2^52
-  const double t = 0x40571547652B82FE_f64 * x + shifter;  // x * 64 / ln 2
-  const split_index n(t);
-  const double m = t - shifter;
-  const double r = (x - m * 0x3F862E42FEFA0000_f64) - m * 0x3D1CF79ABC9E3B3A_f64;  // ln 2 / 64 in two parts
-  double q = 0x3F56C16A1C2A3FFD_f64;
-  q = q * r + 0x3F8111123AAF20D3_f64;
-  q = q * r + 0x3FA5555555558FCC_f64;
-  q = q * r + 0x3FC55555555548F8_f64;
-  q = q * r + 0x3FE0000000000000_f64;
-  const auto [hi, lo] = exp2_64[n.j];
-  const double w = (q * r * r + r + lo) * hi;
-
-  if (x >= 0xC055D589E0000000_f64) {  // -87.33654: a normal result
-    const auto field = std::uint64_t(n.k + 1023) & 2047;
-    if (field == 2047)
-      *py = float((w + hi) * with_exponent_field(2046) * 2.0);
-    else
-      *py = float((w + hi) * with_exponent_field(field));
-    return 0;
-  }
-
-  // A denormal result: at a scale raised by 2^60, cut to its bits before the one rounding.
-  const auto field = std::uint64_t(n.k + 1083) & 2047;
-  const double s = with_exponent_field(field);
-  const double unscale = 0x3C30000000000000_f64;  // 2^-60
-  const double a = w * s, b = hi * s;
-  const double v = a + b;
-  if (field <= 50) {
-    *py = float(v * unscale);
-    return 4;
-  }
-  const double u = a + (b - v);
-  const double c = v * 0x41F8000000000000_f64;
-  const double h = (v + c) - c;
-  const double l = (v - h) + u;
-  *py = float(h * unscale + l * unscale);
-  return 4;
-}
+LANEMATH_RARE expf_rare(const float* px, float* py) { return exp_rare_lane(px, py, exp_power, expf_bounds); }
 
 struct expf_guards : rare_above<float(float), expf_rare, RARE> {
   template <class V, class M>
   static void fix_up(V x, V& y, M& rare) {
-    const auto over = OVF < x;
-    const auto under = x < UNF;
-    y = select(over, V(std::numeric_limits<float>::infinity()), select(under, V(0.0f), y));
-    rare = rare & ~(over | under);
+    saturate(x, y, rare, OVF, UNF);
   }
 };
 

@@ -65,7 +65,7 @@ constexpr bool is_infinite(T x) {
 // What an operation does to make a NaN quiet.
 template <class T>
 T quieted(T x) {
-  return opaque(x) * one_v<T>;
+  return x * opaque(one_v<T>);  // not opaque(x) * 1, which GCC makes x of
 }
 // What the processor answers to an invalid operation.
 template <class T>

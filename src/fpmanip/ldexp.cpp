@@ -75,7 +75,7 @@ struct ldexp {
   template <int W>
   static auto rare_test(lanes<T, W> x, lanes<std::int32_t, W> n) {
     const auto e = new_field(x, n);
-    return not_normal(x) | e <= 0 | e >= format<T>::top_field;
+    return not_normal(x) | (e <= 0) | (e >= format<T>::top_field);
   }
 };
 

@@ -21,7 +21,7 @@ LANEMATH_INLINE auto rare_division(V x, V y) {
   using f = format<T>;
   const auto apart = (top_word(x) & f::top_exponent) - (top_word(y) & f::top_exponent);
   const auto in_window = (top_word(y) & 0x7FFFFFFF) - std::int32_t(Base);
-  return apart > divisor_split<T>::limit << f::top_shift | in_window > std::int32_t(Top);
+  return (apart > divisor_split<T>::limit << f::top_shift) | (in_window > std::int32_t(Top));
 }
 
 // A finite number other than zero as significand * 2^exponent, the implicit bit of the significand set.

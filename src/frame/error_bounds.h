@@ -2,8 +2,7 @@
 // rounded up. The public documentation states these figures and the tests hold every form to them. Results that
 // round to a denormal or overflow count in units of the format's smallest step there.
 //
-// An operation gets its line when it is built. 0.5 is correctly rounded, up to the digits shown; 0 is exact, and what
-// the operations are that move bits and integers, unless they have a line.
+// An operation gets its line when it is built. 0.5 is correctly rounded, up to the digits shown; 0 is exact.
 #pragma once
 
 #include <array>
@@ -23,6 +22,12 @@ inline constexpr error_bound error_bounds[] = {
     {"expf", {0.569, 2169, 2169, 2.94}},
     {"exp2f", {1.11, 1231, 1231, 1.11}},
     {"exp10f", {0.557, 1305, 1305, 1305}},
+    {"exp", {3.09, 2.98e7}},
+    {"exp2", {1.65, 1.54e7}},
+    {"exp10", {1.01, 1.54e7}},
+    {"expm1f", {1.81, 284}},
+    {"expm1", {2.97, 5.20e6}},
+
     {"sinf", {2.49, 2540, 2540, 2540}},
     {"cosf", {2.35, 2540, 2540, 2540}},
     {"sincosf", {2.80, 2540, 0, 2540}},
@@ -60,7 +65,15 @@ struct standalone_bound {
 inline constexpr standalone_bound standalone_bounds[] = {
     {"exp2f", 1, variant::standard, 0.507},
     {"exp2f", 4, variant::standard, 2.56},
+    {"exp", 2, variant::standard, 2.96},
+    {"exp2", 2, variant::standard, 2.60},
 };
+
+// Families of operations that are exact unless they have a line: each result is the one that the operation's rule
+// gives.
+constexpr bool is_exact(family f) {
+  return f == family::conversion || f == family::integer_division || f == family::manipulation;
+}
 
 // The bound of a function, or nothing if none is stated.
 constexpr std::optional<double> bound_of(const operation& o, variant v, int width) {
@@ -71,7 +84,7 @@ constexpr std::optional<double> bound_of(const operation& o, variant v, int widt
   }
   for (const auto& bound : error_bounds)
     if (bound.name == o.name()) return bound.ulp[std::size_t(v)];
-  if (o.group == family::manipulation || o.group == family::conversion || o.group == family::integer_division) return 0;
+  if (is_exact(o.group)) return 0;
   return std::nullopt;
 }
 

@@ -21,6 +21,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <type_traits>
+#include <utility>
 
 #include "frame/abi.h"
 #include "frame/catalogue.h"
@@ -153,20 +154,25 @@ LANEMATH_INLINE auto in_pieces(F f, const X&... x) {
   if constexpr (C >= W) {
     return f(x...);
   } else {
-    using piece = decltype(f(part<C>(x, 0)...));
+    const auto piece_at = [&](int first) LANEMATH_LAMBDA { return f(part<C>(x, first)...); };
+    // Not a loop: a compiler leaves one a loop where the pieces are large.
+    const auto for_each_piece = [&]<int... I>(std::integer_sequence<int, I...>, auto put) LANEMATH_LAMBDA {
+      (put(I * C, piece_at(I * C)), ...);
+    };
+    constexpr std::make_integer_sequence<int, W / C> pieces;
+    using piece = decltype(piece_at(0));
     if constexpr (requires { piece::width; }) {
       lanes<typename piece::value_type, W> all;
-      for (int i = 0; i < W; i += C) put_part(all, i, f(part<C>(x, i)...));
+      for_each_piece(pieces, [&](int first, const auto& y) LANEMATH_LAMBDA { put_part(all, first, y); });
       return all;
     } else {
       two_results<lanes<typename decltype(piece::first)::value_type, W>,
                   lanes<typename decltype(piece::second)::value_type, W>>
           all;
-      for (int i = 0; i < W; i += C) {
-        const auto y = f(part<C>(x, i)...);
-        put_part(all.first, i, y.first);
-        put_part(all.second, i, y.second);
-      }
+      for_each_piece(pieces, [&](int first, const auto& y) LANEMATH_LAMBDA {
+        put_part(all.first, first, y.first);
+        put_part(all.second, first, y.second);
+      });
       return all;
     }
   }

@@ -79,8 +79,8 @@ LANEMATH_INLINE auto from_bits(const lanes<T, W>& v) {
 }
 
 // A constant by its bit pattern: 0x3F000000_f32 is 0.5f.
-consteval float operator""_f32(unsigned long long v) { return std::bit_cast<float>(std::uint32_t(v)); }
-consteval double operator""_f64(unsigned long long v) { return std::bit_cast<double>(std::uint64_t(v)); }
+constexpr float operator""_f32(unsigned long long v) { return std::bit_cast<float>(std::uint32_t(v)); }
+constexpr double operator""_f64(unsigned long long v) { return std::bit_cast<double>(std::uint64_t(v)); }
 // The same for either precision; T(0.5) in the midst of a kernel is a conversion at run time under -frounding-math.
 template <class T>
 inline constexpr T zero_v = 0;
@@ -206,6 +206,20 @@ LANEMATH_INLINE lanes<std::int32_t, W> lower(const lanes<T, W>& v) {
   return lanes_detail::halves<0>(v);
 }
 
+// The word with the sign and the exponent, or an integer's sign: the whole of a 32-bit lane, the upper half of another.
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> top_word(const lanes<T, W>& x) {
+  if constexpr (sizeof(T) == 4)
+    return bits(x);
+  else
+    return upper(x);
+}
+// A mask over lanes of any size as one over 32-bit lanes.
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> narrow_mask(const lanes<T, W>& mask) {
+  return top_word(mask);
+}
+
 // 32-bit integers as 64-bit ones of the same signedness.
 template <class T, int W>
 LANEMATH_INLINE auto widen(const lanes<T, W>& v) {
@@ -237,6 +251,25 @@ LANEMATH_INLINE lanes<std::uint64_t, W> product_of_lower(const lanes<std::uint64
           return std::bit_cast<decltype(p)>(_mm_mul_epu32(std::bit_cast<__m128i>(p), std::bit_cast<__m128i>(q)));
       },
       a, b);
+}
+
+// Each 64-bit lane shifted left by its own count, from 0 to 63. A lane with another count is anybody's guess.
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> shifted_left(const lanes<T, W>& v, const lanes<T, W>& count) {
+  static_assert(sizeof(T) == 8);
+  using U = std::make_unsigned_t<T>;
+  return as<T>(map<U>(
+      [](auto a, auto n) LANEMATH_LAMBDA {
+        if constexpr (W == 1) {
+          return a << (n & 63);
+        } else {
+          const auto both = std::bit_cast<__m128i>(a), first = std::bit_cast<__m128i>(n);
+          const auto second = _mm_unpackhi_epi64(first, first);
+          return std::bit_cast<typename lanes<U, W>::group>(
+              _mm_blend_epi16(_mm_sll_epi64(both, first), _mm_sll_epi64(both, second), 0xF0));
+        }
+      },
+      as<U>(v), as<U>(count)));
 }
 
 // Lanes first .. first + C - 1, whole groups of them; and their way back.
@@ -387,7 +420,10 @@ LANEMATH_INLINE lanes<U, W> convert(const lanes<T, W>& v) {
   using from = register_of<T>;
   using to = typename lanes<U, W>::group;
   if constexpr (W == 1) {
-    if constexpr (std::is_floating_point_v<U>)
+    if constexpr (std::is_integral_v<T>)
+      // Not the scalar instruction: it keeps the upper part of its register and so waits for what was there.
+      result.g[0] = convert_group<U, Truncate>(_mm_cvtsi32_si128(v.g[0]))[0];
+    else if constexpr (std::is_floating_point_v<U>)
       result.g[0] = U(v.g[0]);
     else if constexpr (sizeof(T) == 4)
       result.g[0] = Truncate ? _mm_cvttss_si32(_mm_set_ss(v.g[0])) : _mm_cvtss_si32(_mm_set_ss(v.g[0]));
@@ -506,7 +542,7 @@ LANEMATH_INLINE lanes<T, W> look_up(const T (&table)[Size], const lanes<std::int
 
 namespace lanes_detail {
 
-// Columns first .. first + Count - 1 of two or four rows, turned into lanes. Count is 1, 2 or 4 of 32 bits, 1 or 2 of 64.
+// Columns first .. first + Count - 1 of two or four rows, turned into lanes. Count is 2 or 4 of 32 bits, 1 or 2 of 64.
 template <std::size_t Count, class T>
 LANEMATH_INLINE void turn_columns(std::array<__m128, Count>& column, const T* a, const T* b, const T* c, const T* d) {
   const auto whole = [](const T* from) LANEMATH_LAMBDA { return _mm_loadu_ps(reinterpret_cast<const float*>(from)); };
@@ -580,20 +616,6 @@ LANEMATH_INLINE lanes<T, W> opaque(lanes<T, W> v) {
     else
       asm("" : "+x"(each));
   return v;
-}
-
-// The word with the sign and the exponent: the whole of a float, the upper half of a double.
-template <class T, int W>
-LANEMATH_INLINE lanes<std::int32_t, W> top_word(const lanes<T, W>& x) {
-  if constexpr (sizeof(T) == 4)
-    return bits(x);
-  else
-    return upper(x);
-}
-// A mask over lanes of any size as one over 32-bit lanes.
-template <class T, int W>
-LANEMATH_INLINE lanes<std::int32_t, W> narrow_mask(const lanes<T, W>& mask) {
-  return top_word(mask);
 }
 
 // The sign bit alone, as a pattern; the value without it; a pattern joined to a value's.

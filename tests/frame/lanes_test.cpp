@@ -122,8 +122,20 @@ TEST(Lanes, GoBetweenLanesOf32And64Bits) {
     const auto pattern = [&](int i) { return std::bit_cast<std::uint64_t>(doubles[i]); };
     expect_lanes(upper(x), [&](int i) { return std::int32_t(pattern(i) >> 32); });
     expect_lanes(lower(x), [&](int i) { return std::int32_t(pattern(i)); });
+    expect_lanes(top_word(x), [&](int i) { return std::int32_t(pattern(i) >> 32); });
+    expect_lanes(top_word(load<std::uint32_t, width>(uints)), [&](int i) { return std::int32_t(uints[i]); });
     expect_lanes(widen(load<std::int32_t, width>(ints)), [&](int i) { return std::int64_t(ints[i]); });
     expect_lanes(widen(load<std::uint32_t, width>(uints)), [&](int i) { return std::uint64_t(uints[i]); });
+  });
+}
+
+TEST(Lanes, ShiftEachByItsOwnCount) {
+  const auto& values = some_values<std::int64_t>();
+  std::array<std::int64_t, 16> counts;
+  for (int i = 0; i < 16; ++i) counts[i] = i * 37 % 64;
+  at_every_width([&](auto width) {
+    const auto shifted = shifted_left(load<std::int64_t, width>(values), load<std::int64_t, width>(counts));
+    expect_lanes(shifted, [&](int i) { return std::int64_t(std::uint64_t(values[i]) << counts[i]); });
   });
 }
 

@@ -46,9 +46,14 @@ processor's estimates, whose low bits differ between makes of processor.)"},
 that of the x87 control word.)"},
     {family::conversion, "conversion", "Conversions",
      R"(Between lanes of 32 and 64 bits, floating and integer, with the rounding in the name: rte to nearest even, rtn
-down, rtp up, rtz toward zero. sat clamps to the integer type's range and gives 0 for a NaN; nosat does not.)"},
+down, rtp up, rtz toward zero. Floating to integer: the same in every rounding direction in force. sat clamps to the
+integer type's range and gives 0 for a NaN, but for 32-bit unsigned results, where a NaN with its sign clear gives the
+largest integer. Without sat what does not fit and NaNs give 0x80000000 or 0x8000000000000000, and unsigned results are
+the rounded value's magnitude. Integer to floating: the directed forms are for the direction to nearest in force; rte
+follows the direction in force. double to float: rte follows the direction in force, the others do not.)"},
     {family::integer_division, "integer_division", "Integer division",
-     R"(32-bit lanes, signed and unsigned. A zero divisor gives a defined result and does not trap.)"},
+     R"(32-bit lanes, signed and unsigned, truncated. Nothing traps: a zero divisor gives the quotient 0x80000000 (signed) or
+0 (unsigned) and the dividend as remainder; -2147483648 / -1 gives 0x80000000 and the remainder 0.)"},
 };
 
 }  // namespace lanemath

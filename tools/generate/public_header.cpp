@@ -59,6 +59,7 @@ std::string call(const operation& o) {
 }
 
 std::string bound_text(const operation& o) {
+  if (is_exact(o.group) && bound_of(o, variant::standard, 1) == 0) return "";
   std::vector<std::string> forms;
   for (auto v : variants) {
     if (!o.has(v)) continue;

@@ -1,0 +1,185 @@
+// Integers to floating lanes. An integer is cut into fields that fit the significand; or-ed into the pattern of a power
+// of two, which is then subtracted, a field becomes its exact value. The fields' sum is rounded once. For the directed
+// roundings the sum's error, which is exact too, then decides a step of one unit on the pattern.
+//
+// The steps are for the direction to nearest. In another one the sums follow it.
+#include <type_traits>
+
+#include "convert/convert.h"
+
+namespace lanemath {
+namespace {
+
+template <class T>
+struct from_integer_rows;
+template <>
+struct from_integer_rows<float> {
+  static constexpr std::uint32_t FIELD = 0x007FFFFF;
+  static constexpr float P0 = 0x4B000000_f32;  // 2^23, of the lowest field
+  static constexpr float P1 = 0x56800000_f32;  // 2^46
+  static constexpr float P2 = 0x62000000_f32;  // 2^69, of the highest
+  static constexpr int field_bits = 23;
+  // From the pattern of a power of two to that of half a unit of it.
+  static constexpr std::int32_t HALFULP = 0x0C000000;
+};
+template <>
+struct from_integer_rows<double> {
+  static constexpr std::uint64_t FIELD = 0x000FFFFFFFFFFFFF;
+  static constexpr double P0 = 0x4330000000000000_f64;  // 2^52
+  static constexpr double P1 = 0x4670000000000000_f64;  // 2^104
+  static constexpr int field_bits = 52;
+};
+
+// P plus a field of P's lowest bits.
+template <class U, int W>
+LANEMATH_INLINE auto placed(auto p, const lanes<U, W>& field) {
+  return from_bits(field | std::bit_cast<U>(p));
+}
+template <class U, int W>
+LANEMATH_INLINE auto value_of(auto p, const lanes<U, W>& field) {
+  return placed(p, field) - p;
+}
+
+// An integer as the magnitude and, in lanes like the result's, what is or-ed in for the sign and the step to the next
+// larger value: 1, or -1 for negative lanes. The least integer's magnitude is right as an unsigned number.
+template <class I, class T, int W>
+struct taken_apart {
+  using word = lanes<int_of_size<sizeof(T)>, W>;
+  lanes<std::make_unsigned_t<I>, W> m;
+  word sign{0}, step{1};
+
+  LANEMATH_INLINE explicit taken_apart(const lanes<I, W>& x) {
+    if constexpr (std::is_signed_v<I>) {
+      const auto negative = x >> (8 * int(sizeof(I)) - 1);
+      m = as<std::make_unsigned_t<I>>((x ^ negative) - negative);
+      if constexpr (sizeof(I) == sizeof(T))
+        sign = x;
+      else
+        sign = upper(x);
+      step = (sign >> (8 * int(sizeof(T)) - 1)) | 1;
+      sign = sign & std::numeric_limits<typename word::value_type>::min();
+    } else {
+      m = x;
+    }
+  }
+};
+
+// Every 32-bit integer is exact in double.
+template <class I>
+struct to_double {
+  using signature = double(I);
+  template <class V>
+  static auto kernel(V x) {
+    if constexpr (std::is_signed_v<I>)
+      return convert<double>(x);
+    else
+      return value_of(from_integer_rows<double>::P0, widen(x));
+  }
+};
+
+// Integers as wide as the result: two fields.
+template <direction D, class I, class T>
+struct from_two_fields {
+  using signature = T(I);
+  static constexpr int groups_at_once = 2;
+  template <class V>
+  static auto kernel(V x) {
+    using c = from_integer_rows<T>;
+    const taken_apart<I, T, V::width> from(x);
+    const auto lo = value_of(c::P0, from.m & c::FIELD);
+    const auto hi = value_of(c::P1, from.m >> c::field_bits);
+    const auto s = hi + lo;
+    if constexpr (D == direction::nearest) {
+      return with_bits(s, from.sign);
+    } else if constexpr (D == direction::zero) {
+      const auto above = lo < s - hi;
+      return with_bits(from_bits(bits(s) + above), from.sign);
+    } else {
+      const auto signed_lo = with_bits(lo, from.sign), signed_s = with_bits(s, from.sign);
+      const auto added = signed_s - with_bits(hi, from.sign);
+      if constexpr (D == direction::down)
+        return from_bits(bits(signed_s) - (from.step & (signed_lo < added)));
+      else
+        return from_bits(bits(signed_s) + (from.step & (added < signed_lo)));
+    }
+  }
+};
+
+// 64-bit integers to float: three fields.
+template <class V>
+struct three_fields {
+  using c = from_integer_rows<float>;
+  using field = lanes<std::uint32_t, V::width>;
+  field low;
+  lanes<float, V::width> middle, high;
+
+  LANEMATH_INLINE explicit three_fields(const V& m)
+      : low(as<std::uint32_t>(lower(m)) & c::FIELD),
+        middle(value_of(c::P1, as<std::uint32_t>(lower(m >> 23)) & c::FIELD)),
+        high(value_of(c::P2, as<std::uint32_t>(upper(m)) >> 14)) {}
+};
+
+// The low field is left out of the first sum and added in the end. Where the first sum was rounded down on an exact
+// half while the low field is not zero, its last bit is set: the end's rounding then goes up.
+template <class I>
+struct from_three_fields_to_nearest {
+  using signature = float(I);
+  template <class V>
+  static auto kernel(V x) {
+    using c = from_integer_rows<float>;
+    const taken_apart<I, float, V::width> from(x);
+    const three_fields fields(from.m);
+    const auto minus_low = c::P0 - placed(c::P0, fields.low);
+    const auto s = fields.high + fields.middle;
+    const auto error = fields.middle + (fields.high - s);
+    const auto half_unit = (bits(s) & ~std::int32_t(c::FIELD)) - c::HALFULP;
+    const auto tie = (bits(error) == half_unit) & (bits(minus_low) >> 31) & 1;
+    return with_bits(with_bits(s, tie) - minus_low, from.sign);
+  }
+};
+
+template <direction D, class I>
+struct from_three_fields {
+  using signature = float(I);
+  template <class V>
+  static auto kernel(V x) {
+    const taken_apart<I, float, V::width> from(x);
+    const three_fields fields(from.m);
+    const auto low = value_of(from_integer_rows<float>::P0, fields.low);
+    const auto s1 = fields.middle + low;
+    const auto error1 = low + (fields.middle - s1);
+    const auto s2 = fields.high + s1;
+    const auto error2 = s1 + (fields.high - s2);
+    const auto error = error1 + error2;
+
+    if constexpr (D == direction::zero || (D == direction::down && std::is_unsigned_v<I>)) {
+      return with_bits(from_bits(bits(s2) + (bits(error) >> 31)), from.sign);
+    } else if constexpr (std::is_unsigned_v<I>) {
+      return from_bits(bits(s2) - (bits(0.0f - error) >> 31));
+    } else {
+      const auto signed_s = with_bits(s2, from.sign);
+      const auto signed_error = from_bits(bits(error) ^ from.sign);
+      if constexpr (D == direction::down)
+        return from_bits(bits(signed_s) - (from.step & (signed_error < 0.0f)));
+      else
+        return from_bits(bits(signed_s) + (from.step & (0.0f < signed_error)));
+    }
+  }
+};
+template <class I>
+struct from_three_fields<direction::nearest, I> : from_three_fields_to_nearest<I> {};
+
+}  // namespace
+
+#define FORMS(rounding, D)                                                                          \
+  LANEMATH_CONVERSION(cvti32tofp##rounding, to_double<std::int32_t>)                                \
+  LANEMATH_CONVERSION(cvtu32tofp##rounding, to_double<std::uint32_t>)                               \
+  LANEMATH_CONVERSION(cvti32tofp##rounding##f, from_two_fields<direction::D, std::int32_t, float>)  \
+  LANEMATH_CONVERSION(cvtu32tofp##rounding##f, from_two_fields<direction::D, std::uint32_t, float>) \
+  LANEMATH_CONVERSION(cvti64tofp##rounding, from_two_fields<direction::D, std::int64_t, double>)    \
+  LANEMATH_CONVERSION(cvtu64tofp##rounding, from_two_fields<direction::D, std::uint64_t, double>)   \
+  LANEMATH_CONVERSION(cvti64tofp##rounding##f, from_three_fields<direction::D, std::int64_t>)       \
+  LANEMATH_CONVERSION(cvtu64tofp##rounding##f, from_three_fields<direction::D, std::uint64_t>)
+LANEMATH_FOR_ROUNDINGS(FORMS)
+
+}  // namespace lanemath

@@ -1,0 +1,34 @@
+// double to float. The narrowing instruction rounds in the direction in force: rte is that and nothing else. For the
+// directed roundings the lane is widened back, which is exact, and compared with the argument: where narrowing went to
+// the wrong side, a step of one unit on the pattern takes it back, an overflow to infinity included. NaNs compare
+// false and come out as narrowing left them.
+#include "convert/convert.h"
+
+namespace lanemath {
+namespace {
+
+template <direction D>
+struct narrowed {
+  using signature = float(double);
+  template <class V>
+  static auto kernel(V x) {
+    const auto r = convert<float>(x);
+    const V b = convert<double>(r);
+    const auto away_from_zero = (bits(r) >> 31) | 1;
+    if constexpr (D == direction::nearest)
+      return r;
+    else if constexpr (D == direction::down)
+      return from_bits(bits(r) - (away_from_zero & narrow_mask(x < b)));
+    else if constexpr (D == direction::up)
+      return from_bits(bits(r) + (away_from_zero & narrow_mask(b < x)));
+    else
+      return from_bits(bits(r) + narrow_mask(magnitude(x) < magnitude(b)));
+  }
+};
+
+}  // namespace
+
+#define FORM(rounding, D) LANEMATH_CONVERSION(cvtfp64tofp32##rounding, narrowed<direction::D>)
+LANEMATH_FOR_ROUNDINGS(FORM)
+
+}  // namespace lanemath

@@ -1,0 +1,75 @@
+// Floating lanes to 64-bit integers, for which there is no conversion instruction: after the rounding instruction the
+// integer is built from the fields of the magnitude, m * 2^k. Below 2^23 (float) or 2^52 (double) m is the fraction of
+// the sum with that number and k is 0; above, m is the significand and k the exponent's excess. The sign goes into m
+// before the shift. One text for all forms; all lanes are settled in straight line.
+#include <type_traits>
+
+#include "convert/convert.h"
+
+namespace lanemath {
+namespace {
+
+template <class T>
+struct to_int64_rows;
+template <>
+struct to_int64_rows<float> {
+  static constexpr std::int32_t FRACTION = 0x007FFFFF;
+  static constexpr std::int32_t IMPLICIT = 0x00800000;
+  static constexpr std::int32_t SHIFT_BASE = 0x96;
+  static constexpr float INTEGRAL = 0x4B000000_f32;  // 2^23: nothing above has a fraction
+  static constexpr int fraction_bits = 23;
+};
+template <>
+struct to_int64_rows<double> {
+  static constexpr std::int64_t FRACTION = 0x000FFFFFFFFFFFFF;
+  static constexpr std::int64_t IMPLICIT = 0x0010000000000000;
+  static constexpr std::int64_t SHIFT_BASE = 0x433;
+  static constexpr double INTEGRAL = 0x4330000000000000_f64;  // 2^52
+  static constexpr int fraction_bits = 52;
+};
+
+template <direction D, class I, class T, bool Saturated>
+struct to_int64 {
+  using signature = I(T);
+  static constexpr int groups_at_once = 2;
+  template <class V>
+  static auto kernel(V x) {
+    using c = to_int64_rows<T>;
+    using wide = lanes<std::int64_t, V::width>;
+    constexpr bool is_signed = std::is_signed_v<I>;
+    constexpr T ZERO = 0, LIMIT = is_signed ? 0x1p63 : 0x1p64;
+
+    const V r = round_to<D>(x);
+    // A negative lane gives its magnitude, or 0 by the last mask below.
+    const V a = Saturated && !is_signed ? r : magnitude(r);
+    const auto small = a < c::INTEGRAL;
+    auto m = select(small, bits(a + c::INTEGRAL) & c::FRACTION, (bits(a) & c::FRACTION) | c::IMPLICIT);
+    const auto k = ((bits(a) >> c::fraction_bits) - c::SHIFT_BASE) & ~small;
+    const auto negative = r < ZERO;
+    if constexpr (is_signed) m = (m ^ negative) - negative;
+    if constexpr (Saturated) m = m & (is_signed ? r == r : r >= ZERO);
+    const wide v = shifted_left(as_64(m), as_64(k));
+
+    if constexpr (!Saturated)
+      return as<I>(select(as_64(a < LIMIT), v, wide(std::numeric_limits<std::int64_t>::min())));
+    else if constexpr (is_signed)
+      return select(as_64(a >= LIMIT), as_64(negative) ^ std::numeric_limits<std::int64_t>::max(), v);
+    else
+      return as<I>(v | as_64(a >= LIMIT));
+  }
+};
+
+}  // namespace
+
+#define FORMS(rounding, D)                                                                               \
+  LANEMATH_CONVERSION(cvtfptoi64##rounding##nosatf, to_int64<direction::D, std::int64_t, float, false>)  \
+  LANEMATH_CONVERSION(cvtfptoi64##rounding##nosat, to_int64<direction::D, std::int64_t, double, false>)  \
+  LANEMATH_CONVERSION(cvtfptoi64##rounding##satf, to_int64<direction::D, std::int64_t, float, true>)     \
+  LANEMATH_CONVERSION(cvtfptoi64##rounding##sat, to_int64<direction::D, std::int64_t, double, true>)     \
+  LANEMATH_CONVERSION(cvtfptou64##rounding##nosatf, to_int64<direction::D, std::uint64_t, float, false>) \
+  LANEMATH_CONVERSION(cvtfptou64##rounding##nosat, to_int64<direction::D, std::uint64_t, double, false>) \
+  LANEMATH_CONVERSION(cvtfptou64##rounding##satf, to_int64<direction::D, std::uint64_t, float, true>)    \
+  LANEMATH_CONVERSION(cvtfptou64##rounding##sat, to_int64<direction::D, std::uint64_t, double, true>)
+LANEMATH_FOR_ROUNDINGS(FORMS)
+
+}  // namespace lanemath

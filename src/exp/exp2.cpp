@@ -1,0 +1,174 @@
+// 2^x, double precision.
+//
+// Default (but at width 2): x = n / 128 + f; 2^(j/128) from a table, 2^f by a polynomial of degree 4, the power of two
+// added to the exponent field. _native: a polynomial of degree 6 over a whole binade. The default form at width 2 is
+// the default method with its polynomial in halves, the power of two by a multiplication, and a scalar way of its own
+// for large lanes. Rare lanes with a table of high and low parts.
+//
+// Largest errors found, in ulp: default 1.640 at 0.97971836529934375 (0x3FEF59DA54480A58), at width 2 2.597 at
+// -927.02025604914638 (0xC08CF8297C00E50A), _native 1.5276e7 at -728.12831139315711 (0xC086C106C81FAA83); rare lanes
+// 0.757 at -1022.0536042536015 (0xC08FF06DC8112129), where a result next to the denormals is rounded twice.
+#include "exp/double.h"
+
+namespace lanemath {
+namespace {
+
+struct exp2_rows {
+  double S;  // shifter that leaves 7 fraction bits, 1.5 * 2^45
+  double C1, C2, C3, C4;
+  std::int32_t JMASK;  // table index bits
+};
+constexpr exp2_rows exp2_table{
+    .S = 0x42C8000000000000_f64,
+    .C1 = 0x3FE62E42FEFA3685_f64,
+    .C2 = 0x3FCEBFBDFF82CA48_f64,
+    .C3 = 0x3FAC6B09B180F045_f64,
+    .C4 = 0x3F83B2AB5BB1268F_f64,
+    .JMASK = 0x7F,
+};
+
+constexpr light_exp2_rows exp2_native_table{
+    .S = 0x4338000000000000_f64,
+    .A0 = 0x3FF0000000261500_f64,
+    .A1 = 0x3FE62E430C7E923C_f64,
+    .A2 = 0x3FCEBFBDADCB0BA8_f64,
+    .A3 = 0x3FAC6AED4B950AE1_f64,
+    .A4 = 0x3F83B2DBBC0FE08E_f64,
+    .A5 = 0x3F55F456A8ADF058_f64,
+    .A6 = 0x3F241D3336B2AE61_f64,
+};
+
+constexpr std::int32_t RARE = 0x408FEFFF;  // upper half, just under 1022
+
+LANEMATH_RARE exp2_rare(const double* px, double* py) {
+  if (exp_of_non_finite(*px, *py)) return 0;
+  const double x = *px;
+  if (x >= 1024.0) {
+    *py = overflowed();
+    return 3;
+  }
+  if (x <= -1075.0) {
+    *py = underflowed();
+    return 4;
+  }
+  const rare_power p = exp2_power(x);
+  const double y = p.w + p.hi;
+  if (x < -1022.0) {  // a denormal result: rounded once, by the last product
+    const double s = with_exponent_field(std::uint64_t(p.k + 1123) & 2047);
+    *py = (s * y) * 0x39B0000000000000_f64;  // 2^-100
+    return 4;
+  }
+  *py = scaled(y, p.k);
+  return 0;
+}
+
+using exp2_guards = rare_above<double(double), exp2_rare, RARE>;
+
+struct exp2_standard : exp2_guards {
+  template <class V>
+  static V kernel(V x) {
+    constexpr auto& c = exp2_table;
+    const V t = x + c.S;
+    const V m = t - c.S;
+    const V f = x - m;
+    const V p = ((c.C4 * f + c.C3) * f + c.C2) * f + c.C1;
+    const V v = look_up(exp2_128_double, lower(t) & c.JMASK);
+    const V w = v + p * (f * v);
+    return from_bits(bits(w) + ((bits(t) & ~std::int64_t(c.JMASK)) << 45));
+  }
+};
+
+struct exp2_native : exp2_guards {
+  template <class V>
+  static V kernel(V x) {
+    return light_exp2(x, exp2_native_table);
+  }
+};
+
+// The default form at width 2.
+
+struct exp22_rows {
+  double S2;  // shifter that leaves 7 fraction bits
+  double G1, G2, G3, G4;
+};
+constexpr exp22_rows exp22_table{
+    .S2 = 0x42C8000000000000_f64,
+    .G1 = 0x3FE62E42FEFA3685_f64,
+    .G2 = 0x3FCEBFBDFF82D099_f64,
+    .G3 = 0x3FAC6B09B179999B_f64,
+    .G4 = 0x3F83B2AB0AC701B3_f64,
+};
+
+struct exp22 {
+  using signature = double(double);
+
+  template <class V>
+  static V kernel(V x) {
+    const auto [t, p] = reduced(x);
+    const V e = from_bits(((bits(t) + 0x1FF80) >> 7) << 52);
+    const V y = (look_up(exp2_128_double, lower(t) & 0x7F) * e) * p;
+    if (any(magnitude_above(x, 0x408FF000))) [[unlikely]]  // 1022 in the upper half
+      return each_lane(x);
+    return y;
+  }
+
+ private:
+  using scalar = lanes<double, 1>;
+
+  template <class V>
+  struct reduction {
+    V t, p;
+  };
+  template <class V>
+  static reduction<V> reduced(V x) {
+    constexpr auto& c = exp22_table;
+    const V t = c.S2 + x;
+    const V f = (c.S2 - t) + x;
+    const V s = f * f;
+    const V a = (c.G4 * s + c.G2) * s;
+    const V b = (c.G3 * s + c.G1) * f;
+    return {t, (b + a) + 1.0};
+  }
+
+  template <class V>
+  [[gnu::noinline, gnu::cold]] static V each_lane(V x) {
+    for (auto& group : x.g)
+      for (int i = 0; i < 2; ++i) group[i] = lane(group[i]);
+    return x;
+  }
+
+  // One lane, on the upper half of its pattern. Any NaN comes back as one and the same.
+  static double lane(double x) {
+    const auto pattern = std::bit_cast<std::uint64_t>(x);
+    const auto magnitudes = std::uint32_t(pattern >> 32);  // orders the negative values by magnitude
+    const auto h = std::int32_t(magnitudes);
+    if (h >= 0x40900000 || magnitudes >= 0xC090CC00) {  // 1024, -1075
+      if (pattern << 1 > 0xFFE0000000000000) return 0x7FFFFFFF00000000_f64;
+      return h >= 0x40900000 ? std::numeric_limits<double>::infinity() : 0.0;
+    }
+    double shift = 0.0, factor = 1.0;
+    if (magnitudes >= 0xC08FF000) {  // -1022
+      shift = 53.0;
+      factor = 0x3CA0000000000000_f64;  // 2^-53
+    }
+    if (h > 0x408FFFF7) {  // 1023.99
+      shift = -1.0;
+      factor = 2.0;
+    }
+    const auto [t, p] = reduced(scalar(x + shift));
+    const scalar e = from_bits(((bits(t) + 0x1FF80) & 0x3FF80) << 45);
+    return ((p * (look_up(exp2_128_double, lower(t) & 0x7F) * e)) * factor).g[0];
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT_AT(1, unary, exp2, exp2_standard, )
+LANEMATH_EXPORT_AT(2, unary, exp2, exp22, )
+LANEMATH_EXPORT_AT(3, unary, exp2, exp2_standard, )
+LANEMATH_EXPORT_AT(4, unary, exp2, exp2_standard, )
+LANEMATH_EXPORT_AT(8, unary, exp2, exp2_standard, )
+LANEMATH_EXPORT_AT(16, unary, exp2, exp2_standard, )
+LANEMATH_EXPORT(unary, exp2, exp2_native, _native)
+
+}  // namespace lanemath

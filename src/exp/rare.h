@@ -1,0 +1,169 @@
+// What the exponentials share for their rare lanes. The scalar routines of both precisions work in double; a float is
+// the one rounding of the result.
+#pragma once
+
+#include <cmath>
+#include <limits>
+
+#include "frame/frame.h"
+#include "tables/exp.h"
+
+namespace lanemath {
+
+// Settles the lanes beyond the range of the results: infinite above one bound, zero below the other.
+template <class V, class M, class T>
+void saturate(V x, V& y, M& rare, T overflow, T underflow) {
+  constexpr T infinity = std::numeric_limits<T>::infinity();
+  const auto over = overflow < x;
+  const auto under = x < underflow;
+  y = select(over, V(infinity), select(under, V(zero_v<T>), y));
+  rare = rare & ~narrow_mask(over | under);
+}
+
+// +0 at -infinity, x * x at +infinity and at a NaN, which makes it quiet. Whether x was one of them.
+template <class T>
+bool exp_of_non_finite(T x, T& y) {
+  constexpr T infinity = std::numeric_limits<T>::infinity();
+  if (std::fabs(x) < infinity) return false;
+  y = x == -infinity ? zero_v<T> : x * x;
+  return true;
+}
+
+// Infinity and zero made by arithmetic, which follows the rounding direction in force.
+inline double overflowed() {
+  const double huge = opaque(std::numeric_limits<double>::max());
+  return huge * huge;
+}
+inline double underflowed() {
+  const double tiny = opaque(0x0010000000000001_f64);
+  return tiny * tiny;
+}
+
+inline double with_exponent_field(std::uint64_t field) { return std::bit_cast<double>(field << 52); }
+
+// An exponential as 2^k (hi + w).
+struct rare_power {
+  double hi, w;
+  std::int32_t k;
+};
+
+// y 2^k. The largest results need an exponent that has no field.
+inline double scaled(double y, std::int32_t k) {
+  const auto field = std::uint64_t(k + 1023) & 2047;
+  if (field == 2047) return y * with_exponent_field(2046) * 2.0;
+  return y * with_exponent_field(field);
+}
+
+// A denormal result: at a scale raised by 2^60, cut to the bits that will stay before the one rounding.
+inline double scaled_to_denormal(const rare_power& p) {
+  const auto field = std::uint64_t(p.k + 1083) & 2047;
+  const double s = with_exponent_field(field);
+  const double unscale = 0x3C30000000000000_f64;  // 2^-60
+  const double a = p.w * s, b = p.hi * s;
+  const double v = a + b;
+  if (field <= 50) return v * unscale;
+  const double u = a + (b - v);
+  const double c = v * 0x41F8000000000000_f64;
+  const double h = (v + c) - c;
+  const double l = (v - h) + u;
+  return h * unscale + l * unscale;
+}
+
+// A sum with a shifter: the low bits of its pattern hold n = 64 k + j.
+struct split_index {
+  std::int32_t j, k;
+  explicit split_index(double shifted) {
+    const auto n = std::int32_t(std::bit_cast<std::uint64_t>(shifted));
+    j = n & 63;
+    k = n >> 6;
+  }
+};
+
+inline constexpr double rare_shifter = 0x4338000000000000_f64;  // 1.5 * 2^52
+
+inline rare_power exp_power(double x) {
+  const double t = 0x40571547652B82FE_f64 * x + rare_shifter;  // x * 64 / ln 2
+  const split_index n(t);
+  const double m = t - rare_shifter;
+  const double r = (x - m * 0x3F862E42FEFA0000_f64) - m * 0x3D1CF79ABC9E3B3A_f64;  // ln 2 / 64 in two parts
+  double q = 0x3F56C16A1C2A3FFD_f64;
+  q = q * r + 0x3F8111123AAF20D3_f64;
+  q = q * r + 0x3FA5555555558FCC_f64;
+  q = q * r + 0x3FC55555555548F8_f64;
+  q = q * r + 0x3FE0000000000000_f64;
+  const auto [hi, lo] = exp2_64[n.j];
+  return {hi, (q * r * r + r + lo) * hi, n.k};
+}
+
+inline rare_power exp2_power(double x) {
+  constexpr double shifter = 0x42D8000000000000_f64;  // 1.5 * 2^46
+  const double t = x + shifter;
+  const split_index n(t);
+  const double f = x - (t - shifter);
+  const auto [hi, lo] = exp2_64[n.j];
+  double q = 0x3F55D870C4D8440A_f64;
+  q = q * f + 0x3F83B2AD33F8B48B_f64;
+  q = q * f + 0x3FAC6B08D7076268_f64;
+  q = q * f + 0x3FCEBFBDFF82A23A_f64;
+  q = q * f + 0x3FE62E42FEFA39EF_f64;
+  q = q * f + lo;
+  return {hi, q * hi, n.k};
+}
+
+inline rare_power exp10_power(double x) {
+  const double t = 0x406A934F0979A371_f64 * x + rare_shifter;  // x * 64 log2(10)
+  const split_index n(t);
+  const double m = t - rare_shifter;
+  const double r = (x - m * 0x3F734413509F0000_f64) - m * 0x3D1E7FBCC47C4ACD_f64;  // log10(2) / 64 in two parts
+  const auto [hi, lo] = exp2_64[n.j];
+  double q = 0x3FE1427C87C70A85_f64;
+  q = q * r + 0x3FF2BD77B840F0BF_f64;
+  q = q * r + 0x4000470591E2BC10_f64;
+  q = q * r + 0x40053524C73CD20A_f64;
+  q = q * r + 0x40026BB1BBB55515_f64;
+  q = q * r + lo;
+  return {hi, q * hi, n.k};
+}
+
+// Where results overflow, become zero and become denormal.
+struct rare_bounds {
+  double over, under, denormal;
+};
+inline constexpr rare_bounds expf_bounds{
+    .over = 0x40562E42E0000000_f64,      // 88.72283
+    .under = 0xC059FE3680000000_f64,     // -103.97208
+    .denormal = 0xC055D589E0000000_f64,  // -87.33654
+};
+inline constexpr rare_bounds exp_bounds{
+    .over = 0x40862E42FEFA39EF_f64,      // 709.78271
+    .under = 0xC0874910D52D3051_f64,     // -745.13322
+    .denormal = 0xC086232BDD7ABCD2_f64,  // -708.39642
+};
+
+// The whole routine of e^x, and of 10^x in double precision. `power` is one of the above.
+template <class T, class F>
+int exp_rare_lane(const T* px, T* py, F power, const rare_bounds& bounds) {
+  if (exp_of_non_finite(*px, *py)) return 0;
+  const double x = *px;
+  if (std::fabs(x) < 0x1p-52) {
+    *py = T(1.0 + x);
+    return 0;
+  }
+  if (x > bounds.over) {
+    *py = T(overflowed());
+    return 3;
+  }
+  if (x < bounds.under) {
+    *py = T(underflowed());
+    return 4;
+  }
+  const rare_power p = power(x);
+  if (x < bounds.denormal) {
+    *py = T(scaled_to_denormal(p));
+    return 4;
+  }
+  *py = T(scaled(p.w + p.hi, p.k));
+  return 0;
+}
+
+}  // namespace lanemath
