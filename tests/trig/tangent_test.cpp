@@ -107,8 +107,9 @@ TEST(Tangent, TheLargeStageIsForLargeLanesOnly) {
   const auto index = index_of("tanf");
   const auto bits = [](float x) { return arguments{std::bit_cast<std::uint32_t>(x)}; };
   const auto f = library().find(index, variant::standard, 4).value();
-  const auto mixed = harness::evaluate(catalogue[index], f, 4, {bits(1e30f), bits(1), bits(8256), bits(-0.0f)});
-  const auto plain = harness::evaluate(catalogue[index], f, 4, {bits(1), bits(1), bits(8256), bits(-0.0f)});
+  const auto mixed =
+      harness::evaluate(catalogue[index], f, 4, std::vector{bits(1e30f), bits(1), bits(8256), bits(-0.0f)});
+  const auto plain = harness::evaluate(catalogue[index], f, 4, std::vector{bits(1), bits(1), bits(8256), bits(-0.0f)});
   for (int i = 1; i < 4; ++i) EXPECT_EQ(mixed[i], plain[i]) << i;
 }
 
