@@ -29,8 +29,8 @@ LANEMATH_INLINE V less_multiples(V a, const V& n, const T (&pieces)[Size], std::
 // c[0] + c[1] z + ..., from the highest coefficient down.
 template <class V, class T, std::size_t Size>
 LANEMATH_INLINE V polynomial(const V& z, const T (&c)[Size]) {
-  V p = c[Size - 1] * z + c[Size - 2];
-  for (std::size_t i = Size - 2; i-- > 0;) p = p * z + c[i];
+  V p(c[Size - 1]);
+  for (std::size_t i = Size - 1; i-- > 0;) p = p * z + c[i];
   return p;
 }
 

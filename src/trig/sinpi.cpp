@@ -1,47 +1,64 @@
 // sin(pi x) and cos(pi x), both precisions.
 //
-// Default: a distance r of at most 1/4 to a multiple of 1/2; pi r in two parts and an odd polynomial. The cosine of pi
-// r is 1 - 2 sin^2(pi r / 2). Light forms: a polynomial up to 1/2.
+// Default: the argument's turn is cut into 128 steps without an error; a step's sine in two parts and short polynomials
+// for the rest d. Of the slope, pi times the step's cosine, a power of two is taken off: its product with d is exact.
+// Light forms: one polynomial up to 1/2.
 //
-// Largest errors found, in ulp, in samples: sinpi 1.015 at -71.74100735341744 (0xC051EF6CAA1B4180), cospi 1.007, sinpif
-// 0.999 but 1.391 among denormals (0x0011D5B6), cospif 1.022; light forms 4.79e7 and 1816.
+// Largest errors found, in ulp, in samples:
 #include "trig/pi_scaled.h"
 
 namespace lanemath {
 namespace {
 
 template <class T>
-struct sinpi_fit;
+struct of_pi;
 template <>
-struct sinpi_fit<float> {
-  static constexpr float full[] = {0xC0A55DDF_f32, 0x40232FE2_f32, 0xBF16DEC9_f32};
+struct of_pi<float> {
+  static constexpr auto& steps = of_pi_f32;
+  static constexpr float SHIFTER = 0x48400000_f32;  // 1.5 * 2^17: rounds to 1/64
+  // (sin(pi d) / (pi d) - 1) / d^2 and (cos(pi d) - 1) / d^2 in powers of d^2
+  static constexpr float sine[] = {0xBFD28C63_f32};
+  static constexpr float cosine[] = {0xC09DE8E3_f32};
   static constexpr float light[] = {0x40490A49_f32, 0xC0A4AA6F_f32, 0x4014E7A0_f32};
 };
 template <>
-struct sinpi_fit<double> {
-  static constexpr double full[] = {0xC014ABBCE625BE46_f64, 0x400466BC67758C6A_f64, 0xBFE32D2CCE31FA29_f64,
-                                    0x3FB5078300841253_f64, 0xBF7E3009539B8259_f64, 0x3F3E3FE157A22716_f64};
+struct of_pi<double> {
+  static constexpr auto& steps = of_pi_f64;
+  static constexpr double SHIFTER = 0x42D8000000000000_f64;  // 1.5 * 2^46
+  static constexpr double sine[] = {0xBFFA51A6625307D2_f64, 0x3FE9F9CB4023A2E7_f64, 0xBFC86A79B751A846_f64};
+  static constexpr double cosine[] = {0xC013BD3CC9BE45DC_f64, 0x40103C1F081269A4_f64, 0xBFF55D258686AA49_f64};
   static constexpr double light[] = {0x400921FB52068F99_f64, 0xC014ABBC166DBC5B_f64, 0x4004668AF4E909D3_f64,
                                      0xBFE324CCAC0255A8_f64, 0x3FB3DAFF5DA18B33_f64};
 };
 
-// The sine of pi m or, where `complement` tells, that of pi (1/2 - m); m is at most 1/2.
-template <class V>
-LANEMATH_INLINE V folded_sine(const V& m, bool complement) {
-  using T = typename V::value_type;
-  const V above = half_v<T> - m;
-  const auto past_quarter = m > quarter_v<T>;
-  const V r = complement ? select(past_quarter, above, m * half_v<T>) : select(past_quarter, above * half_v<T>, m);
-  const auto [high, low] = times_pi(r);
-  const V z = r * r;
-  const V rest = low + (r * z) * polynomial(z, sinpi_fit<T>::full);
-  const V sine = high + rest, below = (high - sine) + rest, twice = sine + sine;
-  const V cosine = one_v<T> - (twice * sine + twice * (below + below));
-  return complement ? select(past_quarter, sine, cosine) : select(past_quarter, cosine, sine);
+template <int W>
+LANEMATH_INLINE lanes<std::int32_t, W> low_word(const lanes<float, W>& x) {
+  return bits(x);
+}
+template <int W>
+LANEMATH_INLINE lanes<std::int32_t, W> low_word(const lanes<double, W>& x) {
+  return lower(x);
+}
+
+// The sine of pi x and of so many steps more.
+template <int Steps, class V>
+LANEMATH_INLINE V sine_of_pi(const V& x) {
+  using c = of_pi<typename V::value_type>;
+  const V f = within_a_turn(x);
+  const V t = f + c::SHIFTER;
+  const V d = f - (t - c::SHIFTER);
+  const auto [value, value_low, slope, slope_rest] = look_up_row(c::steps, (low_word(t) + Steps) & 0x7F);
+  const V z = d * d;
+  const V linear = d * slope;
+  const V sum = value + linear;
+  const V lost = linear + (value - sum);
+  const V above_linear = (slope + slope_rest) * (z * polynomial(z, c::sine));
+  const V even = value * (z * polynomial(z, c::cosine));
+  return sum + ((lost + value_low) + (d * (slope_rest + above_linear) + even));
 }
 template <class V>
 LANEMATH_INLINE V light_sine(const V& m) {
-  return m * polynomial(m * m, sinpi_fit<typename V::value_type>::light);
+  return m * polynomial(m * m, of_pi<typename V::value_type>::light);
 }
 
 template <class T, bool Light>
@@ -49,15 +66,13 @@ struct sinpi_form {
   using signature = T(T);
   template <class V>
   static V kernel(V x) {
-    const V f = within_a_turn(magnitude(x));
-    const V m = distance_to_whole(magnitude(f));
-    V y;
-    if constexpr (Light)
-      y = light_sine(m);
-    else
-      y = folded_sine(m, false);
-    // The sum makes +0 of -0: a zero has the sign of x.
-    return flipped(flipped(y, sign_of(f)) + zero_v<T>, sign_of(x));
+    if constexpr (Light) {
+      const V f = within_a_turn(magnitude(x));
+      // The sum makes +0 of -0: a zero has the sign of x.
+      return flipped(flipped(light_sine(distance_to_whole(magnitude(f))), sign_of(f)) + zero_v<T>, sign_of(x));
+    } else {
+      return flipped(sine_of_pi<0>(magnitude(x)), sign_of(x));
+    }
   }
 };
 template <class T, bool Light>
@@ -65,12 +80,10 @@ struct cospi_form {
   using signature = T(T);
   template <class V>
   static V kernel(V x) {
-    const V f = magnitude(within_a_turn(x));
-    const V to_zero = half_v<T> - f;
     if constexpr (Light)
-      return light_sine(to_zero);
+      return light_sine(half_v<T> - magnitude(within_a_turn(x)));
     else
-      return flipped(folded_sine(distance_to_whole(f), true), sign_of(to_zero));
+      return sine_of_pi<32>(x);
   }
 };
 

@@ -82,10 +82,14 @@ template <class Form>
 struct tan_form {
   using signature = double(double);
   static constexpr auto rare = tan_rare;
-  template <class V>
-  static V kernel(V x) {
-    const auto [r, rl, odd] = Form::reduce(magnitude(x));
-    return flipped(Form::tangent(r, rl, odd), sign_of(x));
+  // One group after the other: side by side they spill.
+  template <int W>
+  static lanes<double, W> kernel(lanes<double, W> x) {
+    const auto group = [](const auto& v) LANEMATH_LAMBDA {
+      const auto [r, rl, odd] = Form::reduce(magnitude(v));
+      return flipped(Form::tangent(r, rl, odd), sign_of(v));
+    };
+    return frame_detail::in_pieces<2, W>(group, x);
   }
   static auto rare_test(auto x) { return ~(magnitude(x) <= 0x1p20); }
   template <int W, class M>

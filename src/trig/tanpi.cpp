@@ -15,12 +15,14 @@ template <class T>
 struct tanpi_fit;
 template <>
 struct tanpi_fit<float> {
+  static constexpr float QUARTER = 0.25f, FOUR = 4.0f, PI_LESS_FOUR = 0xBF5BC095_f32;
   static constexpr float full[] = {0x41255DED_f32, 0x422333AC_f32, 0x43234980_f32, 0x441E7D24_f32,
                                    0x4547DFE7_f32, 0x431324E0_f32, 0x47F5EE36_f32};
   static constexpr float light[] = {0x40490D95_f32, 0x41267B97_f32, 0x420DF6C3_f32, 0x438E268D_f32};
 };
 template <>
 struct tanpi_fit<double> {
+  static constexpr double QUARTER = 0.25, FOUR = 4.0, PI_LESS_FOUR = 0xBFEB7812AEEF4B9F_f64;
   static constexpr double full[] = {0x4024ABBCE625BE5B_f64, 0x404466BC67759DD3_f64, 0x40645FFF9B50329D_f64,
                                     0x40845F472C2AC0D5_f64, 0x40A45F334B562129_f64, 0x40C45F26F68EC2DC_f64,
                                     0x40E45FEBBC45CFBA_f64, 0x4104553A4C274CE9_f64, 0x4124C1213A3DC4C5_f64,
@@ -39,7 +41,7 @@ struct tanpi_form {
     const V f = within_a_turn(magnitude(x));
     const V a = magnitude(f);
     const V m = distance_to_whole(a);
-    const auto past_quarter = m > quarter_v<T>;
+    const auto past_quarter = m > tanpi_fit<T>::QUARTER;
     const V r = select(past_quarter, half_v<T> - m, m);
     const V z = r * r;
     V y;
@@ -47,8 +49,8 @@ struct tanpi_form {
       const V t = r * polynomial(z, tanpi_fit<T>::light);
       y = select(past_quarter, one_v<T> / t, t);
     } else {
-      auto [high, low] = times_pi(r);
-      low = low + (r * z) * polynomial_in_two(z, tanpi_fit<T>::full);
+      const V high = r * tanpi_fit<T>::FOUR;
+      const V low = r * tanpi_fit<T>::PI_LESS_FOUR + (r * z) * polynomial_in_two(z, tanpi_fit<T>::full);
       const V at_pole = select(r == zero_v<T>, V(std::numeric_limits<T>::infinity()), reciprocal(high, low));
       y = select(past_quarter, at_pole, high + low);
     }
