@@ -59,7 +59,7 @@ struct accurate {
   template <class V, class M>
   static V tangent(const V& r, const V& rl, const M& odd) {
     const V z = r * r;
-    const V cubic = (r * z) * polynomial_in_two(z, tan_c);
+    const V cubic = (r * z) * polynomial_by_halves(z, tan_c);
     const V t = r + cubic;
     const V low = cubic + (rl + rl * (t * t));
     return select(odd, flipped(reciprocal(r, low), lanes<std::int64_t, V::width>(sign_mask<double>)), r + low);
@@ -73,7 +73,7 @@ struct light {
   }
   template <class V, class M>
   static V tangent(const V& r, const V&, const M& odd) {
-    const V t = r * polynomial(r * r, tan_native_c);
+    const V t = r * polynomial_by_halves(r * r, tan_native_c);
     return select(odd, -1.0 / t, t);
   }
 };
@@ -82,14 +82,14 @@ template <class Form>
 struct tan_form {
   using signature = double(double);
   static constexpr auto rare = tan_rare;
-  // One group after the other: side by side they spill.
+  // Two groups side by side wait for one another's spills.
   template <int W>
   static lanes<double, W> kernel(lanes<double, W> x) {
     const auto group = [](const auto& v) LANEMATH_LAMBDA {
       const auto [r, rl, odd] = Form::reduce(magnitude(v));
       return flipped(Form::tangent(r, rl, odd), sign_of(v));
     };
-    return frame_detail::in_pieces<2, W>(group, x);
+    return frame_detail::in_pieces<(W > 4 ? 8 : 2), W>(group, x);
   }
   static auto rare_test(auto x) { return ~(magnitude(x) <= 0x1p20); }
   template <int W, class M>

@@ -1,21 +1,27 @@
 // What the tangents of x and of pi x share: the last steps, from the tangent of the remainder in two parts.
 #pragma once
 
+#include <bit>
 #include "trig/kernel.h"
 
 namespace lanemath {
 
-// c[0] + c[1] z + ... by two chains in z^2, for long polynomials.
-template <class V, class T, std::size_t Size>
-LANEMATH_INLINE V polynomial_in_two(const V& z, const T (&c)[Size]) {
-  const V square = z * z;
-  // From the highest coefficient down, and from the one below it.
-  V chains[] = {c[Size - 1] * square + c[Size - 3], c[Size - 2] * square + c[Size - 4]};
-  for (std::size_t i = Size - 4; i-- > 0;) {
-    V& chain = chains[(Size - 1 - i) % 2];
-    chain = chain * square + c[i];
+// c[First] + c[First + 1] z + ..., `Count` terms; by halves, since a chain of so many steps takes longer than the work.
+// powers[k] is z to the power 2^k.
+template <std::size_t First, std::size_t Count, class V, class T, std::size_t Size>
+LANEMATH_INLINE V terms(const V (&powers)[4], const T (&c)[Size]) {
+  if constexpr (Count == 1) {
+    return V(c[First]);
+  } else {
+    constexpr std::size_t half = std::bit_ceil(Count) / 2;
+    return terms<First, half>(powers, c) +
+           powers[std::countr_zero(half)] * terms<First + half, Count - half>(powers, c);
   }
-  return Size % 2 == 0 ? chains[1] + z * chains[0] : chains[0] + z * chains[1];
+}
+template <class V, class T, std::size_t Size>
+LANEMATH_INLINE V polynomial_by_halves(const V& z, const T (&c)[Size]) {
+  const V square = z * z, fourth = square * square;
+  return terms<0, Size>({z, square, fourth, fourth * fourth}, c);
 }
 
 template <class V>

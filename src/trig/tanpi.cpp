@@ -46,11 +46,11 @@ struct tanpi_form {
     const V z = r * r;
     V y;
     if constexpr (Light) {
-      const V t = r * polynomial(z, tanpi_fit<T>::light);
+      const V t = r * polynomial_by_halves(z, tanpi_fit<T>::light);
       y = select(past_quarter, one_v<T> / t, t);
     } else {
       const V high = r * tanpi_fit<T>::FOUR;
-      const V low = r * tanpi_fit<T>::PI_LESS_FOUR + (r * z) * polynomial_in_two(z, tanpi_fit<T>::full);
+      const V low = r * tanpi_fit<T>::PI_LESS_FOUR + (r * z) * polynomial_by_halves(z, tanpi_fit<T>::full);
       const V at_pole = select(r == zero_v<T>, V(std::numeric_limits<T>::infinity()), reciprocal(high, low));
       y = select(past_quarter, at_pole, high + low);
     }
