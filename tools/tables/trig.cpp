@@ -82,13 +82,13 @@ struct step {
   }
 };
 
-// The sine of step j of 128 in a turn in two parts, and pi times its cosine as a power of two and the rest.
-template <class T>
+// The sine of step j of so many in a turn in two parts, and pi times its cosine as a power of two and the rest.
+template <class T, int Steps>
 std::array<T, 4> step_of_pi(int j) {
   real slope;
   mpfr_const_pi(slope.v, MPFR_RNDN);
-  slope = slope * cosine(j, 128);
-  const real value = sine(j, 128);
+  slope = slope * cosine(j, Steps);
+  const real value = sine(j, Steps);
   const T high = value.nearest<T>(), head = T(power_near(slope));
   return {high, (value - real(high)).template nearest<T>(), head, (slope - real(head)).template nearest<T>()};
 }
@@ -158,10 +158,9 @@ void write_trig_tables(table_writer& out) {
              return std::array{s.cos_tail, s.sin_hi, s.sin_lo, s.cos_head == 0 ? -0.0 : s.cos_head};
            });
 
-  constexpr auto of_pi =
-      "By step j of 128 in a turn: sine and its low part, pi times the cosine as a power of two and the rest";
-  out.rows("of_pi_f32", of_pi, 128, step_of_pi<float>);
-  out.rows("of_pi_f64", of_pi, 128, step_of_pi<double>);
+  constexpr auto of_pi = "By step in a turn: sine and its low part, pi times the cosine as a power of two and the rest";
+  out.rows("of_pi_f32", of_pi, 128, step_of_pi<float, 128>);
+  out.rows("of_pi_f64", of_pi, 512, step_of_pi<double, 512>);
 
   out.rows(
       "tangent_128",
