@@ -44,7 +44,8 @@ LANEMATH_INLINE lanes<std::int32_t, W> low_word(const lanes<double, W>& x) {
   return lower(x);
 }
 
-// The sine of pi x or, a quarter of a turn later, the cosine. Sums of large x are multiples of 2 still: d is 0 then.
+// The sine of pi x or, a quarter of a turn later, the cosine; x is not negative. A large one's sum is a multiple of 2
+// still, whatever it rounds to: d is 0 then.
 template <bool Cosine, class V>
 LANEMATH_INLINE V sine_of_pi(const V& x) {
   using c = of_pi<typename V::value_type>;
@@ -89,7 +90,7 @@ struct cospi_form {
     if constexpr (Light)
       return light_sine(half_v<T> - magnitude(within_a_turn(x)));
     else
-      return sine_of_pi<true>(x);
+      return sine_of_pi<true>(magnitude(x));
   }
 };
 

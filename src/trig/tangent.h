@@ -2,6 +2,7 @@
 #pragma once
 
 #include <bit>
+
 #include "trig/kernel.h"
 
 namespace lanemath {
