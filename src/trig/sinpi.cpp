@@ -59,9 +59,9 @@ LANEMATH_INLINE V sine_of_pi(const V& x) {
   const V linear = d * slope;
   const V sum = value + linear;
   const V lost = linear + (value - sum);
-  const V slopes = (d * (slope + slope_rest)) * polynomial(z, c::sine);
-  const V curved = z * (slopes + value * polynomial(z, c::cosine));
-  return sum + ((lost + value_low) + (d * slope_rest + curved));
+  const V above_linear = (slope + slope_rest) * (z * polynomial(z, c::sine));
+  const V even = value * (z * polynomial(z, c::cosine));
+  return sum + ((lost + value_low) + (d * (slope_rest + above_linear) + even));
 }
 template <class V>
 LANEMATH_INLINE V light_sine(const V& m) {
