@@ -28,9 +28,10 @@ TEST(SineAndCosine, OfZerosInfinitiesAndNaNs) {
     std::string_view sine, cosine, both, pair;
     std::uint64_t sign, infinity, one, quiet;
   };
-  for (const auto& p : {precision{"sinf", "cosf", "sincosf", "sincosregf", 0x80000000, 0x7F800000, 0x3F800000, 0x400000},
-                        precision{"sin", "cos", "sincos", "sincosreg", 0x8000000000000000, 0x7FF0000000000000,
-                                  0x3FF0000000000000, 0x8000000000000}})
+  for (const auto& p :
+       {precision{"sinf", "cosf", "sincosf", "sincosregf", 0x80000000, 0x7F800000, 0x3F800000, 0x400000},
+        precision{"sin", "cos", "sincos", "sincosreg", 0x8000000000000000, 0x7FF0000000000000, 0x3FF0000000000000,
+                  0x8000000000000}})
     for (auto v : forms)
       for (int width : widths)
         for (auto sign : {std::uint64_t(0), p.sign}) {
@@ -85,8 +86,8 @@ TEST(SineAndCosine, TablesHaveTheirStatedEntries) {
     EXPECT_EQ(sincos_256[j][2], 0);
   }
   EXPECT_EQ(sincos_256[64][3], 0);
-  const std::pair<int, float> heads[] = {{32, 1}, {33, 0.5f}, {49, 0.5f}, {50, 0.25f}, {57, 0.125f}, {61, 0.0625f},
-                                         {63, 0.03125f}, {96, -1}, {160, -1}, {224, 1}};
+  const std::pair<int, float> heads[] = {{32, 1},       {33, 0.5f},     {49, 0.5f}, {50, 0.25f}, {57, 0.125f},
+                                         {61, 0.0625f}, {63, 0.03125f}, {96, -1},   {160, -1},   {224, 1}};
   for (const auto& [j, head] : heads) EXPECT_EQ(sincos_256[j][3], head) << j;
   EXPECT_EQ(sincos_512[58][1], 1);
   EXPECT_EQ(sincos_512[59][1], 0.5);

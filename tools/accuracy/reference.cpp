@@ -12,6 +12,7 @@ const std::vector<reference>& references() {
              exponential_references,
              trigonometric_references,
              manipulation_references,
+             logarithm_references,
          })
       for (auto& each : family()) joined.push_back(std::move(each));
     return joined;

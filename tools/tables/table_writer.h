@@ -59,12 +59,12 @@ class table_writer {
   // entry(j) is a value.
   template <class T, class F>
   void values(std::string_view name, std::string_view meaning, int size, F entry) {
-    table(name, meaning, type<T>(), size, "", [&](int j) { return literal(T(entry(j))); });
+    table(fmt::format("{}[{}]", name, size), meaning, type<T>(), size, [&](int j) { return literal(T(entry(j))); });
   }
   // entry(j) is a pair, high part first.
   template <class T, class F>
   void pairs(std::string_view name, std::string_view meaning, int size, F entry) {
-    table(name, meaning, fmt::format("two_part<{}>", type<T>()), size, "", [&](int j) {
+    table(fmt::format("{}[{}]", name, size), meaning, fmt::format("two_part<{}>", type<T>()), size, [&](int j) {
       const auto [hi, lo] = entry(j);
       return fmt::format("{{{}, {}}}", literal(T(hi)), literal(T(lo)));
     });
@@ -73,11 +73,19 @@ class table_writer {
   template <class F>
   void rows(std::string_view name, std::string_view meaning, int size, F entry) {
     using row = decltype(entry(0));
-    const auto columns = fmt::format("[{}]", std::tuple_size_v<row>);
-    table(name, meaning, type<typename row::value_type>(), size, columns, [&](int j) {
+    const auto declarator = fmt::format("{}[{}][{}]", name, size, std::tuple_size_v<row>);
+    table(declarator, meaning, type<typename row::value_type>(), size, [&](int j) {
       std::string text;
       for (const auto value : entry(j)) text += (text.empty() ? "" : ", ") + literal(value);
       return fmt::format("{{{}}}", text);
+    });
+  }
+  // entry(j) is a tuple of three.
+  template <class T, class F>
+  void triples(std::string_view name, std::string_view meaning, int size, F entry) {
+    rows(name, meaning, size, [&](int j) {
+      const auto [a, b, c] = entry(j);
+      return std::array{T(a), T(b), T(c)};
     });
   }
 
@@ -97,9 +105,8 @@ class table_writer {
       return fmt::format("{:a}{}", value, std::is_same_v<T, float> ? "f" : "");
   }
   template <class F>
-  void table(std::string_view name, std::string_view meaning, std::string_view of, int size,
-             std::string_view columns, F entry) {
-    fmt::print(to_, "\n// {}\nalignas(64) inline constexpr {} {}[{}]{} = {{\n", meaning, of, name, size, columns);
+  void table(std::string_view declarator, std::string_view meaning, std::string_view of, int size, F entry) {
+    fmt::print(to_, "\n// {}\nalignas(64) inline constexpr {} {} = {{\n", meaning, of, declarator);
     for (int j = 0; j < size; ++j) fmt::print(to_, "    {},\n", entry(j));
     fmt::print(to_, "}};\n");
   }
