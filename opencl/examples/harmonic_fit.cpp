@@ -2,13 +2,16 @@
 // squares takes, which is a sine and a cosine for each frequency and year. Whole years cannot tell a frequency from one
 // that is a whole number per year higher: fitted at 2^20 turns a year more the shares are the same again, if sine and
 // cosine are right at large arguments.
-#include <dlfcn.h>
+#include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <numbers>
 #include <numeric>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "example.h"
 
@@ -35,7 +38,7 @@ kernel void shares(global const real* turns_per_year, global const double* value
 }
 )";
 
-constexpr double MORE_TURNS = 1 << 20;
+constexpr double MORE_TURNS = 0x1p20;
 
 // As the kernel, on the host.
 double share(double turns_per_year, const std::vector<double>& values, double squares) {
@@ -53,21 +56,18 @@ struct fitted {
   double nanoseconds;  // per sine and cosine
 };
 
-fitted fit(example::device& device, const std::vector<double>& frequencies, const std::vector<double>& values,
+fitted fit(const example::device& device, const std::vector<double>& frequencies, const std::vector<double>& values,
            double squares, int width, int repetitions) {
-  cl::Buffer in(device.context(), frequencies.begin(), frequencies.end(), true);
-  cl::Buffer series(device.context(), values.begin(), values.end(), true);
-  cl::Buffer out(device.context(), CL_MEM_WRITE_ONLY, frequencies.size() * sizeof(double));
-  cl::Kernel kernel = device.kernel("shares");
+  auto kernel = device.kernel("shares");
+  const auto in = device.input(frequencies), series = device.input(values);
+  const auto out = device.output<double>(frequencies.size());
   kernel.setArg(0, in);
   kernel.setArg(1, series);
   kernel.setArg(2, cl_int(values.size()));
   kernel.setArg(3, squares);
   kernel.setArg(4, out);
-  const double time = device.shortest_time(kernel, frequencies.size() / std::size_t(width), repetitions);
-  fitted result{std::vector<double>(frequencies.size()), time / double(frequencies.size() * values.size())};
-  cl::copy(device.queue(), out, result.shares.begin(), result.shares.end());
-  return result;
+  const double time = device.time(kernel, cl::NDRange(frequencies.size() / std::size_t(width)), repetitions);
+  return {device.read<double>(out, frequencies.size()), time / double(frequencies.size() * values.size())};
 }
 
 double largest_difference(const std::vector<double>& a, const std::vector<double>& b) {
@@ -76,11 +76,23 @@ double largest_difference(const std::vector<double>& a, const std::vector<double
   return largest;
 }
 
-}  // namespace
+// A row for every so many frequencies, up to the greatest share among them.
+void plot(const std::vector<double>& frequencies, const std::vector<double>& shares) {
+  constexpr std::size_t rows = 24, columns = 60;
+  const double top = *std::ranges::max_element(shares);
+  for (std::size_t row = 0; row < rows; ++row) {
+    const auto first = shares.begin() + std::ptrdiff_t(row * shares.size() / rows);
+    const auto best = std::max_element(first, shares.begin() + std::ptrdiff_t((row + 1) * shares.size() / rows));
+    fmt::print("{:6.2f} years {:5.1f} % ", 1 / frequencies[std::size_t(best - shares.begin())], 100 * *best);
+    for (std::size_t i = 0; i < std::size_t(std::lround(*best / top * columns)); ++i) fmt::print("█");
+    fmt::print("\n");
+  }
+}
 
-int main(int argc, char** argv) try {
+int run(int argc, char** argv) {
   std::string data;
-  int points = 4096, width = 4, repetitions = 10;
+  std::size_t points = 4096;
+  int width = 4, repetitions = 10;
   bool time_only = false;
   CLI::App app("Harmonics of a yearly series, fitted by least squares on an OpenCL device.");
   app.add_option("data", data, "CSV file of one column with a title, a row a year")
@@ -105,12 +117,12 @@ int main(int argc, char** argv) try {
   const double squares = std::inner_product(values.begin(), values.end(), values.begin(), 0.0);
 
   // From 1/50 to 1/5 a year; multiples of 2^-32, so that the higher ones are exact as well.
-  std::vector<double> frequencies(std::size_t(points)), higher;
-  for (int i = 0; i < points; ++i)
-    frequencies[std::size_t(i)] = std::round((0.02 + 0.18 * i / (points - 1)) * 0x1p32) * 0x1p-32;
+  std::vector<double> frequencies(points), higher;
+  for (std::size_t i = 0; i < points; ++i)
+    frequencies[i] = std::round((0.02 + 0.18 * double(i) / double(points - 1)) * 0x1p32) * 0x1p-32;
   for (double frequency : frequencies) higher.push_back(frequency + MORE_TURNS);
 
-  example::device device(kernel_source, "double", width);
+  const example::device device(kernel_source, width, "double");
   const auto ordinary = fit(device, frequencies, values, squares, width, repetitions);
   const auto large = fit(device, higher, values, squares, width, repetitions);
   if (time_only) {
@@ -129,19 +141,18 @@ int main(int argc, char** argv) try {
   fmt::print(
       "{} years, mean {:.2f}; the best harmonic has a period of {:.2f} years and takes {:.1f} % of the variance\n\n",
       values.size(), mean, 1 / frequencies[best], 100 * ordinary.shares[best]);
-  example::plot(ordinary.shares, frequencies.front(), frequencies[std::size_t(points) / 2], frequencies.back());
-  const bool ours = dlsym(RTLD_DEFAULT, "__ocl_lanemath_h8_sincos4") != nullptr;
-  fmt::print("\ndevice      {}\nbuilt-in    {}\n", device.name(),
-             ours ? "lanemath's sincos" : "the runtime's own sincos");
+  plot(frequencies, ordinary.shares);
+  fmt::print("\ndevice      {}\nbuilt-ins   {}\n            {}\n", device.name(),
+             device.who_answers("sin", "sinf", -1e5f, 1e5f), device.who_answers("cos", "cosf", -1e5f, 1e5f));
   fmt::print("difference  {:.2e} at most from the host; {:.2e} between frequencies and those 2^20 higher\n", difference,
              folded);
   fmt::print("time        {:.3f} ns per sine and cosine, {:.3f} ns of large arguments\n", ordinary.nanoseconds,
              large.nanoseconds);
   return 0;
-} catch (const cl::Error& error) {
-  fmt::print(stderr, "OpenCL: {} gave error {}\n", error.what(), error.err());
-  return 1;
-} catch (const std::exception& error) {
-  fmt::print(stderr, "{}\n", error.what());
-  return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  return example::guarded([&] { return run(argc, argv); });
 }
