@@ -7,6 +7,7 @@
 // Largest errors found, in ulp, in samples: default 3.448 at -7978.3286 (0xC5F952A1), above 8256 1.334;
 // light form above it 4.587.
 #include "trig/single.h"
+#include "trig/tangent.h"
 
 namespace lanemath {
 namespace {
@@ -20,18 +21,13 @@ constexpr float D0 = 0x3F7FFFFC_f32, D1 = 0xBEDBB7AB_f32, D2 = 0x3C1F336B_f32;
 
 LANEMATH_RARE tanf_rare(const float* px, float* py) { return single_of_non_finite(*px, *py); }
 
-template <class V>
-LANEMATH_INLINE V upper_half(const V& x) {
-  return from_bits(bits(x) & std::int32_t(0xFFFFF000));
-}
-
 struct accurate_stage {
   template <class V, class Row>
   static V tangent(const V& r, const Row& row) {
     const auto& [c0, c1, c2, c3, c4, c5, c6, c7, c8, c9, unused, unused_too] = row;
     const V D = c0 - r, e1 = (c0 - D) - r;
-    const V dh = upper_half(D), dl = e1 + ((D - dh) + c1);
-    const V y = upper_half(reciprocal_estimate(dh));
+    const V dh = upper_part(D), dl = e1 + ((D - dh) + c1);
+    const V y = upper_part(reciprocal_estimate(dh));
     const V e = 1.0f - dh * y;
     const V Y = (y + y * e) * (e * e + 1.0f);
     const V u = dl * Y;
