@@ -39,8 +39,8 @@ inline constexpr error_bound error_bounds[] = {
 
     {"sinf", {2.49, 2540, 2540, 2540}},
     {"cosf", {2.40, 2540, 2540, 2540}},
-    {"sincosf", {2.82, 2540, 0, 2540}},
-    {"sincosregf", {2.82, 2540}},
+    {"sincosf", {2.89, 2540, 0, 2540}},
+    {"sincosregf", {2.89, 2540}},
     {"sin", {3.68, 6.15e7}},
     {"cos", {3.55, 6.15e7}},
     {"sincos", {3.55, 6.15e7}},
