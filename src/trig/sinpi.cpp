@@ -4,7 +4,9 @@
 // for the rest d. Of the slope, pi times the step's cosine, a power of two is taken off: its product with d is exact.
 // Light forms: one polynomial up to 1/2.
 //
-// Largest errors found, in ulp, in samples:
+// Largest errors found, in ulp: sinpi 0.921 at -9.116941154161804e-06 (0xBEE31E9ED9E1489F), cospi 0.919 at
+// 0.5001540867957999 (0x3FE0014324B7F566), sinpif 1.049 at -7.580868e-05 (0xB89EF14C), cospif 1.033 at -1.4950486
+// (0xBFBF5DC1); light forms 4.79e7 and 1816.3.
 #include <iterator>
 
 #include "trig/pi_scaled.h"
