@@ -20,7 +20,7 @@ cl::Program build(const cl::Context& context, const std::string& source, const s
 
 }  // namespace
 
-std::vector<double> read_observations(const std::string& path) {
+std::vector<double> read_column(const std::string& path) {
   std::ifstream file(path);
   std::string line;
   std::getline(file, line);  // the column's title
@@ -35,31 +35,21 @@ std::vector<double> read_observations(const std::string& path) {
       throw std::runtime_error(fmt::format("{}: not a number: '{}'", path, line));
   }
   if (all.size() < 2) throw std::runtime_error(fmt::format("{}: needs a title and two numbers or more", path));
+  return all;
+}
+
+std::vector<double> read_observations(const std::string& path) {
+  auto all = read_column(path);
   std::ranges::sort(all);
   return all;
 }
 
-device::device(const char* source, int width)
+device::device(const char* source, int width, const std::string& type)
     : context_(CL_DEVICE_TYPE_ALL),
       queue_(context_, CL_QUEUE_PROFILING_ENABLE),
-      program_(build(context_, source, fmt::format("-Dreal=float{}", width == 1 ? "" : std::to_string(width)))) {}
+      program_(build(context_, source, fmt::format("-Dreal={}{}", type, width == 1 ? "" : std::to_string(width)))) {}
 
 std::string device::name() const { return queue_.getInfo<CL_QUEUE_DEVICE>().getInfo<CL_DEVICE_NAME>(); }
-
-cl::Buffer device::input(const std::vector<float>& values) const {
-  return cl::Buffer(context_, CL_MEM_READ_ONLY | CL_MEM_COPY_HOST_PTR, values.size() * sizeof(float),
-                    const_cast<float*>(values.data()));
-}
-
-cl::Buffer device::output(std::size_t count) const {
-  return cl::Buffer(context_, CL_MEM_WRITE_ONLY, count * sizeof(float));
-}
-
-std::vector<float> device::read(const cl::Buffer& buffer, std::size_t count) const {
-  std::vector<float> all(count);
-  queue_.enqueueReadBuffer(buffer, CL_TRUE, 0, count * sizeof(float), all.data());
-  return all;
-}
 
 double device::time(const cl::Kernel& kernel, const cl::NDRange& items, int repetitions) const {
   double best = HUGE_VAL;

@@ -12,20 +12,34 @@
 
 namespace example {
 
-// A column of numbers under a title, in ascending order.
+// A column of numbers under a title.
+std::vector<double> read_column(const std::string& path);
+// The same in ascending order.
 std::vector<double> read_observations(const std::string& path);
 
 class device {
  public:
-  // Kernels of the source are compiled with `real` as a float vector of this width.
-  device(const char* source, int width);
+  // Kernels of the source are compiled with `real` as a vector of this type and width.
+  device(const char* source, int width, const std::string& type = "float");
 
   std::string name() const;
   cl::Kernel kernel(const char* name) const { return cl::Kernel(program_, name); }
   // Kernels do not keep the buffers that are their arguments alive.
-  cl::Buffer input(const std::vector<float>& values) const;
-  cl::Buffer output(std::size_t count) const;
-  std::vector<float> read(const cl::Buffer& buffer, std::size_t count) const;
+  template <class T = float>
+  cl::Buffer input(const std::vector<T>& values) const {
+    return cl::Buffer(context_, CL_MEM_READ_ONLY | CL_MEM_COPY_HOST_PTR, values.size() * sizeof(T),
+                      const_cast<T*>(values.data()));
+  }
+  template <class T = float>
+  cl::Buffer output(std::size_t count) const {
+    return cl::Buffer(context_, CL_MEM_WRITE_ONLY, count * sizeof(T));
+  }
+  template <class T = float>
+  std::vector<T> read(const cl::Buffer& buffer, std::size_t count) const {
+    std::vector<T> all(count);
+    queue_.enqueueReadBuffer(buffer, CL_TRUE, 0, count * sizeof(T), all.data());
+    return all;
+  }
 
   // The shortest time in nanoseconds.
   double time(const cl::Kernel& kernel, const cl::NDRange& items, int repetitions) const;

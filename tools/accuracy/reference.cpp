@@ -11,6 +11,7 @@ const std::vector<reference>& references() {
     for (const auto family : {
              exponential_references,
              inverse_trigonometric_references,
+             trigonometric_references,
              manipulation_references,
              logarithm_references,
              power_references,

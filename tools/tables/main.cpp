@@ -8,6 +8,7 @@
 void write_exp_tables(table_writer&);
 void write_log_tables(table_writer&);
 void write_pow_tables(table_writer&);
+void write_trig_tables(table_writer&);
 void write_invtrig_tables(table_writer&);
 void write_roots_tables(table_writer&);
 
@@ -16,6 +17,7 @@ int main(int argc, char** argv) {
       {"exp", write_exp_tables},
       {"log", write_log_tables},
       {"pow", write_pow_tables},
+      {"trig", write_trig_tables},
       {"invtrig", write_invtrig_tables},
       {"roots", write_roots_tables},
   };

@@ -4,7 +4,10 @@
 #include <fmt/format.h>
 #include <mpfr.h>
 
+#include <array>
+#include <cstdint>
 #include <cstdio>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -92,7 +95,18 @@ class table_writer {
       return fmt::format("{{{}, {}}}", literal(T(hi)), literal(T(lo)));
     });
   }
-  // entry(j) is a tuple of three; the table is an array of arrays of three.
+  // entry(j) is an array, the columns of row j.
+  template <class F>
+  void rows(std::string_view name, std::string_view meaning, int size, F entry) {
+    using row = decltype(entry(0));
+    const auto declarator = fmt::format("{}[{}][{}]", name, size, std::tuple_size_v<row>);
+    table(declarator, meaning, type<typename row::value_type>(), size, [&](int j) {
+      std::string text;
+      for (const auto value : entry(j)) text += (text.empty() ? "" : ", ") + literal(value);
+      return fmt::format("{{{}}}", text);
+    });
+  }
+  // entry(j) is a tuple of three.
   template <class T, class F>
   void triples(std::string_view name, std::string_view meaning, int size, F entry) {
     threes<T>(fmt::format("{}[{}][3]", name, size), meaning, type<T>(), size, entry);
@@ -113,11 +127,17 @@ class table_writer {
   }
   template <class T>
   static constexpr std::string_view type() {
-    return std::is_same_v<T, float> ? "float" : "double";
+    if constexpr (std::is_same_v<T, float>) return "float";
+    if constexpr (std::is_same_v<T, double>) return "double";
+    if constexpr (std::is_same_v<T, std::uint32_t>) return "std::uint32_t";
+    if constexpr (std::is_same_v<T, std::uint64_t>) return "std::uint64_t";
   }
   template <class T>
   static std::string literal(T value) {
-    return fmt::format("{:a}{}", value, std::is_same_v<T, float> ? "f" : "");
+    if constexpr (std::is_integral_v<T>)
+      return fmt::format("{:#x}", value);
+    else
+      return fmt::format("{:a}{}", value, std::is_same_v<T, float> ? "f" : "");
   }
   template <class F>
   void table(std::string_view declarator, std::string_view meaning, std::string_view of, int size, F entry) {

@@ -7,6 +7,7 @@ namespace lanemath::accuracy {
 
 std::vector<reference> exponential_references();
 std::vector<reference> inverse_trigonometric_references();
+std::vector<reference> trigonometric_references();
 std::vector<reference> manipulation_references();
 std::vector<reference> logarithm_references();
 std::vector<reference> power_references();

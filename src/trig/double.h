@@ -1,0 +1,75 @@
+// What the sine and cosine of double precision share.
+#pragma once
+
+#include <iterator>
+
+#include "trig/kernel.h"
+#include "trig/scalar.h"
+
+namespace lanemath {
+
+constexpr double INVERSE_PI_DOUBLE = 0x3FD45F306DC9C883_f64;
+constexpr double SHIFTER_DOUBLE = 0x4338000000000000_f64;  // 1.5 * 2^52
+
+inline constexpr double pi_double[] = {0x400921FB40000000_f64, 0x3E84442D00000000_f64, 0x3D08469880000000_f64,
+                                       0x3B88CC51701B839A_f64};
+inline constexpr double light_pi_double[] = {0x400921FB40000000_f64, 0x3E84442D00000000_f64, 0x3D08469898CC5170_f64};
+inline constexpr double light_c_double[] = {0xBFC55554AD3EAF1F_f64, 0x3F8110EA968A0185_f64, 0xBF29F67D9395D587_f64,
+                                            0x3EC5D4567512BBD5_f64};
+
+template <class V, std::size_t Size>
+LANEMATH_INLINE V odd_sine(const V& r, const V& signed_r, const double (&c)[Size]) {
+  const V z = r * r;
+  return signed_r + (z * polynomial(z, c)) * signed_r;
+}
+
+// What the large stage computes from the remainder alone, and the sine of a step and the remainder.
+template <class V>
+struct large_double {
+  V r, rl, S, Cz;
+  LANEMATH_INLINE large_double(const V& r, const V& rl) : r(r), rl(rl) {
+    const V z = r * r;
+    S = (0x3F81110FABB3551C_f64 * z + 0xBFC5555555554448_f64) * z;
+    S = S * r;
+    const V C = (0xBF56C16AB163B2D7_f64 * z + 0x3FA5555555554CCF_f64) * z + -0.5;
+    Cz = z * C;
+  }
+  template <int W>
+  LANEMATH_INLINE V sine(const lanes<std::int32_t, W>& j) const {
+    const auto [a, d, b, c] = look_up_row(sincos_512, j);
+    const V m1 = r * d, m2 = r * a, G0 = a + d;
+    const V h1 = b + m1, e1 = m1 + (b - h1);
+    const V h2 = h1 + m2, e2 = m2 + (h1 - h2);
+    const V e = e2 + e1;
+    const V t2 = S * G0 + e;
+    const V G = G0 - r * b;
+    const V t3 = Cz * b + t2, t4 = rl * G + c;
+    return h2 + (t3 + t4);
+  }
+};
+
+inline int double_of_non_finite(double x, double& y) {
+  const bool infinite = (pattern_of(x) & 0x7FFFFFFFFFFFFFFF) == 0x7FF0000000000000;
+  y = infinite ? x * 0.0 : x * x;
+  return infinite;
+}
+
+// The large stage of an operation with one result; `quarter` steps more make a cosine of the sine.
+template <int Quarter>
+struct double_large_stage {
+  template <int W, class M>
+  static void fix_up(lanes<double, W> x, lanes<double, W>& y, M& rare) {
+    const auto stage = [](const auto& v) LANEMATH_LAMBDA {
+      const auto [j, r, rl] = reduce_to_step(magnitude(v));
+      const auto sine = large_double(r, rl).sine((j + Quarter) & 0x1FF);
+      if constexpr (Quarter == 0)
+        return flipped(sine, sign_of(v));
+      else
+        return sine;
+    };
+    y = select(rare, frame_detail::in_pieces<2, W>(stage, x), y);
+    rare = rare & ~(magnitude(x) <= std::numeric_limits<double>::max());
+  }
+};
+
+}  // namespace lanemath

@@ -1,0 +1,129 @@
+// Reduction of arguments of any size, in vectors: a step j of so many in a turn and a remainder in two parts, so that
+// x is 2 pi j / steps + r + rl up to whole turns.
+//
+// The significand is multiplied, in integers, by a window of the bits of 1 / (2 pi) that the exponent selects: what
+// lies before the window makes whole turns only. The product is the argument's fraction of a turn. It is cut into three
+// floating numbers and multiplied by 2 pi in two parts. No branch, no loop over the bits.
+#pragma once
+
+#include "frame/frame.h"
+#include "tables/trig.h"
+
+namespace lanemath {
+
+// The fraction of a turn as bits behind the point, more significant word first.
+template <class V>
+struct turn_fraction {
+  V high, low;
+};
+
+// 64 bits. Of the products of 16-bit halves the least one is left out, and of the next two the lower half.
+template <int W>
+LANEMATH_INLINE turn_fraction<lanes<std::uint32_t, W>> fraction_of_turn(const lanes<float, W>& x) {
+  const auto pattern = as<std::uint32_t>(x);
+  const auto m = widen((pattern & 0x007FFFFF) | 0x00800000);
+  const auto window = look_up_row(inverse_turn_window_f32, as<std::int32_t>((pattern >> 23) & 0xFF));
+  const auto w0 = widen(window[0]), w1 = widen(window[1]), w2 = widen(window[2]);
+  const auto below = (product_of_lower(m >> 16, w2) >> 16) + (product_of_lower(m & 0xFFFF, w2 >> 16) >> 16);
+  const auto sum = below + product_of_lower(m, w1) + (product_of_lower(m, w0) << 32);
+  return {as<std::uint32_t>(upper(sum)), as<std::uint32_t>(lower(sum))};
+}
+
+// 128 bits, by products of 32-bit halves in the same way, carried by hand.
+template <int W>
+LANEMATH_INLINE turn_fraction<lanes<std::uint64_t, W>> fraction_of_turn(const lanes<double, W>& x) {
+  const auto pattern = as<std::uint64_t>(x);
+  const auto m = (pattern & 0x000FFFFFFFFFFFFF) | 0x0010000000000000;
+  const auto [w0, w1, w2] =
+      look_up_row(inverse_turn_window_f64, as<std::int32_t>(as<std::uint32_t>(upper(x)) >> 20) & 0x7FF);
+  const auto hi = [](const auto& v) LANEMATH_LAMBDA { return v >> 32; };
+  const auto lo = [](const auto& v) LANEMATH_LAMBDA { return v & 0xFFFFFFFF; };
+  const auto by_high = [&](const auto& w) LANEMATH_LAMBDA { return product_of_lower(hi(m), w); };
+  const auto by_low = [&](const auto& w) LANEMATH_LAMBDA { return product_of_lower(m, w); };
+
+  const auto low_1l = by_low(w1), low_1h = by_low(hi(w1)), low_0l = by_low(w0), low_0h = by_low(hi(w0));
+  const auto s0 = hi(by_high(w2)) + lo(low_1l) + by_high(hi(w2)) + hi(by_low(hi(w2)));
+  const auto s1 = hi(s0) + lo(low_1h) + by_high(w1) + hi(low_1l);
+  const auto s2 = hi(s1) + lo(low_0l) + by_high(hi(w1)) + hi(low_1h);
+  const auto s3 = hi(s2) + lo(low_0h) + by_high(w0) + hi(low_0l);
+  return {(s3 << 32) + lo(s2), (s1 << 32) + lo(s0)};
+}
+
+template <class T>
+struct reduction_rows;
+
+template <>
+struct reduction_rows<float> {
+  static constexpr int significand = 23;
+  static constexpr std::uint32_t SIGN = 0x80000000, ONE = 0x3F800000;
+  static constexpr float SHIFTER = 0x47400000_f32;  // 1.5 * 2^15: rounds to steps of 1/256
+  static constexpr std::int32_t STEPS = 0xFF;
+  // Fields of the fraction behind the first one, each as a significand of the power of two beside it.
+  static constexpr std::uint32_t MID = 0x34000000, LOW = 0x28800000;
+  static constexpr int low_bits = 18;
+  static constexpr std::uint32_t SPLIT = 0xFFFFF000;
+  static constexpr float A = 0x40C91000_f32, B = 0xB795777A_f32;  // 2 pi in two parts
+  static constexpr float FULL = 0x40C90FDB_f32;
+};
+template <>
+struct reduction_rows<double> {
+  static constexpr int significand = 52;
+  static constexpr std::uint64_t SIGN = 0x8000000000000000, ONE = 0x3FF0000000000000;
+  static constexpr double SHIFTER = 0x42A8000000000000_f64;  // 1.5 * 2^43: rounds to steps of 1/512
+  static constexpr std::int32_t STEPS = 0x1FF;
+  static constexpr std::uint64_t MID = 0x3CB0000000000000, LOW = 0x3970000000000000;
+  static constexpr int low_bits = 24;
+  static constexpr std::uint64_t SPLIT = 0xFFFFFFFFF8000000;
+  static constexpr double A = 0x401921FB54000000_f64, B = 0x3E310B4611A62633_f64;
+  static constexpr double FULL = 0x401921FB54442D18_f64;
+};
+
+template <class T, int W>
+struct reduced_angle {
+  lanes<std::int32_t, W> j;
+  lanes<T, W> r, rl;
+};
+
+// The shifter says the steps' size. A negative x makes a negative angle: j wraps. Whatever x holds, j is in range; what
+// infinities and NaNs give means nothing.
+template <class T, int W>
+LANEMATH_INLINE reduced_angle<T, W> reduce_to_step(const lanes<T, W>& x, T shifter = reduction_rows<T>::SHIFTER) {
+  using c = reduction_rows<T>;
+  using word = std::make_unsigned_t<int_of_size<sizeof(T)>>;
+  using words = lanes<word, W>;
+  using V = lanes<T, W>;
+  constexpr int word_bits = 8 * int(sizeof(T)), above_mid = word_bits - c::significand;
+  const auto number = [](const words& v) LANEMATH_LAMBDA { return from_bits(v); };
+  const auto ones = [](int count) LANEMATH_LAMBDA { return (word(1) << count) - 1; };
+
+  const words g = as<word>(x) & c::SIGN;
+  const auto [high, low] = fraction_of_turn(x);
+  const V t = number((high >> above_mid) | c::ONE | g);
+  const V shifted = t + shifter;
+  lanes<std::int32_t, W> j;
+  if constexpr (sizeof(T) == 4)
+    j = bits(shifted) & c::STEPS;
+  else
+    j = lower(shifted) & c::STEPS;
+  const V d = t - (shifted - shifter);
+
+  // A field in the significand of a power of two, less that power, is the field as a number.
+  const words mid_field = ((high & ones(above_mid)) << (c::significand - above_mid)) | (low >> c::low_bits);
+  const words low_field = (low & ones(c::low_bits)) << (c::significand - c::low_bits);
+  const V mid = number(mid_field | (g ^ c::MID)) - number(g ^ c::MID);
+  const V least = number(low_field | (g ^ c::LOW)) - number(g ^ c::LOW);
+  const V s = d + mid;
+  V rest = mid + (d - s);
+  rest = rest + least;
+
+  const V sh = number(as<word>(s) & c::SPLIT);
+  const V sl = s - sh;
+  const V p = c::A * sh;
+  V q = c::A * sl + sh * c::B;
+  const V u = c::FULL * rest + sl * c::B;
+  q = q + u;
+  const V r = q + p;
+  return {j, r, q + (p - r)};
+}
+
+}  // namespace lanemath

@@ -1,0 +1,46 @@
+// sin x, double precision.
+//
+// x = N pi + r, pi in four pieces, and an odd polynomial of degree 15; the light form has three pieces and degree 9.
+// Above 2^24 the default form reduces by a window of 1 / (2 pi), 512 steps in a turn and a table; the light form leaves
+// those lanes to the rare routine.
+//
+// Largest errors found, in ulp: default 3.318 at 16374687.517740631 (0x416F3B73F09154CD), light form 6.143e7; above the
+// bound 0.5021, in the rare routine 0.505.
+#include "trig/double.h"
+
+namespace lanemath {
+namespace {
+
+constexpr double sin_c[] = {0xBFC55555555554A8_f64, 0x3F8111111110A573_f64, 0xBF2A01A019A659DD_f64,
+                            0x3EC71DE3806ADD1A_f64, 0xBE5AE6355AAA4A53_f64, 0x3DE60E6BEE01D83E_f64,
+                            0xBD69F1517E9F65F0_f64};
+
+LANEMATH_RARE sin_rare(const double* px, double* py) {
+  if (exponent_field(*px) == 0x7FF) return double_of_non_finite(*px, *py);
+  *py = scalar_sine_cosine(*px).sine;
+  return 0;
+}
+
+template <auto& Pi, auto& C>
+struct sin_form {
+  using signature = double(double);
+  static constexpr auto rare = sin_rare;
+  template <class V>
+  static V kernel(V x) {
+    const V a = magnitude(x);
+    const V t = a * INVERSE_PI_DOUBLE + SHIFTER_DOUBLE;
+    const V r = less_multiples(a, t - SHIFTER_DOUBLE, Pi);
+    return flipped(odd_sine(r, flipped(r, parity(t)), C), sign_of(x));
+  }
+  static auto rare_test(auto x) { return ~(magnitude(x) <= 0x1p24); }
+};
+
+struct sin_standard : sin_form<pi_double, sin_c>, double_large_stage<0> {};
+struct sin_native : sin_form<light_pi_double, light_c_double> {};
+
+}  // namespace
+
+LANEMATH_EXPORT(unary, sin, sin_standard, )
+LANEMATH_EXPORT(unary, sin, sin_native, _native)
+
+}  // namespace lanemath

@@ -1,0 +1,79 @@
+// What the sine and cosine of single precision share.
+#pragma once
+
+#include "trig/kernel.h"
+#include "trig/scalar.h"
+
+namespace lanemath {
+
+constexpr std::int32_t LARGE_SINGLE = 0x461C4000;  // 10000: the short reduction ends here
+constexpr float INVERSE_PI_SINGLE = 0x3EA2F983_f32;
+constexpr float SHIFTER_SINGLE = 0x4B400000_f32;  // 1.5 * 2^23
+
+inline constexpr float light_pi_single[] = {0x40490000_f32, 0x3A7DA000_f32, 0x34222169_f32};
+inline constexpr float pi_single[] = {0x40490000_f32, 0x3A7DA000_f32, 0x34222000_f32, 0x2CB4611A_f32};
+
+// Sine by an odd polynomial of the remainder.
+template <class V>
+LANEMATH_INLINE V odd_sine(const V& r, const V& signed_r, const float (&c)[4]) {
+  const V z = r * r;
+  return signed_r + (z * polynomial(z, c)) * signed_r;
+}
+// The light one: its first coefficient is only near 1.
+template <class V>
+LANEMATH_INLINE V odd_sine(const V& r, const V& signed_r, const float (&c)[3]) {
+  const V z = r * r;
+  const V p = c[2] * z + c[1];
+  return signed_r * (z * p) + c[0] * signed_r;
+}
+
+// What the large stage computes from the remainder alone.
+template <class V>
+struct large_single {
+  V r, rl, S3, Cz;
+  LANEMATH_INLINE large_single(const V& r, const V& rl) : r(r), rl(rl) {
+    const V z = r * r;
+    const V C = 0x3D2AAA7C_f32 * z + -0.5f;
+    Cz = z * C;
+    const V S = 0x3C08885C_f32 * z + 0xBE2AAAAB_f32;
+    S3 = (S * z) * r;
+  }
+  // The sine of a step and the remainder. The last sum is grouped in one way for a pair of results, in another for one.
+  template <bool Pair, int W>
+  LANEMATH_INLINE V sine(const lanes<std::int32_t, W>& j) const {
+    const auto [a, b, c, d] = look_up_row(sincos_256, j);
+    const V m1 = r * d, m2 = r * a;
+    const V h1 = b + m1, e1 = m1 + (b - h1);
+    const V h2 = h1 + m2, e2 = m2 + (h1 - h2);
+    const V e = e2 + e1;
+    const V G = (a + d) - r * b;
+    const V t1 = rl * G + c;
+    const V t2 = b * Cz + t1;
+    if constexpr (Pair)
+      return h2 + ((G * S3 + t2) + e);
+    else
+      return h2 + (t2 + (G * S3 + e));
+  }
+};
+
+inline int single_of_non_finite(float x, float& y) {
+  const bool infinite = (std::bit_cast<std::uint32_t>(x) & 0x7FFFFFFF) == 0x7F800000;
+  y = infinite ? float(double(x) * 0.0) : x * x;
+  return infinite;
+}
+
+// Guards of an operation with one result: `quarter` steps more make a cosine of the sine.
+template <auto Routine, int Quarter>
+struct single_guards : rare_above<float(float), Routine, LARGE_SINGLE> {
+  template <int W, class M>
+  static void fix_up(lanes<float, W> x, lanes<float, W>& y, M& rare) {
+    const auto stage = [](const auto& v) LANEMATH_LAMBDA {
+      const auto [j, r, rl] = reduce_to_step(v);
+      return large_single(r, rl).template sine<false>((j + Quarter) & 0xFF);
+    };
+    y = select(rare, frame_detail::in_pieces<4, W>(stage, x), y);
+    rare = not_finite(x);
+  }
+};
+
+}  // namespace lanemath

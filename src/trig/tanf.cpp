@@ -1,0 +1,91 @@
+// tan x, single precision.
+//
+// x = N pi/2 + r, pi/2 in pieces (four, in the light form three), and a quotient of two polynomials, upside down in odd
+// quadrants. Above 8256 the reduction by a window of 1 / (2 pi) and a table of 128 steps in half a turn: next to the
+// pole the pole's term apart, by a reciprocal.
+//
+// Largest errors found, in ulp: default 3.944 at 7566.7788 (0x45EC763B), above 8256 1.472 at 1.6171525e25 (0x6975035F);
+// light form 478 next to a multiple of pi/2, above 8256 5.524, which depends on the processor's estimate.
+#include "trig/single.h"
+#include "trig/tangent.h"
+
+namespace lanemath {
+namespace {
+
+constexpr std::int32_t LARGE = 0x46010000;  // 8256
+constexpr float INVERSE_HALF_PI = 0x3F22F983_f32;
+constexpr float half_pi[] = {0x3FC90000_f32, 0x39FDA000_f32, 0x33A22000_f32, 0x2C34611A_f32};
+constexpr float light_half_pi[] = {0x3FC90000_f32, 0x39FDA000_f32, 0x33A22169_f32};
+constexpr float N0 = 0x3F7FFFFC_f32, N1 = 0xBDC433B4_f32;
+constexpr float D0 = 0x3F7FFFFC_f32, D1 = 0xBEDBB7AB_f32, D2 = 0x3C1F336B_f32;
+
+LANEMATH_RARE tanf_rare(const float* px, float* py) { return single_of_non_finite(*px, *py); }
+
+struct accurate_stage {
+  template <class V, class Row>
+  static V tangent(const V& r, const Row& row) {
+    const auto& [c0, c1, c2, c3, c4, c5, c6, c7, c8, c9, unused, unused_too] = row;
+    const V D = c0 - r, e1 = (c0 - D) - r;
+    const V dh = upper_part(D), dl = e1 + ((D - dh) + c1);
+    const V y = upper_part(reciprocal_estimate(dh));
+    const V e = 1.0f - dh * y;
+    const V Y = (y + y * e) * (e * e + 1.0f);
+    const V u = dl * Y;
+    const V w = (u * u) - (u - e);
+    const V qh = y * c2, ql = c2 * (Y * w);
+    const V sl = c5 * r, s = c3 + sl, es = sl + (c3 - s);
+    const V h = s + qh, eh = s + (qh - h);
+    const V p = r * ((r * r) * (c9 * r + c8) + (c7 * r + c6));
+    return h + (p + (c4 + ((es + ql) + eh)));
+  }
+};
+struct light_stage {
+  template <class V, class Row>
+  static V tangent(const V& r, const Row& row) {
+    const auto& [c0, c1, c2, c3, c4, c5, c6, c7, c8, c9, unused, unused_too] = row;
+    const V D = c0 - r;
+    const V y = reciprocal_estimate(D);
+    const V e = 1.0f - D * y;
+    V Q = c2 * y;
+    Q = Q + e * Q;
+    const V A = c7 * r + c6, C = c5 * r + c3, B = c9 * r + c8;
+    return (r * ((r * r) * B + A) + C) + Q;
+  }
+};
+
+template <auto& Pieces, class Stage>
+struct tanf_form : rare_above<float(float), tanf_rare, LARGE> {
+  template <class V>
+  static V kernel(V x) {
+    const V a = magnitude(x);
+    const V t = a * INVERSE_HALF_PI + SHIFTER_SINGLE;
+    const V r = less_multiples(a, t - SHIFTER_SINGLE, Pieces);
+    const V z = r * r;
+    const V n = r * (N1 * z + N0);
+    const V d = (D2 * z + D1) * z + D0;
+    const auto odd = parity(t);
+    const auto swap = odd >> 31;
+    const V q = select(swap, d, n) / select(swap, n, d);
+    return flipped(q, sign_of(x) ^ odd);
+  }
+  template <int W, class M>
+  static void fix_up(lanes<float, W> x, lanes<float, W>& y, M& rare) {
+    const auto stage = [](const auto& v) LANEMATH_LAMBDA {
+      const auto [j, r, rl] = reduce_to_step(v);
+      return Stage::tangent(r + rl, look_up_row(tangent_128, j & 0x7F));
+    };
+    y = select(rare, frame_detail::in_pieces<4, W>(stage, x), y);
+    rare = not_finite(x);
+  }
+};
+
+}  // namespace
+
+using tanf_standard = tanf_form<half_pi, accurate_stage>;
+using tanf_native = tanf_form<light_half_pi, light_stage>;
+LANEMATH_EXPORT(unary, tanf, tanf_standard, )
+LANEMATH_EXPORT(unary, tanf, tanf_native, _native)
+LANEMATH_SAME(tanf, _native, _half)
+LANEMATH_SAME(tanf, _native, _rm)
+
+}  // namespace lanemath
