@@ -6,14 +6,10 @@
 #include "accuracy/measure.h"
 #include "frame/error_bounds.h"
 #include "support/lanes_of.h"
+#include "support/library.h"
 
 namespace lanemath::testing {
 namespace {
-
-const harness::library& library() {
-  static const harness::library loaded(LANEMATH_LIBRARY);
-  return loaded;
-}
 
 std::string full_name(const operation& o, int width, variant v) {
   return fmt::format("{}{}{}", o.name(), width, suffix(v));

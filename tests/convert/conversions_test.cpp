@@ -8,17 +8,13 @@
 #include <limits>
 
 #include "support/lanes_of.h"
+#include "support/library.h"
 
 namespace lanemath::testing {
 namespace {
 
 using u32 = std::uint32_t;
 using u64 = std::uint64_t;
-
-const harness::library& library() {
-  static const harness::library loaded(LANEMATH_LIBRARY);
-  return loaded;
-}
 
 struct rounding {
   std::string_view name;

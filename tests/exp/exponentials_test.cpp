@@ -8,17 +8,13 @@
 #include <utility>
 
 #include "support/lanes_of.h"
+#include "support/library.h"
 #include "tables/exp.h"
 
 namespace lanemath::testing {
 namespace {
 
 using u32 = std::uint32_t;
-
-const harness::library& library() {
-  static const harness::library loaded(LANEMATH_LIBRARY);
-  return loaded;
-}
 
 // The pattern of one lane, the other lanes holding the same value.
 u32 bits_of(std::string_view name, variant v, int width, u32 pattern) {

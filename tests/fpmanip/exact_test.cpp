@@ -9,14 +9,10 @@
 #include <limits>
 
 #include "support/lanes_of.h"
+#include "support/library.h"
 
 namespace lanemath::testing {
 namespace {
-
-const harness::library& library() {
-  static const harness::library loaded(LANEMATH_LIBRARY);
-  return loaded;
-}
 
 constexpr int modes[] = {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO};
 

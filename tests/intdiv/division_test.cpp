@@ -5,17 +5,13 @@
 
 #include "intdiv/division.h"
 #include "support/lanes_of.h"
+#include "support/library.h"
 
 namespace lanemath::testing {
 namespace {
 
 using i32 = std::int32_t;
 using u32 = std::uint32_t;
-
-const harness::library& library() {
-  static const harness::library loaded(LANEMATH_LIBRARY);
-  return loaded;
-}
 
 std::vector<outcome> evaluate(std::string_view name, int width, const std::vector<arguments>& tuples) {
   const auto index = index_of(name);

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "support/lanes_of.h"
+#include "support/library.h"
 #include "tables/invtrig.h"
 
 namespace lanemath::testing {
@@ -13,11 +14,6 @@ namespace {
 
 using u32 = std::uint32_t;
 using u64 = std::uint64_t;
-
-const harness::library& library() {
-  static const harness::library loaded(LANEMATH_LIBRARY);
-  return loaded;
-}
 
 // The first lane's pattern, the other lanes holding other arguments.
 u64 bits_of(std::string_view name, variant v, int width, u64 x, u64 y, const arguments& others) {

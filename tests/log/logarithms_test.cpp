@@ -10,16 +10,12 @@
 
 #include "log/log2_rare.h"
 #include "support/lanes_of.h"
+#include "support/library.h"
 
 namespace lanemath::testing {
 namespace {
 
 using u64 = std::uint64_t;
-
-const harness::library& library() {
-  static const harness::library loaded(LANEMATH_LIBRARY);
-  return loaded;
-}
 
 bool is_single(std::string_view name) { return catalogue[index_of(name)].sig.result == lane::f32; }
 

@@ -8,6 +8,7 @@
 
 #include "accuracy/measure.h"
 #include "support/lanes_of.h"
+#include "support/library.h"
 #include "tables/log.h"
 #include "tables/pow.h"
 
@@ -16,11 +17,6 @@ namespace {
 
 using u32 = std::uint32_t;
 using u64 = std::uint64_t;
-
-const harness::library& library() {
-  static const harness::library loaded(LANEMATH_LIBRARY);
-  return loaded;
-}
 
 // The pattern of one lane, the other lanes holding the same values.
 u64 bits_of(std::string_view name, variant v, int width, const arguments& lane) {

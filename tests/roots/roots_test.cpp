@@ -7,6 +7,7 @@
 #include <random>
 
 #include "support/lanes_of.h"
+#include "support/library.h"
 #include "tables/roots.h"
 
 namespace lanemath::testing {
@@ -15,11 +16,6 @@ namespace {
 using u32 = std::uint32_t;
 using u64 = std::uint64_t;
 constexpr auto standard = variant::standard, native = variant::native, half = variant::half;
-
-const harness::library& library() {
-  static const harness::library loaded(LANEMATH_LIBRARY);
-  return loaded;
-}
 
 u64 bits_of(std::string_view name, variant v, int width, arguments patterns) {
   const auto index = index_of(name);

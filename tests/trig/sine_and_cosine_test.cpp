@@ -4,15 +4,11 @@
 #include <bit>
 
 #include "support/lanes_of.h"
+#include "support/library.h"
 #include "tables/trig.h"
 
 namespace lanemath::testing {
 namespace {
-
-const harness::library& library() {
-  static const harness::library loaded(LANEMATH_LIBRARY);
-  return loaded;
-}
 
 // One lane's results, the other lanes holding the same value.
 outcome of(std::string_view name, variant v, int width, std::uint64_t pattern) {

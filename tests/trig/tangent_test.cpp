@@ -7,15 +7,11 @@
 #include <limits>
 
 #include "support/lanes_of.h"
+#include "support/library.h"
 #include "tables/trig.h"
 
 namespace lanemath::testing {
 namespace {
-
-const harness::library& library() {
-  static const harness::library loaded(LANEMATH_LIBRARY);
-  return loaded;
-}
 
 // Lane 0 of a call with the value in every lane, as a double.
 double of(std::string_view name, variant v, int width, double x) {
