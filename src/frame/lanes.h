@@ -5,6 +5,7 @@
 // Integer lanes wrap. A comparison gives a mask: integer lanes of the same size, all ones or zero.
 #pragma once
 
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -525,6 +526,64 @@ LANEMATH_INLINE lanes<T, W> look_up(const T (&table)[Size], const lanes<std::int
     for (int i = 0; i < result.groups; ++i) {
       const auto at = lanes_detail::indices(index, i);
       result.g[i] = typename lanes<T, W>::group{table[at.first], table[at.second]};
+    }
+  }
+  return result;
+}
+
+namespace lanes_detail {
+
+// Columns first .. first + Count - 1 of two or four rows, turned into lanes. Count is 2 or 4 of 32 bits, 1 or 2 of 64.
+template <std::size_t Count, class T>
+LANEMATH_INLINE void turn_columns(std::array<__m128, Count>& column, const T* a, const T* b, const T* c, const T* d) {
+  const auto whole = [](const T* from) LANEMATH_LAMBDA { return _mm_loadu_ps(reinterpret_cast<const float*>(from)); };
+  const auto halves = [](const T* low, const T* high) LANEMATH_LAMBDA {
+    return _mm_loadh_pi(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(low))),
+                        reinterpret_cast<const __m64*>(high));
+  };
+  if constexpr (sizeof(T) == 8 && Count == 2) {
+    const auto first = _mm_castps_pd(whole(a)), second = _mm_castps_pd(whole(b));
+    column = {_mm_castpd_ps(_mm_unpacklo_pd(first, second)), _mm_castpd_ps(_mm_unpackhi_pd(first, second))};
+  } else if constexpr (sizeof(T) == 8) {
+    column = {halves(a, b)};
+  } else if constexpr (Count == 4) {
+    const auto low = _mm_unpacklo_ps(whole(a), whole(b)), more_low = _mm_unpacklo_ps(whole(c), whole(d));
+    const auto high = _mm_unpackhi_ps(whole(a), whole(b)), more_high = _mm_unpackhi_ps(whole(c), whole(d));
+    column = {_mm_movelh_ps(low, more_low), _mm_movehl_ps(more_low, low), _mm_movelh_ps(high, more_high),
+              _mm_movehl_ps(more_high, high)};
+  } else {
+    static_assert(Count == 2);
+    const auto first = halves(a, b), second = halves(c, d);
+    column = {_mm_shuffle_ps(first, second, _MM_SHUFFLE(2, 0, 2, 0)),
+              _mm_shuffle_ps(first, second, _MM_SHUFFLE(3, 1, 3, 1))};
+  }
+}
+
+}  // namespace lanes_detail
+
+// The columns of the rows at the lanes' indices, which must all be inside the table. Of 32-bit columns there is an
+// even number.
+template <class T, std::size_t Size, std::size_t Columns, int W>
+LANEMATH_INLINE std::array<lanes<T, W>, Columns> look_up_row(const T (&table)[Size][Columns],
+                                                             const lanes<std::int32_t, W>& index) {
+  std::array<lanes<T, W>, Columns> result;
+  if constexpr (W == 1) {
+    for (std::size_t c = 0; c < Columns; ++c) result[c].g[0] = table[std::uint32_t(index.g[0])][c];
+  } else {
+    constexpr std::size_t at_once = 16 / sizeof(T), rest = Columns % at_once;
+    using group = typename lanes<T, W>::group;
+    for (int i = 0; i < result[0].groups; ++i) {
+      const auto first = lanes_detail::indices(index, sizeof(T) == 4 ? 2 * i : i);
+      const auto second = sizeof(T) == 4 && W > 2 ? lanes_detail::indices(index, 2 * i + 1) : first;
+      const auto turn = [&](auto count, std::size_t column) LANEMATH_LAMBDA {
+        std::array<__m128, count> turned;
+        lanes_detail::turn_columns(turned, table[first.first] + column, table[first.second] + column,
+                                   table[second.first] + column, table[second.second] + column);
+        for (std::size_t c = 0; c < count; ++c) result[column + c].g[i] = std::bit_cast<group>(turned[c]);
+      };
+      for (std::size_t c = 0; c + at_once <= Columns; c += at_once)
+        turn(std::integral_constant<std::size_t, at_once>(), c);
+      if constexpr (rest != 0) turn(std::integral_constant<std::size_t, rest>(), Columns - rest);
     }
   }
   return result;

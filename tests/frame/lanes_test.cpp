@@ -153,6 +153,19 @@ TYPED_TEST(FloatingLanes, LookUpEveryLanesEntry) {
   });
 }
 
+TYPED_TEST(FloatingLanes, LookUpEveryColumnOfARow) {
+  using T = TypeParam;
+  // One group of columns and a part of one more.
+  constexpr std::size_t columns = sizeof(T) == 4 ? 6 : 3;
+  static constexpr T table[3][columns] = {{1, 2, 3}, {11, 12, 13}, {21, 22, 23}};
+  std::array<std::int32_t, 16> index;
+  for (int i = 0; i < 16; ++i) index[i] = (i * 5 + 1) % 3;
+  at_every_width([&](auto width) {
+    const auto row = look_up_row(table, load<std::int32_t, width>(index));
+    for (std::size_t c = 0; c < columns; ++c) expect_lanes(row[c], [&](int i) { return table[index[i]][c]; });
+  });
+}
+
 TYPED_TEST(FloatingLanes, RoundPickAndConvertAsTheProcessorDoes) {
   using T = TypeParam;
   std::array<T, 16> a = some_values<T>(), b;

@@ -12,6 +12,7 @@ const std::vector<reference>& references() {
              exponential_references,
              manipulation_references,
              logarithm_references,
+             hyperbolic_references,
          })
       for (auto& each : family()) joined.push_back(std::move(each));
     return joined;

@@ -4,7 +4,9 @@
 #include <fmt/format.h>
 #include <mpfr.h>
 
+#include <array>
 #include <cstdio>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -73,6 +75,17 @@ class table_writer {
       const auto [a, b, c] = entry(j);
       return fmt::format("{{{}, {}, {}}}", literal(T(a)), literal(T(b)), literal(T(c)));
     });
+  }
+  // entry(j) is an array, the columns of row j.
+  template <class F>
+  void rows(std::string_view name, std::string_view meaning, int size, F entry) {
+    using row = decltype(entry(0));
+    table(fmt::format("{}[{}][{}]", name, size, std::tuple_size_v<row>), meaning, type<typename row::value_type>(),
+          size, [&](int j) {
+            std::string text;
+            for (const auto value : entry(j)) text += (text.empty() ? "" : ", ") + literal(value);
+            return fmt::format("{{{}}}", text);
+          });
   }
 
  private:

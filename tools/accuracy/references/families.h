@@ -8,6 +8,7 @@ namespace lanemath::accuracy {
 std::vector<reference> exponential_references();
 std::vector<reference> manipulation_references();
 std::vector<reference> logarithm_references();
+std::vector<reference> hyperbolic_references();
 
 // A function of MPFR with one argument, as an exact function.
 template <auto F>
