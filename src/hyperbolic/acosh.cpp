@@ -28,7 +28,7 @@ struct acosh_form {
   static auto rare_test(auto x) { return ~((one_v<T> < x) & (x <= std::numeric_limits<T>::max())); }
 
   template <class V>
-  static V kernel(V x) {
+  LANEMATH_INLINE static V kernel(V x) {
     const V d = x - one_v<T>;
     const V p = d * (x + one_v<T>);
     const V ph = cut(p, inverse_rows_of<T>().RADICAND);

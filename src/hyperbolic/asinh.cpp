@@ -27,7 +27,7 @@ constexpr auto& polish() {
 template <class T, auto Routine, std::int32_t Largest, class Log>
 struct asinh_form : rare_above<T(T), Routine, Largest> {
   template <class V>
-  static V kernel(V x) {
+  LANEMATH_INLINE static V kernel(V x) {
     constexpr auto& c = inverse_rows_of<T>();
     constexpr T one = one_v<T>, half = half_v<T>;
     const V a = magnitude(x);

@@ -33,7 +33,7 @@ LANEMATH_INLINE V missing_part(V e) {
 template <class T, auto Routine, std::int32_t Below, class Log>
 struct atanh_form : rare_above<T(T), Routine, Below> {
   template <class V>
-  static V kernel(V x) {
+  LANEMATH_INLINE static V kernel(V x) {
     constexpr auto& c = inverse_rows_of<T>();
     constexpr T one = one_v<T>;
     const V a = magnitude(x);

@@ -27,7 +27,7 @@ constexpr std::int32_t BOUND = 0x40861D99;  // 707.7
 
 struct sinh_form : rare_above<double(double), sinh_rare, BOUND> {
   template <class V>
-  static V kernel(V x) {
+  LANEMATH_INLINE static V kernel(V x) {
     const ln2_multiple<V> a(magnitude(x), sinh_reduction);
     const auto e = (bits(a.shifted) & ~std::int64_t(127)) << 45;
     const auto [falling, difference] = look_up(sinh_128, lower(a.shifted) & 127);
@@ -41,7 +41,7 @@ struct sinh_form : rare_above<double(double), sinh_rare, BOUND> {
 
 struct cosh_form : rare_above<double(double), cosh_rare, BOUND> {
   template <class V>
-  static V kernel(V x) {
+  LANEMATH_INLINE static V kernel(V x) {
     constexpr std::int64_t exponents = 0x7FF0000000000000, exponent_unit = 0x0010000000000000;
     const ln2_multiple<V> a(magnitude(x), cosh_reduction);
     const auto e = (bits(a.shifted) << 44) & exponents;

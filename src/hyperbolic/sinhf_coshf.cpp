@@ -52,7 +52,7 @@ using coshf_guards = rare_above<float(float), coshf_rare, BOUND - 1>;
 template <bool Light>
 struct sinhf_form : sinhf_guards {
   template <class V>
-  static V kernel(V x) {
+  LANEMATH_INLINE static V kernel(V x) {
     const ln2_multiple<V> a(magnitude(x), reduction);
     const auto [s, c] = at_multiple(a);
     return with_bits(Light ? lightly_added(s, c, a) : added(s, c, a), sign_of(x));
@@ -64,7 +64,7 @@ using sinhf_native = sinhf_form<true>;
 template <bool Light>
 struct coshf_form : coshf_guards {
   template <class V>
-  static V kernel(V x) {
+  LANEMATH_INLINE static V kernel(V x) {
     const ln2_multiple<V> a(magnitude(x), reduction);
     const auto [s, c] = at_multiple(a);
     return Light ? lightly_added(c, s, a) : added(c, s, a);

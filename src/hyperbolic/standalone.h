@@ -93,7 +93,7 @@ struct standalone_guards {
 template <class T, auto Lane, std::int32_t Low>
 struct standalone_acosh : standalone_guards<T, Lane, Low> {
   template <class V>
-  static V kernel(V x) {
+  LANEMATH_INLINE static V kernel(V x) {
     return acosh_in_range(x);
   }
   static auto rare_test(auto x) { return standalone_acosh::out_of_range(top_word(x)); }
@@ -101,7 +101,7 @@ struct standalone_acosh : standalone_guards<T, Lane, Low> {
 template <class T, auto Lane, std::int32_t Low>
 struct standalone_asinh : standalone_guards<T, Lane, Low> {
   template <class V>
-  static V kernel(V x) {
+  LANEMATH_INLINE static V kernel(V x) {
     return asinh_in_range(x);
   }
   static auto rare_test(auto x) { return standalone_asinh::out_of_range(top_word(magnitude(x))); }

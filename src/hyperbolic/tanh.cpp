@@ -31,7 +31,7 @@ LANEMATH_RARE tanh_rare(const double* x, double* y) { return tanh_rare_lane(x, y
 // Marks the largest powers of two, infinities and NaNs.
 struct tanhf_form : rare_above<float(float), tanhf_rare, 0x7F07FFFF> {
   template <class V>
-  static V kernel(V x) {
+  LANEMATH_INLINE static V kernel(V x) {
     const auto [c0, c1, c2, c3] = look_up_row(tanhf_cubics, interval(x, 0x3CF80000, 0x41200000, 19));
     const auto a = convert<double>(magnitude(x));
     return with_bits(convert<float>(((c3 * a + c2) * a + c1) * a + c0), sign_of(x));
@@ -40,7 +40,7 @@ struct tanhf_form : rare_above<float(float), tanhf_rare, 0x7F07FFFF> {
 
 struct tanh_form : rare_above<double(double), tanh_rare, 0x7FE1FFFF> {
   template <class V>
-  static V kernel(V x) {
+  LANEMATH_INLINE static V kernel(V x) {
     const auto row = look_up_row(tanh_polynomials, interval(x, 0x3FBE0000, 0x40340000, 17));
     const V t = magnitude(x) + row[0];
     V y = row[11];
