@@ -28,6 +28,19 @@ inline constexpr error_bound error_bounds[] = {
     {"expm1f", {1.81, 284}},
     {"expm1", {2.97, 5.20e6}},
 
+    {"sinhf", {2.03, 1080}},
+    {"coshf", {1.85, 381}},
+    {"tanhf", {1.03, 1.03}},
+    {"asinhf", {2.2, 1470}},
+    {"acoshf", {3.3, 2300}},
+    {"atanhf", {2.1, 1470}},
+    {"sinh", {2.1, 2.1}},
+    {"cosh", {1.5, 1.5}},
+    {"tanh", {1.23, 1.23}},
+    {"asinh", {1.7, 2.65e5}},
+    {"acosh", {3.2, 2.65e5}},
+    {"atanh", {1.65, 2.65e5}},
+
     {"fdim", {0.5}},
     {"fdimf", {0.5}},
     {"fract", {1}},
@@ -50,6 +63,14 @@ inline constexpr standalone_bound standalone_bounds[] = {
     {"exp2f", 4, variant::standard, 2.56},
     {"exp", 2, variant::standard, 2.96},
     {"exp2", 2, variant::standard, 2.60},
+    {"acoshf", 4, variant::standard, 2.15},
+    {"acoshf", 4, variant::native, 2.15},
+    {"asinhf", 4, variant::standard, 2.28},
+    {"asinhf", 4, variant::native, 2.28},
+    {"acosh", 2, variant::standard, 2.2},
+    {"acosh", 2, variant::native, 2.2},
+    {"asinh", 2, variant::standard, 2.3},
+    {"asinh", 2, variant::native, 2.3},
 };
 
 // Families of operations that are exact unless they have a line: each result is the one that the operation's rule

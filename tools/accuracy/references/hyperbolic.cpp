@@ -13,7 +13,7 @@ std::vector<reference> hyperbolic_references() {
                                 {"kernel", {{-87.3365, 87.3365}}},
                                 {"rare", {{87.33655, 89.5}}},
                                 {"wide", {{-707.699, 707.699}}},
-                                {"wide rare", {{707.7, 710.5}}}},
+                                {"wide rare", {{707.7002, 710.5}}}},
                      .single_bounds = {87.33653, 89.415986, 88.8},
                      .double_bounds = {707.69970703125, 710.475860073944},
                      .fast = fast};
