@@ -46,6 +46,7 @@ inline constexpr error_bound error_bounds[] = {
     {"powr", {1.45, 2.15e9}},
     {"pown", {1.45, 2.15e9}},
     {"rootn", {1.04, 6.45e7}},
+
     // Whatever processor: with estimates that err by 1.5 * 2^-12, the most that makers promise.
     {"div", {0.5, 0.5}},
     {"divf", {0.5, 6150, 6150, 6150}},
@@ -61,6 +62,7 @@ inline constexpr error_bound error_bounds[] = {
     {"rcbrtf", {0.515, 889}},
     {"hypot", {2.40, 1.20e6}},
     {"hypotf", {1.34, 6150}},
+
     {"asin", {2.17, 6.30e6}},
     {"asinf", {2.28, 536}},
     {"acos", {1.31, 6.40e6}},
@@ -77,6 +79,7 @@ inline constexpr error_bound error_bounds[] = {
     {"atanpif", {4.80, 3780}},
     {"atan2pi", {4.36, 2.25e7}},
     {"atan2pif", {6.30, 3780}},
+
     {"sinf", {2.59, 2540, 2540, 2540}},
     {"cosf", {2.40, 2540, 2540, 2540}},
     {"sincosf", {2.89, 2540, 0, 2540}},
@@ -93,6 +96,19 @@ inline constexpr error_bound error_bounds[] = {
     {"tanpi", {1.15, 1.06e7}},
     {"tanpif", {1.28, 742}},
     {"tanf", {3.99, 924, 924, 924}},
+
+    {"sinhf", {2.03, 1080}},
+    {"coshf", {1.85, 381}},
+    {"tanhf", {1.03, 1.03}},
+    {"asinhf", {2.2, 1470}},
+    {"acoshf", {3.21, 2300}},
+    {"atanhf", {2.1, 1470}},
+    {"sinh", {2.1, 2.1}},
+    {"cosh", {1.51, 1.51}},
+    {"tanh", {1.25, 1.25}},
+    {"asinh", {1.72, 2.64e5}},
+    {"acosh", {4.36, 2.64e5}},
+    {"atanh", {1.6, 2.64e5}},
 
     {"fdim", {0.5}},
     {"fdimf", {0.5}},
@@ -123,7 +139,11 @@ inline constexpr standalone_bound standalone_bounds[] = {
     {"exp", 2, variant::standard, 2.96},    {"exp2", 2, variant::standard, 2.60},
     {"log2", 2, variant::standard, 1.90},   {"atan", 2, variant::standard, 4.41},
     {"atanf", 4, variant::standard, 3.76},  {"atan2", 2, variant::standard, 4.48},
-    {"atan2f", 4, variant::standard, 3.91},
+    {"atan2f", 4, variant::standard, 3.91}, {"acoshf", 4, variant::standard, 2.14},
+    {"acoshf", 4, variant::native, 2.14},   {"asinhf", 4, variant::standard, 2.28},
+    {"asinhf", 4, variant::native, 2.28},   {"acosh", 2, variant::standard, 2.19},
+    {"acosh", 2, variant::native, 2.19},    {"asinh", 2, variant::standard, 2.28},
+    {"asinh", 2, variant::native, 2.28},
 };
 
 // Families of operations that are exact unless they have a line: each result is the one that the operation's rule

@@ -16,6 +16,7 @@ const std::vector<reference>& references() {
              logarithm_references,
              power_references,
              root_references,
+             hyperbolic_references,
          })
       for (auto& each : family()) joined.push_back(std::move(each));
     return joined;

@@ -10,6 +10,7 @@ void write_log_tables(table_writer&);
 void write_pow_tables(table_writer&);
 void write_trig_tables(table_writer&);
 void write_invtrig_tables(table_writer&);
+void write_hyperbolic_tables(table_writer&);
 void write_roots_tables(table_writer&);
 
 int main(int argc, char** argv) {
@@ -19,6 +20,7 @@ int main(int argc, char** argv) {
       {"pow", write_pow_tables},
       {"trig", write_trig_tables},
       {"invtrig", write_invtrig_tables},
+      {"hyperbolic", write_hyperbolic_tables},
       {"roots", write_roots_tables},
   };
   const auto family = argc == 2 ? families.find(argv[1]) : families.end();

@@ -12,6 +12,7 @@ std::vector<reference> manipulation_references();
 std::vector<reference> logarithm_references();
 std::vector<reference> power_references();
 std::vector<reference> root_references();
+std::vector<reference> hyperbolic_references();
 
 // A function of MPFR with one argument, as an exact function.
 template <auto F>

@@ -1,0 +1,82 @@
+// What the hyperbolic sines and cosines of both precisions share. |x| = A + r with A a multiple of a part of ln 2, so
+// that e^A / 2 and e^-A / 2 come from powers of two; then the addition theorems, with short polynomials in r:
+//   sinh(A + r) = sinh A + (cosh A sinh r + sinh A (cosh r - 1)), and the same with sinh A and cosh A exchanged.
+#pragma once
+
+#include "exp/rare.h"
+
+namespace lanemath {
+
+// The constants of |x| = n ln 2 + r.
+template <class T>
+struct ln2_rows {
+  T K;       // 1 / ln 2
+  T S;       // shifter: the low bits of its sum with n are n in parts
+  T L1, L2;  // ln 2, high and low part
+};
+
+template <class V>
+struct ln2_multiple {
+  V shifted, r, r2;
+  LANEMATH_INLINE ln2_multiple(V a, const ln2_rows<typename V::value_type>& c) {
+    shifted = c.K * a + c.S;
+    const V n = shifted - c.S;
+    r = (a - c.L1 * n) - c.L2 * n;
+    r2 = r * r;
+  }
+};
+
+// sinh A and cosh A.
+template <class V>
+struct sinh_and_cosh {
+  V sinh, cosh;
+};
+
+// `same` is what is asked for at A, `other` the other function there; sinh r and cosh r - 1.
+template <class V>
+LANEMATH_INLINE V added(V same, V other, V sinh_r, V cosh_r_less_1) {
+  return same + (other * sinh_r + cosh_r_less_1 * same);
+}
+
+// The rare routines. Only lanes come here whose e^-|x| is far below the last place of e^|x|.
+
+inline double half_exp(double a) {
+  const rare_power p = exp_power(a);
+  return scaled(p.w + p.hi, p.k - 1);
+}
+
+// From where on e^a / 2 is beyond the range, with room to spare in single precision.
+template <class T>
+inline constexpr double half_exp_overflow = sizeof(T) == 4 ? 89.4159927368164 : 710.475860073944;
+
+template <class T>
+int cosh_rare_lane(const T* px, T* py) {
+  const double x = *px, a = std::fabs(x);
+  if (!(a < std::numeric_limits<double>::infinity())) {
+    *py = T(x * x);
+    return 0;
+  }
+  if (a >= half_exp_overflow<T>) {
+    *py = T(overflowed());
+    return 3;
+  }
+  *py = T(half_exp(a));
+  return 0;
+}
+
+template <class T>
+int sinh_rare_lane(const T* px, T* py) {
+  const double x = *px, a = std::fabs(x);
+  if (!(a < std::numeric_limits<double>::infinity())) {
+    *py = T(x + x);
+    return 0;
+  }
+  if (a >= half_exp_overflow<T>) {
+    *py = T(opaque(std::numeric_limits<double>::max()) * x);
+    return 3;
+  }
+  *py = T(std::copysign(half_exp(a), x));
+  return 0;
+}
+
+}  // namespace lanemath

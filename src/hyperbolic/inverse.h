@@ -1,0 +1,173 @@
+// What the inverse hyperbolic functions of both precisions share: each is the logarithm of 1 + v, v a function of x
+// that is small where the result is. v, and the sum, are carried in two parts; roots and quotients start from the
+// processor's estimates, cut short so that products with them lose little, and are polished by a polynomial in what
+// they miss.
+//
+// From 2^30 on acosh and asinh are the logarithm of x 2^-30 and 31 ln 2: 2 x, that is.
+#pragma once
+
+#include "log/double.h"
+#include "log/rare.h"
+#include "log/single.h"
+
+namespace lanemath {
+
+template <class T>
+struct inverse_rows {
+  using pattern = int_of_size<sizeof(T)>;
+  T BIG, SCALE;
+  pattern RADICAND;  // upper part of what a root is taken of,
+  pattern ROOT;      // of the root's estimate,
+  pattern X;         // of asinh's argument,
+  pattern QUOTIENT;  // of atanh's numerator and denominator,
+  pattern INVERSE;   // and of the denominator's inverse
+  T SMALL;           // up to here asinh's root is a series
+  T TINY;            // below, atanh is x
+};
+inline constexpr inverse_rows<float> inverse_single{
+    .BIG = 0x4E800000_f32,
+    .SCALE = 0x30800000_f32,
+    .RADICAND = std::int32_t(0xFFFF0000),
+    .ROOT = std::int32_t(0xFFFF0000),
+    .X = std::int32_t(0xFFFFE000),
+    .QUOTIENT = std::int32_t(0xFFFFF000),
+    .INVERSE = std::int32_t(0xFFFFF000),
+    .SMALL = 0x3D800000_f32,
+    .TINY = 0x0C000000_f32,
+};
+inline constexpr inverse_rows<double> inverse_double{
+    .BIG = 0x41D0000000000000_f64,
+    .SCALE = 0x3E10000000000000_f64,
+    .RADICAND = std::int64_t(0xFFFFFFFFFF000000),
+    .ROOT = std::int64_t(0xFFFFFE0000000000),
+    .X = std::int64_t(0xFFFFFFFFF8000000),
+    .QUOTIENT = std::int64_t(0xFFFFFFFFFFFFF000),
+    .INVERSE = std::int64_t(0xFFFFFE0000000000),
+    .SMALL = 0x3F60000000000000_f64,
+    .TINY = 0x0350000000000000_f64,
+};
+template <class T>
+constexpr auto& inverse_rows_of() {
+  if constexpr (sizeof(T) == 4)
+    return inverse_single;
+  else
+    return inverse_double;
+}
+
+// 1 / sqrt(1 - e) - 1 = e / 2 + 3/8 e^2 + ..., divided by e.
+inline constexpr float polish_single[] = {0.3125f, 0.375f, 0.5f};
+inline constexpr float light_polish_single[] = {0.5f};
+inline constexpr double acosh_polish[] = {0.2734375, 0.3125, 0.375, 0.5};
+inline constexpr double asinh_polish[] = {0.24609375, 0.2734375, 0.3125, 0.375, 0.5};
+
+template <class V>
+LANEMATH_INLINE V cut(V x, typename inverse_rows<typename V::value_type>::pattern mask) {
+  return from_bits(bits(x) & mask);
+}
+
+template <int W>
+LANEMATH_INLINE lanes<float, W> estimated_inverse(const lanes<float, W>& x) {
+  return reciprocal_estimate(x);
+}
+template <int W>
+LANEMATH_INLINE lanes<double, W> estimated_inverse(const lanes<double, W>& x) {
+  return convert<double>(reciprocal_estimate(convert<float>(x)));
+}
+template <int W>
+LANEMATH_INLINE lanes<float, W> estimated_inverse_root(const lanes<float, W>& x) {
+  return reciprocal_root_estimate(x);
+}
+template <int W>
+LANEMATH_INLINE lanes<double, W> estimated_inverse_root(const lanes<double, W>& x) {
+  return convert<double>(reciprocal_root_estimate(convert<float>(x)));
+}
+
+// The square root of hi + lo, hi cut short: nearly high + low, off by the factor 1 + correction.
+template <class V>
+struct rough_root {
+  V high, low, correction;
+  template <class T, std::size_t N>
+  LANEMATH_INLINE rough_root(V hi, V lo, const T (&polish)[N]) {
+    const V y = cut(estimated_inverse_root(hi), inverse_rows_of<T>().ROOT);
+    high = hi * y;
+    low = lo * y;
+    const V e = (one_v<T> - high * y) - low * y;
+    correction = horner(e, polish) * e;
+  }
+};
+
+// 1 + v = w + err. In double precision w is cut short unless v is tiny, so that its product with a small integer is
+// exact.
+template <class V>
+struct one_plus {
+  using T = typename V::value_type;
+  V w, err;
+  LANEMATH_INLINE explicit one_plus(V v) {
+    const V larger = maximum(V(one_v<T>), v), smaller = minimum(V(one_v<T>), v);
+    w = larger + smaller;
+    if constexpr (sizeof(T) == 8) w = cut(w, (v < 0x3E00000000000000_f64) | std::int64_t(0xFFFFFFFFFFFFFC00));
+    err = (larger - w) + smaller;
+  }
+  LANEMATH_INLINE one_plus(V v, V low) : one_plus(v) { err = err + low; }
+
+ private:
+  LANEMATH_INLINE static V cut(V x, decltype(bits(V())) mask) { return from_bits(bits(x) & mask); }
+};
+
+// The logarithm of m + err. `scaled` marks lanes to which 31 ln 2 is added.
+template <auto& Polynomial>
+struct single_logarithm {
+  template <class V, class... M>
+  LANEMATH_INLINE static V of(V m, V err, M... scaled) {
+    const centred_mantissa<V> a(m);
+    const V unscale = from_bits(0x3F800000 - (a.k << 23));  // 2^-k
+    const V y = ln_of_one_plus(a.r + err * unscale, Polynomial);
+    const auto k = (a.k + ... + (scaled & 31));
+    return convert<float>(k) * LN2_F32 + y;
+  }
+};
+template <bool Light>
+struct double_logarithm {
+  template <class V, class... M>
+  LANEMATH_INLINE static V of(V m, V err, M... scaled) {
+    constexpr auto& c = log_table;
+    const auto near = integer_near_reciprocal(scaled_mantissa(m));
+    // n times the power of two that brings m to [2^-10, 2^-9)
+    const V n = from_bits(0x7F40000000000000 - (bits(m) & 0x7FF0000000000000)) * convert<double>(near);
+    const V z0 = m * n - 1.0;
+    const V e = err * n;
+    const V z = z0 + e;
+    const V lo = e - (z - z0);
+    const V s = z * z;
+    V y = c.P3 * z + c.P2;
+    if constexpr (!Light) y = (c.P5 * z + c.P4) * s + y;
+    y = y * s + lo;
+    const auto k = (upper(m) >> 20) - 1022 + (near > 724.0f);  // the mask is -1
+    const V exponent = (convert<double>(k) + ... + where(scaled, V(31.0)));
+    return ((z + y) + look_up(ln_of_integers, index_of_integer(near))) + exponent * c.LOG2;
+  }
+};
+
+inline constexpr float inverse_polynomial[] = {0x3E0D84ED_f32, 0xBE1AD9E3_f32, 0x3E0FCB12_f32, 0xBE28AD37_f32,
+                                               0x3E4CE190_f32, 0xBE80058E_f32, 0x3EAAAA94_f32, 0xBF000000_f32};
+template <class T>
+using logarithm = std::conditional_t<sizeof(T) == 4, single_logarithm<inverse_polynomial>, double_logarithm<false>>;
+template <class T>
+using light_logarithm =
+    std::conditional_t<sizeof(T) == 4, single_logarithm<light_ln_polynomial>, double_logarithm<true>>;
+
+// The logarithm of 1 + v + low; of 2 x where x is big.
+template <class Log, class V>
+LANEMATH_INLINE V log_of_sum_or_double(const one_plus<V>& sum, V x) {
+  constexpr auto& c = inverse_rows_of<typename V::value_type>();
+  const auto big = x >= c.BIG;
+  return Log::of(select(big, x * c.SCALE, sum.w), where(~big, sum.err), big);
+}
+
+template <class T>
+int outside_domain(T& y) {
+  y = default_nan<T>();
+  return 1;
+}
+
+}  // namespace lanemath

@@ -1,0 +1,134 @@
+// The forms that stand alone, acosh and asinh at one group of lanes: the logarithm of v = |x| + sqrt(x^2 -+ 1) by a
+// true root and a true division. Mantissa z of v between sqrt(1/2) and sqrt(2), f = z - 1, s = f / (2 + f), ln(1 + f) =
+// f - s (f - R(s^2)). A lane out of range sends all of them to a scalar routine.
+#pragma once
+
+#include <cmath>
+
+#include "log/common.h"
+#include "tables/hyperbolic.h"
+
+namespace lanemath {
+
+template <class T>
+struct quotient_log_rows;
+template <>
+struct quotient_log_rows<float> {
+  static constexpr int MANTISSA_BITS = 23;
+  static constexpr std::int32_t SPLIT = 0x004AFB10;  // carries into the exponent from sqrt(2) on
+  static constexpr float A[] = {0x3E98F06F_f32, 0x3F2AAABD_f32}, B[] = {0x3ECCAF68_f32};
+  static constexpr float LN2H = 0x3F310000_f32, LN2L = 0x3AE42FF0_f32;
+  static constexpr float BIG = 0x5F0AC723_f32, LN2 = 0x3F317218_f32;  // from there on v is 2 x
+};
+template <>
+struct quotient_log_rows<double> {
+  static constexpr int MANTISSA_BITS = 52;
+  static constexpr std::int64_t SPLIT = 0x00095F6200000000;
+  static constexpr double A[] = {0x3FC2F112DF3E5244_f64, 0x3FC7466496CB03DE_f64, 0x3FD2492494229359_f64,
+                                 0x3FE5555555555593_f64};
+  static constexpr double B[] = {0x3FC39A09D078C69F_f64, 0x3FCC71C51D8E78AF_f64, 0x3FD999999997FA04_f64};
+  static constexpr double LN2H = 0x3FE62E42FEE00000_f64, LN2L = 0x3DEA39EF35793C76_f64;
+  static constexpr double BIG = 0x5FE7DDDF6B095FF1_f64, LN2 = 0x3FE62E42FEFA39EF_f64;
+};
+
+template <class V>
+struct quotient_log {
+  using T = typename V::value_type;
+  using rows = quotient_log_rows<T>;
+  static constexpr auto ONE = std::bit_cast<int_of_size<sizeof(T)>>(one_v<T>);
+  V z, E;
+
+  LANEMATH_INLINE explicit quotient_log(V v) {
+    constexpr auto exponent_unit = decltype(ONE)(1) << rows::MANTISSA_BITS;
+    constexpr int field = rows::MANTISSA_BITS % 32, bias = std::numeric_limits<T>::max_exponent - 1;
+    const auto m = bits(v) & (exponent_unit - 1);
+    const auto carry = (m + rows::SPLIT) & exponent_unit;
+    z = from_bits(m | (carry ^ ONE));
+    E = convert<T>((top_word(v) >> field) - bias + (top_word(carry) >> field));
+  }
+
+  LANEMATH_INLINE V value() const {
+    const V f = z - one_v<T>;
+    return value(f, f / (z + one_v<T>));
+  }
+  LANEMATH_INLINE V value(V f, V s) const {
+    const V s2 = s * s, s4 = s2 * s2;
+    const V R = horner(s4, rows::A) * s2 + horner(s4, rows::B) * s4;
+    return rows::LN2H * E - (((f - R) * s - rows::LN2L * E) - f);
+  }
+};
+
+// The logarithm of a + root, root nearly a if a is big.
+template <class V>
+LANEMATH_INLINE V log_of_sum(V a, V root) {
+  using rows = quotient_log_rows<typename V::value_type>;
+  const auto big = a >= rows::BIG;
+  return quotient_log<V>(select(big, a, a + root)).value() + where(big, V(rows::LN2));
+}
+
+template <class V>
+LANEMATH_INLINE V acosh_in_range(V x) {
+  constexpr auto one = one_v<typename V::value_type>;
+  return log_of_sum(x, square_root(x * x - one));
+}
+template <class V>
+LANEMATH_INLINE V asinh_in_range(V x) {
+  constexpr auto one = one_v<typename V::value_type>;
+  const V a = magnitude(x);
+  return with_bits(log_of_sum(a, square_root(a * a + one)), sign_of(x));
+}
+
+// In range are the numbers whose leading word is above `Low`, infinities and NaNs not among them.
+template <class T, auto Lane, std::int32_t Low>
+struct standalone_guards {
+  using signature = T(T);
+  static constexpr auto rare = Lane;
+  static constexpr std::int32_t INFINITE = sizeof(T) == 4 ? 0x7F800000 : 0x7FF00000;
+  static auto out_of_range(auto top) { return ~((top > Low) & (top < INFINITE)); }
+  template <class V, class M>
+  static void fix_up(V, V&, M& rare) {
+    rare = M(-1);
+  }
+};
+template <class T, auto Lane, std::int32_t Low>
+struct standalone_acosh : standalone_guards<T, Lane, Low> {
+  template <class V>
+  LANEMATH_INLINE static V kernel(V x) {
+    return acosh_in_range(x);
+  }
+  static auto rare_test(auto x) { return standalone_acosh::out_of_range(top_word(x)); }
+};
+template <class T, auto Lane, std::int32_t Low>
+struct standalone_asinh : standalone_guards<T, Lane, Low> {
+  template <class V>
+  LANEMATH_INLINE static V kernel(V x) {
+    return asinh_in_range(x);
+  }
+  static auto rare_test(auto x) { return standalone_asinh::out_of_range(top_word(magnitude(x))); }
+};
+
+// The scalar routines.
+
+inline double scalar_square_root(double x) { return square_root(lanes<double, 1>(x)).g[0]; }
+
+// ln v of a positive normal number, to 5e-13, near 1 to 6e-11.
+inline double log_by_cubics(double v) {
+  const auto pattern = std::bit_cast<std::uint64_t>(v);
+  const double u = std::bit_cast<double>((pattern & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
+  const double e = double(std::int32_t(pattern >> 52) - 1023);
+  const auto& [c3, c1, c2, c0] = log_cubics[(pattern >> 44) & 255];
+  return u * u * (c3 * u + c2) + (c1 * u + c0) + e * quotient_log_rows<double>::LN2;
+}
+
+// ln(1 + v), v >= 0, exact to the last places wherever v is small.
+inline double log_of_one_plus(double v) {
+  using scalar = lanes<double, 1>;
+  const double w = 1.0 + v;
+  const double lost = v < 1.0 ? (1.0 - w) + v : (v - w) + 1.0;
+  const quotient_log<scalar> log((scalar(w)));
+  const scalar scale = from_bits(bits(log.z) - bits(scalar(w)) + log.ONE);  // of w to z
+  const scalar f = (log.z - 1.0) + scalar(lost) * scale;
+  return log.value(f, f / (f + 2.0)).g[0];
+}
+
+}  // namespace lanemath

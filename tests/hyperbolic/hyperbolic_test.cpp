@@ -1,0 +1,218 @@
+// Stated results of the hyperbolic functions and their inverses at stated inputs, and what tells their forms apart.
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cfenv>
+#include <cmath>
+#include <limits>
+#include <string_view>
+#include <vector>
+
+#include "support/lanes_of.h"
+#include "support/library.h"
+#include "tables/hyperbolic.h"
+
+namespace lanemath::testing {
+namespace {
+
+using u32 = std::uint32_t;
+using u64 = std::uint64_t;
+
+constexpr auto standard = variant::standard, native = variant::native;
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+bool is_single(std::string_view name) { return catalogue[index_of(name)].single(); }
+
+// The patterns of a call, one pattern a lane.
+std::vector<u64> call(std::string_view name, variant v, const std::vector<u64>& lanes) {
+  const auto index = index_of(name);
+  const int width = int(lanes.size());
+  std::vector<arguments> tuples;
+  for (auto pattern : lanes) tuples.push_back({pattern});
+  std::vector<u64> patterns;
+  for (const auto& each : harness::evaluate(catalogue[index], library().find(index, v, width).value(), width, tuples))
+    patterns.push_back(each.first);
+  return patterns;
+}
+u64 bits_of(std::string_view name, variant v, int width, u64 pattern) {
+  return call(name, v, std::vector<u64>(width, pattern))[0];
+}
+u64 pattern_of(std::string_view name, double x) {
+  return is_single(name) ? std::bit_cast<u32>(float(x)) : std::bit_cast<u64>(x);
+}
+float float_of(std::string_view name, variant v, int width, float x) {
+  return std::bit_cast<float>(u32(bits_of(name, v, width, std::bit_cast<u32>(x))));
+}
+
+template <class F>
+void for_each_form(std::string_view name, F visit) {
+  for (const std::string full : {std::string(name), std::string(name) + "f"})
+    for (auto v : {standard, native})
+      for (int width : widths) {
+        SCOPED_TRACE(fmt::format("{}{}{}", full, width, suffix(v)));
+        visit(std::string_view(full), v, width);
+      }
+}
+
+struct stated {
+  std::string_view name;
+  double x, y;
+};
+constexpr stated values[] = {
+    {"sinh", 0.0, 0.0},
+    {"sinh", -0.0, -0.0},
+    {"sinh", infinity, infinity},
+    {"sinh", -infinity, -infinity},
+    {"sinh", 1e30, infinity},
+    {"sinh", -1e30, -infinity},
+    {"cosh", 0.0, 1.0},
+    {"cosh", -0.0, 1.0},
+    {"cosh", infinity, infinity},
+    {"cosh", -infinity, infinity},
+    {"cosh", -1e30, infinity},
+    {"tanh", 0.0, 0.0},
+    {"tanh", -0.0, -0.0},
+    {"tanh", infinity, 1.0},
+    {"tanh", -infinity, -1.0},
+    {"tanh", 20.0, 1.0},
+    {"tanh", -3e38, -1.0},
+    {"asinh", 0.0, 0.0},
+    {"asinh", -0.0, -0.0},
+    {"asinh", infinity, infinity},
+    {"asinh", -infinity, -infinity},
+    {"asinh", -1e-30, -1e-30},
+    {"acosh", 1.0, 0.0},
+    {"acosh", infinity, infinity},
+    {"atanh", 0.0, 0.0},
+    {"atanh", -0.0, 0.0},
+    {"atanh", 1.0, infinity},
+    {"atanh", -1.0, -infinity},
+    {"atanh", -1e-35, -1e-35},
+};
+
+TEST(Hyperbolic, GivesWhatIsStated) {
+  for (const auto& [name, x, y] : values)
+    for_each_form(name, [&](std::string_view full, variant v, int width) {
+      EXPECT_EQ(bits_of(full, v, width, pattern_of(full, x)), pattern_of(full, y)) << x;
+    });
+}
+
+TEST(Hyperbolic, OutsideTheDomainGivesTheProcessorsNaN) {
+  const auto outside = [](std::string_view name, std::initializer_list<double> arguments) {
+    for_each_form(name, [&](std::string_view full, variant v, int width) {
+      u64 due = is_single(full) ? 0xFFC00000 : 0xFFF8000000000000;
+      if (is_standalone(full, width, v)) due = is_single(full) ? 0x7FFFFFFF : 0x7FFFFFFFFFFFFFFF;
+      for (double x : arguments) EXPECT_EQ(bits_of(full, v, width, pattern_of(full, x)), due) << x;
+    });
+  };
+  outside("acosh", {0.5, 0.0, -0.0, -1.0, -2.0, -infinity});
+  outside("atanh", {1.5, -1.5, infinity, -infinity, -1e30});
+}
+
+TEST(Hyperbolic, NaNsKeepSignAndPayload) {
+  for (std::string_view name : {"sinh", "cosh", "tanh", "asinh", "acosh", "atanh"})
+    for_each_form(name, [](std::string_view full, variant v, int width) {
+      const bool single = is_single(full);
+      const u64 sign = single ? 0x80000000 : 0x8000000000000000, quiet = single ? 0x00400000 : 0x0008000000000000;
+      for (u64 payload : {0, 1, 0x12345})
+        for (u64 s : {u64(0), sign}) {
+          const u64 nan = (single ? 0x7F800100 : 0x7FF0000000000100) | payload | s;
+          // The forms that stand alone move patterns; one of them takes a set sign for a value below the domain.
+          u64 due = is_standalone(full, width, v) ? nan : nan | quiet;
+          if (full == "acoshf" && width == 4 && s) due = 0x7FFFFFFF;
+          EXPECT_EQ(bits_of(full, v, width, nan), due) << nan;
+        }
+    });
+}
+
+TEST(Hyperbolic, SinesOverflowWhereTheirExactValuesDo) {
+  for (auto v : {standard, native})
+    for (int width : widths) {
+      EXPECT_EQ(bits_of("coshf", v, width, 0x42B2D4FC), bits_of("sinhf", v, width, 0x42B2D4FC));
+      EXPECT_LT(bits_of("coshf", v, width, 0x42B2D4FC), 0x7F800000u);
+      EXPECT_EQ(bits_of("coshf", v, width, 0x42B2D4FD), 0x7F800000u);
+      EXPECT_EQ(bits_of("sinhf", v, width, 0xC2B2D4FD), 0xFF800000u);
+      EXPECT_LT(bits_of("cosh", v, width, 0x408633CE8FB9F87D), 0x7FF0000000000000u);
+      EXPECT_EQ(bits_of("cosh", v, width, 0x408633CE8FB9F87E), 0x7FF0000000000000u);
+      EXPECT_EQ(bits_of("sinh", v, width, 0xC08633CE8FB9F87E), 0xFFF0000000000000u);
+    }
+}
+
+// The library neither reads nor writes the rounding direction, but overflows are products that follow it.
+TEST(Hyperbolic, OverflowFollowsTheRoundingDirection) {
+  ASSERT_EQ(std::fesetround(FE_TOWARDZERO), 0);
+  const auto single = bits_of("coshf", standard, 4, 0x42C80000), wide = bits_of("sinh", native, 2, 0xC0A0000000000000);
+  std::fesetround(FE_TONEAREST);
+  EXPECT_EQ(single, 0x7F7FFFFFu);
+  EXPECT_EQ(wide, 0xFFEFFFFFFFFFFFFFu);
+}
+
+// Beyond the kernels single precision is correctly rounded.
+TEST(Hyperbolic, RareSinesAreRoundedOnce) {
+  for (u32 pattern = 0x42AEAC50; pattern < 0x42B2D4FD; pattern += 97) {
+    const float x = std::bit_cast<float>(pattern);
+    ASSERT_EQ(float_of("coshf", standard, 4, x), float(std::cosh(double(x)))) << x;
+    ASSERT_EQ(float_of("sinhf", native, 4, -x), -float(std::sinh(double(x)))) << x;
+  }
+}
+
+TEST(Hyperbolic, TablesHaveTheirStatedEntries) {
+  const std::array<double, 4> rows[] = {
+      {0, 1.0000000080972835, -3.8282289125186144e-06, -0.33309708258468135},
+      {-0.0054156023411010236, 1.0485263185021256, -0.15618819815905144, -0.14149959329137532},
+      {0.9999899835164849, 2.9174104711285036e-06, -2.839493400307523e-07, 9.233192745401905e-09},
+      {1, 0, 0, 0}};
+  const int places[] = {0, 60, 132, 133};
+  for (int i = 0; i < 4; ++i) EXPECT_EQ(std::to_array(tanhf_cubics[places[i]]), rows[i]) << places[i];
+  EXPECT_EQ(sinh_128[0].hi, 0.5);
+  EXPECT_EQ(sinh_128[0].lo, 0.0);
+  for (int j = 0; j < 128; ++j) EXPECT_NEAR(sinh_128[j].hi + sinh_128[j].lo, std::exp2(j / 128.0 - 1), 0x1p-52) << j;
+  EXPECT_EQ(cosh_256[0], 0.5);
+  EXPECT_EQ(cosh_256[128], std::sqrt(0.5));
+  EXPECT_EQ(cosh_256[256], 1.0);
+}
+
+// The forms that stand alone: a lane below their range sends its neighbours to the scalar routine, which is nearly
+// correctly rounded while the vector path is not.
+TEST(Hyperbolic, ALaneOutOfRangeTakesItsNeighboursAlong) {
+  struct form {
+    std::string_view name;
+    float low, outside;
+    double (*exact)(double);
+  };
+  for (const auto& [name, low, outside, exact] :
+       {form{"acoshf", 1.5f, 1.25f, std::acosh}, form{"asinhf", 1.0f, -0.5f, std::asinh}})
+    for (auto v : {standard, native}) {
+      int differing = 0;
+      for (int i = 1; i <= 2000; ++i) {
+        const float x = low + float(i) * 0x1p-11f;
+        const auto pattern = pattern_of(name, x);
+        const auto lanes = call(name, v, {pattern, pattern, pattern_of(name, outside), pattern});
+        EXPECT_EQ(lanes[0], lanes[3]);
+        const double due = exact(x);
+        const double lane = std::bit_cast<float>(u32(lanes[3]));
+        EXPECT_NEAR(lane, due, 0.51 * std::ldexp(1.0, std::ilogb(due) - 23)) << x;
+        differing += lanes[3] != bits_of(name, v, 4, pattern);
+      }
+      EXPECT_GT(differing, 20) << name;
+    }
+}
+
+// Each form has bits of its own: one that is routed to another's kernel shows.
+TEST(Hyperbolic, FormsAreToldApartByTheirBits) {
+  const auto differ = [](std::string_view name, int one, variant v, int other, variant w) {
+    int count = 0;
+    for (int i = 1; i < 1000; ++i) {
+      const auto x = pattern_of(name, (name[0] == 'a' && name[1] == 'c' ? 1.5 : 0.0) + i * 0x1.3p-11);
+      count += bits_of(name, v, one, x) != bits_of(name, w, other, x);
+    }
+    return count > 10;
+  };
+  for (std::string_view name : {"sinhf", "coshf", "acoshf", "asinhf", "atanhf", "acosh", "asinh", "atanh"})
+    EXPECT_TRUE(differ(name, 8, standard, 8, native)) << name;
+  for (std::string_view name : {"acoshf", "asinhf"}) EXPECT_TRUE(differ(name, 4, standard, 8, standard)) << name;
+  for (std::string_view name : {"acosh", "asinh"}) EXPECT_TRUE(differ(name, 2, standard, 8, standard)) << name;
+}
+
+}  // namespace
+}  // namespace lanemath::testing
