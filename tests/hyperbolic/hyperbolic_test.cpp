@@ -46,7 +46,7 @@ float float_of(std::string_view name, variant v, int width, float x) {
 
 template <class F>
 void for_each_form(std::string_view name, F visit) {
-  for (const std::string full : {std::string(name), std::string(name) + "f"})
+  for (const std::string& full : {std::string(name), std::string(name) + "f"})
     for (auto v : {standard, native})
       for (int width : widths) {
         SCOPED_TRACE(fmt::format("{}{}{}", full, width, suffix(v)));
