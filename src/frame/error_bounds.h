@@ -28,6 +28,17 @@ inline constexpr error_bound error_bounds[] = {
     {"expm1f", {1.81, 284}},
     {"expm1", {2.97, 5.20e6}},
 
+    {"erff", {1.92, 277}},
+    {"erf", {2.58, 3.16e5}},
+    {"erfcf", {1.77, 405}},
+    {"erfc", {2.04, 6.90e6}},
+    {"lgammaf", {0.511}},
+    {"lgamma", {0.512}},
+    {"lgammarf", {0.511}},
+    {"lgammar", {0.512}},
+    {"tgammaf", {0.504}},
+    {"tgamma", {0.503}},
+
     {"fdim", {0.5}},
     {"fdimf", {0.5}},
     {"fract", {1}},
