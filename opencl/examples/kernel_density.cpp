@@ -1,23 +1,18 @@
 // Gaussian kernel density estimate of a column of numbers on an OpenCL device: at each point of a grid the mean of
 // normal densities round the observations, which is one exponential per point and observation.
-#define CL_HPP_ENABLE_EXCEPTIONS
-#define CL_HPP_MINIMUM_OPENCL_VERSION 120
-#define CL_HPP_TARGET_OPENCL_VERSION 120
-#include <dlfcn.h>
 #include <fmt/format.h>
 #include <fmt/os.h>
-#include <CL/opencl.hpp>
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cmath>
-#include <cstring>
-#include <fstream>
 #include <numbers>
 #include <numeric>
 #include <stdexcept>
 #include <string>
 #include <vector>
+
+#include "example.h"
 
 namespace {
 
@@ -36,31 +31,7 @@ kernel void density(global const real* points, global const float4* observations
   }
   result[i] = sum * scale;
 }
-
-kernel void exponentials(global float8* values) {
-  const size_t i = get_global_id(0);
-  values[i] = exp(values[i]);
-}
 )";
-
-std::vector<double> read_observations(const std::string& path) {
-  std::ifstream file(path);
-  std::string line;
-  std::getline(file, line);  // the column's title
-  std::vector<double> all;
-  while (std::getline(file, line)) {
-    std::size_t read = 0;
-    try {
-      all.push_back(std::stod(line, &read));
-    } catch (const std::logic_error&) {
-    }
-    if (read == 0 || line.find_first_not_of(" \t\r", read) != line.npos || !std::isfinite(all.back()))
-      throw std::runtime_error(fmt::format("{}: not a number: '{}'", path, line));
-  }
-  if (all.size() < 2) throw std::runtime_error(fmt::format("{}: needs a title and two numbers or more", path));
-  std::ranges::sort(all);
-  return all;
-}
 
 struct summary {
   double mean, deviation, bandwidth;
@@ -82,94 +53,6 @@ summary summarise(const std::vector<double>& sorted) {
   if (spread == 0) spread = deviation;
   if (!(spread > 0)) throw std::runtime_error("all observations are the same");
   return {mean, deviation, 0.9 * spread * std::pow(n, -0.2)};
-}
-
-class estimator {
- public:
-  estimator(const std::vector<double>& observations, double bandwidth, std::vector<float> points, int width)
-      : context_(CL_DEVICE_TYPE_ALL),
-        queue_(context_, CL_QUEUE_PROFILING_ENABLE),
-        program_(context_, kernel_source),
-        kernel_(
-            (program_.build(fmt::format("-Dreal=float{}", width == 1 ? "" : std::to_string(width)).c_str()), program_),
-            "density"),
-        items_(points.size() / std::size_t(width)) {
-    std::vector<float> rounded(observations.begin(), observations.end());
-    rounded.resize((rounded.size() + 3) / 4 * 4, HUGE_VALF);  // e^-infinity adds nothing
-    points_ = cl::Buffer(context_, points.begin(), points.end(), true);
-    observations_ = cl::Buffer(context_, rounded.begin(), rounded.end(), true);
-    result_ = cl::Buffer(context_, CL_MEM_WRITE_ONLY, points.size() * sizeof(float));
-    kernel_.setArg(0, points_);
-    kernel_.setArg(1, observations_);
-    kernel_.setArg(2, cl_int(rounded.size() / 4));
-    kernel_.setArg(3, float(1 / bandwidth));
-    kernel_.setArg(4, float(1 / (double(observations.size()) * bandwidth * std::sqrt(2 * std::numbers::pi))));
-    kernel_.setArg(5, result_);
-  }
-
-  std::string device() const { return queue_.getInfo<CL_QUEUE_DEVICE>().getInfo<CL_DEVICE_NAME>(); }
-
-  // The shortest time in nanoseconds.
-  double run(int repetitions) {
-    double best = HUGE_VAL;
-    for (int i = 0; i <= repetitions; ++i) {
-      cl::Event event;
-      queue_.enqueueNDRangeKernel(kernel_, cl::NullRange, cl::NDRange(items_), cl::NullRange, nullptr, &event);
-      event.wait();
-      const auto nanoseconds =
-          event.getProfilingInfo<CL_PROFILING_COMMAND_END>() - event.getProfilingInfo<CL_PROFILING_COMMAND_START>();
-      if (i > 0) best = std::min(best, double(nanoseconds));  // the first run compiles
-    }
-    return best;
-  }
-
-  std::vector<float> density(std::size_t points) {
-    std::vector<float> all(points);
-    cl::copy(queue_, result_, all.begin(), all.end());
-    return all;
-  }
-
-  std::vector<float> exponentials(std::vector<float> values) {
-    cl::Buffer buffer(context_, values.begin(), values.end(), false);
-    cl::Kernel kernel(program_, "exponentials");
-    kernel.setArg(0, buffer);
-    queue_.enqueueNDRangeKernel(kernel, cl::NullRange, cl::NDRange(values.size() / 8), cl::NullRange);
-    cl::copy(queue_, buffer, values.begin(), values.end());
-    return values;
-  }
-
- private:
-  cl::Context context_;
-  cl::CommandQueue queue_;
-  cl::Program program_;
-  cl::Kernel kernel_;
-  std::size_t items_;
-  cl::Buffer points_, observations_, result_;
-};
-
-// Says whose exponential the kernels run. If lanemath is loaded every result must have its bits.
-std::string who_answers(estimator& device) {
-  struct alignas(16) block {
-    float lane[8];
-  };
-  constexpr std::size_t count = 1 << 16;
-  std::vector<float> arguments(count);
-  for (std::size_t i = 0; i < count; ++i) arguments[i] = -90.0f * float(i) / float(count);
-  const auto answers = device.exponentials(arguments);
-
-  const char* name = "__ocl_lanemath_h8_expf8";
-  const auto function = reinterpret_cast<block (*)(block)>(dlsym(RTLD_DEFAULT, name));
-  if (!function) return "the runtime's own exp";
-  std::size_t same = 0;
-  for (std::size_t i = 0; i < count; i += 8) {
-    block x;
-    std::memcpy(&x, &arguments[i], sizeof x);
-    const block y = function(x);
-    for (std::size_t j = 0; j < 8; ++j) same += std::memcmp(&y.lane[j], &answers[i + j], sizeof(float)) == 0;
-  }
-  if (same != count)
-    throw std::runtime_error(fmt::format("only {} of {} results have the bits of {}", same, count, name));
-  return fmt::format("lanemath's exp: all of {} results have the bits of {}", count, name);
 }
 
 double exact_density(double x, const std::vector<double>& observations, double bandwidth) {
@@ -198,9 +81,7 @@ void plot(const std::vector<float>& points, const std::vector<float>& density) {
              fmt::format("{:.2f}", double(points.back())), 25);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) try {
+int run(int argc, char** argv) {
   std::string data, table;
   std::size_t points = 1 << 18;
   int width = 4, repetitions = 20;
@@ -221,20 +102,31 @@ int main(int argc, char** argv) try {
   CLI11_PARSE(app, argc, argv);
 
   points -= points % 16;
-  const auto observations = read_observations(data);
+  const auto observations = example::read_observations(data);
   const auto about = summarise(observations);
   std::vector<float> grid(points);
   const double first = observations.front() - 3 * about.bandwidth, last = observations.back() + 3 * about.bandwidth;
   for (std::size_t i = 0; i < points; ++i) grid[i] = float(first + (last - first) * double(i) / double(points - 1));
 
-  estimator device(observations, about.bandwidth, grid, width);
+  const example::device device(kernel_source, width);
+  auto kernel = device.kernel("density");
+  const auto result = device.output(points);
+  std::vector<float> rounded(observations.begin(), observations.end());
+  rounded.resize((rounded.size() + 3) / 4 * 4, HUGE_VALF);  // e^-infinity adds nothing
+  const auto places = device.input(grid), centres = device.input(rounded);
+  kernel.setArg(0, places);
+  kernel.setArg(1, centres);
+  kernel.setArg(2, cl_int(rounded.size() / 4));
+  kernel.setArg(3, float(1 / about.bandwidth));
+  kernel.setArg(4, float(1 / (double(observations.size()) * about.bandwidth * std::sqrt(2 * std::numbers::pi))));
+  kernel.setArg(5, result);
   const double exponentials = double(points) * double(observations.size());
-  const double nanoseconds = device.run(repetitions) / exponentials;
+  const double nanoseconds = device.time(kernel, cl::NDRange(points / std::size_t(width)), repetitions) / exponentials;
   if (time_only) {
     fmt::print("{:.3f}\n", nanoseconds);
     return 0;
   }
-  const auto density = device.density(points);
+  const auto density = device.read(result, points);
 
   fmt::print("{} observations, mean {:.4f}, standard deviation {:.4f}, bandwidth {:.4f}\n\n", observations.size(),
              about.mean, about.deviation, about.bandwidth);
@@ -247,7 +139,7 @@ int main(int argc, char** argv) try {
     if (!(difference <= 1e-4)) throw std::runtime_error(fmt::format("wrong density {} at {}", density[i], grid[i]));
     if (difference > largest) largest = difference, at = double(grid[i]);
   }
-  fmt::print("\ndevice      {}\nbuilt-in    {}\n", device.device(), who_answers(device));
+  fmt::print("\ndevice      {}\nbuilt-in    {}\n", device.name(), device.who_answers("exp", "expf", -90.0f, 0.0f));
   fmt::print("difference  {:.2e} at most, relative to double precision on the host (at {:.4f})\n", largest, at);
   fmt::print("time        {:.3f} ns per exponential, {:.1f} million of them\n", nanoseconds, exponentials / 1e6);
 
@@ -258,10 +150,10 @@ int main(int argc, char** argv) try {
     for (std::size_t i = 0; i < points; i += step) out.print("{},{}\n", grid[i], density[i]);
   }
   return 0;
-} catch (const cl::Error& error) {
-  fmt::print(stderr, "OpenCL: {} gave error {}\n", error.what(), error.err());
-  return 1;
-} catch (const std::exception& error) {
-  fmt::print(stderr, "{}\n", error.what());
-  return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  return example::guarded([&] { return run(argc, argv); });
 }

@@ -5,7 +5,7 @@
 // plain product and sum, in the direction of MXCSR.
 #include <utility>
 
-#include "fpmanip/fields.h"
+#include "frame/fields.h"
 
 namespace lanemath {
 namespace {

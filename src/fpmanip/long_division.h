@@ -1,7 +1,7 @@
 // What fmod, remainder and remquo share: the kernel's tests, and the long division that their rare lanes go through.
 #pragma once
 
-#include "fpmanip/fields.h"
+#include "frame/fields.h"
 
 namespace lanemath {
 

@@ -1,5 +1,5 @@
 // nextafter: the pattern of x one up or one down. Exact.
-#include "fpmanip/fields.h"
+#include "frame/fields.h"
 
 namespace lanemath {
 namespace {

@@ -28,6 +28,15 @@ inline constexpr error_bound error_bounds[] = {
     {"expm1f", {1.81, 284}},
     {"expm1", {2.97, 5.20e6}},
 
+    {"logf", {1.54, 1568, 3.97, 1.54}},
+    {"log2f", {2.62, 894, 894, 2.62}},
+    {"log10f", {0.771, 996, 996}},
+    {"log1pf", {1.01, 1568}},
+    {"log", {1.60, 2.10e6}},
+    {"log2", {2.10, 2.43e6}},
+    {"log10", {2.10, 2.93e6}},
+    {"log1p", {0.748, 2.10e6}},
+
     {"erff", {1.92, 277}},
     {"erf", {2.58, 3.16e5}},
     {"erfcf", {1.77, 405}},
@@ -61,6 +70,7 @@ inline constexpr standalone_bound standalone_bounds[] = {
     {"exp2f", 4, variant::standard, 2.56},
     {"exp", 2, variant::standard, 2.96},
     {"exp2", 2, variant::standard, 2.60},
+    {"log2", 2, variant::standard, 1.90},
 };
 
 // Families of operations that are exact unless they have a line: each result is the one that the operation's rule

@@ -405,9 +405,14 @@ LANEMATH_INLINE lanes<U, W> convert(const lanes<T, W>& v) {
   using from = register_of<T>;
   using to = typename lanes<U, W>::group;
   if constexpr (W == 1) {
+    // The packed instructions where there are any: the scalar ones keep the rest of their destination, and so wait for
+    // what a call before this one left there.
     if constexpr (std::is_integral_v<T>)
-      // Not the scalar instruction: it keeps the upper part of its register and so waits for what was there.
       result.g[0] = convert_group<U, Truncate>(_mm_cvtsi32_si128(v.g[0]))[0];
+    else if constexpr (std::is_same_v<T, float> && std::is_same_v<U, double>)
+      result.g[0] = convert_group<U, Truncate>(_mm_set_ss(v.g[0]))[0];
+    else if constexpr (std::is_same_v<T, double> && std::is_same_v<U, float>)
+      result.g[0] = convert_group<U, Truncate>(_mm_set_sd(v.g[0]))[0];
     else if constexpr (std::is_floating_point_v<U>)
       result.g[0] = U(v.g[0]);
     else if constexpr (sizeof(T) == 4)

@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "frame/fields.h"
 #include "special/log_extended.h"
 
 namespace lanemath {
@@ -15,14 +16,10 @@ template <class T>
 bool finite(T x) {
   return std::fabs(x) < std::numeric_limits<T>::infinity();
 }
-// What arithmetic makes of a pole, an invalid operation, an overflow and an underflow.
+// What arithmetic makes of a pole, an overflow and an underflow.
 template <class T>
 T pole(T sign = one_v<T>) {
   return opaque(sign) / zero_v<T>;
-}
-template <class T>
-T invalid() {
-  return opaque(zero_v<T>) / zero_v<T>;
 }
 // 2^100 or 2^1000, and their reciprocals, whose squares are beyond the range.
 template <class T>

@@ -13,7 +13,7 @@ int gamma(T x, T& y) {
   constexpr T two = 2;
   if (!finite(x)) {
     const bool minus_infinity = x < zero_v<T>;
-    y = minus_infinity ? invalid<T>() : x + x;
+    y = minus_infinity ? default_nan<T>() : x + x;
     return minus_infinity;
   }
   const T a = std::fabs(x);
@@ -33,7 +33,7 @@ int gamma(T x, T& y) {
   const bool negative = x < zero_v<T>;
   if (negative) {
     if (a >= all_whole<T> || n == a) {
-      y = invalid<T>();
+      y = default_nan<T>();
       return 1;
     }
     if (x < Lane::least) {

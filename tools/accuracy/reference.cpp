@@ -11,6 +11,7 @@ const std::vector<reference>& references() {
     for (const auto family : {
              exponential_references,
              manipulation_references,
+             logarithm_references,
              special_references,
          })
       for (auto& each : family()) joined.push_back(std::move(each));

@@ -7,10 +7,11 @@
 
 void write_exp_tables(table_writer&);
 void write_special_tables(table_writer&);
+void write_log_tables(table_writer&);
 
 int main(int argc, char** argv) {
-  const std::map<std::string, void (*)(table_writer&)> families{{"exp", write_exp_tables},
-                                                                {"special", write_special_tables}};
+  const std::map<std::string, void (*)(table_writer&)> families{
+      {"exp", write_exp_tables}, {"log", write_log_tables}, {"special", write_special_tables}};
   const auto family = argc == 2 ? families.find(argv[1]) : families.end();
   if (family == families.end()) {
     fmt::print(stderr, "usage: {} FAMILY\nfamilies:", argv[0]);

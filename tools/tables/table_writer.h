@@ -56,14 +56,22 @@ class table_writer {
   // entry(j) is a value.
   template <class T, class F>
   void values(std::string_view name, std::string_view meaning, int size, F entry) {
-    table(name, meaning, type<T>(), size, [&](int j) { return literal(T(entry(j))); });
+    table(fmt::format("{}[{}]", name, size), meaning, type<T>(), size, [&](int j) { return literal(T(entry(j))); });
   }
   // entry(j) is a pair, high part first.
   template <class T, class F>
   void pairs(std::string_view name, std::string_view meaning, int size, F entry) {
-    table(name, meaning, fmt::format("two_part<{}>", type<T>()), size, [&](int j) {
+    table(fmt::format("{}[{}]", name, size), meaning, fmt::format("two_part<{}>", type<T>()), size, [&](int j) {
       const auto [hi, lo] = entry(j);
       return fmt::format("{{{}, {}}}", literal(T(hi)), literal(T(lo)));
+    });
+  }
+  // entry(j) is a tuple of three; the table is an array of arrays of three.
+  template <class T, class F>
+  void triples(std::string_view name, std::string_view meaning, int size, F entry) {
+    table(fmt::format("{}[{}][3]", name, size), meaning, type<T>(), size, [&](int j) {
+      const auto [a, b, c] = entry(j);
+      return fmt::format("{{{}, {}, {}}}", literal(T(a)), literal(T(b)), literal(T(c)));
     });
   }
 
@@ -77,8 +85,8 @@ class table_writer {
     return fmt::format("{:a}{}", value, std::is_same_v<T, float> ? "f" : "");
   }
   template <class F>
-  void table(std::string_view name, std::string_view meaning, std::string_view of, int size, F entry) {
-    fmt::print(to_, "\n// {}\nalignas(64) inline constexpr {} {}[{}] = {{\n", meaning, of, name, size);
+  void table(std::string_view declarator, std::string_view meaning, std::string_view of, int size, F entry) {
+    fmt::print(to_, "\n// {}\nalignas(64) inline constexpr {} {} = {{\n", meaning, of, declarator);
     for (int j = 0; j < size; ++j) fmt::print(to_, "    {},\n", entry(j));
     fmt::print(to_, "}};\n");
   }

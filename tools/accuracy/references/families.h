@@ -7,6 +7,7 @@ namespace lanemath::accuracy {
 
 std::vector<reference> exponential_references();
 std::vector<reference> manipulation_references();
+std::vector<reference> logarithm_references();
 std::vector<reference> special_references();
 
 // A function of MPFR with one argument, as an exact function.

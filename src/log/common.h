@@ -1,0 +1,45 @@
+// What the logarithms of both precisions share.
+#pragma once
+
+#include "frame/frame.h"
+
+namespace lanemath {
+
+// A polynomial by Horner's rule, the coefficient of the highest power first; of lanes or of a scalar.
+template <class V, class T, std::size_t N>
+LANEMATH_INLINE V horner(V x, const T (&coefficients)[N]) {
+  V y = coefficients[0];
+  for (std::size_t i = 1; i < N; ++i) y = y * x + coefficients[i];
+  return y;
+}
+
+// Even the widest form is faster in one piece, some of its values on the stack, than with its chains one after another.
+inline constexpr int most_groups = 8;
+
+// What an operation inherits whose rare lanes are those that are no positive normal number. Adding the exponent 1 to
+// the pattern brings all of them below twice that: infinities and NaNs wrap to negative ones.
+template <class T, auto Routine>
+struct rare_unless_normal {
+  using signature = T(T);
+  static constexpr int groups_at_once = most_groups;
+  static constexpr auto rare = Routine;
+  static auto rare_test(auto x) {
+    if constexpr (sizeof(T) == 4)
+      return bits(x) + 0x00800000 < 0x01000000;
+    else
+      return upper(x) + 0x00100000 < 0x00200000;
+  }
+};
+
+// The integer nearest to the processor's estimate of 1 / g, g in a binade. Which integer that is differs between
+// processors; it is then taken as what it is.
+template <int W>
+LANEMATH_INLINE lanes<float, W> integer_near_reciprocal(const lanes<float, W>& g) {
+  return round_to<direction::nearest>(reciprocal_estimate(g));
+}
+template <int W>
+LANEMATH_INLINE lanes<float, W> integer_near_reciprocal(const lanes<double, W>& g) {
+  return integer_near_reciprocal(convert<float>(g));
+}
+
+}  // namespace lanemath

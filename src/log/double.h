@@ -1,0 +1,73 @@
+// The double-precision logarithms: log x = k log 2 + log(2^q / n) + log(1 + z). The mantissa g is in [2^-10, 2^-9), n
+// an integer near 1 / g from 512 to 1024, and z = g n - 1 is small: g taken in two parts makes it almost exact. The
+// table holds the middle term, with q = 9 up to n = 724 and 10 above, so that near 1 no large terms cancel.
+#pragma once
+
+#include "log/common.h"
+#include "tables/log.h"
+
+namespace lanemath {
+
+struct double_log_rows {
+  double P5, P4, P3, P2, P1;  // log(1 + z) by powers of z
+  double LOG2;                // logarithm of 2
+};
+// Natural; of ln(1 + x) as well.
+inline constexpr double_log_rows log_table{
+    .P5 = 0x3FC9999CACDB4D0A_f64,
+    .P4 = 0xBFD0000148058EE1_f64,
+    .P3 = 0x3FD55555555543C5_f64,
+    .P2 = 0xBFDFFFFFFFFFF81F_f64,
+    .P1 = 1.0,
+    .LOG2 = 0x3FE62E42FEFA39EF_f64,
+};
+
+template <class V>
+LANEMATH_INLINE V scaled_mantissa(V x) {
+  return from_bits((bits(x) & 0x000FFFFFFFFFFFFF) | 0x3F50000000000000);
+}
+
+// Of integers from 512 to 1024, in their table.
+template <int W>
+LANEMATH_INLINE lanes<std::int32_t, W> index_of_integer(const lanes<float, W>& n) {
+  return (bits(n) >> 14) - 0x11000;
+}
+
+// The factor 1 of the natural logarithm costs nothing.
+template <bool IsOne, class V>
+LANEMATH_INLINE V times(V x, double factor) {
+  if constexpr (IsOne)
+    return x;
+  else
+    return x * factor;
+}
+
+// y + log(2^q / n) + k log 2, given the number and its n.
+template <auto& c, auto& table, class V, class N>
+LANEMATH_INLINE V with_exponent_term(V y, V x, N n) {
+  const auto k = (upper(x) >> 20) - 1022 + (n > 724.0f);  // the mask is -1
+  return (y + look_up(table, index_of_integer(n))) + times<c.LOG2 == 1.0>(convert<double>(k), c.LOG2);
+}
+
+template <auto& c, auto& table, class V>
+LANEMATH_INLINE V double_log(V x) {
+  const V g = scaled_mantissa(x);
+  const auto near = integer_near_reciprocal(g);
+  const V n = convert<double>(near);
+  const V gh = from_bits(bits(g) & std::int64_t(0xFFFFFFFFFC000000)), gl = g - gh;
+  const V z = (gh * n - 1.0) + gl * n;
+  const V s = z * z;
+  const V y = s * ((c.P5 * z + c.P4) * s + (c.P3 * z + c.P2)) + times<c.P1 == 1.0>(z, c.P1);
+  return with_exponent_term<c, table>(y, x, near);
+}
+
+template <auto& c, auto& table, class V>
+LANEMATH_INLINE V light_double_log(V x) {
+  const V g = scaled_mantissa(x);
+  const auto near = integer_near_reciprocal(g);
+  const V z = g * convert<double>(near) - 1.0;
+  const V y = (c.P3 * z + c.P2) * (z * z) + times<c.P1 == 1.0>(z, c.P1);
+  return with_exponent_term<c, table>(y, x, near);
+}
+
+}  // namespace lanemath

@@ -1,0 +1,32 @@
+// ln x, double precision, by the method in double.h. _native takes g in one part and drops two powers of z.
+//
+// Largest errors found, in ulp: default 1.549 at 0.16272232435971046 (0x3FC4D415CABA1EA8), _native 2.095e6 at
+// 0.9990239148616975 (0x3FEFF80100481796); denormals 0.5000.
+#include "log/double.h"
+#include "log/rare.h"
+
+namespace lanemath {
+namespace {
+
+using log_guards = rare_unless_normal<double, log_rare>;
+
+struct log_standard : log_guards {
+  template <class V>
+  static V kernel(V x) {
+    return double_log<log_table, ln_of_integers>(x);
+  }
+};
+
+struct log_native : log_guards {
+  template <class V>
+  static V kernel(V x) {
+    return light_double_log<log_table, ln_of_integers>(x);
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(unary, log, log_standard, )
+LANEMATH_EXPORT(unary, log, log_native, _native)
+
+}  // namespace lanemath

@@ -1,0 +1,41 @@
+// log10 x, double precision, by the method in double.h. _native takes g in one part and drops two powers of z.
+//
+// Largest errors found, in ulp: default 2.059 at 1.0004979673362322 (0x3FF0020A2816C70A), _native 2.919e6 at
+// 0.998901517876654 (0x3FEFF70050E68F44); denormals 0.5000.
+#include "log/double.h"
+#include "log/rare.h"
+
+namespace lanemath {
+namespace {
+
+constexpr double_log_rows log10_table{
+    .P5 = 0x3FB63C65231FBD16_f64,
+    .P4 = 0xBFBBCB7D4EFBE80B_f64,
+    .P3 = 0x3FC287A7636F341E_f64,
+    .P2 = 0xBFCBCB7B1526DE36_f64,
+    .P1 = 0x3FDBCB7B1526E50E_f64,
+    .LOG2 = 0x3FD34413509F79FF_f64,
+};
+
+using log10_guards = rare_unless_normal<double, log10_rare>;
+
+struct log10_standard : log10_guards {
+  template <class V>
+  static V kernel(V x) {
+    return double_log<log10_table, log10_of_integers>(x);
+  }
+};
+
+struct log10_native : log10_guards {
+  template <class V>
+  static V kernel(V x) {
+    return light_double_log<log10_table, log10_of_integers>(x);
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(unary, log10, log10_standard, )
+LANEMATH_EXPORT(unary, log10, log10_native, _native)
+
+}  // namespace lanemath
