@@ -16,6 +16,12 @@ template <class T>
 bool finite(T x) {
   return std::fabs(x) < std::numeric_limits<T>::infinity();
 }
+// (y - 2^k) / 2^k
+inline extended within_octave(extended y, std::int32_t k) {
+  const auto power = [](std::int32_t exponent) { return std::bit_cast<double>(std::uint64_t(1023 + exponent) << 52); };
+  return (y - power(k)) * power(-k);
+}
+
 // What arithmetic makes of a pole, an overflow and an underflow.
 template <class T>
 T pole(T sign = one_v<T>) {

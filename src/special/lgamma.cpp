@@ -16,8 +16,7 @@ constexpr extended minimum_of_gamma = 0xBB16C31AB5F1FC00p-63L;
 extended on_interval(extended y, std::int32_t high) {
   if (high >= 0x40100000) {
     const auto k = std::min((high >> 20) - 0x401, 6);
-    const extended start = extended(4 << k);
-    return value_of(lgamma_octaves[k], (y - start) * (1.0L / start));
+    return value_of(lgamma_octaves[k], within_octave(y, k + 2));
   }
   if (high >= 0x40020000) return (y - 2.0L) * value_of(lgamma_to_4[0], y);
   if (high >= 0x3FFC0000) return (y - 2.0L) * horner(lgamma_at_2, y - 2.0L);

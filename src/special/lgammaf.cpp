@@ -38,8 +38,7 @@ constexpr double minimum_of_gamma = 0x3FF762D86356BE3F_f64;
 extended on_interval(extended y, std::int32_t high) {
   if (high >= 0x40100000) {
     const auto k = std::min((high >> 20) - 0x401, 10);
-    const extended start = extended(4 << k);
-    return even_and_odd(lgammaf_octaves[k], (y - start) * (1.0L / start));
+    return even_and_odd(lgammaf_octaves[k], within_octave(y, k + 2));
   }
   if (high >= 0x40000000) return (y - 2.0L) * even_and_odd(to_4, y);
   if (high >= 0x3FFC0000) return even_and_odd(to_2, y);
