@@ -5,7 +5,7 @@
 // second operand of a minimum.
 #include "special/grid.h"
 
-namespace lanemath {
+namespace lanemath::special {
 namespace {
 
 constexpr float erff_cap = 0x407B8000_f32;      // 3.9296875, the last point
@@ -101,4 +101,4 @@ LANEMATH_EXPORT(unary, erff, erff_native, _native)
 LANEMATH_EXPORT(unary, erf, erf_op<false>, )
 LANEMATH_EXPORT(unary, erf, erf_op<true>, _native)
 
-}  // namespace lanemath
+}  // namespace lanemath::special

@@ -8,7 +8,7 @@
 // Rare lanes: where the result rounds to zero, and NaNs.
 #include "special/grid.h"
 
-namespace lanemath {
+namespace lanemath::special {
 namespace {
 
 // From here on the result is rare: under half of the smallest denormal, but for the first float.
@@ -169,4 +169,4 @@ LANEMATH_EXPORT(unary, erfcf, erfcf_native, _native)
 LANEMATH_EXPORT(unary, erfc, erfc_standard, )
 LANEMATH_EXPORT(unary, erfc, erfc_native, _native)
 
-}  // namespace lanemath
+}  // namespace lanemath::special

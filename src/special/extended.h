@@ -6,7 +6,7 @@
 
 #include "frame/frame.h"
 
-namespace lanemath {
+namespace lanemath::special {
 
 using extended = long double;
 static_assert(std::numeric_limits<extended>::digits == 64);
@@ -65,4 +65,4 @@ T nearest_integer(T x) {
   return (x + shifter) - shifter;
 }
 
-}  // namespace lanemath
+}  // namespace lanemath::special

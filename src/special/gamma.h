@@ -6,7 +6,7 @@
 #include "frame/fields.h"
 #include "special/log_extended.h"
 
-namespace lanemath {
+namespace lanemath::special {
 
 inline constexpr extended half_log_2_pi = 0xEB3F8E4325F5A535p-64L;
 
@@ -116,4 +116,4 @@ struct scalar_gamma_with_sign {
   }
 };
 
-}  // namespace lanemath
+}  // namespace lanemath::special

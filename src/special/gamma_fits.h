@@ -3,7 +3,7 @@
 
 #include "special/extended.h"
 
-namespace lanemath {
+namespace lanemath::special {
 
 // log-gamma at 2^(k+2) (1 + u), in u, highest power first
 inline constexpr double lgammaf_octaves[11][11] = {
@@ -726,4 +726,4 @@ inline constexpr extended tgamma_sine[] = {
     -0xC354723906DAD1ADp-66L, 0xCFCE5A015E236254p-64L,  -0xD28D3312983E9918p-63L,
 };
 
-}  // namespace lanemath
+}  // namespace lanemath::special

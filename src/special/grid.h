@@ -4,7 +4,7 @@
 #include "frame/frame.h"
 #include "tables/special.h"
 
-namespace lanemath {
+namespace lanemath::special {
 
 template <class V>
 struct grid_point {
@@ -28,4 +28,4 @@ grid_point<V> nearest_point(const two_part<T> (&grid)[Size], T shifter, V b) {
   }
 }
 
-}  // namespace lanemath
+}  // namespace lanemath::special

@@ -6,7 +6,7 @@
 // quadratics.
 #include "special/gamma.h"
 
-namespace lanemath {
+namespace lanemath::special {
 namespace {
 
 // Where gamma is least, short of its last bits.
@@ -121,4 +121,4 @@ LANEMATH_RARE lgammar_rare(const double* px, double* py, std::int32_t* sign) {
 LANEMATH_EXPORT(unary, lgamma, scalar_gamma<lgamma_rare>, )
 LANEMATH_EXPORT(binary, lgammar, scalar_gamma_with_sign<lgammar_rare>, )
 
-}  // namespace lanemath
+}  // namespace lanemath::special

@@ -5,7 +5,7 @@
 // on down reflected. Next to its zeros on the negative axis an expansion of the function about the zero.
 #include "special/gamma.h"
 
-namespace lanemath {
+namespace lanemath::special {
 namespace {
 
 // Polynomials, highest power first: in x between 1 and 1.25, in the distance from the minimum of gamma to 1.5, in x to
@@ -111,4 +111,4 @@ LANEMATH_RARE lgammarf_rare(const float* px, float* py, std::int32_t* sign) {
 LANEMATH_EXPORT(unary, lgammaf, scalar_gamma<lgammaf_rare>, )
 LANEMATH_EXPORT(binary, lgammarf, scalar_gamma_with_sign<lgammarf_rare>, )
 
-}  // namespace lanemath
+}  // namespace lanemath::special

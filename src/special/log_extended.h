@@ -3,7 +3,7 @@
 
 #include "special/gamma_fits.h"
 
-namespace lanemath {
+namespace lanemath::special {
 
 // Of a positive finite number, neither 0 nor denormal in x87's own format. Error under 2^-63 relative.
 //
@@ -43,4 +43,4 @@ namespace lanemath {
   return (k * log_2[0].hi + value.hi) + (f + (rest + (value.lo + k * log_2[0].lo)));
 }
 
-}  // namespace lanemath
+}  // namespace lanemath::special

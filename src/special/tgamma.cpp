@@ -4,7 +4,7 @@
 // polynomials from 1 to 2, from 2 on a product of quadratics for each stretch of 16 integers.
 #include "special/tgamma.h"
 
-namespace lanemath {
+namespace lanemath::special {
 namespace {
 
 struct tgamma_lane {
@@ -39,4 +39,4 @@ LANEMATH_RARE tgamma_rare(const double* px, double* py) { return at_full_precisi
 
 LANEMATH_EXPORT(unary, tgamma, scalar_gamma<tgamma_rare>, )
 
-}  // namespace lanemath
+}  // namespace lanemath::special

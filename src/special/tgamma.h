@@ -3,7 +3,7 @@
 
 #include "special/gamma.h"
 
-namespace lanemath {
+namespace lanemath::special {
 
 // Gamma of one lane. `Lane` says the arithmetic to work in (`real`), the rows of its products of quadratics and how
 // many integers a row serves, gamma between 1 and 2 (`below_2`), sin(pi t) / pi (`sine`), and where the range ends.
@@ -66,4 +66,4 @@ int gamma(T x, T& y) {
   return 0;
 }
 
-}  // namespace lanemath
+}  // namespace lanemath::special

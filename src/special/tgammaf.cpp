@@ -4,7 +4,7 @@
 // quadratics for each stretch of eight integers and the recurrence down to it. Below 0 reflected.
 #include "special/tgamma.h"
 
-namespace lanemath {
+namespace lanemath::special {
 namespace {
 
 // Polynomials between 1 and 2, highest power first: in y - 1, from 1.25 to 1.5 in the distance from the minimum.
@@ -49,8 +49,8 @@ struct tgammaf_lane {
   static constexpr float last_row = -40.0f;
   static constexpr double last_row_scale = 5.546450927971236e-46;
 
-  static double below_2(double y) { return lanemath::below_2(y); }
-  static double sine(double t) { return lanemath::sine(t); }
+  static double below_2(double y) { return special::below_2(y); }
+  static double sine(double t) { return special::sine(t); }
 };
 
 LANEMATH_RARE tgammaf_rare(const float* px, float* py) { return gamma<tgammaf_lane>(*px, *py); }
@@ -59,4 +59,4 @@ LANEMATH_RARE tgammaf_rare(const float* px, float* py) { return gamma<tgammaf_la
 
 LANEMATH_EXPORT(unary, tgammaf, scalar_gamma<tgammaf_rare>, )
 
-}  // namespace lanemath
+}  // namespace lanemath::special

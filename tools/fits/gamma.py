@@ -94,7 +94,7 @@ print("""// Made by tools/fits/gamma.py.
 
 #include "special/extended.h"
 
-namespace lanemath {""")
+namespace lanemath::special {""")
 
 # lgamma, single precision
 
@@ -227,4 +227,4 @@ polynomial_table("gamma between 1.5 and 2, in y - 1", "tgamma_to_2",
 polynomial_table("(sin(pi t) / (pi t) - 1) / t^2 for t up to 1/2, in t^2", "tgamma_sine",
                  polynomial(lambda s: (sine(s) - 1) / s, tiny, mpf("0.25"), 8, 0, "sine"))
 
-print("\n}  // namespace lanemath")
+print("\n}  // namespace lanemath::special")
