@@ -81,7 +81,7 @@ inline constexpr error_bound error_bounds[] = {
     {"atan2pif", {6.30, 3780}},
 
     {"sinf", {2.59, 2540, 2540, 2540}},
-    {"cosf", {2.40, 2540, 2540, 2540}},
+    {"cosf", {2.52, 2540, 2540, 2540}},
     {"sincosf", {2.89, 2540, 0, 2540}},
     {"sincosregf", {2.89, 2540}},
     {"sin", {3.68, 6.15e7}},
@@ -109,6 +109,17 @@ inline constexpr error_bound error_bounds[] = {
     {"asinh", {1.72, 2.64e5}},
     {"acosh", {4.36, 2.64e5}},
     {"atanh", {1.6, 2.64e5}},
+
+    {"erff", {1.93, 277}},
+    {"erf", {2.56, 3.15e5}},
+    {"erfcf", {1.77, 405}},
+    {"erfc", {2.04, 6.90e6}},
+    {"lgammaf", {0.511}},
+    {"lgamma", {0.512}},
+    {"lgammarf", {0.511}},
+    {"lgammar", {0.512}},
+    {"tgammaf", {0.504}},
+    {"tgamma", {0.504}},
 
     {"fdim", {0.5}},
     {"fdimf", {0.5}},

@@ -17,6 +17,7 @@ const std::vector<reference>& references() {
              power_references,
              root_references,
              hyperbolic_references,
+             special_references,
          })
       for (auto& each : family()) joined.push_back(std::move(each));
     return joined;

@@ -12,6 +12,7 @@ void write_trig_tables(table_writer&);
 void write_invtrig_tables(table_writer&);
 void write_hyperbolic_tables(table_writer&);
 void write_roots_tables(table_writer&);
+void write_special_tables(table_writer&);
 
 int main(int argc, char** argv) {
   const std::map<std::string, void (*)(table_writer&)> families{
@@ -22,6 +23,7 @@ int main(int argc, char** argv) {
       {"invtrig", write_invtrig_tables},
       {"hyperbolic", write_hyperbolic_tables},
       {"roots", write_roots_tables},
+      {"special", write_special_tables},
   };
   const auto family = argc == 2 ? families.find(argv[1]) : families.end();
   if (family == families.end()) {

@@ -13,6 +13,7 @@ std::vector<reference> logarithm_references();
 std::vector<reference> power_references();
 std::vector<reference> root_references();
 std::vector<reference> hyperbolic_references();
+std::vector<reference> special_references();
 
 // A function of MPFR with one argument, as an exact function.
 template <auto F>

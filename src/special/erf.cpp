@@ -1,0 +1,104 @@
+// The error function.
+//
+// Value and slope at the nearest point m of a grid of 1/128, and an expansion in d = |x| - m. From the last point on
+// the result is 1. _native: one term (erff) or three (erf) fewer. There are no rare lanes: a NaN gets through as the
+// second operand of a minimum.
+#include "special/grid.h"
+
+namespace lanemath::special {
+namespace {
+
+constexpr float erff_cap = 0x407B8000_f32;      // 3.9296875, the last point
+constexpr float erff_shifter = 0x47800000_f32;  // 2^16
+
+template <class V>
+V erff_with_sign(V x, V v, const grid_point<V>& at) {
+  return with_bits(v * at.D + at.E, sign_of(x));
+}
+
+struct erff_standard {
+  using signature = float(float);
+
+  template <class V>
+  static V kernel(V x) {
+    const V a = magnitude(x);
+    const V b = minimum(a, erff_cap);
+    const auto at = nearest_point(erff_grid, erff_shifter, b);
+    const V d = b - at.m;
+    const V e = where(b > 0x2F800000_f32, d);  // 2^-32
+    const V w = at.m * d;
+    const V v = minimum(d, a);
+    V u = (e * e) * 0xBEAAAADE_f32 - w;
+    u = u * v;
+    return erff_with_sign(x, v + u, at);
+  }
+};
+
+struct erff_native {
+  using signature = float(float);
+
+  template <class V>
+  static V kernel(V x) {
+    const V a = magnitude(x);
+    const V b = minimum(a, erff_cap);
+    const auto at = nearest_point(erff_grid, erff_shifter, b);
+    return erff_with_sign(x, minimum(b - at.m, a), at);
+  }
+};
+
+struct erf_rows {
+  double cap;      // 5.9921875, the last point
+  double shifter;  // 2^45
+  double tiny;     // 2^-256
+};
+constexpr erf_rows erf_table{
+    .cap = 0x4017F80000000000_f64,
+    .shifter = 0x42C0000000000000_f64,
+    .tiny = 0x2FF0000000000000_f64,
+};
+
+// The relative correction of the first-order term.
+template <class V>
+V erf_correction(V w, V z) {
+  const V A =
+      ((0xBFA6C16DB05BDEA5_f64 * w + 0x3FC1111235A363B1_f64) * w + 0xBFD55555555547F6_f64) * w + 0x3FE5555555554B0C_f64;
+  const V B = ((0x3FCC71CA1C71EB57_f64 * w + 0xBFD9999C2BE2DDA8_f64) * w + 0x3FDFFFFFFFFFD4CD_f64) * w;
+  const V C = (0xBFC5555800001B4F_f64 * w + 0x3FB9999E2BE2F122_f64) * z + 0xBFD5555555555555_f64;
+  return z * (B + C) + (A * (w * w) - w);
+}
+template <class V>
+V erf_native_correction(V w, V z) {
+  return w * (0x3FE55557BBBBDCA6_f64 * w + 0xBFF0000180001429_f64) +
+         z * (0x3FE0000400005666_f64 * w + 0xBFD5555C88892F64_f64);
+}
+
+template <bool Native>
+struct erf_op {
+  using signature = double(double);
+
+  template <class V>
+  static V kernel(V x) {
+    constexpr auto& c = erf_table;
+    const V a = magnitude(x);
+    const auto s = sign_of(x);
+    const V b = minimum(a, c.cap);
+    const auto at = nearest_point(erf_grid, c.shifter, b);
+    const V d = b - at.m;
+    const V e = where(b > c.tiny, d);
+    const V z = e * e;
+    const V w = at.m * d;
+    const V v = from_bits(bits(minimum(d, a)) ^ s);
+    const V p = Native ? erf_native_correction(w, z) : erf_correction(w, z);
+    const V u = at.D * v;
+    return (u + p * u) + with_bits(at.E, s);
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(unary, erff, erff_standard, )
+LANEMATH_EXPORT(unary, erff, erff_native, _native)
+LANEMATH_EXPORT(unary, erf, erf_op<false>, )
+LANEMATH_EXPORT(unary, erf, erf_op<true>, _native)
+
+}  // namespace lanemath::special

@@ -1,0 +1,172 @@
+// The complementary error function, 1 - erf(x).
+//
+// Value and slope at the nearest point m of a grid and an expansion in d = |x| - m, as for erf. The table is scaled by
+// a power of two that keeps the far right tail normal, so that the last multiplication is the one rounding of a
+// denormal result. To the left of 0 the result is 2 - erfc(|x|): one more summand and the multiplier's sign. _native: a
+// grid of half as many points and a shorter expansion.
+//
+// Rare lanes: where the result rounds to zero, and NaNs.
+#include "special/grid.h"
+
+namespace lanemath::special {
+namespace {
+
+// From here on the result is rare: under half of the smallest denormal, but for the first float.
+constexpr float erfcf_bound = 0x4120DDFB_f32;
+constexpr double erfc_bound = 0x403B39DC41E48BFD_f64;
+
+// What follows from the table's scale of 2^48 or 2^128 and from the sign.
+template <class T>
+struct erfc_scale;
+template <>
+struct erfc_scale<float> {
+  static constexpr float up = 0x57800000_f32, down = 0x27800000_f32;
+};
+template <>
+struct erfc_scale<double> {
+  static constexpr double up = 0x47F0000000000000_f64, down = 0x37F0000000000000_f64;
+};
+
+// x taken apart by a grid whose last point is `cap`, and the result put together.
+template <class V>
+struct erfc_parts {
+  using T = typename V::value_type;
+  using scale = erfc_scale<T>;
+
+  V k;  // 0 or minus twice the scale
+  V f;  // the scale undone, with the sign
+  grid_point<V> at;
+  V d, w, z;
+
+  template <std::size_t Size>
+  LANEMATH_INLINE erfc_parts(V x, const two_part<T> (&grid)[Size], T cap, T shifter) {
+    const V b = minimum(magnitude(x), cap);
+    at = nearest_point(grid, shifter, b);
+    const auto g = sign_of(x);
+    k = with_bits(V(scale::up), g) - scale::up;
+    f = with_bits(V(scale::down), g);
+    d = maximum(b, scale::down) - at.m;
+    w = at.m * d;
+    z = d * d;
+  }
+  // `drop` is how much the value falls from the grid point on.
+  LANEMATH_INLINE V result(V drop) const { return ((at.E - drop) + k) * f; }
+};
+
+LANEMATH_RARE erfcf_rare(const float* px, float* py) {
+  const float x = *px;
+  if (!(x < std::numeric_limits<float>::infinity())) {
+    *py = x != x ? x * x : 0.0f;
+    return 0;
+  }
+  if (double(x) < 0x40241BBF700DC3FB_f64) {  // one float
+    *py = std::numeric_limits<float>::denorm_min();
+    return 0;
+  }
+  const double tiny = opaque(std::numeric_limits<double>::min());
+  *py = float(tiny * tiny);
+  return 4;
+}
+
+LANEMATH_RARE erfc_rare(const double* px, double* py) {
+  const double x = *px;
+  if (!(x < std::numeric_limits<double>::infinity())) {
+    *py = x != x ? x * x : 0.0;
+    return 0;
+  }
+  const double tiny = opaque(std::numeric_limits<double>::min());
+  *py = tiny * tiny;
+  return 4;
+}
+
+struct erfcf_guard {
+  using signature = float(float);
+  static constexpr auto rare = erfcf_rare;
+  static auto rare_test(auto x) { return ~(x < erfcf_bound); }
+};
+struct erfc_guard {
+  using signature = double(double);
+  static constexpr auto rare = erfc_rare;
+  static auto rare_test(auto x) { return ~(x < erfc_bound); }
+};
+
+struct erfcf_standard : erfcf_guard {
+  template <class V>
+  static V kernel(V x) {
+    const erfc_parts<V> part(x, erfcf_grid, 0x41210000_f32, 0x48000000_f32);  // 10.0625, 2^17
+    const V w = part.w;
+    const V p = ((0x3E08A7CA_f32 * w + 0xBEAACF22_f32) * w + 0x3F2AAAA6_f32) * w + 0xBF7FFFFC_f32;
+    const V q = 0x3F005B36_f32 * w + 0xBEAB4EDB_f32;
+    const V u = (w * p + q * part.z) * part.at.D;
+    const V v = part.at.D + u;
+    return part.result(part.d * v);
+  }
+};
+
+struct erfcf_native : erfcf_guard {
+  template <class V>
+  static V kernel(V x) {
+    const erfc_parts<V> part(x, erfcf_native_grid, 0x41210000_f32, 0x48800000_f32);  // 10.0625, 2^18
+    const V w = part.w;
+    const V p = (0xBEAB6147_f32 * w + 0x3F2B4F03_f32) * w + 0xBF7FFF8B_f32;
+    const V u = (w * p) * part.at.D;
+    const V v = part.at.D + u;
+    return part.result(part.d * v);
+  }
+};
+
+struct erfc_standard : erfc_guard {
+  template <class V>
+  static V kernel(V x) {
+    const erfc_parts<V> part(x, erfc_grid, 0x403B3E0000000000_f64, 0x42C0000000000000_f64);  // 27.2421875, 2^45
+    const V w = part.w, z = part.z;
+    V P = 0xBF2282C89A04C65F_f64 * w + 0x3F472360BAC04E70_f64;
+    P = P * w + 0xBF6A019F4F234617_f64;
+    P = P * w + 0x3F8A019F5AEED25F_f64;
+    P = P * w + 0xBFA6C16C16D06420_f64;
+    P = P * w + 0x3FC11111111AB082_f64;
+    P = P * w + 0xBFD555555555548A_f64;
+    P = P * w + 0x3FE55555555554CF_f64;
+    V Q = 0xBF8441DF86900A46_f64 * w + 0x3FA117ABF1FEA28C_f64;
+    Q = Q * w + 0xBFB8618412BC79EC_f64;
+    Q = Q * w + 0x3FCC71C4B73B20B6_f64;
+    Q = Q * w + 0xBFD9999999F3D838_f64;
+    Q = Q * w + 0x3FE0000000379730_f64;
+    V R = 0xBFB56433674BA5C2_f64 * w + 0x3FC256E8E6045CDF_f64;
+    R = R * w + 0xBFC5554E249FF4A7_f64;
+    R = R * w + 0x3FB9998F9D0729DA_f64;
+    R = R * z + 0xBFD5555555554ADD_f64;
+    const V u = z * (Q * w + R) - w;
+    const V p = P * (w * w) + u;
+    const V v = part.d * part.at.D;
+    return part.result(v + p * v);
+  }
+};
+
+struct erfc_native : erfc_guard {
+  template <class V>
+  static V kernel(V x) {
+    const erfc_parts<V> part(x, erfc_native_grid, 0x403B3C0000000000_f64, 0x42D0000000000000_f64);  // 27.234375, 2^46
+    const V w = part.w, z = part.z;
+    V P = 0xBF6A1FDD30652EA1_f64 * w + 0x3F8A1F05F5094FB6_f64;
+    P = P * w + 0xBFA6C15C3DA087D4_f64;
+    P = P * w + 0x3FC111066671A484_f64;
+    P = P * w + 0xBFD555555ADC4EA0_f64;
+    P = P * w + 0x3FE555555933BC54_f64;
+    V Q = 0x3FCCBC5887DF9127_f64 * w + 0xBFD9E0A0FBE743D2_f64;
+    Q = Q * w + 0x3FDFFF6F976A22C5_f64;
+    Q = Q * w + 0xBFD554EE2F28F34D_f64;
+    const V p = P * (w * w) + (w * 0xBFEFFFFFFFFEB794_f64 + Q * z);
+    const V v = part.d * part.at.D;
+    return part.result(v + p * v);
+  }
+};
+
+}  // namespace
+
+LANEMATH_EXPORT(unary, erfcf, erfcf_standard, )
+LANEMATH_EXPORT(unary, erfcf, erfcf_native, _native)
+LANEMATH_EXPORT(unary, erfc, erfc_standard, )
+LANEMATH_EXPORT(unary, erfc, erfc_native, _native)
+
+}  // namespace lanemath::special

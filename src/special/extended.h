@@ -1,0 +1,68 @@
+// Arithmetic with the 64-bit significand of x87 registers, in which the gamma functions work lane by lane.
+#pragma once
+
+#include <cstring>
+#include <iterator>
+
+#include "frame/frame.h"
+
+namespace lanemath::special {
+
+using extended = long double;
+static_assert(std::numeric_limits<extended>::digits == 64);
+
+// scale times a product of x^2 + a x + b: what keeps a polynomial of high degree as good as its factors.
+template <class T, int Factors>
+struct quadratics {
+  T scale;
+  T a[Factors], b[Factors];
+};
+
+template <class T, int Factors>
+T value_of(const quadratics<T, Factors>& c, T x) {
+  const T s = x * x;
+  T product = c.scale;
+  for (int i = 0; i < Factors; ++i) product = product * (s + c.a[i] * x + c.b[i]);
+  return product;
+}
+
+// c[0] x^(Size-1) + ... + c[Size-1]
+template <class C, std::size_t Size, class X>
+X horner(const C (&c)[Size], X x) {
+  X sum = c[0];
+  for (std::size_t i = 1; i < Size; ++i) sum = sum * x + c[i];
+  return sum;
+}
+
+// The same as its even part plus x times its odd part, two chains that do not wait for each other.
+template <class C, std::size_t Size, class X>
+X even_and_odd(const C (&c)[Size], X x) {
+  const X s = x * x;
+  X with_last = c[(Size - 1) % 2], other = c[Size % 2];
+  for (std::size_t i = 2 + (Size - 1) % 2; i < Size; i += 2) with_last = with_last * s + c[i];
+  for (std::size_t i = 2 + Size % 2; i < Size; i += 2) other = other * s + c[i];
+  return with_last + x * other;
+}
+
+// Runs a routine with the precision control of x87 at its full 64 bits. The control word is left as it was found.
+template <auto Routine, class... Pointers>
+int at_full_precision(Pointers... lanes_of) {
+  std::uint16_t found;
+  asm volatile("fnstcw %0" : "=m"(found)::"memory");
+  constexpr std::uint16_t precision = 0x300;
+  if ((found & precision) == precision) return Routine(lanes_of...);
+  const std::uint16_t full = found | precision;
+  asm volatile("fldcw %0" ::"m"(full) : "memory");
+  const int status = Routine(lanes_of...);
+  asm volatile("fldcw %0" ::"m"(found) : "memory");
+  return status;
+}
+
+// The nearest integer where |x| is below 2^22 or 2^51, by a rounding constant in the lane's own precision.
+template <class T>
+T nearest_integer(T x) {
+  constexpr T shifter = sizeof(T) == 4 ? T(0x1.8p23) : T(0x1.8p52);
+  return (x + shifter) - shifter;
+}
+
+}  // namespace lanemath::special

@@ -1,0 +1,119 @@
+// What the gamma functions share. None has a vector kernel: every lane goes through a scalar routine.
+#pragma once
+
+#include <cmath>
+
+#include "frame/fields.h"
+#include "special/log_extended.h"
+
+namespace lanemath::special {
+
+inline constexpr extended half_log_2_pi = 0xEB3F8E4325F5A535p-64L;
+
+inline std::int32_t upper_half(double x) { return std::int32_t(std::bit_cast<std::uint64_t>(x) >> 32); }
+
+template <class T>
+bool finite(T x) {
+  return std::fabs(x) < std::numeric_limits<T>::infinity();
+}
+// (y - 2^k) / 2^k
+inline extended within_octave(extended y, std::int32_t k) {
+  const auto power = [](std::int32_t exponent) { return std::bit_cast<double>(std::uint64_t(1023 + exponent) << 52); };
+  return (y - power(k)) * power(-k);
+}
+
+// What arithmetic makes of a pole, an overflow and an underflow.
+template <class T>
+T pole(T sign = one_v<T>) {
+  return opaque(sign) / zero_v<T>;
+}
+// 2^100 or 2^1000, and their reciprocals, whose squares are beyond the range.
+template <class T>
+inline constexpr T far_up = sizeof(T) == 4 ? T(0x1p100) : T(0x1p1000);
+template <class T>
+inline constexpr T far_down = sizeof(T) == 4 ? T(0x1p-100) : T(0x1p-1000);
+template <class T>
+T overflowed(T sign_from) {
+  return opaque(std::copysign(far_up<T>, sign_from)) * far_up<T>;
+}
+template <class T>
+T underflowed(T sign_from) {
+  return opaque(std::copysign(far_down<T>, sign_from)) * far_down<T>;
+}
+
+// From here on every number is a whole one.
+template <class T>
+inline constexpr T all_whole = sizeof(T) == 4 ? T(0x1p23) : T(0x1p52);
+
+// Whether x is a whole number, and whether its integer part is odd.
+template <class T>
+struct integer_part {
+  bool whole = true, odd = false;
+  explicit integer_part(T x) {
+    if (std::fabs(x) >= all_whole<T>) return;
+    const auto n = int_of_size<sizeof(T)>(x);
+    whole = T(n) == x;
+    odd = n % 2 != 0;
+  }
+};
+
+// log|gamma(x)| of one lane and the sign of gamma. `Lane` tells where the result is known and computes it elsewhere.
+template <class Lane, class T>
+int log_gamma(T x, T& y, std::int32_t& sign) {
+  sign = 1;
+  if (!finite(x)) {
+    y = x * x;
+    return 0;
+  }
+  if (x == zero_v<T>) {
+    sign = std::signbit(x) ? -1 : 1;
+    y = pole<T>();
+    return 2;
+  }
+  if (Lane::exact_zero(x)) {
+    y = zero_v<T>;
+    return 0;
+  }
+  if (Lane::overflows(x)) {
+    y = overflowed(x);
+    return 3;
+  }
+  if (x < zero_v<T>) {
+    const integer_part<T> n(x);
+    if (n.whole) {
+      y = pole<T>();
+      return 2;
+    }
+    sign = n.odd ? 1 : -1;
+  }
+  y = Lane::value(x);
+  return 0;
+}
+
+template <class T>
+T argument_of(int (*)(const T*, T*));
+template <class T>
+T argument_of(int (*)(const T*, T*, std::int32_t*));
+
+template <auto Routine>
+struct scalar_gamma {
+  using T = decltype(argument_of(Routine));
+  using signature = T(T);
+  static constexpr bool always_scalar = true;
+  static constexpr auto rare = Routine;
+  static auto kernel(auto x) { return x; }
+};
+
+template <auto Routine>
+struct scalar_gamma_with_sign {
+  using T = decltype(argument_of(Routine));
+  using signature = through_pointer<T, std::int32_t>(T);
+  static constexpr bool always_scalar = true;
+  static constexpr auto rare = Routine;
+  template <class V>
+  static two_results<V, lanes<std::int32_t, V::width>> kernel(V x) {
+    return {x, lanes<std::int32_t, V::width>(0)};
+  }
+};
+
+}  // namespace lanemath::special

@@ -1,0 +1,124 @@
+// log|gamma(x)|, double precision, by itself and with the sign of gamma.
+//
+// Every lane by itself in x87 arithmetic at its full precision, in the manner of the single-precision routine: an
+// interval's or an octave's polynomial upward of 0.875, Stirling's formula from 512 on, walked up below, reflected
+// below -17, and expansions about the 26 zeros between -15 and -2. From 2.25 on the polynomials are products of
+// quadratics.
+#include "special/gamma.h"
+
+namespace lanemath::special {
+namespace {
+
+// Where gamma is least, short of its last bits.
+constexpr extended minimum_of_gamma = 0xBB16C31AB5F1FC00p-63L;
+
+// From 0.875 to 512; `high` is the upper half of y as a double.
+extended on_interval(extended y, std::int32_t high) {
+  if (high >= 0x40100000) {
+    const auto k = std::min((high >> 20) - 0x401, 6);
+    return value_of(lgamma_octaves[k], within_octave(y, k + 2));
+  }
+  if (high >= 0x40020000) return (y - 2.0L) * value_of(lgamma_to_4[0], y);
+  if (high >= 0x3FFC0000) return (y - 2.0L) * horner(lgamma_at_2, y - 2.0L);
+  if (high >= 0x3FF40000) return horner(lgamma_at_minimum, y - minimum_of_gamma);
+  return (y - 1.0L) * horner(lgamma_at_1, y - 1.0L);
+}
+
+extended lgamma_of(extended y) { return on_interval(y, upper_half(double(y))); }
+
+extended walked_up(double x) {
+  extended y = x, product = 1.0L;
+  for (; y < 1.0L; y += 1.0L) product *= y;
+  return lgamma_of(y) - log_extended(std::fabs(product));
+}
+
+// A product of two factors and what its rounding has lost.
+struct exact_product {
+  extended high, low;
+  exact_product(extended a, extended b) : high(a * b) {
+    const extended a_top = top(a), a_rest = a - a_top, b_top = top(b), b_rest = b - b_top;
+    low = ((a_top * b_top - high) + a_top * b_rest + a_rest * b_top) + a_rest * b_rest;
+  }
+  // The upper half of the significand.
+  static extended top(extended v) {
+    const extended scaled = v * 0x100000001p0L;
+    return scaled - (scaled - v);
+  }
+};
+
+// Where the zeros are so near to the integers that the walk's product next to 1 must be known to more than its bits.
+extended walked_up_exactly(double x) {
+  extended y = x, product = 1.0L, lost = 0.0L;
+  for (; y < 1.0L; y += 1.0L) {
+    const exact_product next(product, y);
+    lost = lost * y + next.low;
+    product = next.high;
+  }
+  return lgamma_of(y) - lost / product - log_extended(std::fabs(product));
+}
+
+extended stirling(double x) {
+  constexpr extended twelfth = 0xAAAAAAAAAAAAAAABp-67L, per_360 = 0xB60B60B60B60B60Bp-72L;
+  const extended y = x;
+  return (y - 0.5L) * log_extended(y) - y + half_log_2_pi + (1.0L / y) * (twelfth - per_360 / (y * y));
+}
+
+extended reflected(double x) {
+  const double t = -x - nearest_integer(-x);
+  const extended s = extended(t) * t;
+  const extended mirrored = x > -512.0 ? lgamma_of(-x) : stirling(-x);
+  return -mirrored - log_extended(-x) - log_extended(std::fabs(t)) - horner(lgamma_reflection, s) * s;
+}
+
+extended on_negative_axis(double x) {
+  if (x > -2.0) return walked_up(x);
+  if (x > -15.0) {
+    const double from_3 = -x - 3.0;
+    double n = nearest_integer(from_3);
+    if (n < from_3) n += 1.0;
+    const auto j = std::clamp(std::int32_t(n), 0, 12);
+    for (const auto& row : {&lgamma_far_roots[j], &lgamma_near_roots[j]})
+      if (row->low < x && x < row->high) {
+        const extended from_root = extended(x) - row->root;
+        extended sum = row->c[0];
+        for (int i = 1; i <= row->degree; ++i) sum = sum * from_root + row->c[i];
+        return sum;
+      }
+    return walked_up(x);
+  }
+  return x > -17.0 ? walked_up_exactly(x) : reflected(x);
+}
+
+extended on_positive_axis(double x) {
+  if (x < 0.875) return lgamma_of(x + 1.0L) - log_extended(x);
+  if (x < 512.0) return on_interval(x, upper_half(x));
+  return stirling(x);
+}
+
+// The largest argument of a finite result.
+constexpr double overflow_bound = 0x7F5754D9278B51A7_f64;
+
+struct lgamma_lane {
+  static constexpr bool exact_zero(double x) { return x == 1.0; }
+  static constexpr bool overflows(double x) { return x > overflow_bound; }
+  static double value(double x) { return double(x > 0.0 ? on_positive_axis(x) : on_negative_axis(x)); }
+};
+
+[[gnu::noinline]] int lgamma_in_x87(const double* px, double* py, std::int32_t* sign) {
+  return log_gamma<lgamma_lane>(*px, *py, *sign);
+}
+
+LANEMATH_RARE lgamma_rare(const double* px, double* py) {
+  std::int32_t sign;
+  return at_full_precision<lgamma_in_x87>(px, py, &sign);
+}
+LANEMATH_RARE lgammar_rare(const double* px, double* py, std::int32_t* sign) {
+  return at_full_precision<lgamma_in_x87>(px, py, sign);
+}
+
+}  // namespace
+
+LANEMATH_EXPORT(unary, lgamma, scalar_gamma<lgamma_rare>, )
+LANEMATH_EXPORT(binary, lgammar, scalar_gamma_with_sign<lgammar_rare>, )
+
+}  // namespace lanemath::special

@@ -1,0 +1,69 @@
+// The routine of gamma for both precisions.
+#pragma once
+
+#include "special/gamma.h"
+
+namespace lanemath::special {
+
+// Gamma of one lane. `Lane` says the arithmetic to work in (`real`), the rows of its products of quadratics and how
+// many integers a row serves, gamma between 1 and 2 (`below_2`), sin(pi t) / pi (`sine`), and where the range ends.
+template <class Lane, class T>
+int gamma(T x, T& y) {
+  using real = typename Lane::real;
+  constexpr T two = 2;
+  if (!finite(x)) {
+    const bool minus_infinity = x < zero_v<T>;
+    y = minus_infinity ? default_nan<T>() : x + x;
+    return minus_infinity;
+  }
+  const T a = std::fabs(x);
+  if (a == zero_v<T>) {
+    y = pole(std::copysign(one_v<T>, x));
+    return 2;
+  }
+  if (a <= Lane::tiny) {
+    y = overflowed(x);
+    return 3;
+  }
+
+  // The integer part by a rounding constant, taken as it comes where that is no longer exact.
+  const T nearest = nearest_integer(a);
+  const T n = nearest > a ? nearest - one_v<T> : nearest;
+  const auto whole = std::int64_t(n);
+  const bool negative = x < zero_v<T>;
+  if (negative) {
+    if (a >= all_whole<T> || n == a) {
+      y = default_nan<T>();
+      return 1;
+    }
+    if (x < Lane::least) {
+      y = underflowed(whole % 2 != 0 ? one_v<T> : -one_v<T>);
+      return Lane::underflow_status;
+    }
+  } else if (x >= Lane::overflow) {
+    y = overflowed(x);
+    return 3;
+  }
+
+  const real magnitude = a;
+  real product, walk = 1;
+  if (a < two) {
+    product = Lane::below_2(a < one_v<T> ? 1 + magnitude : magnitude);
+  } else {
+    const int row = std::min(int(whole) / Lane::stretch, int(std::size(Lane::rows)) - 1);
+    const int steps = int(whole) % Lane::stretch - (row == 0 ? 2 : 0);
+    product = value_of(Lane::rows[row], magnitude - n);
+    for (int q = 1; q <= steps; ++q) walk *= magnitude - q;
+  }
+  if (!negative) {
+    y = T(a < one_v<T> ? product / magnitude : product * walk);
+    return 0;
+  }
+  const real sine = Lane::sine(std::fabs(a - nearest));
+  real reflected = 1 / ((a < one_v<T> ? sine : magnitude * sine) * product * walk);
+  if (x < Lane::last_row) reflected *= Lane::last_row_scale;
+  y = T(whole % 2 != 0 ? reflected : -reflected);
+  return 0;
+}
+
+}  // namespace lanemath::special
