@@ -1,7 +1,7 @@
 // The angles that the inverse functions are put together from.
 #pragma once
 
-#include "frame/frame.h"
+#include "frame/polynomial.h"
 
 namespace lanemath {
 
@@ -17,14 +17,6 @@ template <class T>
 inline constexpr T over_pi = 0x3EA2F983_f32;
 template <>
 inline constexpr double over_pi<double> = 0x3FD45F306DC9C883_f64;
-
-// Coefficients from the highest power down, by Horner's rule.
-template <class T, std::size_t N, int W>
-LANEMATH_INLINE lanes<T, W> horner(const T (&c)[N], const lanes<T, W>& z) {
-  lanes<T, W> p = c[0] * z + c[1];
-  for (std::size_t i = 2; i < N; ++i) p = p * z + c[i];
-  return p;
-}
 
 // An estimate in float for doubles, group by group: to join two groups for one estimate costs more than it saves.
 template <class F, int W>

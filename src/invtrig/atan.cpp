@@ -34,7 +34,7 @@ struct atanf_frame {
     const auto small = magnitude(x) <= 1.0f;
     const V t = select(small, x, negated(1.0f / x));
     const V u = t * t, q = u * u;
-    const V p = (horner(atanf_table.even, q) * u + horner(atanf_table.odd, q)) * u + 1.0f;
+    const V p = (horner(q, atanf_table.even) * u + horner(q, atanf_table.odd)) * u + 1.0f;
     return t * p + offset(~small, x);
   }
 };

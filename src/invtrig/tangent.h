@@ -19,7 +19,7 @@ struct split_factor {
   template <class V>
   static V at(V t) {
     const V u = t * t, q = u * u;
-    return (q * horner(C.even, q) + 1.0f) + u * horner(C.odd, q);
+    return (q * horner(q, C.even) + 1.0f) + u * horner(q, C.odd);
   }
 };
 
@@ -36,7 +36,7 @@ struct four_chain_factor {
   template <class V>
   static V at(V t) {
     const V u = t * t, q = u * u, z = q * q;
-    return ((z * horner(c4, z) + 1.0) + u * horner(c2, z)) + (q * u * horner(c1, z) + q * horner(c3, z));
+    return ((z * horner(z, c4) + 1.0) + u * horner(z, c2)) + (q * u * horner(z, c1) + q * horner(z, c3));
   }
 };
 
@@ -46,7 +46,7 @@ struct light_factor {
   template <class V>
   static V at(V t) {
     const V u = t * t, q = u * u;
-    return u * horner(Rows::by_u, q) + horner(Rows::second, q);
+    return u * horner(q, Rows::by_u) + horner(q, Rows::second);
   }
 };
 template <class T>
@@ -85,7 +85,7 @@ template <>
 struct pi_factor<float> {
   static constexpr float c[] = {0x3A62DBF5_f32, 0xBBA26EDA_f32, 0x3C5AB246_f32, 0xBCC21EBE_f32, 0x3D0A6574_f32,
                                 0xBD391B64_f32, 0x3D8253BA_f32, 0xBDD94C33_f32, 0x3EA2F983_f32};
-  static auto at(auto t) { return horner(c, t * t); }
+  static auto at(auto t) { return horner(t * t, c); }
 };
 template <>
 struct pi_factor<double> {
@@ -96,7 +96,7 @@ struct pi_factor<double> {
       0xBF9124120821BA9D_f64, 0x3F932BC4F824F7C6_f64, 0xBF95BAC83A460E3E_f64, 0x3F9912AF904B4DD1_f64,
       0xBF9DA1BAA68634EC_f64, 0x3FA21BB94433ED0A_f64, 0xBFA7483758DF91CF_f64, 0x3FB04C26BE3AF8D5_f64,
       0xBFBB2995E7B7B5ED_f64, 0x3FD45F306DC9C883_f64};
-  static auto at(auto t) { return horner(c, t * t); }
+  static auto at(auto t) { return horner(t * t, c); }
 };
 
 // 1 / x by the processor's estimate and one correction.

@@ -2,11 +2,41 @@
 // cannot reach.
 #pragma once
 
+#include "frame/double_pair.h"
 #include "invtrig/angles.h"
-#include "invtrig/double_pair.h"
 #include "tables/invtrig.h"
 
 namespace lanemath {
+
+// v times 2^k, |v| in [2^-4, 4) and hi it rounded. Rounded once, also to a denormal: where what is cut from hi is just
+// half a step, lo decides.
+inline double scaled(const double_pair& v, int k) {
+  const double exact = v.hi * power_of_two(std::max(k, -1080) + 64);
+  const double result = exact * 0x3BF0000000000000_f64;        // 2^-64
+  const double cut = exact - result * 0x43F0000000000000_f64;  // 2^64
+  constexpr double half_step = 0x00C0000000000000_f64;         // 2^-1011, half the smallest denormal at this scale
+  constexpr double step = std::numeric_limits<double>::denorm_min();
+  if (cut == half_step && v.lo > 0) return result + step;
+  if (cut == -half_step && v.lo < 0) return result - step;
+  return result;
+}
+
+// A positive finite number as a value in [1, 2) and an exponent.
+struct parts {
+  double significand;
+  int exponent;
+
+  explicit parts(double v) {
+    int bias = 1023;
+    if (v < 0x0010000000000000_f64) {  // denormal
+      v *= 0x4350000000000000_f64;     // 2^54
+      bias += 54;
+    }
+    const auto pattern = std::bit_cast<std::uint64_t>(v);
+    exponent = int(pattern >> 52 & 2047) - bias;
+    significand = std::bit_cast<double>((pattern & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
+  }
+};
 
 template <class T>
 T with_sign_of(T value, T sign) {

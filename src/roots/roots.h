@@ -2,6 +2,7 @@
 // their scalar routines are made of.
 #pragma once
 
+#include "frame/double_pair.h"
 #include "frame/fields.h"
 
 namespace lanemath {
@@ -28,18 +29,6 @@ struct binary_parts {
     significand = value_of<double>((pattern_of(x) & format<double>::fraction) | pattern_of(1.0));
   }
 };
-
-// 2^exponent
-inline double power_of_two(std::int32_t exponent) {
-  return value_of<double>(std::uint64_t((exponent + 1023) & 2047) << 52);
-}
-
-// A number and what the split leaves of it: with 2^27 + 1 both halves have so few bits that their products are exact.
-inline two_part<double> split(double x, double by = 0x41A0000002000000_f64) {
-  const double c = by * x;
-  const double hi = c - (c - x);
-  return {hi, x - hi};
-}
 
 // v - y^2 without an error, y being near the root of v.
 inline double residual_of_square(double v, double y) {
