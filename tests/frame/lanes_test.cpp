@@ -147,18 +147,6 @@ TEST(Lanes, MakeDoublesOfUpperHalves) {
   });
 }
 
-TYPED_TEST(FloatingLanes, KeepTheFirstOfTwoNaNsWhereOrdered) {
-  using T = TypeParam;
-  const T first = std::numeric_limits<T>::quiet_NaN(), second = -first;
-  at_every_width([&](auto width) {
-    using V = lanes<T, width>;
-    for (const auto& [x, y] : {std::pair(first, second), std::pair(second, first)}) {
-      expect_lanes(ordered_sum(V(x), V(y)), [&](int) { return x; });
-      expect_lanes(ordered_product(V(x), V(y)), [&](int) { return x; });
-    }
-  });
-}
-
 TYPED_TEST(FloatingLanes, LookUpEveryLanesEntry) {
   using T = TypeParam;
   static constexpr two_part<T> table[4] = {{1, 10}, {2, 20}, {3, 30}, {4, 40}};
