@@ -208,24 +208,36 @@ LANEMATH_INLINE void settle(M rare, Y& y, const X&... x) {
   }
 }
 
+template <class Op, int W, int Piece, class... X>
+LANEMATH_INLINE auto evaluate_marked(const X&... x) {
+  auto marked = in_pieces<Piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::marked_kernel(v...); }, x...);
+  settle<Op>(marked.second, marked.first, x...);
+  return marked.first;
+}
+template <class Op>
+struct kernel_of {
+  LANEMATH_INLINE auto operator()(const auto&... v) const { return Op::kernel(v...); }
+};
+// The result's type is written out: of a deduced one the oldest Clang returns a copy.
+template <class Op, int W, int Piece, class... X>
+LANEMATH_INLINE auto evaluate_tested(const X&... x) -> decltype(in_pieces<Piece, W>(kernel_of<Op>(), x...)) {
+  decltype(in_pieces<Piece, W>(kernel_of<Op>(), x...)) y = in_pieces<Piece, W>(kernel_of<Op>(), x...);
+  if constexpr (requires { Op::always_scalar; })
+    mend<Op>((1u << W) - 1, y, x...);
+  else if constexpr (requires { Op::rare_test(x...); })
+    settle<Op>(in_pieces<Piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::rare_test(v...); }, x...), y,
+               x...);
+  return y;
+}
+
 template <class Op, int W, class... X>
 LANEMATH_INLINE auto evaluate(const X&... x) {
   // Never less than a group of the narrowest lanes.
   constexpr int piece = std::max(4, groups_at_once<Op>() * 16 / int(border<typename Op::signature>::widest_lane));
-  if constexpr (requires { Op::marked_kernel(x...); }) {
-    auto [y, rare] =
-        in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::marked_kernel(v...); }, x...);
-    settle<Op>(rare, y, x...);
-    return y;
-  } else {
-    auto y = in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::kernel(v...); }, x...);
-    if constexpr (requires { Op::always_scalar; })
-      mend<Op>((1u << W) - 1, y, x...);
-    else if constexpr (requires { Op::rare_test(x...); })
-      settle<Op>(in_pieces<piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::rare_test(v...); }, x...), y,
-                 x...);
-    return y;
-  }
+  if constexpr (requires { Op::marked_kernel(x...); })
+    return evaluate_marked<Op, W, piece>(x...);
+  else
+    return evaluate_tested<Op, W, piece>(x...);
 }
 
 template <std::size_t Index, class T>

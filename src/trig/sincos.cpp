@@ -28,7 +28,7 @@ struct sincos_form {
   using signature = through_pointer<double, double>(double);
   static constexpr auto rare = sincos_rare;
   template <class V>
-  static two_results<V, V> kernel(V x) {
+  LANEMATH_INLINE static two_results<V, V> kernel(V x) {
     const V a = magnitude(x);
     const V t = a * INVERSE_PI_DOUBLE + SHIFTER_DOUBLE;
     const V n = t - SHIFTER_DOUBLE;

@@ -25,7 +25,7 @@ LANEMATH_RARE sincosf_rare(const float* px, float* psine, float* pcosine) {
 template <auto& Pi, auto& C>
 struct sincosf_form : rare_above<through_pointer<float, float>(float), sincosf_rare, LARGE_SINGLE> {
   template <class V>
-  static two_results<V, V> kernel(V x) {
+  LANEMATH_INLINE static two_results<V, V> kernel(V x) {
     const V a = magnitude(x);
     const V t = a * INVERSE_PI_SINGLE + SHIFTER_SINGLE;
     const V n = t - SHIFTER_SINGLE;

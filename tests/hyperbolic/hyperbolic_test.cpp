@@ -91,9 +91,9 @@ constexpr stated values[] = {
 };
 
 TEST(Hyperbolic, GivesWhatIsStated) {
-  for (const auto& [name, x, y] : values)
-    for_each_form(name, [&](std::string_view full, variant v, int width) {
-      EXPECT_EQ(bits_of(full, v, width, pattern_of(full, x)), pattern_of(full, y)) << x;
+  for (const auto& value : values)
+    for_each_form(value.name, [&](std::string_view full, variant v, int width) {
+      EXPECT_EQ(bits_of(full, v, width, pattern_of(full, value.x)), pattern_of(full, value.y)) << value.x;
     });
 }
 
