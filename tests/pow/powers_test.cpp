@@ -208,7 +208,8 @@ TYPED_TEST(Powers, SpecialCasesInEveryForm) {
         const auto due = pattern<T>(row.z);
         // The light kernels are near the small integers and no more; only the case itself is meant.
         const bool in_light_kernel = !std::isnan(row.z) && std::isfinite(row.z) && row.z != 0 && std::abs(row.z) != 1;
-        if (!in_light_kernel || v == variant::standard) EXPECT_EQ(got, due) << row.x << ", " << second;
+        if (in_light_kernel && v != variant::standard) continue;
+        EXPECT_EQ(got, due) << row.x << ", " << second;
       }
     });
   };
@@ -249,7 +250,9 @@ TEST(PowerRoutines, OneFromTheRoutineOfPowr) {
     for_each_form(name, [&](variant v, int width) {
       const u64 one = name == "powr" ? pattern<double>(1) : pattern<float>(1);
       EXPECT_EQ(bits_of(name, v, width, {1, 0}), one);
-      if (name == "powr") EXPECT_EQ(bits_of(name, v, width, {one, pattern<double>(-0x1p1020)}), one);
+      if (name == "powr") {
+        EXPECT_EQ(bits_of(name, v, width, {one, pattern<double>(-0x1p1020)}), one);
+      }
     });
 }
 

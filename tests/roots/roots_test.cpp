@@ -165,8 +165,9 @@ TEST(Roots, ScalarRoutinesRoundToTheNearest) {
     EXPECT_EQ(value("sqrtf", half, denormal), std::sqrt(denormal));
     if (!(std::isfinite(x) && std::isfinite(y))) continue;
     const double sum = double(x) * x + double(y) * y;
-    if (sum > 0x1p67 || sum < 0x1p-68)
+    if (sum > 0x1p67 || sum < 0x1p-68) {
       EXPECT_EQ(value("hypotf", standard, x, y), float(std::sqrt(sum))) << x << ' ' << y;
+    }
 
     // Of denormals and so of integers: n is the nearest if n^2 - n < a^2 + b^2 <= n^2 + n.
     using wide = unsigned __int128;
