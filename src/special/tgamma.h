@@ -29,7 +29,7 @@ int gamma(T x, T& y) {
   // The integer part by a rounding constant, taken as it comes where that is no longer exact.
   const T nearest = nearest_integer(a);
   const T n = nearest > a ? nearest - one_v<T> : nearest;
-  const auto whole = std::int64_t(n);
+  const auto whole = a < all_whole<T> ? std::int64_t(n) : 0;
   const bool negative = x < zero_v<T>;
   if (negative) {
     if (a >= all_whole<T> || n == a) {
