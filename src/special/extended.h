@@ -4,7 +4,7 @@
 #include <cstring>
 #include <iterator>
 
-#include "frame/frame.h"
+#include "frame/polynomial.h"
 
 namespace lanemath::special {
 
@@ -26,15 +26,8 @@ T value_of(const quadratics<T, Factors>& c, T x) {
   return product;
 }
 
-// c[0] x^(Size-1) + ... + c[Size-1]
-template <class C, std::size_t Size, class X>
-X horner(const C (&c)[Size], X x) {
-  X sum = c[0];
-  for (std::size_t i = 1; i < Size; ++i) sum = sum * x + c[i];
-  return sum;
-}
-
-// The same as its even part plus x times its odd part, two chains that do not wait for each other.
+// A polynomial, highest power first, as its even part plus x times its odd part, two chains that do not wait for each
+// other.
 template <class C, std::size_t Size, class X>
 X even_and_odd(const C (&c)[Size], X x) {
   const X s = x * x;

@@ -21,9 +21,9 @@ extended on_interval(extended y, std::int32_t high) {
     return value_of(lgamma_octaves[k], within_octave(y, k + 2));
   }
   if (high >= 0x40020000) return (y - 2.0L) * value_of(lgamma_to_4[0], y);
-  if (high >= 0x3FFC0000) return (y - 2.0L) * horner(lgamma_at_2, y - 2.0L);
-  if (high >= 0x3FF40000) return horner(lgamma_at_minimum, y - minimum_of_gamma);
-  return (y - 1.0L) * horner(lgamma_at_1, y - 1.0L);
+  if (high >= 0x3FFC0000) return (y - 2.0L) * horner(y - 2.0L, lgamma_at_2);
+  if (high >= 0x3FF40000) return horner(y - minimum_of_gamma, lgamma_at_minimum);
+  return (y - 1.0L) * horner(y - 1.0L, lgamma_at_1);
 }
 
 extended lgamma_of(extended y) { return on_interval(y, upper_half(double(y))); }
@@ -69,7 +69,7 @@ extended reflected(double x) {
   const double t = -x - nearest_integer(-x);
   const extended s = extended(t) * t;
   const extended mirrored = x > -512.0 ? lgamma_of(-x) : stirling(-x);
-  return -mirrored - log_extended(-x) - log_extended(std::fabs(t)) - horner(lgamma_reflection, s) * s;
+  return -mirrored - log_extended(-x) - log_extended(std::fabs(t)) - horner(s, lgamma_reflection) * s;
 }
 
 extended on_negative_axis(double x) {

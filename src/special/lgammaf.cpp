@@ -70,7 +70,7 @@ extended reflected(float x) {
   const float t = -x - nearest_integer(-x);
   const extended s = extended(t) * t;
   const extended mirrored = x > -8192.0f ? lgamma_of(-x) : stirling(-x);
-  return -mirrored - log_of(-x) - log_of(std::fabs(t)) - horner(reflection, s) * s;
+  return -mirrored - log_of(-x) - log_of(std::fabs(t)) - horner(s, reflection) * s;
 }
 
 extended on_negative_axis(float x) {
@@ -79,7 +79,7 @@ extended on_negative_axis(float x) {
     const auto j = std::int32_t(nearest_integer(-2.5f - x)) & 1;
     for (const auto& roots : lgammaf_roots) {
       const auto& row = roots[j];
-      if (row.low < double(x) && double(x) < row.high) return horner(row.c, extended(x) - row.root);
+      if (row.low < double(x) && double(x) < row.high) return horner(extended(x) - row.root, row.c);
     }
   }
   return x > -9.0f ? walked_up(x) : reflected(x);

@@ -22,9 +22,9 @@ struct tgamma_lane {
   static constexpr extended last_row_scale = 0xBA5D5869211696FFp-1106L;
 
   static extended below_2(extended y) {
-    if (y >= 1.5L) return horner(tgamma_to_2, y - 1.0L);
-    if (y >= 1.25L) return horner(tgamma_at_minimum, y - extended(1.46163214496836236));
-    return horner(tgamma_from_1, y - 1.0L);
+    if (y >= 1.5L) return horner(y - 1.0L, tgamma_to_2);
+    if (y >= 1.25L) return horner(y - extended(1.46163214496836236), tgamma_at_minimum);
+    return horner(y - 1.0L, tgamma_from_1);
   }
   // sin(pi t) / pi for t up to 1/2.
   static extended sine(extended t) {

@@ -24,10 +24,10 @@ constexpr double to_2[] = {0xBF7746A85137617E_f64, 0x3FA96E37D09735F3_f64, 0xBFC
                            0xBFE1C1AEDFB25495_f64, 0x3FEFEE1E644B2022_f64};
 
 double below_2(double y) {
-  if (y >= 1.75) return horner(to_2, y - 1.0);
-  if (y >= 1.5) return horner(from_1_5, y - 1.0);
-  if (y >= 1.25) return horner(at_minimum, y - 1.46163214496836236);
-  return horner(from_1, y - 1.0);
+  if (y >= 1.75) return horner(y - 1.0, to_2);
+  if (y >= 1.5) return horner(y - 1.0, from_1_5);
+  if (y >= 1.25) return horner(y - 1.46163214496836236, at_minimum);
+  return horner(y - 1.0, from_1);
 }
 
 // sin(pi t) / pi for t up to 1/2.
