@@ -82,37 +82,24 @@ option_prices exact_prices(double spot, double strike, double t, double interest
 }
 
 int run(int argc, char** argv) {
-  std::string data;
-  std::size_t points = 1 << 14;
-  int width = 4, repetitions = 10;
+  example::options given{.data = {}, .points = 1 << 14};
   double interest = 0.03;
-  bool time_only = false;
   CLI::App app("Prices of European options on an OpenCL device.");
-  app.add_option("data", data, "CSV file of years and closes with titles")->required()->check(CLI::ExistingFile);
+  example::add_options(app, given, "CSV file of years and closes with titles", "strikes", 1 << 20, "per call and put");
   app.add_option("--interest", interest, "without risk, compounded continuously")
       ->check(CLI::Range(-0.5, 0.5))
       ->capture_default_str();
-  app.add_option("--points", points, "strikes, a multiple of 16")
-      ->check(CLI::Range(16, 1 << 20))
-      ->capture_default_str();
-  app.add_option("--width", width, "lanes of the kernel's vectors")
-      ->check(CLI::IsMember({1, 2, 4, 8, 16}))
-      ->capture_default_str();
-  app.add_option("--repetitions", repetitions, "to take the shortest time of")
-      ->check(CLI::Range(1, 10000))
-      ->capture_default_str();
-  app.add_flag("--time-only", time_only, "prints nothing but the nanoseconds per call and put");
   CLI11_PARSE(app, argc, argv);
 
-  points -= points % 16;
-  const auto index = read_closes(data);
+  const std::size_t points = given.points / 16 * 16;
+  const auto index = read_closes(given.data);
   const double spot = index.values.back(), volatility = volatility_of(index.values);
   // Half the spot to one and a half; every quarter to two years.
   std::vector<float> strikes(points), years(8);
   for (std::size_t i = 0; i < points; ++i) strikes[i] = float(spot * (0.5 + double(i) / double(points)));
   for (std::size_t i = 0; i < years.size(); ++i) years[i] = 0.25f * float(i + 1);
 
-  const example::device device(kernel_source, width);
+  const example::device device(kernel_source, given.width);
   auto kernel = device.kernel("price");
   const auto columns = device.input(strikes), rows = device.input(years);
   const std::size_t count = points * years.size();
@@ -124,9 +111,9 @@ int run(int argc, char** argv) {
   kernel.setArg(4, float(volatility));
   kernel.setArg(5, calls);
   kernel.setArg(6, puts);
-  const cl::NDRange items(points / std::size_t(width), years.size());
-  const double nanoseconds = device.time(kernel, items, repetitions) / double(count);
-  if (time_only) {
+  const cl::NDRange items(points / std::size_t(given.width), years.size());
+  const double nanoseconds = device.time(kernel, items, given.repetitions) / double(count);
+  if (given.time_only) {
     fmt::print("{:.3f}\n", nanoseconds);
     return 0;
   }

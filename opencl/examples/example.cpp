@@ -99,6 +99,21 @@ std::string device::who_answers(const std::string& builtin, const std::string& f
   return fmt::format("lanemath's {}: all of {} results have the bits of {}", builtin, count, name);
 }
 
+void add_options(CLI::App& app, options& given, const std::string& data, const std::string& points, int most_points,
+                 const std::string& timed) {
+  app.add_option("data", given.data, data)->required()->check(CLI::ExistingFile);
+  app.add_option("--points", given.points, points + ", a multiple of 16")
+      ->check(CLI::Range(16, most_points))
+      ->capture_default_str();
+  app.add_option("--width", given.width, "lanes of the kernel's vectors")
+      ->check(CLI::IsMember({1, 2, 4, 8, 16}))
+      ->capture_default_str();
+  app.add_option("--repetitions", given.repetitions, "to take the shortest time of")
+      ->check(CLI::Range(1, 10000))
+      ->capture_default_str();
+  app.add_flag("--time-only", given.time_only, "prints nothing but the nanoseconds " + timed);
+}
+
 int guarded(const std::function<int()>& program) {
   try {
     return program();

@@ -6,6 +6,7 @@
 #define CL_HPP_TARGET_OPENCL_VERSION 120
 #include <CL/opencl.hpp>
 
+#include <CLI/CLI.hpp>
 #include <functional>
 #include <string>
 #include <vector>
@@ -53,6 +54,16 @@ class device {
   cl::CommandQueue queue_;
   cl::Program program_;
 };
+
+// The options that the programs share.
+struct options {
+  std::string data;
+  std::size_t points;
+  int width = 4, repetitions = 10;
+  bool time_only = false;
+};
+void add_options(CLI::App& app, options& given, const std::string& data, const std::string& points, int most_points,
+                 const std::string& timed);
 
 // Runs the program, and tells on standard error what stopped it.
 int guarded(const std::function<int()>& program);

@@ -90,28 +90,14 @@ void plot(const std::vector<double>& frequencies, const std::vector<double>& sha
 }
 
 int run(int argc, char** argv) {
-  std::string data;
-  std::size_t points = 4096;
-  int width = 4, repetitions = 10;
-  bool time_only = false;
+  example::options given{.data = {}, .points = 4096};
   CLI::App app("Harmonics of a yearly series, fitted by least squares on an OpenCL device.");
-  app.add_option("data", data, "CSV file of one column with a title, a row a year")
-      ->required()
-      ->check(CLI::ExistingFile);
-  app.add_option("--points", points, "trial frequencies, a multiple of 16")
-      ->check(CLI::Range(16, 1 << 24))
-      ->capture_default_str();
-  app.add_option("--width", width, "lanes of the kernel's vectors")
-      ->check(CLI::IsMember({1, 2, 4, 8, 16}))
-      ->capture_default_str();
-  app.add_option("--repetitions", repetitions, "to take the shortest time of")
-      ->check(CLI::Range(1, 10000))
-      ->capture_default_str();
-  app.add_flag("--time-only", time_only, "prints the nanoseconds per sine and cosine: ordinary and large arguments");
+  example::add_options(app, given, "CSV file of one column with a title, a row a year", "trial frequencies", 1 << 24,
+                       "per sine and cosine: ordinary and large arguments");
   CLI11_PARSE(app, argc, argv);
 
-  points -= points % 16;
-  auto values = example::read_column(data);
+  const std::size_t points = given.points / 16 * 16;
+  auto values = example::read_column(given.data);
   const double mean = std::accumulate(values.begin(), values.end(), 0.0) / double(values.size());
   for (double& value : values) value -= mean;
   const double squares = std::inner_product(values.begin(), values.end(), values.begin(), 0.0);
@@ -122,10 +108,10 @@ int run(int argc, char** argv) {
     frequencies[i] = std::round((0.02 + 0.18 * double(i) / double(points - 1)) * 0x1p32) * 0x1p-32;
   for (double frequency : frequencies) higher.push_back(frequency + MORE_TURNS);
 
-  const example::device device(kernel_source, width, "double");
-  const auto ordinary = fit(device, frequencies, values, squares, width, repetitions);
-  const auto large = fit(device, higher, values, squares, width, repetitions);
-  if (time_only) {
+  const example::device device(kernel_source, given.width, "double");
+  const auto ordinary = fit(device, frequencies, values, squares, given.width, given.repetitions);
+  const auto large = fit(device, higher, values, squares, given.width, given.repetitions);
+  if (given.time_only) {
     fmt::print("{:.3f} {:.3f}\n", ordinary.nanoseconds, large.nanoseconds);
     return 0;
   }

@@ -82,33 +82,21 @@ void plot(const std::vector<float>& points, const std::vector<float>& density) {
 }
 
 int run(int argc, char** argv) {
-  std::string data, table;
-  std::size_t points = 1 << 18;
-  int width = 4, repetitions = 20;
-  bool time_only = false;
+  std::string table;
+  example::options given{.data = {}, .points = 1 << 18, .repetitions = 20};
   CLI::App app("Gaussian kernel density estimate on an OpenCL device.");
-  app.add_option("data", data, "CSV file of one column with a title")->required()->check(CLI::ExistingFile);
-  app.add_option("--points", points, "of the grid, a multiple of 16")
-      ->check(CLI::Range(16, 1 << 24))
-      ->capture_default_str();
-  app.add_option("--width", width, "lanes of the kernel's vectors")
-      ->check(CLI::IsMember({1, 2, 4, 8, 16}))
-      ->capture_default_str();
-  app.add_option("--repetitions", repetitions, "to take the shortest time of")
-      ->check(CLI::Range(1, 10000))
-      ->capture_default_str();
+  example::add_options(app, given, "CSV file of one column with a title", "of the grid", 1 << 24, "per exponential");
   app.add_option("--table", table, "writes the density to this CSV file");
-  app.add_flag("--time-only", time_only, "prints nothing but the nanoseconds per exponential");
   CLI11_PARSE(app, argc, argv);
 
-  points -= points % 16;
-  const auto observations = example::read_observations(data);
+  const std::size_t points = given.points / 16 * 16;
+  const auto observations = example::read_observations(given.data);
   const auto about = summarise(observations);
   std::vector<float> grid(points);
   const double first = observations.front() - 3 * about.bandwidth, last = observations.back() + 3 * about.bandwidth;
   for (std::size_t i = 0; i < points; ++i) grid[i] = float(first + (last - first) * double(i) / double(points - 1));
 
-  const example::device device(kernel_source, width);
+  const example::device device(kernel_source, given.width);
   auto kernel = device.kernel("density");
   const auto result = device.output(points);
   std::vector<float> rounded(observations.begin(), observations.end());
@@ -121,8 +109,9 @@ int run(int argc, char** argv) {
   kernel.setArg(4, float(1 / (double(observations.size()) * about.bandwidth * std::sqrt(2 * std::numbers::pi))));
   kernel.setArg(5, result);
   const double exponentials = double(points) * double(observations.size());
-  const double nanoseconds = device.time(kernel, cl::NDRange(points / std::size_t(width)), repetitions) / exponentials;
-  if (time_only) {
+  const double nanoseconds =
+      device.time(kernel, cl::NDRange(points / std::size_t(given.width)), given.repetitions) / exponentials;
+  if (given.time_only) {
     fmt::print("{:.3f}\n", nanoseconds);
     return 0;
   }

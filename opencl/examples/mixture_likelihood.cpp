@@ -106,48 +106,37 @@ void plot(const std::vector<float>& first, const std::vector<float>& second, con
 }
 
 int run(int argc, char** argv) {
-  std::string data;
-  std::size_t points = 512;
-  int width = 4, repetitions = 10;
-  bool time_only = false;
+  example::options given{.data = {}, .points = 512};
   CLI::App app("Log-likelihood of a mixture of two normal distributions on an OpenCL device.");
-  app.add_option("data", data, "CSV file of one column with a title")->required()->check(CLI::ExistingFile);
-  app.add_option("--points", points, "of each mean, a multiple of 16")
-      ->check(CLI::Range(16, 1 << 12))
-      ->capture_default_str();
-  app.add_option("--width", width, "lanes of the kernel's vectors")
-      ->check(CLI::IsMember({1, 2, 4, 8, 16}))
-      ->capture_default_str();
-  app.add_option("--repetitions", repetitions, "to take the shortest time of")
-      ->check(CLI::Range(1, 10000))
-      ->capture_default_str();
-  app.add_flag("--time-only", time_only, "prints nothing but the nanoseconds per logarithm and its exponentials");
+  example::add_options(app, given, "CSV file of one column with a title", "of each mean", 1 << 12,
+                       "per logarithm and its exponentials");
   CLI11_PARSE(app, argc, argv);
 
-  points -= points % 16;
-  const auto observations = example::read_observations(data);
+  const std::size_t points = given.points / 16 * 16;
+  const auto observations = example::read_observations(given.data);
   const auto estimate = most_likely(observations);
   const auto& [first, second] = estimate;
   const auto first_means = means_around(first, points, observations.size());
   const auto second_means = means_around(second, points, observations.size());
 
-  const example::device device(kernel_source, width);
+  const example::device device(kernel_source, given.width);
   auto kernel = device.kernel("log_likelihood");
   const auto result = device.output(points * points);
   const double root = std::sqrt(2 * std::numbers::pi);
   const auto rows = device.input(first_means), columns = device.input(second_means);
-  const auto given = device.input({observations.begin(), observations.end()});
+  const auto sample = device.input({observations.begin(), observations.end()});
   kernel.setArg(0, rows);
   kernel.setArg(1, columns);
-  kernel.setArg(2, given);
+  kernel.setArg(2, sample);
   kernel.setArg(3, cl_int(observations.size()));
   kernel.setArg(4, cl_float2{{float(1 / first.deviation), float(1 / second.deviation)}});
   kernel.setArg(
       5, cl_float2{{float(first.share / (first.deviation * root)), float(second.share / (second.deviation * root))}});
   kernel.setArg(6, result);
   const double terms = double(points) * double(points) * double(observations.size());
-  const double nanoseconds = device.time(kernel, cl::NDRange(points / std::size_t(width), points), repetitions) / terms;
-  if (time_only) {
+  const double nanoseconds =
+      device.time(kernel, cl::NDRange(points / std::size_t(given.width), points), given.repetitions) / terms;
+  if (given.time_only) {
     fmt::print("{:.3f}\n", nanoseconds);
     return 0;
   }
