@@ -21,6 +21,12 @@ std::set<std::string> lines_of(const char* path) {
   return lines;
 }
 
+const machine& machine_of_kind(std::string_view kind) {
+  for (const auto& on : machines)
+    if (on.kind == kind) return on;
+  throw std::runtime_error(fmt::format("no kind of machine {}", kind));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) try {
@@ -29,10 +35,20 @@ int main(int argc, char** argv) try {
     write_export_list(stdout);
   } else if (what == "public-header" && argc == 3) {
     write_public_header(stdout, argv[2]);
-  } else if (what == "opencl" && argc == 3) {
-    write_opencl_builtins(stdout, lines_of(argv[2]));
+  } else if (what == "opencl-kinds" && argc == 2) {
+    for (const auto& on : machines)
+      if (!on.features.empty()) fmt::print("{} {}\n", on.kind, on.features);
+  } else if (what == "opencl-processor" && argc == 3) {
+    fmt::print("{}\n", machine_of_kind(argv[2]).processor);
+  } else if (what == "opencl-builtins" && argc == 4) {
+    write_opencl_builtins(stdout, machine_of_kind(argv[2]), lines_of(argv[3]));
+  } else if (what == "opencl-crossings" && argc == 4) {
+    write_opencl_crossings(stdout, machine_of_kind(argv[2]), lines_of(argv[3]));
   } else {
-    fmt::print(stderr, "usage: {} export-list | public-header FAMILY | opencl FILE_OF_EXPORTED_NAMES\n", argv[0]);
+    fmt::print(stderr,
+               "usage: {} export-list | public-header FAMILY | opencl-kinds | opencl-processor KIND |\n"
+               "       opencl-builtins KIND EXPORTED_NAMES | opencl-crossings KIND EXPORTED_NAMES\n",
+               argv[0]);
     return 2;
   }
   return std::fflush(stdout) == 0 ? 0 : 1;

@@ -1,28 +1,17 @@
-// Each built-in is written as one direct call. How its vectors cross to the library stands in opencl/crossing.h.
+// Which built-ins the library serves, and by which of its functions.
 #include "opencl.h"
 
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 #include <algorithm>
-#include <array>
+
+#include "opencl_forms.h"
 
 namespace {
 
 using namespace lanemath;
 
-constexpr std::array<std::string_view, 3> parameter_names{"x", "y", "z"};
-constexpr std::array<std::string_view, 3> address_spaces{"global", "local", "private"};
-
 bool is_integer(lane l) { return l != lane::f32 && l != lane::f64; }
-bool crosses_in_registers(lane l, int width) { return std::size_t(padded(width)) * size_of(l) <= 16; }
-
-// A call with these lanes touches no memory.
-bool touches_registers_only(const signature& s, int width) {
-  return s.how == delivery::none && crosses_in_registers(s.result, width) &&
-         std::all_of(s.arguments.begin(), s.arguments.begin() + s.arity(),
-                     [&](lane l) { return crosses_in_registers(l, width); });
-}
 
 std::vector<std::string> conversion_names(const operation& o, int width) {
   const std::string_view name = o.name();
@@ -46,65 +35,6 @@ std::string_view plain_name(const operation& o, variant v) {
   return name;
 }
 
-struct builtin {
-  const operation& op;
-  int width;
-  std::string function;  // of the library
-  std::string name;
-  std::string result;
-  std::vector<std::string> arguments;
-
-  // The parameter list's beginning, without a pointer.
-  std::vector<std::string> parameters() const {
-    std::vector<std::string> all;
-    for (std::size_t i = 0; i < arguments.size(); ++i)
-      all.push_back(fmt::format("{} {}", arguments[i], parameter_names[i]));
-    return all;
-  }
-  std::string crossing_arguments() const {
-    std::vector<std::string> all;
-    for (std::size_t i = 0; i < arguments.size(); ++i)
-      all.push_back(fmt::format("to_library_{}({})", arguments[i], parameter_names[i]));
-    return fmt::format("{}", fmt::join(all, ", "));
-  }
-};
-
-void declare(std::FILE* out, const builtin& b) {
-  std::vector<std::string> types;
-  for (const auto& type : b.arguments) types.push_back("crossing_" + type);
-  if (b.op.sig.how == delivery::pointer) types.push_back("private void*");
-  fmt::print(out, "\n{}crossing_{} {}({});\n", touches_registers_only(b.op.sig, b.width) ? "REGISTERS_ONLY " : "",
-             b.result, b.function, fmt::join(types, ", "));
-}
-
-void define(std::FILE* out, const builtin& b) {
-  fmt::print(out, "BUILTIN {} _cl_{}({}) {{ return from_library_{}({}({})); }}\n", b.result, b.name,
-             fmt::join(b.parameters(), ", "), b.result, b.function, b.crossing_arguments());
-}
-
-void define_with_scalar_last(std::FILE* out, const builtin& b) {
-  auto parameters = b.parameters();
-  parameters.back() = fmt::format("{} y", opencl_type(b.op.sig.arguments[1], 1));
-  fmt::print(out, "BUILTIN {0} _cl_{1}({2}) {{ return _cl_{1}(x, ({3})(y)); }}\n", b.result, b.name,
-             fmt::join(parameters, ", "), b.arguments[1]);
-}
-
-void define_with_pointer(std::FILE* out, const builtin& b) {
-  const auto second = opencl_type(b.op.sig.second, b.width);
-  for (auto space : address_spaces) {
-    auto parameters = b.parameters();
-    parameters.push_back(fmt::format("{} {}* second", space, second));
-    fmt::print(out,
-               "BUILTIN {0} _cl_{1}({2}) {{\n"
-               "  crossing_{3} delivered;\n"
-               "  const {0} result = from_library_{0}({4}({5}, &delivered));\n"
-               "  *second = from_library_{3}(delivered);\n"
-               "  return result;\n"
-               "}}\n",
-               b.result, b.name, fmt::join(parameters, ", "), second, b.function, b.crossing_arguments());
-  }
-}
-
 }  // namespace
 
 std::string opencl_type(lane l, int width) {
@@ -124,25 +54,50 @@ std::vector<std::string> opencl_names(const operation& o, variant v, int width) 
 
 bool opencl_scalar_last(std::string_view name) { return name == "ldexp" || name == "fmax" || name == "fmin"; }
 
-void write_opencl_builtins(std::FILE* out, const std::set<std::string>& exported) {
-  fmt::print(out, "#include \"crossing.h\"\n");
-  for (const auto& o : catalogue)
-    for (auto v : variants)
-      for (int width : widths) {
-        const auto names = opencl_names(o, v, width);
-        const auto function = fmt::format("{}{}{}{}", symbol_prefix, o.name(), width, suffix(v));
-        if (!o.has(v) || names.empty() || !exported.contains(function)) continue;
+bool left_to_compiler(const operation&, variant, const machine&) { return false; }
 
-        builtin b{o, width, function, {}, opencl_type(o.sig.result, width), {}};
-        for (int i = 0; i < o.sig.arity(); ++i) b.arguments.push_back(opencl_type(o.sig.arguments[i], width));
-        declare(out, b);
-        for (const auto& name : names) {
-          b.name = name;
-          if (o.sig.how == delivery::pointer)
-            define_with_pointer(out, b);
-          else
-            define(out, b);
-          if (width > 1 && opencl_scalar_last(name)) define_with_scalar_last(out, b);
-        }
-      }
+std::string form::function() const { return fmt::format("{}{}{}{}", symbol_prefix, op.name(), width, suffix(variant)); }
+std::string form::by_value() const { return fmt::format("lanemath_{}{}{}", op.name(), width, suffix(variant)); }
+std::string form::packed() const { return by_value() + "_packed"; }
+std::string form::by_pointer() const { return by_value() + "_by_pointer"; }
+
+bool crosses_in_register(lane l, int width) { return std::size_t(padded(width)) * size_of(l) <= 16; }
+
+int lanes_of_a_register(const operation& o) {
+  std::size_t widest = std::max(size_of(o.sig.result), size_of(o.sig.second));
+  for (lane l : o.sig.arguments) widest = std::max(widest, size_of(l));
+  return int(16 / widest);
+}
+
+bool packs_results(const operation& o) {
+  return o.sig.how == delivery::pointer && size_of(o.sig.result) == 4 && size_of(o.sig.second) == 4;
+}
+
+crossing crossing_of(const form& f) {
+  const int lanes = lanes_of_a_register(f.op);
+  if (padded(f.width) <= lanes) return crossing::whole;
+  const bool same_bits = !is_standalone(f.op.name(), lanes, f.variant) && !f.has_second();
+  return same_bits && !getenv("NOSPLIT") ? crossing::in_pieces : crossing::in_memory;
+}
+
+std::vector<int> loop_widths(const operation& o, variant v, const machine& on) {
+  const int lanes = lanes_of_a_register(o);
+  const auto same_bits = [&](int width) { return !is_standalone(o.name(), width, v); };
+  std::vector<int> all;
+  if (left_to_compiler(o, v, on) || !same_bits(1) || (o.sig.how != delivery::none && !packs_results(o))) return all;
+  if (same_bits(lanes)) all.push_back(lanes);
+  // Packed results at twice the lanes would be wider than what all kernels pass alike.
+  if (on.register_size == 32 && !packs_results(o) && same_bits(2 * lanes)) all.push_back(2 * lanes);
+  return all;
+}
+
+std::string loop_function(const form& vector) {
+  if (vector.has_second()) return vector.packed();
+  return crossing_of(vector) == crossing::whole ? vector.function() : vector.by_value();
+}
+
+std::vector<std::string> loop_functions(const operation& o, variant v, const machine& on) {
+  std::vector<std::string> all;
+  for (int width : loop_widths(o, v, on)) all.push_back(loop_function({o, v, width}));
+  return all;
 }

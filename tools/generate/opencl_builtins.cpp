@@ -1,0 +1,107 @@
+// The built-ins in OpenCL C: each hands its vectors on by pointers, a scalar by value.
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <array>
+
+#include "opencl_forms.h"
+
+namespace {
+
+using namespace lanemath;
+
+constexpr std::array parameter_names{"x", "y", "z"};
+constexpr std::array address_spaces{"global", "local", "private"};
+
+struct builtin {
+  form of;
+  std::string name;
+
+  std::string result() const { return opencl_type(of.sig().result, of.width); }
+  std::string second() const { return opencl_type(of.sig().second, of.width); }
+
+  // `write` makes the text of each argument from its type and name.
+  template <class Write>
+  std::string arguments(Write write) const {
+    std::vector<std::string> all;
+    for (int i = 0; i < of.sig().arity(); ++i)
+      all.push_back(write(opencl_type(of.sig().arguments[i], of.width), parameter_names[i]));
+    return fmt::format("{}", fmt::join(all, ", "));
+  }
+  std::string parameters() const {
+    return arguments([](auto type, auto name) { return fmt::format("{} {}", type, name); });
+  }
+};
+
+std::string name_only(std::string_view, std::string_view name) { return std::string(name); }
+
+// By value: a scalar, with one result or two that are packed.
+void define_scalar(std::FILE* out, const builtin& b, const std::string& function) {
+  const auto call = fmt::format("{}({})", function, b.arguments(name_only));
+  if (!b.of.has_second()) {
+    fmt::print(out, "BUILTIN {} _cl_{}({}) {{ return {}; }}\n", b.result(), b.name, b.parameters(), call);
+    return;
+  }
+  for (auto space : address_spaces)
+    fmt::print(out,
+               "BUILTIN {0} _cl_{1}({2}, {3} {4}* second) {{\n"
+               "  const ulong both = {5};\n"
+               "  *second = as_{4}((uint)(both >> 32));\n"
+               "  return as_{0}((uint)both);\n"
+               "}}\n",
+               b.result(), b.name, b.parameters(), space, b.second(), call);
+}
+
+void define_by_pointers(std::FILE* out, const builtin& b) {
+  const auto references = b.arguments([](auto, auto name) { return fmt::format("&{}", name); });
+  const auto function = b.of.by_pointer();
+  if (!b.of.has_second()) {
+    fmt::print(out, "BUILTIN {0} _cl_{1}({2}) {{ {0} result; {3}(&result, {4}); return result; }}\n", b.result(),
+               b.name, b.parameters(), function, references);
+    return;
+  }
+  for (auto space : address_spaces)
+    fmt::print(out,
+               "BUILTIN {0} _cl_{1}({2}, {3} {4}* second) {{\n"
+               "  {0} result;\n"
+               "  {4} delivered;\n"
+               "  {5}(&result, &delivered, {6});\n"
+               "  *second = delivered;\n"
+               "  return result;\n"
+               "}}\n",
+               b.result(), b.name, b.parameters(), space, b.second(), function, references);
+}
+
+void define_with_scalar_last(std::FILE* out, const builtin& b) {
+  const auto type = opencl_type(b.of.sig().arguments[1], b.of.width);
+  fmt::print(out, "BUILTIN {0} _cl_{1}({0} x, {2} y) {{ return _cl_{1}(x, ({3})(y)); }}\n", b.result(), b.name,
+             opencl_type(b.of.sig().arguments[1], 1), type);
+}
+
+}  // namespace
+
+void write_opencl_builtins(std::FILE* out, const machine& on, const std::set<std::string>& exported) {
+  fmt::print(out, "#define BUILTIN __attribute__((overloadable, always_inline))\n");
+  for_each_form(on, exported, [&](const form& f) {
+    builtin b{f, ""};
+    const bool loops = f.width == 1 && !loop_widths(f.op, f.variant, on).empty();
+    const bool by_value = f.width == 1 && (loops || !f.has_second());
+    const auto function = !loops ? f.function() : f.has_second() ? f.packed() : f.by_value();
+    if (by_value) {
+      fmt::print(out, "\n__attribute__((const)) {} {}({});\n", f.has_second() ? "ulong" : b.result(), function,
+                 b.parameters());
+    } else {
+      const auto pointers = b.arguments([](auto type, auto name) { return fmt::format("const {}* {}", type, name); });
+      fmt::print(out, "\nvoid {}({}* result, {}{});\n", f.by_pointer(), b.result(),
+                 f.has_second() ? b.second() + "* second, " : "", pointers);
+    }
+    for (const auto& name : opencl_names(f.op, f.variant, f.width)) {
+      b.name = name;
+      if (by_value)
+        define_scalar(out, b, function);
+      else
+        define_by_pointers(out, b);
+      if (f.width > 1 && opencl_scalar_last(name)) define_with_scalar_last(out, b);
+    }
+  });
+}

@@ -1,0 +1,281 @@
+// How kernels reach the library, in LLVM IR.
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <algorithm>
+#include <array>
+
+#include "opencl_forms.h"
+
+namespace {
+
+using namespace lanemath;
+
+constexpr std::string_view head = R"(; How kernels reach the library. Made by the generator.
+;
+; lanemath_expf8: by value. What the library takes in memory is copied here, so that the memory lives only during the
+;   call; in a kernel it would be kept for each call and work item. What it gives in memory is read a register at a
+;   time, as it was written: a wider load would wait for the stores.
+; lanemath_expf8_by_pointer: for the built-in. Inlined into the kernel, where nothing is left of the pointers.
+; lanemath_expf1: for a scalar built-in. The attribute tells the loop vectoriser its vector forms; it stands on a
+;   function of our own, for calls in kernels are marked as not to be replaced. The vector forms are called, since the
+;   runtime's linker copies only what is called. The calls vanish as unused; the addresses in an empty instruction keep
+;   the vector forms, and keep constant arguments from being moved into the function.
+; lanemath_sincosf1_packed: the same with two results in one value, which is all that the vectoriser knows.
+
+target datalayout = "e-m:e-p270:32:32-p271:32:32-p272:64:64-i64:64-f80:128-n8:16:32:64-S128"
+target triple = "x86_64-pc-linux-gnu"
+)";
+
+constexpr std::string_view pure = "#0", with_memory = "#1", own = "#2", inlined = "#3";
+
+void write_attributes(std::FILE* out, const machine& on) {
+  const auto processor = fmt::format("\"target-cpu\"=\"{}\"", on.processor);
+  fmt::print(out,
+             "\nattributes {} = {{ nounwind readnone willreturn }}\n"
+             "attributes {} = {{ nounwind argmemonly willreturn }}\n"
+             "attributes {} = {{ noinline nounwind readnone willreturn {} }}\n"
+             "attributes {} = {{ alwaysinline nounwind argmemonly willreturn {} }}\n",
+             pure, with_memory, own, processor, inlined, processor);
+}
+
+constexpr std::array names{"x", "y", "z"};
+
+std::string ir_type(lane l, int width) {
+  constexpr std::array<std::string_view, 7> scalars{"", "float", "double", "i32", "i32", "i64", "i64"};
+  const auto scalar = scalars[std::size_t(l)];
+  return width == 1 ? std::string(scalar) : fmt::format("<{} x {}>", padded(width), scalar);
+}
+// A vector in memory, aligned as the stack is.
+std::string room_type(lane l, int width) { return fmt::format("[{} x {}]", padded(width), ir_type(l, 1)); }
+
+class writer {
+ public:
+  writer(std::FILE* out, const form& f) : out_(out), f_(f), s_(f.sig()) {}
+
+  void declare() {
+    std::vector<std::string> types;
+    if (!crosses_in_register(s_.result, f_.width))
+      types.push_back(fmt::format("ptr sret({}) align 16", room_type(s_.result, f_.width)));
+    for (int i = 0; i < s_.arity(); ++i) types.push_back(passed_to_library(i));
+    if (f_.has_second()) types.push_back("ptr");
+    fmt::print(out_, "\ndeclare {} @{}({}) {}\n", returned_by_library(), f_.function(), fmt::join(types, ", "),
+               in_registers_only() ? pure : with_memory);
+  }
+
+  void define_by_value() {
+    define(f_.by_value(), result_type());
+    if (crossing_of(f_) == crossing::in_pieces) {
+      auto rooms = arguments([&](int i) { return "ptr " + store(names[i], s_.arguments[i]); });
+      fmt::print(out_, "  %rooms = alloca {}\n", ir_type(s_.result, f_.width));
+      fmt::print(out_, "  call void @{}(ptr %rooms, {})\n", f_.by_pointer(), rooms);
+      fmt::print(out_, "  %result = load {}, ptr %rooms\n", ir_type(s_.result, f_.width));
+    } else {
+      call_library();
+    }
+    return_results();
+  }
+
+  void define_packed() {
+    define(f_.packed(), ir_type(lane::u64, f_.width));
+    call_library();
+    pack();
+  }
+
+  void define_scalar_of_loops(const std::vector<int>& lane_counts) {
+    std::vector<std::string> mappings, addresses, constraints;
+    const auto own_name = f_.has_second() ? f_.packed() : f_.by_value();
+    for (int lanes : lane_counts) {
+      const auto function = loop_function({f_.op, f_.variant, lanes});
+      mappings.push_back(fmt::format("_ZGV_LLVM_N{}{}_{}({})", lanes, std::string(s_.arity(), 'v'), own_name, function));
+      addresses.push_back("ptr @" + function);
+    }
+    addresses.push_back("ptr @" + own_name);
+    constraints.assign(addresses.size(), "r");
+
+    const auto type = f_.has_second() ? ir_type(lane::u64, 1) : result_type();
+    define(own_name, type, fmt::format(" \"vector-function-abi-variant\"=\"{}\"", fmt::join(mappings, ",")));
+    for (int lanes : lane_counts)
+      fmt::print(out_, "  %unused{} = call {} @{}({}) {}\n", lanes,
+                 ir_type(f_.has_second() ? lane::u64 : s_.result, lanes), loop_function({f_.op, f_.variant, lanes}),
+                 arguments([&](int i) { return ir_type(s_.arguments[i], lanes) + " zeroinitializer"; }), pure);
+    fmt::print(out_, "  call void asm sideeffect \"\", \"{}\"({})\n", fmt::join(constraints, ","),
+               fmt::join(addresses, ", "));
+    call_library();
+    if (f_.has_second())
+      pack();
+    else
+      return_results();
+  }
+
+  void define_by_pointer() {
+    fmt::print(out_, "\ndefine void @{}(ptr %to, {}{}) {} {{\n", f_.by_pointer(),
+               f_.has_second() ? "ptr %second_to, " : "",
+               arguments([](int i) { return fmt::format("ptr %{}_at", names[i]); }), inlined);
+    if (crossing_of(f_) == crossing::in_pieces) {
+      in_pieces();
+    } else {
+      for (int i = 0; i < s_.arity(); ++i)
+        fmt::print(out_, "  %{0} = load {1}, ptr %{0}_at\n", names[i], ir_type(s_.arguments[i], f_.width));
+      fmt::print(out_, "  %both = call {} @{}({}) {}\n", result_type(),
+                 in_registers_only() ? f_.function() : f_.by_value(), values(), pure);
+      if (f_.has_second()) {
+        fmt::print(out_, "  %result = extractvalue {0} %both, 0\n  %second = extractvalue {0} %both, 1\n",
+                   result_type());
+        fmt::print(out_, "  store {} %second, ptr %second_to\n", ir_type(s_.second, f_.width));
+      }
+      fmt::print(out_, "  store {} %{}, ptr %to\n", ir_type(s_.result, f_.width), f_.has_second() ? "result" : "both");
+    }
+    fmt::print(out_, "  ret void\n}}\n");
+  }
+
+ private:
+  bool in_registers_only() const { return crossing_of(f_) == crossing::whole && !f_.has_second(); }
+
+  template <class Write>
+  std::string arguments(Write write) const {
+    std::vector<std::string> all;
+    for (int i = 0; i < s_.arity(); ++i) all.push_back(write(i));
+    return fmt::format("{}", fmt::join(all, ", "));
+  }
+  std::string values() const {
+    return arguments([&](int i) { return fmt::format("{} %{}", ir_type(s_.arguments[i], f_.width), names[i]); });
+  }
+  std::string passed_to_library(int i) const {
+    const lane l = s_.arguments[i];
+    return crosses_in_register(l, f_.width) ? ir_type(l, f_.width)
+                                            : fmt::format("ptr byval({}) align 16", room_type(l, f_.width));
+  }
+  std::string returned_by_library() const {
+    return crosses_in_register(s_.result, f_.width) ? ir_type(s_.result, f_.width) : "void";
+  }
+  std::string result_type() const {
+    const auto first = ir_type(s_.result, f_.width);
+    return f_.has_second() ? fmt::format("{{ {}, {} }}", first, ir_type(s_.second, f_.width)) : first;
+  }
+
+  void define(const std::string& name, const std::string& type, const std::string& more = "") {
+    fmt::print(out_, "\ndefine {} @{}({}) {}{} {{\n", type, name, values(), own, more);
+  }
+
+  // Room on the stack; its name.
+  std::string room(std::string_view name, lane l) {
+    fmt::print(out_, "  %{}_room = alloca {}, align 16\n", name, room_type(l, f_.width));
+    return fmt::format("%{}_room", name);
+  }
+  std::string store(std::string_view name, lane l) {
+    const auto at = room(name, l);
+    fmt::print(out_, "  store {} %{}, ptr {}, align 16\n", ir_type(l, f_.width), name, at);
+    return at;
+  }
+
+  // From the arguments to %result and %second.
+  void call_library() {
+    std::vector<std::string> passed;
+    const bool result_in_memory = !crosses_in_register(s_.result, f_.width);
+    if (result_in_memory)
+      passed.push_back(fmt::format("ptr sret({}) align 16 {}", room_type(s_.result, f_.width), room("result", s_.result)));
+    for (int i = 0; i < s_.arity(); ++i)
+      passed.push_back(passed_to_library(i) + " " + (crosses_in_register(s_.arguments[i], f_.width)
+                                                         ? fmt::format("%{}", names[i])
+                                                         : store(names[i], s_.arguments[i])));
+    if (f_.has_second()) passed.push_back("ptr " + room("second", s_.second));
+    fmt::print(out_, "  {}call {} @{}({}) {}\n", result_in_memory ? "" : "%result = ", returned_by_library(),
+               f_.function(), fmt::join(passed, ", "), in_registers_only() ? pure : with_memory);
+    if (result_in_memory) load("result", s_.result);
+    if (f_.has_second()) load("second", s_.second);
+  }
+
+  // A vector that the library has left in a room.
+  void load(std::string_view name, lane l) {
+    const int lanes = int(16 / size_of(l));
+    if (padded(f_.width) <= lanes) {
+      fmt::print(out_, "  %{0} = load {1}, ptr %{0}_room, align 16\n", name, ir_type(l, f_.width));
+      return;
+    }
+    fmt::print(out_, "  %{}_joined = alloca {}, align 16\n", name, room_type(l, f_.width));
+    for (int offset = 0; offset < padded(f_.width) * int(size_of(l)); offset += 16) {
+      fmt::print(out_, "  %{0}{1}_from = getelementptr i8, ptr %{0}_room, i64 {1}\n", name, offset);
+      fmt::print(out_, "  %{0}{1}_to = getelementptr i8, ptr %{0}_joined, i64 {1}\n", name, offset);
+      fmt::print(out_, "  %{0}{1} = load volatile {2}, ptr %{0}{1}_from, align 16\n", name, offset, ir_type(l, lanes));
+      fmt::print(out_, "  store {2} %{0}{1}, ptr %{0}{1}_to, align 16\n", name, offset, ir_type(l, lanes));
+    }
+    fmt::print(out_, "  %{0} = load {1}, ptr %{0}_joined, align 16\n", name, ir_type(l, f_.width));
+  }
+
+  void return_results() {
+    if (!f_.has_second()) {
+      fmt::print(out_, "  ret {} %result\n}}\n", result_type());
+      return;
+    }
+    fmt::print(out_, "  %first = insertvalue {} poison, {} %result, 0\n", result_type(), ir_type(s_.result, f_.width));
+    fmt::print(out_, "  %both = insertvalue {} %first, {} %second, 1\n", result_type(), ir_type(s_.second, f_.width));
+    fmt::print(out_, "  ret {} %both\n}}\n", result_type());
+  }
+
+  // The first result in the low halves.
+  void pack() {
+    const auto narrow = ir_type(lane::u32, f_.width), wide = ir_type(lane::u64, f_.width);
+    for (auto [name, l] : {std::pair("result", s_.result), std::pair("second", s_.second)})
+      fmt::print(out_, "  %{0}_bits = bitcast {1} %{0} to {2}\n  %{0}_wide = zext {2} %{0}_bits to {3}\n", name,
+                 ir_type(l, f_.width), narrow, wide);
+    std::vector<std::string> shift(f_.width, "i64 32");
+    fmt::print(out_, "  %high = shl {} %second_wide, {}\n  %both = or {} %high, %result_wide\n  ret {} %both\n}}\n", wide,
+               f_.width == 1 ? "32" : fmt::format("<{}>", fmt::join(shift, ", ")), wide, wide);
+  }
+
+  void in_pieces() {
+    const int lanes = lanes_of_a_register(f_.op);
+    const form piece{f_.op, f_.variant, lanes};
+    for (int k = 0; k * lanes < f_.width; ++k) {
+      const auto at = [&](std::string_view pointer, lane l) {
+        const auto name = fmt::format("%{}{}", pointer, k);
+        fmt::print(out_, "  {} = getelementptr i8, ptr %{}, i64 {}\n", name, pointer, k * lanes * int(size_of(l)));
+        return name;
+      };
+      const auto passed = arguments([&](int i) {
+        const lane l = s_.arguments[i];
+        const auto type = ir_type(l, lanes), from = at(fmt::format("{}_at", names[i]), l);
+        // The third lane twice: what stands in the fourth could be costly.
+        if ((k + 1) * lanes > f_.width)
+          fmt::print(out_,
+                     "  %last_{0} = load {1}, ptr {2}\n  %low_{0} = insertelement {3} poison, {1} %last_{0}, i64 0\n"
+                     "  %{0}{4} = insertelement {3} %low_{0}, {1} %last_{0}, i64 1\n",
+                     names[i], ir_type(l, 1), from, type, k);
+        else
+          fmt::print(out_, "  %{}{} = load {}, ptr {}\n", names[i], k, type, from);
+        return fmt::format("{} %{}{}", type, names[i], k);
+      });
+      const auto type = ir_type(s_.result, lanes);
+      fmt::print(out_, "  %result{} = call {} @{}({}) {}\n", k, type, piece.function(), passed, pure);
+      const auto to = at("to", s_.result);
+      fmt::print(out_, "  store {} %result{}, ptr {}\n", type, k, to);
+    }
+  }
+
+  std::FILE* out_;
+  const form& f_;
+  const signature& s_;
+};
+
+}  // namespace
+
+void write_opencl_crossings(std::FILE* out, const machine& on, const std::set<std::string>& exported) {
+  fmt::print(out, "{}", head);
+  for_each_form(on, exported, [&](const form& f) {
+    writer text(out, f);
+    text.declare();
+    const auto loops = loop_widths(f.op, f.variant, on);
+    const bool in_loops = std::ranges::find(loops, f.width) != loops.end();
+    if (f.width == 1 && !loops.empty()) {
+      text.define_scalar_of_loops(loops);
+      return;
+    }
+    if (f.width == 1 && !f.has_second()) return;
+    if (in_loops && f.has_second()) text.define_packed();
+    if (crossing_of(f) == crossing::in_memory || f.has_second() || (in_loops && loop_function(f) == f.by_value()))
+      text.define_by_value();
+    text.define_by_pointer();
+  });
+  write_attributes(out, on);
+}
