@@ -134,7 +134,7 @@ struct options {
 
 void run(const options& given) {
   const auto everything = all_builtins();
-  const auto builtins = chosen(everything, given.names, "built-in", [](const auto& pattern, const builtin& b) {
+  auto builtins = chosen(everything, given.names, "built-in", [](const auto& pattern, const builtin& b) {
     return matches(pattern, b.name()) || matches(pattern, b.title());
   });
   const auto types = chosen(vector_types, given.types, "type",
@@ -146,8 +146,8 @@ void run(const options& given) {
   };
   if (!given.kind.empty() && !std::filesystem::exists(fmt::format(LANEMATH_KERNEL_LIBRARY, given.kind)))
     throw usage_error(fmt::format("the runtime has no kernel library for '{}'", given.kind));
-  if (std::ranges::all_of(builtins, [&](const auto& b) { return of_element(b.element()).empty(); }))
-    throw usage_error("these built-ins have none of these types");
+  std::erase_if(builtins, [&](const auto& b) { return of_element(b.element()).empty(); });
+  if (builtins.empty()) throw usage_error("these built-ins have none of these types");
 
   std::optional<json_file> json;
   if (!given.json_path.empty()) json.emplace(given.json_path);
@@ -155,14 +155,13 @@ void run(const options& given) {
   workers both(given.launcher, given.kind);
   fmt::print(
       "{}{}\n"
-      "Nanoseconds a lane: the runtime's own built-in, lanemath's, and the ratio of the two.\n",
+      "Nanoseconds a lane: the runtime's own built-in, lanemath's, and own / lanemath.\n",
       both.device(), given.kind.empty() ? "" : fmt::format(" as {}", given.kind));
   measurements all;
   auto heading = lanemath::lane::none;
   for (std::size_t i = 0; i < builtins.size(); ++i) {
     const auto& b = builtins[i];
     const auto its_types = of_element(b.element());
-    if (its_types.empty()) continue;
     show_progress(i + 1, builtins.size(), b.title());
     const auto row = both.measure(b, std::ranges::find(everything, b) - everything.begin(), its_types);
     hide_progress();
