@@ -79,26 +79,26 @@ std::string json_list(const Range& range, Convert convert) {
 }  // namespace
 
 void print_heading(const std::vector<vector_type>& types) {
-  fmt::print("\n{:26}", "");
+  fmt::print("\n{:30}", "");
   for (auto type : types) fmt::print("{:>29}", type.name());
-  fmt::print("\n{:26}", "");
+  fmt::print("\n{:30}", "");
   for (std::size_t i = 0; i < types.size(); ++i) fmt::print("{:>10}{:>10}{:>9}", "own", "lanemath", "ratio");
   fmt::print("\n");
 }
 
 void print_row(const measurements& of_one_builtin) {
-  fmt::print("{:26}", of_one_builtin.front().what.title());
+  fmt::print("{:30}", of_one_builtin.front().what.title());
   for (const auto& m : of_one_builtin) fmt::print("{:>10.3f}{:>10.3f}{:>9.3f}", m.own, m.lanemath, m.ratio());
   fmt::print("\n");
   std::fflush(stdout);
 }
 
 void print_summary(const measurements& all, const std::vector<vector_type>& types) {
-  fmt::print("\n{:26}", "geometric means of ratios");
+  fmt::print("\n{:30}", "geometric means of ratios");
   for (auto type : types) fmt::print("{:>9}", type.name());
   fmt::print("\n");
   for (auto g : groups) {
-    fmt::print("{:26}", title(g));
+    fmt::print("{:30}", title(g));
     for (auto type : types) {
       const auto mean = geometric_mean(all, type, g);
       fmt::print("{:>9}", mean ? fmt::format("{:.3f}", *mean) : "-");
