@@ -7,8 +7,6 @@
 #include <random>
 #include <type_traits>
 
-#include "ranges.h"
-
 namespace lanemath::bench {
 namespace {
 
@@ -37,11 +35,11 @@ T rare_value(generator& random) {
 }
 
 template <class T>
-void fill(std::byte* lanes, const range& r, std::size_t seed, std::size_t rare_every) {
+void fill(std::byte* lanes, std::size_t count, const range& r, std::size_t seed, std::size_t rare_every) {
   generator random(seed);
   generator rare_random;  // drawn apart: the rare lanes are the same ones in every argument
   auto* values = reinterpret_cast<T*>(lanes);
-  for (std::size_t i = 0; i < lane_count; ++i) {
+  for (std::size_t i = 0; i < count; ++i) {
     values[i] = typical_value<T>(r, random);
     if (rare_every != 0 && rare_random() % rare_every == 0) values[i] = rare_value<T>(rare_random);
   }
@@ -49,20 +47,23 @@ void fill(std::byte* lanes, const range& r, std::size_t seed, std::size_t rare_e
 
 }  // namespace
 
+void fill(lane l, std::byte* lanes, std::size_t count, const range& r, std::size_t seed, std::size_t rare_every) {
+  switch (l) {
+    case lane::f32: return fill<float>(lanes, count, r, seed, rare_every);
+    case lane::f64: return fill<double>(lanes, count, r, seed, rare_every);
+    case lane::i32: return fill<std::int32_t>(lanes, count, r, seed, rare_every);
+    case lane::u32: return fill<std::uint32_t>(lanes, count, r, seed, rare_every);
+    case lane::i64: return fill<std::int64_t>(lanes, count, r, seed, rare_every);
+    case lane::u64: return fill<std::uint64_t>(lanes, count, r, seed, rare_every);
+    case lane::none: break;
+  }
+}
+
 arguments::arguments(const operation& o, std::size_t rare_every) {
   const auto ranges = typical_arguments(o);
   for (std::size_t i = 0; i < values_.size(); ++i) {
-    auto* lanes = values_[i].lanes;
-    inputs_[i] = lanes;
-    switch (o.sig.arguments[i]) {
-      case lane::f32: fill<float>(lanes, ranges[i], i, rare_every); break;
-      case lane::f64: fill<double>(lanes, ranges[i], i, rare_every); break;
-      case lane::i32: fill<std::int32_t>(lanes, ranges[i], i, rare_every); break;
-      case lane::u32: fill<std::uint32_t>(lanes, ranges[i], i, rare_every); break;
-      case lane::i64: fill<std::int64_t>(lanes, ranges[i], i, rare_every); break;
-      case lane::u64: fill<std::uint64_t>(lanes, ranges[i], i, rare_every); break;
-      case lane::none: break;
-    }
+    inputs_[i] = values_[i].lanes;
+    fill(o.sig.arguments[i], values_[i].lanes, lane_count, ranges[i], i, rare_every);
   }
 }
 

@@ -6,15 +6,18 @@
 
 #include "frame/catalogue.h"
 #include "harness/harness.h"
+#include "ranges.h"
 
 namespace lanemath::bench {
 
 // Three arguments and two results of 8-byte lanes are 20 KiB: a level-1 cache holds them all.
 inline constexpr std::size_t lane_count = 512;
 
+// Values from a range, the same for every run. One lane in `rare_every` holds rare values; 0 for none.
+void fill(lane l, std::byte* lanes, std::size_t count, const range& r, std::size_t seed, std::size_t rare_every = 0);
+
 class arguments {
  public:
-  // One lane in `rare_every` holds rare values; 0 for none. The same for every run.
   arguments(const operation& o, std::size_t rare_every);
   arguments(const arguments&) = delete;
   arguments& operator=(const arguments&) = delete;
