@@ -13,7 +13,7 @@ processor=$("$GENERATE" opencl-processor "$kind")
 # Wide vectors between these functions and the kernels cross as the runtime's own do: both are compiled for the
 # same machine. So what the compiler says about that is of no interest.
 "$CLANG" -x cl -cl-std=CL1.2 --target=x86_64-pc-linux-gnu -march="$processor" -O2 -fPIC -Wall -Wextra -Werror \
-  -Wno-psabi -emit-llvm -c "$work.cl" -o "$work.builtins.bc"
+  -Wno-psabi -I "$(dirname -- "$0")" -emit-llvm -c "$work.cl" -o "$work.builtins.bc"
 
 # A definition that replaces nothing would never be called: its name or a type is wrong.
 "$LLVM_NM" --defined-only --just-symbol-name "$stock" | sort > "$work.stock"

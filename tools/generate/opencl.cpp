@@ -12,6 +12,7 @@ namespace {
 using namespace lanemath;
 
 bool is_integer(lane l) { return l != lane::f32 && l != lane::f64; }
+bool is_unsigned(lane l) { return l == lane::u32 || l == lane::u64; }
 
 std::vector<std::string> conversion_names(const operation& o, int width) {
   const std::string_view name = o.name();
@@ -54,7 +55,36 @@ std::vector<std::string> opencl_names(const operation& o, variant v, int width) 
 
 bool opencl_scalar_last(std::string_view name) { return name == "ldexp" || name == "fmax" || name == "fmin"; }
 
-bool left_to_compiler(const operation&, variant, const machine&) { return false; }
+bool is_unsigned_without_saturation(const operation& o) {
+  return is_unsigned(o.sig.result) && o.group == family::conversion && o.name().find("nosat") != std::string_view::npos;
+}
+
+// What is measured to be no slower inline, and why:
+// - signs, selection, fields of the format, conversions in the rounding of the language: the compiler makes one or a few
+//   instructions of them everywhere, and vectors as wide as the machine's;
+// - roundings to integers, and fma, where the processor has the instruction;
+// - the other conversions with AVX, whose wide vectors make up for the runtime's detours, but for double to int and uint
+//   to nearest, and double to float and 64-bit integers to double toward zero.
+// Remainders stay the library's: the runtime's are loops over bits.
+bool left_to_compiler(const operation& o, variant v, const machine& on) {
+  if (v != variant::standard) return false;
+  const auto base = o.base_name();
+  const auto is_among = [&](std::initializer_list<std::string_view> names) { return std::ranges::count(names, base) != 0; };
+  if (is_among({"sqrt", "fabs", "copysign", "fdim", "fmax", "fmin", "maxmag", "minmag", "modf", "frexp", "ldexp", "ilogb",
+                "logb", "nan", "nextafter"}))
+    return true;
+  if (is_among({"ceil", "floor", "trunc", "rint", "round", "fract"})) return on.rounds;
+  if (base == "fma") return on.fuses;
+  if (o.group != family::conversion) return false;
+
+  const auto says = [&](std::string_view part) { return o.name().find(part) != std::string_view::npos; };
+  const lane from = o.sig.arguments[0], to = o.sig.result;
+  if (is_unsigned_without_saturation(o) && !on.rounds) return false;
+  if (says(is_integer(to) ? "rtz" : "rte") || (to == lane::f64 && size_of(from) == 4)) return true;
+  if (on.register_size == 16) return false;
+  if (from == lane::f64 && is_integer(to) && size_of(to) == 4) return !says("rte");
+  return !(says("rtz") && size_of(from) == 8 && (from == lane::f64 || to == lane::f64));
+}
 
 std::string form::function() const { return fmt::format("{}{}{}{}", symbol_prefix, op.name(), width, suffix(variant)); }
 std::string form::by_value() const { return fmt::format("lanemath_{}{}{}", op.name(), width, suffix(variant)); }

@@ -1,4 +1,5 @@
-// The built-ins in OpenCL C: each hands its vectors on by pointers, a scalar by value.
+// The built-ins in OpenCL C: each hands its vectors on by pointers, a scalar by value. Exact ones that the runtime gives
+// other bits are written out in opencl/exact.h.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
@@ -78,10 +79,47 @@ void define_with_scalar_last(std::FILE* out, const builtin& b) {
              opencl_type(b.of.sig().arguments[1], 1), type);
 }
 
+// What the compiler answers with other bits than the library's.
+void define_exact(std::FILE* out, const operation& o, int width) {
+  const auto base = o.base_name();
+  const auto type = [&](lane l) { return opencl_type(l, width); };
+  const auto real = type(o.sig.arguments[0]);
+  const bool single = o.single();
+  if (base == "maxmag") {
+    fmt::print(out, "EXACT_MAXMAG({})\n", real);
+  } else if (base == "minmag") {
+    fmt::print(out, "EXACT_MINMAG({})\n", real);
+  } else if (base == "fma") {
+    fmt::print(out, "EXACT_FMA({})\n", real);
+  } else if (base == "fract") {
+    for (auto space : address_spaces)
+      fmt::print(out, "EXACT_FRACT({}, {}, {}, {}, {})\n", space, real, type(single ? lane::u32 : lane::u64),
+                 single ? "0x80000000" : "0x8000000000000000", single ? "0x1.fffffep-1f" : "0x1.fffffffffffffp-1");
+  } else if (o.name() == "frexp" && width >= 8) {
+    for (auto space : address_spaces)
+      fmt::print(out, "EXACT_FREXP({}, {}, {}, {}, {})\n", space, real, type(lane::i32),
+                 opencl_type(lane::f64, width / 2), opencl_type(lane::i32, width / 2));
+  } else if (is_unsigned_without_saturation(o)) {
+    const auto name = o.name();
+    const bool narrow = o.sig.result == lane::u32;
+    const auto round = name.find("rte") != name.npos   ? "roundeven"
+                       : name.find("rtn") != name.npos ? "floor"
+                       : name.find("rtp") != name.npos ? "ceil"
+                                                       : "trunc";
+    for (const auto& builtin_name : opencl_names(o, variant::standard, width))
+      fmt::print(out, "EXACT_TO_UNSIGNED({}, {}, {}, {}, {}, {}, {}, {})\n", builtin_name, real, type(o.sig.result),
+                 type(narrow ? lane::i32 : lane::i64), width == 1 ? "CAST" : "__builtin_convertvector", round,
+                 narrow ? "0x1p32f" : "0x1p64f", narrow ? "0x80000000" : "0x8000000000000000");
+  }
+}
+
 }  // namespace
 
 void write_opencl_builtins(std::FILE* out, const machine& on, const std::set<std::string>& exported) {
-  fmt::print(out, "#define BUILTIN __attribute__((overloadable, always_inline))\n");
+  fmt::print(out, "#include \"exact.h\"\n");
+  for (const auto& o : catalogue)
+    for (int width : widths)
+      if (left_to_compiler(o, variant::standard, on)) define_exact(out, o, width);
   for_each_form(on, exported, [&](const form& f) {
     builtin b{f, ""};
     const bool loops = f.width == 1 && !loop_widths(f.op, f.variant, on).empty();

@@ -258,6 +258,19 @@ class writer {
   const signature& s_;
 };
 
+// x y + z by the processor's instruction.
+void define_fused(std::FILE* out, lane l, int width) {
+  constexpr auto suffix = [](lane l) { return l == lane::f32 ? "f32" : "f64"; };
+  const auto type = width == 1 ? ir_type(l, 1) : fmt::format("<{} x {}>", width, ir_type(l, 1));
+  const auto function = width == 1 ? fmt::format("llvm.fma.{}", suffix(l)) : fmt::format("llvm.fma.v{}{}", width, suffix(l));
+  fmt::print(out,
+             "\ndeclare {0} @{1}({0}, {0}, {0})\n"
+             "define void @lanemath_fused_{2}(ptr %to, ptr %x_at, ptr %y_at, ptr %z_at) {3} {{\n"
+             "  %x = load {0}, ptr %x_at\n  %y = load {0}, ptr %y_at\n  %z = load {0}, ptr %z_at\n"
+             "  %result = call {0} @{1}({0} %x, {0} %y, {0} %z)\n  store {0} %result, ptr %to\n  ret void\n}}\n",
+             type, function, opencl_type(l, width), inlined);
+}
+
 }  // namespace
 
 void write_opencl_crossings(std::FILE* out, const machine& on, const std::set<std::string>& exported) {
@@ -277,5 +290,8 @@ void write_opencl_crossings(std::FILE* out, const machine& on, const std::set<st
       text.define_by_value();
     text.define_by_pointer();
   });
+  if (on.fuses)
+    for (lane l : {lane::f32, lane::f64})
+      for (int width : widths) define_fused(out, l, width);
   write_attributes(out, on);
 }

@@ -37,6 +37,9 @@ bool packs_results(const lanemath::operation& o);
 std::vector<int> loop_widths(const lanemath::operation& o, lanemath::variant v, const machine& on);
 std::string loop_function(const form& vector);
 
+// The runtime converts negative values otherwise.
+bool is_unsigned_without_saturation(const lanemath::operation& o);
+
 // Calls `each` for what kernels on this machine call the library for.
 template <class Each>
 void for_each_form(const machine& on, const std::set<std::string>& exported, Each each) {
