@@ -60,18 +60,22 @@ bool is_unsigned_without_saturation(const operation& o) {
 }
 
 // What is measured to be no slower inline, and why:
-// - signs, selection, fields of the format, conversions in the rounding of the language: the compiler makes one or a few
+// - signs, selection, fields of the format, conversions in the rounding of the language: the compiler makes one or a
+// few
 //   instructions of them everywhere, and vectors as wide as the machine's;
 // - roundings to integers, and fma, where the processor has the instruction;
-// - the other conversions with AVX, whose wide vectors make up for the runtime's detours, but for double to int and uint
+// - the other conversions with AVX, whose wide vectors make up for the runtime's detours, but for double to int and
+// uint
 //   to nearest, and double to float and 64-bit integers to double toward zero.
 // Remainders stay the library's: the runtime's are loops over bits.
 bool left_to_compiler(const operation& o, variant v, const machine& on) {
   if (v != variant::standard) return false;
   const auto base = o.base_name();
-  const auto is_among = [&](std::initializer_list<std::string_view> names) { return std::ranges::count(names, base) != 0; };
-  if (is_among({"sqrt", "fabs", "copysign", "fdim", "fmax", "fmin", "maxmag", "minmag", "modf", "frexp", "ldexp", "ilogb",
-                "logb", "nan", "nextafter"}))
+  const auto is_among = [&](std::initializer_list<std::string_view> names) {
+    return std::ranges::count(names, base) != 0;
+  };
+  if (is_among({"sqrt", "fabs", "copysign", "fdim", "fmax", "fmin", "maxmag", "minmag", "modf", "frexp", "ldexp",
+                "ilogb", "logb", "nan", "nextafter"}))
     return true;
   if (is_among({"ceil", "floor", "trunc", "rint", "round", "fract"})) return on.rounds;
   if (base == "fma") return on.fuses;
@@ -99,10 +103,6 @@ int lanes_of_a_register(const operation& o) {
   return int(16 / widest);
 }
 
-bool packs_results(const operation& o) {
-  return o.sig.how == delivery::pointer && size_of(o.sig.result) == 4 && size_of(o.sig.second) == 4;
-}
-
 crossing crossing_of(const form& f) {
   const int lanes = lanes_of_a_register(f.op);
   if (padded(f.width) <= lanes) return crossing::whole;
@@ -114,10 +114,10 @@ std::vector<int> loop_widths(const operation& o, variant v, const machine& on) {
   const int lanes = lanes_of_a_register(o);
   const auto same_bits = [&](int width) { return !is_standalone(o.name(), width, v); };
   std::vector<int> all;
-  if (left_to_compiler(o, v, on) || !same_bits(1) || (o.sig.how != delivery::none && !packs_results(o))) return all;
+  if (left_to_compiler(o, v, on) || !same_bits(1)) return all;
   if (same_bits(lanes)) all.push_back(lanes);
-  // Packed results at twice the lanes would be wider than what all kernels pass alike.
-  if (on.register_size == 32 && !packs_results(o) && same_bits(2 * lanes)) all.push_back(2 * lanes);
+  // Packed results of more lanes would be wider than what all kernels pass alike.
+  if (on.register_size == 32 && o.sig.how == delivery::none && same_bits(2 * lanes)) all.push_back(2 * lanes);
   return all;
 }
 

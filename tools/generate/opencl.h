@@ -24,8 +24,8 @@ std::vector<std::string> opencl_names(const lanemath::operation& operation, lane
 // Whether vectors of this built-in may take one scalar as their last argument.
 bool opencl_scalar_last(std::string_view name);
 
-// A kind of machine that the runtime has a kernel library for. It takes the last one here whose features, by the names of
-// the system's list of the processor's, a machine has.
+// A kind of machine that the runtime has a kernel library for. It takes the last one here whose features, by the names
+// of the system's list of the processor's, a machine has.
 struct machine {
   std::string_view kind;       // in the kernel library's name
   std::string_view processor;  // that kernels are compiled for there, as the name of the runtime's device tells

@@ -1,5 +1,5 @@
-// The built-ins in OpenCL C: each hands its vectors on by pointers, a scalar by value. Exact ones that the runtime gives
-// other bits are written out in opencl/exact.h.
+// The built-ins in OpenCL C: each hands its vectors on by pointers, a scalar by value. Exact ones that the runtime
+// gives other bits are written out in opencl/exact.h.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
@@ -33,25 +33,6 @@ struct builtin {
     return arguments([](auto type, auto name) { return fmt::format("{} {}", type, name); });
   }
 };
-
-std::string name_only(std::string_view, std::string_view name) { return std::string(name); }
-
-// By value: a scalar, with one result or two that are packed.
-void define_scalar(std::FILE* out, const builtin& b, const std::string& function) {
-  const auto call = fmt::format("{}({})", function, b.arguments(name_only));
-  if (!b.of.has_second()) {
-    fmt::print(out, "BUILTIN {} _cl_{}({}) {{ return {}; }}\n", b.result(), b.name, b.parameters(), call);
-    return;
-  }
-  for (auto space : address_spaces)
-    fmt::print(out,
-               "BUILTIN {0} _cl_{1}({2}, {3} {4}* second) {{\n"
-               "  const ulong both = {5};\n"
-               "  *second = as_{4}((uint)(both >> 32));\n"
-               "  return as_{0}((uint)both);\n"
-               "}}\n",
-               b.result(), b.name, b.parameters(), space, b.second(), call);
-}
 
 void define_by_pointers(std::FILE* out, const builtin& b) {
   const auto references = b.arguments([](auto, auto name) { return fmt::format("&{}", name); });
@@ -102,13 +83,14 @@ void define_exact(std::FILE* out, const operation& o, int width) {
   } else if (is_unsigned_without_saturation(o)) {
     const auto name = o.name();
     const bool narrow = o.sig.result == lane::u32;
-    const auto round = name.find("rte") != name.npos   ? "roundeven"
-                       : name.find("rtn") != name.npos ? "floor"
-                       : name.find("rtp") != name.npos ? "ceil"
-                                                       : "trunc";
+    // The conversion itself rounds toward zero.
+    const auto rounded = name.find("rte") != name.npos   ? "__builtin_elementwise_roundeven(x)"
+                         : name.find("rtn") != name.npos ? "__builtin_elementwise_floor(x)"
+                         : name.find("rtp") != name.npos ? "__builtin_elementwise_ceil(x)"
+                                                         : "x";
     for (const auto& builtin_name : opencl_names(o, variant::standard, width))
       fmt::print(out, "EXACT_TO_UNSIGNED({}, {}, {}, {}, {}, {}, {}, {})\n", builtin_name, real, type(o.sig.result),
-                 type(narrow ? lane::i32 : lane::i64), width == 1 ? "CAST" : "__builtin_convertvector", round,
+                 type(narrow ? lane::i32 : lane::i64), width == 1 ? "CAST" : "__builtin_convertvector", rounded,
                  narrow ? "0x1p32f" : "0x1p64f", narrow ? "0x80000000" : "0x8000000000000000");
   }
 }
@@ -123,11 +105,10 @@ void write_opencl_builtins(std::FILE* out, const machine& on, const std::set<std
   for_each_form(on, exported, [&](const form& f) {
     builtin b{f, ""};
     const bool loops = f.width == 1 && !loop_widths(f.op, f.variant, on).empty();
-    const bool by_value = f.width == 1 && (loops || !f.has_second());
-    const auto function = !loops ? f.function() : f.has_second() ? f.packed() : f.by_value();
+    const bool by_value = f.width == 1 && !f.has_second();
+    const auto function = loops ? f.by_value() : f.function();
     if (by_value) {
-      fmt::print(out, "\n__attribute__((const)) {} {}({});\n", f.has_second() ? "ulong" : b.result(), function,
-                 b.parameters());
+      fmt::print(out, "\n__attribute__((const)) {} {}({});\n", b.result(), function, b.parameters());
     } else {
       const auto pointers = b.arguments([](auto type, auto name) { return fmt::format("const {}* {}", type, name); });
       fmt::print(out, "\nvoid {}({}* result, {}{});\n", f.by_pointer(), b.result(),
@@ -136,7 +117,8 @@ void write_opencl_builtins(std::FILE* out, const machine& on, const std::set<std
     for (const auto& name : opencl_names(f.op, f.variant, f.width)) {
       b.name = name;
       if (by_value)
-        define_scalar(out, b, function);
+        fmt::print(out, "BUILTIN {} _cl_{}({}) {{ return {}({}); }}\n", b.result(), name, b.parameters(), function,
+                   b.arguments([](auto, auto parameter) { return parameter; }));
       else
         define_by_pointers(out, b);
       if (f.width > 1 && opencl_scalar_last(name)) define_with_scalar_last(out, b);

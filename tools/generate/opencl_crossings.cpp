@@ -21,10 +21,14 @@ constexpr std::string_view head = R"(; How kernels reach the library. Made by th
 ;   function of our own, for calls in kernels are marked as not to be replaced. The vector forms are called, since the
 ;   runtime's linker copies only what is called. The calls vanish as unused; the addresses in an empty instruction keep
 ;   the vector forms, and keep constant arguments from being moved into the function.
-; lanemath_sincosf1_packed: the same with two results in one value, which is all that the vectoriser knows.
+; Upper halves of registers are cleared before the library is called, which would be slow with them.
+; lanemath_sincosf1_packed: the same with two results in one value, since the vectoriser knows no more: an i64, or an
+;   fp128 for the sake of its register.
 
 target datalayout = "e-m:e-p270:32:32-p271:32:32-p272:64:64-i64:64-f80:128-n8:16:32:64-S128"
 target triple = "x86_64-pc-linux-gnu"
+
+declare void @llvm.x86.avx.vzeroupper()
 )";
 
 constexpr std::string_view pure = "#0", with_memory = "#1", own = "#2", inlined = "#3";
@@ -51,7 +55,7 @@ std::string room_type(lane l, int width) { return fmt::format("[{} x {}]", padde
 
 class writer {
  public:
-  writer(std::FILE* out, const form& f) : out_(out), f_(f), s_(f.sig()) {}
+  writer(std::FILE* out, const form& f, const machine& on) : out_(out), f_(f), s_(f.sig()), on_(on) {}
 
   void declare() {
     std::vector<std::string> types;
@@ -71,13 +75,15 @@ class writer {
       fmt::print(out_, "  call void @{}(ptr %rooms, {})\n", f_.by_pointer(), rooms);
       fmt::print(out_, "  %result = load {}, ptr %rooms\n", ir_type(s_.result, f_.width));
     } else {
+      clear_upper_halves(padded(f_.width) * int(std::max(size_of(s_.result), size_of(s_.second))));
       call_library();
     }
     return_results();
   }
 
   void define_packed() {
-    define(f_.packed(), ir_type(lane::u64, f_.width));
+    define(f_.packed(), packed_type(f_.width));
+    clear_upper_halves(f_.width * half() / 4);
     call_library();
     pack();
   }
@@ -87,17 +93,19 @@ class writer {
     const auto own_name = f_.has_second() ? f_.packed() : f_.by_value();
     for (int lanes : lane_counts) {
       const auto function = loop_function({f_.op, f_.variant, lanes});
-      mappings.push_back(fmt::format("_ZGV_LLVM_N{}{}_{}({})", lanes, std::string(s_.arity(), 'v'), own_name, function));
+      mappings.push_back(
+          fmt::format("_ZGV_LLVM_N{}{}_{}({})", lanes, std::string(s_.arity(), 'v'), own_name, function));
       addresses.push_back("ptr @" + function);
     }
     addresses.push_back("ptr @" + own_name);
     constraints.assign(addresses.size(), "r");
 
-    const auto type = f_.has_second() ? ir_type(lane::u64, 1) : result_type();
+    const auto type = f_.has_second() ? packed_type(1) : result_type();
     define(own_name, type, fmt::format(" \"vector-function-abi-variant\"=\"{}\"", fmt::join(mappings, ",")));
     for (int lanes : lane_counts)
       fmt::print(out_, "  %unused{} = call {} @{}({}) {}\n", lanes,
-                 ir_type(f_.has_second() ? lane::u64 : s_.result, lanes), loop_function({f_.op, f_.variant, lanes}),
+                 f_.has_second() ? packed_type(lanes) : ir_type(s_.result, lanes),
+                 loop_function({f_.op, f_.variant, lanes}),
                  arguments([&](int i) { return ir_type(s_.arguments[i], lanes) + " zeroinitializer"; }), pure);
     fmt::print(out_, "  call void asm sideeffect \"\", \"{}\"({})\n", fmt::join(constraints, ","),
                fmt::join(addresses, ", "));
@@ -108,7 +116,7 @@ class writer {
       return_results();
   }
 
-  void define_by_pointer() {
+  void define_by_pointer(bool from_packed) {
     fmt::print(out_, "\ndefine void @{}(ptr %to, {}{}) {} {{\n", f_.by_pointer(),
                f_.has_second() ? "ptr %second_to, " : "",
                arguments([](int i) { return fmt::format("ptr %{}_at", names[i]); }), inlined);
@@ -117,14 +125,19 @@ class writer {
     } else {
       for (int i = 0; i < s_.arity(); ++i)
         fmt::print(out_, "  %{0} = load {1}, ptr %{0}_at\n", names[i], ir_type(s_.arguments[i], f_.width));
-      fmt::print(out_, "  %both = call {} @{}({}) {}\n", result_type(),
-                 in_registers_only() ? f_.function() : f_.by_value(), values(), pure);
-      if (f_.has_second()) {
+      if (from_packed) {
+        fmt::print(out_, "  %packed = call {} @{}({}) {}\n", packed_type(1), f_.packed(), values(), pure);
+        unpack();
+      } else if (f_.has_second()) {
+        fmt::print(out_, "  %both = call {} @{}({}) {}\n", result_type(), f_.by_value(), values(), pure);
         fmt::print(out_, "  %result = extractvalue {0} %both, 0\n  %second = extractvalue {0} %both, 1\n",
                    result_type());
-        fmt::print(out_, "  store {} %second, ptr %second_to\n", ir_type(s_.second, f_.width));
+      } else {
+        fmt::print(out_, "  %result = call {} @{}({}) {}\n", result_type(),
+                   in_registers_only() ? f_.function() : f_.by_value(), values(), pure);
       }
-      fmt::print(out_, "  store {} %{}, ptr %to\n", ir_type(s_.result, f_.width), f_.has_second() ? "result" : "both");
+      if (f_.has_second()) fmt::print(out_, "  store {} %second, ptr %second_to\n", ir_type(s_.second, f_.width));
+      fmt::print(out_, "  store {} %result, ptr %to\n", ir_type(s_.result, f_.width));
     }
     fmt::print(out_, "  ret void\n}}\n");
   }
@@ -169,16 +182,25 @@ class writer {
     return at;
   }
 
+  // The compiler does it where an argument has upper halves, but not where only what is returned has.
+  void clear_upper_halves(int bytes_returned) {
+    const bool from_registers = std::all_of(s_.arguments.begin(), s_.arguments.begin() + s_.arity(),
+                                            [&](lane l) { return crosses_in_register(l, f_.width); });
+    if (on_.register_size > 16 && bytes_returned > 16 && from_registers)
+      fmt::print(out_, "  call void @llvm.x86.avx.vzeroupper()\n");
+  }
+
   // From the arguments to %result and %second.
   void call_library() {
     std::vector<std::string> passed;
     const bool result_in_memory = !crosses_in_register(s_.result, f_.width);
     if (result_in_memory)
-      passed.push_back(fmt::format("ptr sret({}) align 16 {}", room_type(s_.result, f_.width), room("result", s_.result)));
+      passed.push_back(
+          fmt::format("ptr sret({}) align 16 {}", room_type(s_.result, f_.width), room("result", s_.result)));
     for (int i = 0; i < s_.arity(); ++i)
-      passed.push_back(passed_to_library(i) + " " + (crosses_in_register(s_.arguments[i], f_.width)
-                                                         ? fmt::format("%{}", names[i])
-                                                         : store(names[i], s_.arguments[i])));
+      passed.push_back(passed_to_library(i) + " " +
+                       (crosses_in_register(s_.arguments[i], f_.width) ? fmt::format("%{}", names[i])
+                                                                       : store(names[i], s_.arguments[i])));
     if (f_.has_second()) passed.push_back("ptr " + room("second", s_.second));
     fmt::print(out_, "  {}call {} @{}({}) {}\n", result_in_memory ? "" : "%result = ", returned_by_library(),
                f_.function(), fmt::join(passed, ", "), in_registers_only() ? pure : with_memory);
@@ -213,15 +235,44 @@ class writer {
     fmt::print(out_, "  ret {} %both\n}}\n", result_type());
   }
 
-  // The first result in the low halves.
+  // The first result is in the low half.
+  int half() const { return size_of(s_.result) == 4 ? 32 : 64; }
+  std::string packed_type(int width) const {
+    const std::string_view scalar = half() == 32 ? "i64" : "fp128";
+    return width == 1 ? std::string(scalar) : fmt::format("<{} x {}>", width, scalar);
+  }
+  std::string halves_type(int width) const { return ir_type(half() == 32 ? lane::u32 : lane::u64, width); }
+
   void pack() {
-    const auto narrow = ir_type(lane::u32, f_.width), wide = ir_type(lane::u64, f_.width);
-    for (auto [name, l] : {std::pair("result", s_.result), std::pair("second", s_.second)})
-      fmt::print(out_, "  %{0}_bits = bitcast {1} %{0} to {2}\n  %{0}_wide = zext {2} %{0}_bits to {3}\n", name,
-                 ir_type(l, f_.width), narrow, wide);
-    std::vector<std::string> shift(f_.width, "i64 32");
-    fmt::print(out_, "  %high = shl {} %second_wide, {}\n  %both = or {} %high, %result_wide\n  ret {} %both\n}}\n", wide,
-               f_.width == 1 ? "32" : fmt::format("<{}>", fmt::join(shift, ", ")), wide, wide);
+    const auto halves = halves_type(f_.width);
+    fmt::print(out_, "  %low = bitcast {} %result to {}\n", ir_type(s_.result, f_.width), halves);
+    fmt::print(out_, "  %high = {} {} %second to {}\n",
+               size_of(s_.second) * 8 == std::size_t(half()) ? "bitcast" : "zext", ir_type(s_.second, f_.width),
+               halves);
+    if (f_.width == 1) {
+      fmt::print(out_,
+                 "  %first = insertelement {0} poison, {1} %low, i64 0\n  %both = insertelement {0} %first, {1} %high, "
+                 "i64 1\n",
+                 halves_type(2), halves);
+    } else {
+      std::vector<std::string> order;
+      for (int i = 0; i < f_.width; ++i) order.push_back(fmt::format("i32 {}, i32 {}", i, f_.width + i));
+      fmt::print(out_, "  %both = shufflevector {0} %low, {0} %high, <{1} x i32> <{2}>\n", halves, 2 * f_.width,
+                 fmt::join(order, ", "));
+    }
+    fmt::print(out_, "  %packed = bitcast {} %both to {}\n  ret {} %packed\n}}\n", halves_type(2 * f_.width),
+               packed_type(f_.width), packed_type(f_.width));
+  }
+  // In a kernel's loop, where the vectoriser knows integers but no vectors.
+  void unpack() {
+    const auto whole = fmt::format("i{}", 2 * half());
+    fmt::print(out_, "  %bits = bitcast {} %packed to {}\n", packed_type(1), whole);
+    fmt::print(out_, "  %high = lshr {} %bits, {}\n", whole, half());
+    for (auto [name, from, l] : {std::tuple("result", "bits", s_.result), std::tuple("second", "high", s_.second)}) {
+      const auto bits = fmt::format("i{}", 8 * size_of(l));
+      fmt::print(out_, "  %{0}_bits = trunc {1} %{2} to {3}\n  %{0} = bitcast {3} %{0}_bits to {4}\n", name, whole,
+                 from, bits, ir_type(l, 1));
+    }
   }
 
   void in_pieces() {
@@ -256,13 +307,15 @@ class writer {
   std::FILE* out_;
   const form& f_;
   const signature& s_;
+  const machine& on_;
 };
 
 // x y + z by the processor's instruction.
 void define_fused(std::FILE* out, lane l, int width) {
   constexpr auto suffix = [](lane l) { return l == lane::f32 ? "f32" : "f64"; };
   const auto type = width == 1 ? ir_type(l, 1) : fmt::format("<{} x {}>", width, ir_type(l, 1));
-  const auto function = width == 1 ? fmt::format("llvm.fma.{}", suffix(l)) : fmt::format("llvm.fma.v{}{}", width, suffix(l));
+  const auto function =
+      width == 1 ? fmt::format("llvm.fma.{}", suffix(l)) : fmt::format("llvm.fma.v{}{}", width, suffix(l));
   fmt::print(out,
              "\ndeclare {0} @{1}({0}, {0}, {0})\n"
              "define void @lanemath_fused_{2}(ptr %to, ptr %x_at, ptr %y_at, ptr %z_at) {3} {{\n"
@@ -276,19 +329,18 @@ void define_fused(std::FILE* out, lane l, int width) {
 void write_opencl_crossings(std::FILE* out, const machine& on, const std::set<std::string>& exported) {
   fmt::print(out, "{}", head);
   for_each_form(on, exported, [&](const form& f) {
-    writer text(out, f);
+    writer text(out, f, on);
     text.declare();
     const auto loops = loop_widths(f.op, f.variant, on);
     const bool in_loops = std::ranges::find(loops, f.width) != loops.end();
-    if (f.width == 1 && !loops.empty()) {
+    const bool scalar_of_loops = f.width == 1 && !loops.empty();
+    if (scalar_of_loops)
       text.define_scalar_of_loops(loops);
-      return;
-    }
-    if (f.width == 1 && !f.has_second()) return;
-    if (in_loops && f.has_second()) text.define_packed();
-    if (crossing_of(f) == crossing::in_memory || f.has_second() || (in_loops && loop_function(f) == f.by_value()))
-      text.define_by_value();
-    text.define_by_pointer();
+    else if (in_loops && f.has_second())
+      text.define_packed();
+    const bool called_by_value = f.has_second() ? !scalar_of_loops : in_loops && loop_function(f) == f.by_value();
+    if (called_by_value || crossing_of(f) == crossing::in_memory) text.define_by_value();
+    if (f.width > 1 || f.has_second()) text.define_by_pointer(scalar_of_loops);
   });
   if (on.fuses)
     for (lane l : {lane::f32, lane::f64})

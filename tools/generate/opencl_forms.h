@@ -13,8 +13,8 @@ struct form {
   const lanemath::signature& sig() const { return op.sig; }
   bool has_second() const { return op.sig.how == lanemath::delivery::pointer; }
 
-  // What calls it. The library's function takes wide vectors in memory; then, whatever the size of the vectors: by value;
-  // with both results, of 32 bits, packed into one value of 64; with vectors in memory, the results first.
+  // What calls it. The library's function takes wide vectors in memory; then, whatever the size of the vectors: by
+  // value; with both results packed into one value of 64 or 128 bits; with vectors in memory, the results first.
   std::string function() const;
   std::string by_value() const;
   std::string packed() const;
@@ -29,9 +29,6 @@ bool crosses_in_register(lanemath::lane l, int width);
 
 // The lanes of an operation's widest type that fill a register of the library's.
 int lanes_of_a_register(const lanemath::operation& o);
-
-// Whether both results have 32 bits, so that they can be packed into one value.
-bool packs_results(const lanemath::operation& o);
 
 // The numbers of lanes at which loops over the scalar built-in call a vector form.
 std::vector<int> loop_widths(const lanemath::operation& o, lanemath::variant v, const machine& on);
