@@ -103,11 +103,25 @@ int lanes_of_a_register(const operation& o) {
   return int(16 / widest);
 }
 
+// From how many registers on one call of a wide form, through memory, takes less time than a call for each register:
+// where its kernel gains that much from interleaving its groups. Measured; most never do.
+int registers_that_pay_for_memory(const operation& o, variant v) {
+  constexpr int never = 16;
+  const auto is_among = [&](std::initializer_list<std::string_view> names) {
+    return std::ranges::count(names, o.name()) != 0;
+  };
+  if (o.group == family::power) return v == variant::standard ? 2 : 4;
+  if (is_among({"tgamma", "tgammaf", "lgamma", "atan2pi"})) return 2;
+  if (is_among({"cos", "tanpi", "atanpi", "asinhf", "atanh", "atanhf", "invf", "sqrtf"})) return 4;
+  return never;
+}
+
 crossing crossing_of(const form& f) {
-  const int lanes = lanes_of_a_register(f.op);
-  if (padded(f.width) <= lanes) return crossing::whole;
+  const int lanes = lanes_of_a_register(f.op), registers = padded(f.width) / lanes;
+  if (registers <= 1) return crossing::whole;
   const bool same_bits = !is_standalone(f.op.name(), lanes, f.variant) && !f.has_second();
-  return same_bits && !getenv("NOSPLIT") ? crossing::in_pieces : crossing::in_memory;
+  return same_bits && registers < registers_that_pay_for_memory(f.op, f.variant) ? crossing::in_pieces
+                                                                                 : crossing::in_memory;
 }
 
 std::vector<int> loop_widths(const operation& o, variant v, const machine& on) {
