@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <random>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -27,8 +26,9 @@ struct comparison {
   bool any_nan;  // a NaN of any kind will do where an argument or the library's result is one
   const lanemath::signature& signature;
   const std::vector<bytes>& inputs;
-  std::span<const bytes> acceptable;  // in each lane the kernel must agree with one of these
+  const std::byte* kernel;
+  const bytes& direct;
 };
 
 // How many lanes of a kernel's results differ; the first that does is printed.
-std::size_t differences(const std::string& what, const std::byte* kernel, const comparison& with);
+std::size_t differences(const std::string& what, const comparison& c);

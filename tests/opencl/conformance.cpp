@@ -99,42 +99,28 @@ class conformance {
       check_vectorised(g, k);
   }
 
-  // Whether loops over a built-in may take several lanes at once.
-  bool vectorises(const builtin& b) const { return !loop_functions(b.operation(), b.variant, on_).empty(); }
-
-  // The widths at which the library's functions may have answered a kernel.
-  std::vector<int> widths_behind(const kernel& k, const builtin& b) const {
-    if (k.width == 1 && vectorises(b)) return {widths.begin(), widths.end()};
-    return {k.width};
-  }
-
   void check(const group& g, const kernel& k, const builtin& b, const std::vector<bytes>& inputs,
              const std::vector<int>& flags, const std::vector<bytes>& outputs, std::size_t member) {
     const auto& s = g.signature;
     std::array<const void*, 3> pointers{};
     for (std::size_t i = 0; i < inputs.size(); ++i) pointers[i] = inputs[i].data();
-    std::vector<bytes> direct, direct_second;
-    for (int width : widths_behind(k, b)) {
-      direct.emplace_back(lanes * size_of(s.result));
-      direct_second.emplace_back(lanes * size_of(s.second));
-      library_.find(b.index, b.variant, width)
-          ->call(pointers.data(), direct.back().data(), direct_second.back().data(), lanes);
-      for (std::size_t i = 0; i < flags.size(); ++i)
-        if (!flags[i]) {
-          std::fill_n(direct.back().begin() + i * size_of(s.result), size_of(s.result), untouched);
-          std::fill_n(direct_second.back().begin() + i * size_of(s.second), size_of(s.second), untouched);
-        }
-    }
+    bytes direct(lanes * size_of(s.result)), direct_second(lanes * size_of(s.second));
+    library_.find(b.index, b.variant, k.width)->call(pointers.data(), direct.data(), direct_second.data(), lanes);
+    for (std::size_t i = 0; i < flags.size(); ++i)
+      if (!flags[i]) {
+        std::fill_n(direct.begin() + i * size_of(s.result), size_of(s.result), untouched);
+        std::fill_n(direct_second.begin() + i * size_of(s.second), size_of(s.second), untouched);
+      }
 
     const bool any_nan = left_to_compiler(b.operation(), b.variant, on_);
     const auto what =
         fmt::format("{}{}{} at width {} in {}", b.name(k.width), g.how.address_space.empty() ? "" : ", pointer to ",
                     g.how.scalar_last ? ", scalar last" : g.how.address_space, k.width, k.name);
-    const auto wrong_lanes = [&](const std::string& what, lane of, const bytes& output, const std::vector<bytes>& all) {
-      return differences(what, output.data() + member * lanes * size_of(of), {of, k.width, any_nan, s, inputs, all});
+    const auto compare = [&](const std::string& what, lane of, const bytes& results, const bytes& expected) {
+      return differences(what, {of, k.width, any_nan, s, inputs, results.data() + member * expected.size(), expected});
     };
-    std::size_t bad = wrong_lanes(what, s.result, outputs[0], direct);
-    if (outputs.size() > 1) bad += wrong_lanes(what + ", second result", s.second, outputs[1], direct_second);
+    std::size_t bad = compare(what, s.result, outputs[0], direct);
+    if (outputs.size() > 1) bad += compare(what + ", second result", s.second, outputs[1], direct_second);
     if (bad) fmt::print("  in {} lanes\n", bad);
     wrong_ += bad != 0;
     ++calls_;

@@ -3,9 +3,10 @@
 #include <fmt/format.h>
 #include <stdlib.h>
 
+#include <array>
 #include <cstdio>
-#include <memory>
 #include <regex>
+#include <sstream>
 #include <stdexcept>
 
 kernel_cache::kernel_cache() {
@@ -66,14 +67,14 @@ std::set<std::string> device::called_by(const std::string& kernel, const std::st
     text.append(piece.data(), size);
   if (pclose(pipe) != 0) throw std::runtime_error(command + " failed");
 
-  // Only calls in the kernel count: other functions, which may not even be called, mention the same names.
+  // Only calls in the function that is launched count: others, which may not even be called, mention the same names.
+  const auto begin_of_kernel = fmt::format("@_pocl_kernel_{}_workgroup(", kernel);
   static const std::regex call(R"(\bcall [^@]*@([\w.]+)\()");
   std::set<std::string> called;
   bool in_kernel = false, kernel_seen = false;
-  for (std::size_t begin = 0, end; begin < text.size(); begin = end + 1) {
-    end = std::min(text.find('\n', begin), text.size());
-    const auto line = text.substr(begin, end - begin);
-    if (line.starts_with("define ")) kernel_seen |= in_kernel = line.find("@_pocl_kernel_") != line.npos;
+  std::string line;
+  for (std::istringstream lines(text); std::getline(lines, line);) {
+    if (line.starts_with("define ")) kernel_seen |= in_kernel = line.find(begin_of_kernel) != line.npos;
     if (std::smatch match; in_kernel && std::regex_search(line, match, call)) called.insert(match[1]);
   }
   if (!kernel_seen) throw std::runtime_error(fmt::format("no code of the kernel {} in its bitcode", kernel));
