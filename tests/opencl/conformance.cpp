@@ -35,8 +35,9 @@ const machine& machine_of(const std::string& device_name) {
 
 class conformance {
  public:
-  conformance(const harness::library& library, const std::string& disassembler, std::uint64_t seed)
-      : library_(library), disassembler_(disassembler), random_(seed), on_(machine_of(device_.name())) {}
+  conformance(const harness::library& library, const device& device, const machine& on, const std::string& disassembler,
+              std::uint64_t seed)
+      : library_(library), device_(device), on_(on), disassembler_(disassembler), random_(seed) {}
 
   void run(std::span<const group> batch) {
     std::vector<std::vector<kernel>> kernels;
@@ -95,7 +96,7 @@ class conformance {
       }
       check(g, k, b, taken, flags, outputs, m);
     }
-    if (k.width == 1 && (k.form == shape::plain || k.form == shape::constant || k.form == shape::chain))
+    if (g.vectorises && k.width == 1 && (k.form == shape::plain || k.form == shape::constant || k.form == shape::chain))
       check_vectorised(g, k);
   }
 
@@ -139,10 +140,10 @@ class conformance {
   }
 
   const harness::library& library_;
+  const device& device_;
+  const machine& on_;
   std::string disassembler_;
   std::mt19937_64 random_;
-  device device_;
-  const machine& on_;
   std::size_t groups_ = 0, calls_ = 0, wrong_ = 0, loops_ = 0, scalar_ = 0;
 };
 
@@ -173,12 +174,14 @@ int main(int argc, char** argv) try {
   if (!only.empty() && std::ranges::find(catalogue, only, &operation::name) == catalogue.end())
     throw std::runtime_error(fmt::format("no operation is called {}", only));
   const harness::library library(path);
+  const device device;
+  const auto& on = machine_of(device.name());
   std::vector<group> groups;
-  for (std::size_t i = 0; auto& g : groups_of(library, only))
+  for (std::size_t i = 0; auto& g : groups_of(library, on, only))
     if (i++ % part.count == part.number) groups.push_back(std::move(g));
   if (groups.empty()) throw std::runtime_error("there are no built-ins to compare");
 
-  conformance conformance(library, disassembler, seed);
+  conformance conformance(library, device, on, disassembler, seed);
   for (std::size_t i = 0; i < groups.size(); i += groups_per_program)
     conformance.run(std::span(groups).subspan(i, std::min(groups_per_program, groups.size() - i)));
   fmt::print("{}\n", conformance.summary());

@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <array>
 
-#include "generate/opencl.h"
-
 using namespace lanemath;
 
 namespace {
@@ -14,12 +12,13 @@ namespace {
 constexpr std::size_t members_per_group = 8;
 constexpr std::array<std::string_view, 3> argument_names{"x", "y", "z"};
 
-void add(std::vector<group>& groups, const manner& how, const builtin& b) {
+void add(std::vector<group>& groups, const manner& how, bool vectorises, const builtin& b) {
+  const auto& s = b.operation().sig;
   const auto has_room = [&](const group& g) {
-    return g.signature == b.operation().sig && g.how == how && g.members.size() < members_per_group;
+    return g.signature == s && g.how == how && g.vectorises == vectorises && g.members.size() < members_per_group;
   };
   auto place = std::ranges::find_if(groups, has_room);
-  if (place == groups.end()) place = groups.insert(place, {b.operation().sig, how, {}});
+  if (place == groups.end()) place = groups.insert(place, {s, how, vectorises, {}});
   place->members.push_back(b);
 }
 
@@ -61,20 +60,21 @@ std::string statement(const group& g, const kernel& k, std::size_t member) {
 
 std::string builtin::name(int width) const { return opencl_names(operation(), variant, width)[name_index]; }
 
-std::vector<group> groups_of(const harness::library& library, std::string_view only) {
+std::vector<group> groups_of(const harness::library& library, const machine& on, std::string_view only) {
   std::vector<group> groups;
   for (std::size_t index = 0; index < catalogue.size(); ++index) {
     const auto& o = catalogue[index];
     if (!only.empty() && o.name() != only) continue;
     for (auto v : variants) {
       if (!o.has(v) || !library.find(index, v, 1)) continue;
+      const bool vectorises = left_to_compiler(o, v, on) || !loop_functions(o, v, on).empty();
       for (std::size_t n = 0; n < opencl_names(o, v, 1).size(); ++n) {
         const builtin b{index, v, n};
         if (o.sig.how == delivery::pointer)
-          for (auto space : {"global", "local", "private"}) add(groups, {space}, b);
+          for (auto space : {"global", "local", "private"}) add(groups, {space}, vectorises, b);
         else
-          add(groups, {}, b);
-        if (opencl_scalar_last(b.name(1))) add(groups, {"", true}, b);
+          add(groups, {}, vectorises, b);
+        if (opencl_scalar_last(b.name(1))) add(groups, {"", true}, vectorises, b);
       }
     }
   }

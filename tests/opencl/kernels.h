@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "frame/catalogue.h"
+#include "generate/opencl.h"
 #include "harness/harness.h"
 
 // Every kernel covers this many lanes, in groups of a number of items that leaves a remainder to every vectorised loop.
@@ -38,6 +39,7 @@ struct manner {
 struct group {
   lanemath::signature signature;
   manner how;
+  bool vectorises;  // a loop over these may: a single call that cannot take several lanes at once keeps it scalar
   std::vector<builtin> members;
 };
 
@@ -58,7 +60,7 @@ struct kernel {
 };
 
 // All built-ins that the library serves, or those of one operation.
-std::vector<group> groups_of(const lanemath::harness::library& library, std::string_view only);
+std::vector<group> groups_of(const lanemath::harness::library& library, const machine& on, std::string_view only);
 
 std::vector<kernel> kernels_of(const group& g, std::string_view name_prefix);
 
