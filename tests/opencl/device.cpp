@@ -31,10 +31,15 @@ std::filesystem::path kernel_cache::bitcode_of(const std::string& kernel) const 
   throw std::runtime_error(fmt::format("the runtime left no bitcode of the kernel {}", kernel));
 }
 
+device::device() try : context_(CL_DEVICE_TYPE_ALL), queue_(context_) {
+} catch (const cl::Error& error) {
+  throw std::runtime_error(fmt::format("no OpenCL device: {} gave error {}", error.what(), error.err()));
+}
+
 cl::Program device::build(const std::string& source) const {
   cl::Program program(context_, source);
   try {
-    program.build();
+    program.build("-w");  // the compiler warns of each wide vector in a kernel for a machine with narrower registers
   } catch (const cl::BuildError& error) {
     for (const auto& [where, log] : error.getBuildLog()) fmt::print(stderr, "{}\n{}\n", source, log);
     throw;

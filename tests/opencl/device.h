@@ -30,7 +30,7 @@ class kernel_cache {
 
 class device {
  public:
-  device() : context_(CL_DEVICE_TYPE_ALL), queue_(context_) {}
+  device();
 
   std::string name() const { return queue_.getInfo<CL_QUEUE_DEVICE>().getInfo<CL_DEVICE_NAME>(); }
   cl::Program build(const std::string& source) const;

@@ -91,7 +91,7 @@ std::vector<kernel> kernels_of(const group& g, std::string_view name_prefix) {
   if (g.how.scalar_last) return all;
 
   const auto& s = g.signature;
-  add("loop", shape::loop, 1);
+  add("scalar", shape::scalar, 1);
   add("branch", shape::branch, 1);
   if (s.arity() > 1) add("constant", shape::constant, 1);
   if (s == signature{s.result, {s.result}} && g.members.size() > 1) add("chain", shape::chain, 1);
@@ -111,10 +111,12 @@ std::string source_of(const group& g, const kernel& k) {
   std::string body = fmt::format("  const size_t lanes = {};\n", lanes);
   if (g.how.address_space == "local")
     body += fmt::format("  local {} delivered[{}];\n", opencl_type(s.second, k.width), items_per_group);
-  if (k.form == shape::loop)
-    body +=
-        fmt::format("  const size_t first = {0} * get_global_id(0);\n  for (size_t i = first; i < first + {0}; ++i)",
-                    lanes_per_share);
+  if (k.form == shape::scalar)
+    body += fmt::format(
+        "  const size_t first = {0} * get_global_id(0);\n"
+        "  #pragma clang loop vectorize(disable) unroll(disable)\n"
+        "  for (size_t i = first; i < first + {0}; ++i)",
+        lanes_per_share);
   else
     body += fmt::format("  const size_t i = {} * get_global_id(0);\n ", padded(k.width));
   if (k.form == shape::branch) body += " if (flags[i])";

@@ -45,7 +45,7 @@ struct group {
 
 enum class shape {
   plain,     // one vector, or scalar, for each work item
-  loop,      // a share of scalars for each work item
+  scalar,    // a share of scalars for each work item, one at a time
   branch,    // a scalar for each work item whose flag is set
   constant,  // scalars, the last argument a constant
   chain      // scalars, every second built-in called with what the one before it gave
@@ -56,7 +56,7 @@ struct kernel {
   shape form;
   int width;
 
-  std::size_t items() const { return lanes / (form == shape::loop ? lanes_per_share : lanemath::padded(width)); }
+  std::size_t items() const { return lanes / (form == shape::scalar ? lanes_per_share : lanemath::padded(width)); }
 };
 
 // All built-ins that the library serves, or those of one operation.
