@@ -95,7 +95,7 @@ class conformance {
       }
       check(g, k, b, taken, flags, outputs, m);
     }
-    if (g.vectorises && k.width == 1 && k.form != shape::branch) check_loop(g, k);
+    if (g.loops == in_loops::vector_forms && k.width == 1 && k.form != shape::branch) check_loop(g, k);
   }
 
   void check(const group& g, const kernel& k, const builtin& b, const std::vector<bytes>& inputs,
@@ -113,7 +113,7 @@ class conformance {
         std::fill_n(direct_second.begin() + i * size_of(s.second), size_of(s.second), untouched);
       }
 
-    const bool any_nan = left_to_compiler(b.operation(), b.variant, on_);
+    const bool any_nan = g.loops == in_loops::instructions;
     const auto what =
         fmt::format("{}{}{} at width {} in {}", b.name(k.width), g.how.address_space.empty() ? "" : ", pointer to ",
                     g.how.scalar_last ? ", scalar last" : g.how.address_space, k.width, k.name);
@@ -133,7 +133,6 @@ class conformance {
     const auto called = device_.called_by(k.name, disassembler_);
     for (const auto& b : g.members) {
       const auto functions = loop_functions(b.operation(), b.variant, on_);
-      if (functions.empty()) continue;
       ++loops_;
       const bool vectorised = std::ranges::any_of(functions, [&](const auto& f) { return called.contains(f); });
       if (vectorised == (k.form != shape::scalar)) continue;

@@ -12,13 +12,18 @@ namespace {
 constexpr std::size_t members_per_group = 8;
 constexpr std::array<std::string_view, 3> argument_names{"x", "y", "z"};
 
-void add(std::vector<group>& groups, const manner& how, bool vectorises, const builtin& b) {
+in_loops in_loops_of(const builtin& b, const machine& on) {
+  if (left_to_compiler(b.operation(), b.variant, on)) return in_loops::instructions;
+  return loop_functions(b.operation(), b.variant, on).empty() ? in_loops::scalar_calls : in_loops::vector_forms;
+}
+
+void add(std::vector<group>& groups, const manner& how, in_loops loops, const builtin& b) {
   const auto& s = b.operation().sig;
   const auto has_room = [&](const group& g) {
-    return g.signature == s && g.how == how && g.vectorises == vectorises && g.members.size() < members_per_group;
+    return g.signature == s && g.how == how && g.loops == loops && g.members.size() < members_per_group;
   };
   auto place = std::ranges::find_if(groups, has_room);
-  if (place == groups.end()) place = groups.insert(place, {s, how, vectorises, {}});
+  if (place == groups.end()) place = groups.insert(place, {s, how, loops, {}});
   place->members.push_back(b);
 }
 
@@ -67,14 +72,14 @@ std::vector<group> groups_of(const harness::library& library, const machine& on,
     if (!only.empty() && o.name() != only) continue;
     for (auto v : variants) {
       if (!o.has(v) || !library.find(index, v, 1)) continue;
-      const bool vectorises = left_to_compiler(o, v, on) || !loop_functions(o, v, on).empty();
       for (std::size_t n = 0; n < opencl_names(o, v, 1).size(); ++n) {
         const builtin b{index, v, n};
+        const auto loops = in_loops_of(b, on);
         if (o.sig.how == delivery::pointer)
-          for (auto space : {"global", "local", "private"}) add(groups, {space}, vectorises, b);
+          for (auto space : {"global", "local", "private"}) add(groups, {space}, loops, b);
         else
-          add(groups, {}, vectorises, b);
-        if (opencl_scalar_last(b.name(1))) add(groups, {"", true}, vectorises, b);
+          add(groups, {}, loops, b);
+        if (opencl_scalar_last(b.name(1))) add(groups, {"", true}, loops, b);
       }
     }
   }

@@ -35,11 +35,15 @@ struct manner {
   bool operator==(const manner&) const = default;
 };
 
+// What a loop over a scalar built-in comes to. Each has kernels of its own: a call that has no vector form keeps the
+// whole loop scalar, and beside instructions some calls stay scalar that alone would be of vector forms.
+enum class in_loops { vector_forms, instructions, scalar_calls };
+
 // Built-ins of one signature that are called in the same kernels.
 struct group {
   lanemath::signature signature;
   manner how;
-  bool vectorises;  // a loop over these may: a single call that cannot take several lanes at once keeps it scalar
+  in_loops loops;
   std::vector<builtin> members;
 };
 
