@@ -1,271 +1,195 @@
 // Shows that the library answers the built-ins of OpenCL kernels: each one runs at every width over special values
-// and random bits, and every lane must have the bits that a direct call of the library gives.
-#define CL_HPP_ENABLE_EXCEPTIONS
-#define CL_HPP_MINIMUM_OPENCL_VERSION 120
-#define CL_HPP_TARGET_OPENCL_VERSION 120
+// and random bits, in kernels of several shapes, and every lane must have the bits that a direct call of the library
+// gives. Loops over scalar built-ins that have vector forms must call these.
 #include <fmt/format.h>
-#include <CL/opencl.hpp>
+#include <fmt/ranges.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <array>
-#include <bit>
 #include <cstring>
-#include <limits>
 #include <random>
+#include <span>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "comparison.h"
+#include "device.h"
 #include "generate/opencl.h"
 #include "harness/harness.h"
+#include "kernels.h"
 
 namespace {
 
 using namespace lanemath;
 
-constexpr std::size_t lanes_per_item = 16;
-constexpr std::size_t items_per_group = 64;
-constexpr std::size_t lanes = 128 * items_per_group * lanes_per_item;
+constexpr std::size_t groups_per_program = 8;
+constexpr std::byte untouched{0xa5};
 
-using bytes = std::vector<std::byte>;
-
-// How a kernel calls a built-in, beyond its name.
-struct manner {
-  std::string address_space;  // of the second result's pointer, if there is one
-  bool scalar_last = false;   // the last argument is one scalar for all lanes
-};
-
-template <class Bits>
-constexpr auto special_bits() {
-  using real = std::conditional_t<sizeof(Bits) == 4, float, double>;
-  using limits = std::numeric_limits<real>;
-  std::vector<Bits> all{0, 1, 2, 3, 31, 32, 63, 64, ~Bits(0), std::numeric_limits<Bits>::max() / 2};
-  for (double value : {0.5,
-                       1.0,
-                       1.5,
-                       2.0,
-                       2.5,
-                       3.0,
-                       10.0,
-                       0.1,
-                       88.0,
-                       89.0,
-                       104.0,
-                       127.0,
-                       128.0,
-                       150.0,
-                       709.0,
-                       745.0,
-                       1023.0,
-                       1024.0,
-                       1075.0,
-                       8388608.0,
-                       2147483648.0,
-                       4294967296.0,
-                       9223372036854775808.0,
-                       1e19})
-    all.push_back(std::bit_cast<Bits>(real(value)));
-  for (real value : {limits::infinity(), limits::quiet_NaN(), limits::signaling_NaN(), limits::max(), limits::min(),
-                     limits::denorm_min(), limits::epsilon()})
-    all.push_back(std::bit_cast<Bits>(value));
-  const std::size_t positive = all.size();
-  for (std::size_t i = 0; i < positive; ++i) all.push_back(all[i] ^ Bits(1) << (8 * sizeof(Bits) - 1));
-  return all;
+const machine& machine_of(const std::string& device_name) {
+  for (const auto& m : machines)
+    if (device_name.find(fmt::format("-{}-", m.processor)) != device_name.npos) return m;
+  throw std::runtime_error(fmt::format("the processor of the device {} is not known here", device_name));
 }
 
-// A third each of special values, of random bits, and of ordinary values or small integers.
-template <class Bits>
-void fill(bytes& out, bool integers, std::mt19937_64& random) {
-  using real = std::conditional_t<sizeof(Bits) == 4, float, double>;
-  const auto specials = special_bits<Bits>();
-  std::uniform_real_distribution<double> ordinary(-40, 40);
-  for (std::size_t i = 0; i < lanes; ++i) {
-    Bits bits = Bits(random());
-    if (const auto kind = random() % 3; kind == 0)
-      bits = specials[random() % specials.size()];
-    else if (kind == 1)
-      bits = integers ? Bits(std::int64_t(ordinary(random))) : std::bit_cast<Bits>(real(ordinary(random)));
-    std::memcpy(out.data() + i * sizeof bits, &bits, sizeof bits);
-  }
-}
-
-bytes inputs_of(lane l, std::mt19937_64& random) {
-  bytes all(lanes * size_of(l));
-  const bool integers = l != lane::f32 && l != lane::f64;
-  if (size_of(l) == 4)
-    fill<std::uint32_t>(all, integers, random);
-  else
-    fill<std::uint64_t>(all, integers, random);
-  return all;
-}
-
-// The first lane of each work item's share, in all its lanes.
-void spread_first_lanes(bytes& values, std::size_t lane_size) {
-  for (std::size_t i = 0; i < lanes; ++i)
-    std::memcpy(values.data() + i * lane_size, values.data() + i / lanes_per_item * lanes_per_item * lane_size,
-                lane_size);
-}
-
-// One kernel for all widths. Each work item has 16 lanes, and each width its own part of the results.
-std::string kernel_source(const operation& o, variant v, std::size_t name_index, const manner& how) {
-  constexpr std::array names{"x", "y", "z"};
-  std::string parameters, body;
-  for (int i = 0; i < o.sig.arity(); ++i)
-    parameters += fmt::format("global const {}* {}, ", opencl_type(o.sig.arguments[i], 1), names[i]);
-  parameters += fmt::format("global {}* result", opencl_type(o.sig.result, 1));
-  const bool has_pointer = o.sig.how == delivery::pointer;
-  if (has_pointer) parameters += fmt::format(", global {}* second", opencl_type(o.sig.second, 1));
-  if (how.address_space == "local")
-    body += fmt::format("  local {} delivered[{}];\n", opencl_type(o.sig.second, 16), items_per_group);
-
-  for (std::size_t place = 0; place < widths.size(); ++place) {
-    const int width = widths[place];
-    std::string call = opencl_names(o, v, width)[name_index] + "(";
-    for (int i = 0; i < o.sig.arity(); ++i) {
-      const bool scalar = how.scalar_last && i + 1 == o.sig.arity();
-      call += fmt::format("{}*(global const {}*)({} + {})", i ? ", " : "",
-                          opencl_type(o.sig.arguments[i], scalar ? 1 : width), names[i], scalar ? "first" : "i");
-    }
-    const auto second = opencl_type(o.sig.second, width);
-    const auto in_global = fmt::format("(global {}*)(second + {} * lanes + i)", second, place);
-    std::string before, after;
-    if (how.address_space == "global") {
-      call += ", " + in_global;
-    } else if (how.address_space == "local") {
-      const auto in_local = fmt::format("(local {}*)&delivered[get_local_id(0)]", second);
-      call += ", " + in_local;
-      after = fmt::format(" *{} = *{};", in_global, in_local);
-    } else if (how.address_space == "private") {
-      call += ", &delivered";
-      before = fmt::format("{} delivered; ", second);
-      after = fmt::format(" *{} = delivered;", in_global);
-    }
-    body += fmt::format(
-        "  for (size_t i = first; i < first + {}; i += {}) {{ {}*(global {}*)(result + {} * lanes + i) = {});{} }}\n",
-        lanes_per_item, padded(width), before, opencl_type(o.sig.result, width), place, call, after);
-  }
-  return fmt::format(
-      "kernel void conformance({}) {{\n"
-      "  const size_t lanes = {}, first = {} * get_global_id(0);\n{}}}\n",
-      parameters, lanes, lanes_per_item, body);
-}
-
-class device {
+class conformance {
  public:
-  device() : context_(CL_DEVICE_TYPE_ALL), queue_(context_) {}
+  conformance(const harness::library& library, const device& device, const machine& on, const std::string& disassembler,
+              std::uint64_t seed)
+      : library_(library), device_(device), on_(on), disassembler_(disassembler), random_(seed) {}
 
-  std::string name() const { return queue_.getInfo<CL_QUEUE_DEVICE>().getInfo<CL_DEVICE_NAME>(); }
-
-  void run(const std::string& source, std::vector<bytes>& inputs, bytes& result, bytes& second) {
-    cl::Program program(context_, source);
-    try {
-      program.build();
-    } catch (const cl::BuildError& error) {
-      for (const auto& [where, log] : error.getBuildLog()) fmt::print(stderr, "{}\n{}\n", source, log);
-      throw;
+  void run(std::span<const group> batch) {
+    std::vector<std::vector<kernel>> kernels;
+    std::string source;
+    for (const auto& g : batch) {
+      kernels.push_back(kernels_of(g, fmt::format("group{}", groups_++)));
+      for (const auto& k : kernels.back()) source += source_of(g, k);
     }
-    cl::Kernel kernel(program, "conformance");
-    std::vector<cl::Buffer> buffers;
-    const auto pass = [&](bytes& memory) {
-      buffers.emplace_back(context_, CL_MEM_READ_WRITE | CL_MEM_COPY_HOST_PTR, memory.size(), memory.data());
-      kernel.setArg(cl_uint(buffers.size() - 1), buffers.back());
-    };
-    for (auto& input : inputs) pass(input);
-    pass(result);
-    if (!second.empty()) pass(second);
-    queue_.enqueueNDRangeKernel(kernel, cl::NullRange, cl::NDRange(lanes / lanes_per_item),
-                                cl::NDRange(items_per_group));
-    queue_.enqueueReadBuffer(buffers[inputs.size()], CL_TRUE, 0, result.size(), result.data());
-    if (!second.empty()) queue_.enqueueReadBuffer(buffers.back(), CL_TRUE, 0, second.size(), second.data());
+    const auto program = device_.build(source);
+    for (std::size_t i = 0; i < batch.size(); ++i) run(program, batch[i], kernels[i]);
+  }
+
+  bool passed() const { return calls_ != 0 && wrong_ == 0 && wrong_loops_ == 0; }
+  std::string summary() const {
+    return fmt::format(
+        "{}: {} of {} calls of built-ins give the library's bits in all of {} lanes, {} of {} are vectorised as "
+        "expected",
+        device_.name(), calls_ - wrong_, calls_, lanes, loops_ - wrong_loops_, loops_);
   }
 
  private:
-  cl::Context context_;
-  cl::CommandQueue queue_;
+  void run(const cl::Program& program, const group& g, const std::vector<kernel>& kernels) {
+    const auto& s = g.signature;
+    const int last = s.arity() - 1;
+    std::vector<bytes> inputs;
+    for (int i = 0; i <= last; ++i) inputs.push_back(inputs_of(s.arguments[i], lanes, random_));
+    if (g.how.scalar_last) spread_first_lanes(inputs.back(), size_of(s.arguments[last]), lanes_per_share);
+    auto with_constant = inputs;
+    with_constant.back() = constants_of(s.arguments[last], lanes, constant_argument);
+
+    for (const auto& k : kernels) run(program, g, k, k.form == shape::constant ? with_constant : inputs);
+  }
+
+  void run(const cl::Program& program, const group& g, const kernel& k, const std::vector<bytes>& inputs) {
+    const auto& s = g.signature;
+    const std::size_t result_part = lanes * size_of(s.result), second_part = lanes * size_of(s.second);
+    std::vector<bytes> outputs{bytes(g.members.size() * result_part, untouched)};
+    if (second_part) outputs.emplace_back(g.members.size() * second_part, untouched);
+
+    auto memory = inputs;
+    std::vector<int> flags;
+    if (k.form == shape::branch) {
+      for (std::size_t i = 0; i < lanes; ++i) flags.push_back(random_() % 2);
+      const auto* first = reinterpret_cast<const std::byte*>(flags.data());
+      memory.emplace_back(first, first + lanes * sizeof(int));
+    }
+    device_.run(program, k.name, k.items(), items_per_group, memory, outputs);
+
+    for (std::size_t m = 0; m < g.members.size(); ++m) {
+      const auto& b = g.members[m];
+      auto taken = inputs;
+      if (k.form == shape::chain && m % 2) {
+        const auto* previous = outputs[0].data() + (m - 1) * result_part;
+        taken[0].assign(previous, previous + result_part);
+      }
+      check(g, k, b, taken, flags, outputs, m);
+    }
+    if (g.loops == in_loops::vector_forms && k.width == 1 && k.form != shape::branch) check_loop(g, k);
+  }
+
+  void check(const group& g, const kernel& k, const builtin& b, const std::vector<bytes>& inputs,
+             const std::vector<int>& flags, const std::vector<bytes>& outputs, std::size_t member) {
+    const auto& s = g.signature;
+    std::array<const void*, 3> pointers{};
+    for (std::size_t i = 0; i < inputs.size(); ++i) pointers[i] = inputs[i].data();
+    bytes direct(lanes * size_of(s.result)), direct_second(lanes * size_of(s.second));
+    library_.find(b.index, b.variant, k.width)
+        .value()
+        .call(pointers.data(), direct.data(), direct_second.data(), lanes);
+    for (std::size_t i = 0; i < flags.size(); ++i)
+      if (!flags[i]) {
+        std::fill_n(direct.begin() + i * size_of(s.result), size_of(s.result), untouched);
+        std::fill_n(direct_second.begin() + i * size_of(s.second), size_of(s.second), untouched);
+      }
+
+    const bool any_nan = g.loops == in_loops::instructions;
+    const auto what =
+        fmt::format("{}{}{} at width {} in {}", b.name(k.width), g.how.address_space.empty() ? "" : ", pointer to ",
+                    g.how.scalar_last ? ", scalar last" : g.how.address_space, k.width, k.name);
+    const auto compare = [&](const std::string& what, lane of, const bytes& results, const bytes& expected) {
+      return differences(what, {of, k.width, any_nan, s, inputs, results.data() + member * expected.size(), expected});
+    };
+    std::size_t bad = compare(what, s.result, outputs[0], direct);
+    if (outputs.size() > 1) bad += compare(what + ", second result", s.second, outputs[1], direct_second);
+    if (bad) fmt::print("  in {} lanes\n", bad);
+    wrong_ += bad != 0;
+    ++calls_;
+  }
+
+  // The runtime loops over a kernel's work items. That loop must call vector forms, but in a kernel of its own loop,
+  // which says that it is not to be vectorised, no loop may. Where a branch is in it, the compiler weighs the cost.
+  void check_loop(const group& g, const kernel& k) {
+    const auto called = device_.called_by(k.name, disassembler_);
+    for (const auto& b : g.members) {
+      const auto functions = loop_functions(b.operation(), b.variant, on_);
+      ++loops_;
+      const bool vectorised = std::ranges::any_of(functions, [&](const auto& f) { return called.contains(f); });
+      if (vectorised == (k.form != shape::scalar)) continue;
+      fmt::print("{} in {} is {}vectorised: of {} {} is called\n", b.name(1), k.name, vectorised ? "" : "not ",
+                 fmt::join(functions, ", "), vectorised ? "one" : "none");
+      ++wrong_loops_;
+    }
+  }
+
+  const harness::library& library_;
+  const device& device_;
+  const machine& on_;
+  std::string disassembler_;
+  std::mt19937_64 random_;
+  std::size_t groups_ = 0, calls_ = 0, wrong_ = 0, loops_ = 0, wrong_loops_ = 0;
 };
 
-std::string hexadecimal(const std::byte* lane, std::size_t size) {
-  std::uint64_t bits = 0;
-  std::memcpy(&bits, lane, size);
-  return fmt::format("{:#0{}x}", bits, 2 + 2 * size);
-}
-
-// How many lanes differ; the first that does is printed.
-std::size_t differences(const std::string& what, int width, lane l, const std::byte* kernel, const std::byte* direct,
-                        const std::vector<bytes>& inputs, const signature& s) {
-  const std::size_t size = size_of(l);
-  std::size_t count = 0;
-  for (std::size_t i = 0; i < lanes; ++i) {
-    if (width == 3 && i % 4 == 3) continue;
-    if (std::memcmp(kernel + i * size, direct + i * size, size) == 0 || ++count > 1) continue;
-    fmt::print("{} at width {}: {} for", what, width, hexadecimal(kernel + i * size, size));
-    for (std::size_t a = 0; a < inputs.size(); ++a) {
-      const std::size_t input_size = size_of(s.arguments[a]);
-      fmt::print(" {}", hexadecimal(inputs[a].data() + i * input_size, input_size));
-    }
-    fmt::print(" instead of {}\n", hexadecimal(direct + i * size, size));
-  }
-  return count;
+// "1/3": part 1 of the parts 0, 1, 2.
+struct part {
+  std::ptrdiff_t number = 0, count = 1;
+};
+std::istream& operator>>(std::istream& in, part& p) {
+  char slash = 0;
+  if (!(in >> p.number >> slash >> p.count) || slash != '/' || p.number < 0 || p.number >= p.count)
+    in.setstate(std::ios::failbit);
+  return in;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) try {
-  std::string path, only;
+  std::string path, only, disassembler = "llvm-dis-15";
   std::uint64_t seed = 1;
+  part part;
   CLI::App app("Compares the maths built-ins of OpenCL kernels with direct calls of the library, bit for bit.");
   app.add_option("library", path, "the shared object")->required()->check(CLI::ExistingFile);
   app.add_option("--operation", only, "only this one, by its name in the catalogue");
+  app.add_option("--part", part, "only this part of the built-ins: 0/2 and 1/2 are the halves");
   app.add_option("--seed", seed, "of the random inputs")->capture_default_str();
+  app.add_option("--disassembler", disassembler, "of the LLVM that the runtime compiles with")->capture_default_str();
   CLI11_PARSE(app, argc, argv);
 
+  if (!only.empty() && std::ranges::find(catalogue, only, &operation::name) == catalogue.end())
+    throw std::runtime_error(fmt::format("no operation is called {}", only));
   const harness::library library(path);
-  device device;
-  std::mt19937_64 random(seed);
-  std::size_t builtins = 0, wrong = 0;
+  const device device;
+  const auto& on = machine_of(device.name());
+  std::vector<group> groups;
+  for (std::ptrdiff_t i = 0; auto& g : groups_of(library, on, only))
+    if (i++ % part.count == part.number) groups.push_back(std::move(g));
+  if (groups.empty()) throw std::runtime_error("there are no built-ins to compare");
 
-  for (std::size_t index = 0; index < catalogue.size(); ++index) {
-    const auto& o = catalogue[index];
-    if (!only.empty() && o.name() != only) continue;
-    for (auto v : variants) {
-      if (!o.has(v) || !library.find(index, v, 1)) continue;
-      const auto names = opencl_names(o, v, 1);
-      for (std::size_t n = 0; n < names.size(); ++n) {
-        std::vector<manner> manners(1);
-        if (o.sig.how == delivery::pointer) manners = {{"global"}, {"local"}, {"private"}};
-        if (opencl_scalar_last(names[n])) manners.push_back({"", true});
-
-        for (const auto& how : manners) {
-          std::vector<bytes> inputs;
-          for (int i = 0; i < o.sig.arity(); ++i) inputs.push_back(inputs_of(o.sig.arguments[i], random));
-          if (how.scalar_last) spread_first_lanes(inputs.back(), size_of(o.sig.arguments[o.sig.arity() - 1]));
-          const std::size_t result_part = lanes * size_of(o.sig.result);
-          const std::size_t second_part = lanes * size_of(o.sig.second);
-          bytes result(widths.size() * result_part), second(widths.size() * second_part);
-          device.run(kernel_source(o, v, n, how), inputs, result, second);
-
-          std::array<const void*, 3> pointers{};
-          for (std::size_t i = 0; i < inputs.size(); ++i) pointers[i] = inputs[i].data();
-          const auto what = fmt::format("{}{}{}", names[n], how.address_space.empty() ? "" : ", pointer to ",
-                                        how.scalar_last ? ", scalar last" : how.address_space);
-          for (std::size_t place = 0; place < widths.size(); ++place) {
-            const int width = widths[place];
-            bytes direct(result_part), direct_second(second_part);
-            library.find(index, v, width)->call(pointers.data(), direct.data(), direct_second.data(), lanes);
-            std::size_t bad = differences(what, width, o.sig.result, result.data() + place * result_part, direct.data(),
-                                          inputs, o.sig);
-            if (second_part)
-              bad += differences(what + ", second result", width, o.sig.second, second.data() + place * second_part,
-                                 direct_second.data(), inputs, o.sig);
-            wrong += bad != 0;
-            ++builtins;
-          }
-        }
-      }
-    }
-  }
-  fmt::print("{}: {} of {} built-ins give the library's bits in all of {} lanes\n", device.name(), builtins - wrong,
-             builtins, lanes);
-  return builtins != 0 && wrong == 0 ? 0 : 1;
+  conformance conformance(library, device, on, disassembler, seed);
+  for (std::size_t i = 0; i < groups.size(); i += groups_per_program)
+    conformance.run(std::span(groups).subspan(i, std::min(groups_per_program, groups.size() - i)));
+  fmt::print("{}\n", conformance.summary());
+  return conformance.passed() ? 0 : 1;
 } catch (const cl::Error& error) {
   fmt::print(stderr, "OpenCL: {} gave error {}\n", error.what(), error.err());
   return 1;

@@ -1,0 +1,34 @@
+// Arrays of lanes: the inputs of kernels, and where two results differ.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "frame/catalogue.h"
+
+using bytes = std::vector<std::byte>;
+
+// A third each of special values, of random bits, and of ordinary values or small integers.
+bytes inputs_of(lanemath::lane l, std::size_t lanes, std::mt19937_64& random);
+
+// All lanes the same.
+bytes constants_of(lanemath::lane l, std::size_t lanes, double value);
+
+// Each lane as the first of its share.
+void spread_first_lanes(bytes& values, std::size_t lane_size, std::size_t lanes_per_share);
+
+struct comparison {
+  lanemath::lane of;
+  int width;
+  bool any_nan;  // a NaN of any kind will do where an argument or the library's result is one
+  const lanemath::signature& signature;
+  const std::vector<bytes>& inputs;
+  const std::byte* kernel;
+  const bytes& direct;
+};
+
+// How many lanes of a kernel's results differ; the first that does is printed.
+std::size_t differences(const std::string& what, const comparison& c);
