@@ -12,18 +12,13 @@ namespace {
 constexpr std::size_t members_per_group = 8;
 constexpr std::array<std::string_view, 3> argument_names{"x", "y", "z"};
 
-in_loops in_loops_of(const builtin& b, const machine& on) {
-  if (left_to_compiler(b.operation(), b.variant, on)) return in_loops::instructions;
-  return loop_functions(b.operation(), b.variant, on).empty() ? in_loops::scalar_calls : in_loops::vector_forms;
-}
-
-void add(std::vector<group>& groups, const manner& how, in_loops loops, const builtin& b) {
+void add(std::vector<group>& groups, const manner& how, const builtin& b) {
   const auto& s = b.operation().sig;
   const auto has_room = [&](const group& g) {
-    return g.signature == s && g.how == how && g.loops == loops && g.members.size() < members_per_group;
+    return g.signature == s && g.how == how && g.members.size() < members_per_group;
   };
   auto place = std::ranges::find_if(groups, has_room);
-  if (place == groups.end()) place = groups.insert(place, {s, how, loops, {}});
+  if (place == groups.end()) place = groups.insert(place, {s, how, {}});
   place->members.push_back(b);
 }
 
@@ -65,7 +60,7 @@ std::string statement(const group& g, const kernel& k, std::size_t member) {
 
 std::string builtin::name(int width) const { return opencl_names(operation(), variant, width)[name_index]; }
 
-std::vector<group> groups_of(const harness::library& library, const machine& on, std::string_view only) {
+std::vector<group> groups_of(const harness::library& library, std::string_view only) {
   std::vector<group> groups;
   for (std::size_t index = 0; index < catalogue.size(); ++index) {
     const auto& o = catalogue[index];
@@ -74,12 +69,11 @@ std::vector<group> groups_of(const harness::library& library, const machine& on,
       if (!o.has(v) || !library.find(index, v, 1)) continue;
       for (std::size_t n = 0; n < opencl_names(o, v, 1).size(); ++n) {
         const builtin b{index, v, n};
-        const auto loops = in_loops_of(b, on);
         if (o.sig.how == delivery::pointer)
-          for (auto space : {"global", "local", "private"}) add(groups, {space}, loops, b);
+          for (auto space : {"global", "local", "private"}) add(groups, {space}, b);
         else
-          add(groups, {}, loops, b);
-        if (opencl_scalar_last(b.name(1))) add(groups, {"", true}, loops, b);
+          add(groups, {}, b);
+        if (opencl_scalar_last(b.name(1))) add(groups, {"", true}, b);
       }
     }
   }

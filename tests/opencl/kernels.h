@@ -35,15 +35,10 @@ struct manner {
   bool operator==(const manner&) const = default;
 };
 
-// What a loop over a scalar built-in comes to. Each has kernels of its own: a call that has no vector form keeps the
-// whole loop scalar, and beside instructions some calls stay scalar that alone would be of vector forms.
-enum class in_loops { vector_forms, instructions, scalar_calls };
-
 // Built-ins of one signature that are called in the same kernels.
 struct group {
   lanemath::signature signature;
   manner how;
-  in_loops loops;
   std::vector<builtin> members;
 };
 
@@ -64,7 +59,7 @@ struct kernel {
 };
 
 // All built-ins that the library serves, or those of one operation.
-std::vector<group> groups_of(const lanemath::harness::library& library, const machine& on, std::string_view only);
+std::vector<group> groups_of(const lanemath::harness::library& library, std::string_view only);
 
 std::vector<kernel> kernels_of(const group& g, std::string_view name_prefix);
 

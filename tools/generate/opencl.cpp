@@ -60,13 +60,11 @@ bool is_unsigned_without_saturation(const operation& o) {
 }
 
 // What is measured to be no slower inline, and why:
-// - signs, selection, fields of the format, conversions in the rounding of the language: the compiler makes one or a
-// few
-//   instructions of them everywhere, and vectors as wide as the machine's;
-// - roundings to integers, and fma, where the processor has the instruction;
-// - the other conversions with AVX, whose wide vectors make up for the runtime's detours, but for double to int and
-// uint
-//   to nearest, and double to float and 64-bit integers to double toward zero.
+// - signs, selection, fields of the format, square roots, conversions in the rounding of the language: a few instructions
+//   everywhere, on vectors as wide as the machine's;
+// - roundings to integers, and fma: where the processor has the instruction;
+// - the other conversions: with AVX, whose wide vectors make up for the runtime's detours, but not double to int and uint
+//   to nearest, nor double to float toward zero.
 // Remainders stay the library's: the runtime's are loops over bits.
 bool left_to_compiler(const operation& o, variant v, const machine& on) {
   if (v != variant::standard) return false;
@@ -87,12 +85,13 @@ bool left_to_compiler(const operation& o, variant v, const machine& on) {
   if (says(is_integer(to) ? "rtz" : "rte") || (to == lane::f64 && size_of(from) == 4)) return true;
   if (on.register_size == 16) return false;
   if (from == lane::f64 && is_integer(to) && size_of(to) == 4) return !says("rte");
-  return !(says("rtz") && size_of(from) == 8 && (from == lane::f64 || to == lane::f64));
+  return from != lane::f64 || !says("rtz");
 }
 
 std::string form::function() const { return fmt::format("{}{}{}{}", symbol_prefix, op.name(), width, suffix(variant)); }
 std::string form::by_value() const { return fmt::format("lanemath_{}{}{}", op.name(), width, suffix(variant)); }
 std::string form::packed() const { return by_value() + "_packed"; }
+std::string form::lane_by_lane() const { return by_value() + "_lane_by_lane"; }
 std::string form::by_pointer() const { return by_value() + "_by_pointer"; }
 
 bool crosses_in_register(lane l, int width) { return std::size_t(padded(width)) * size_of(l) <= 16; }
@@ -124,24 +123,24 @@ crossing crossing_of(const form& f) {
                                                                                  : crossing::in_memory;
 }
 
-std::vector<int> loop_widths(const operation& o, variant v, const machine& on) {
+std::vector<int> loop_widths(const operation& o, const machine& on) {
   const int lanes = lanes_of_a_register(o);
-  const auto same_bits = [&](int width) { return !is_standalone(o.name(), width, v); };
-  std::vector<int> all;
-  if (left_to_compiler(o, v, on) || !same_bits(1)) return all;
-  if (same_bits(lanes)) all.push_back(lanes);
-  // Packed results of more lanes would be wider than what all kernels pass alike.
-  if (on.register_size == 32 && o.sig.how == delivery::none && same_bits(2 * lanes)) all.push_back(2 * lanes);
-  return all;
+  // Two floats packed at twice the lanes would be wider than what all kernels pass alike.
+  const bool wide = on.register_size == 32 && (o.sig.how == delivery::none || lanes == 2);
+  return wide ? std::vector{lanes, 2 * lanes} : std::vector{lanes};
 }
 
+// A form with an algorithm of its own has other bits than the scalar's; with its neighbours at other widths in mind,
+// such a call must not keep their loop scalar.
 std::string loop_function(const form& vector) {
   if (vector.has_second()) return vector.packed();
+  const auto is_own = [&](int width) { return is_standalone(vector.op.name(), width, vector.variant); };
+  if (is_own(1) || is_own(vector.width)) return vector.lane_by_lane();
   return crossing_of(vector) == crossing::whole ? vector.function() : vector.by_value();
 }
 
 std::vector<std::string> loop_functions(const operation& o, variant v, const machine& on) {
   std::vector<std::string> all;
-  for (int width : loop_widths(o, v, on)) all.push_back(loop_function({o, v, width}));
+  for (int width : loop_widths(o, on)) all.push_back(loop_function({o, v, width}));
   return all;
 }

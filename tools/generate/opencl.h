@@ -49,7 +49,7 @@ inline constexpr machine machines[] = {
 bool left_to_compiler(const lanemath::operation& operation, lanemath::variant variant, const machine& on);
 
 // The functions that a loop over a scalar built-in calls once the compiler has vectorised it, one for each number of
-// lanes. None: it stays scalar.
+// lanes.
 std::vector<std::string> loop_functions(const lanemath::operation& operation, lanemath::variant variant,
                                         const machine& on);
 

@@ -104,11 +104,9 @@ void write_opencl_builtins(std::FILE* out, const machine& on, const std::set<std
       if (left_to_compiler(o, variant::standard, on)) define_exact(out, o, width);
   for_each_form(on, exported, [&](const form& f) {
     builtin b{f, ""};
-    const bool loops = f.width == 1 && !loop_widths(f.op, f.variant, on).empty();
     const bool by_value = f.width == 1 && !f.has_second();
-    const auto function = loops ? f.by_value() : f.function();
     if (by_value) {
-      fmt::print(out, "\n__attribute__((const)) {} {}({});\n", b.result(), function, b.parameters());
+      fmt::print(out, "\n__attribute__((const)) {} {}({});\n", b.result(), f.by_value(), b.parameters());
     } else {
       const auto pointers = b.arguments([](auto type, auto name) { return fmt::format("const {}* {}", type, name); });
       fmt::print(out, "\nvoid {}({}* result, {}{});\n", f.by_pointer(), b.result(),
@@ -117,7 +115,7 @@ void write_opencl_builtins(std::FILE* out, const machine& on, const std::set<std
     for (const auto& name : opencl_names(f.op, f.variant, f.width)) {
       b.name = name;
       if (by_value)
-        fmt::print(out, "BUILTIN {} _cl_{}({}) {{ return {}({}); }}\n", b.result(), name, b.parameters(), function,
+        fmt::print(out, "BUILTIN {} _cl_{}({}) {{ return {}({}); }}\n", b.result(), name, b.parameters(), f.by_value(),
                    b.arguments([](auto, auto parameter) { return parameter; }));
       else
         define_by_pointers(out, b);

@@ -22,6 +22,7 @@ constexpr std::string_view head = R"(; How kernels reach the library. Made by th
 ;   runtime's linker copies only what is called. The calls vanish as unused; the addresses in an empty instruction keep
 ;   the vector forms, and keep constant arguments from being moved into the function.
 ; Upper halves of registers are cleared before the library is called, which would be slow with them.
+; lanemath_exp2_lane_by_lane: a vector form where the library's has an algorithm of its own, and so other bits.
 ; lanemath_sincosf1_packed: the same with two results in one value, since the vectoriser knows no more: an i64, or an
 ;   fp128 for the sake of its register.
 
@@ -88,6 +89,25 @@ class writer {
     pack();
   }
 
+  void define_lane_by_lane() {
+    define(f_.lane_by_lane(), result_type());
+    std::string joined = "poison";
+    for (int lane = 0; lane < f_.width; ++lane) {
+      const auto passed = arguments([&](int i) {
+        fmt::print(out_, "  %{}{} = extractelement {} %{}, i64 {}\n", names[i], lane,
+                   ir_type(s_.arguments[i], f_.width), names[i], lane);
+        return fmt::format("{} %{}{}", ir_type(s_.arguments[i], 1), names[i], lane);
+      });
+      const auto scalar = ir_type(s_.result, 1);
+      fmt::print(
+          out_,
+          "  %result{0} = call {1} @{2}({3}) {4}\n  %joined{0} = insertelement {5} {6}, {1} %result{0}, i64 {0}\n",
+          lane, scalar, form{f_.op, f_.variant, 1}.function(), passed, pure, result_type(), joined);
+      joined = fmt::format("%joined{}", lane);
+    }
+    fmt::print(out_, "  ret {} {}\n}}\n", result_type(), joined);
+  }
+
   void define_scalar_of_loops(const std::vector<int>& lane_counts) {
     std::vector<std::string> mappings, addresses, constraints;
     const auto own_name = f_.has_second() ? f_.packed() : f_.by_value();
@@ -116,7 +136,7 @@ class writer {
       return_results();
   }
 
-  void define_by_pointer(bool from_packed) {
+  void define_by_pointer() {
     fmt::print(out_, "\ndefine void @{}(ptr %to, {}{}) {} {{\n", f_.by_pointer(),
                f_.has_second() ? "ptr %second_to, " : "",
                arguments([](int i) { return fmt::format("ptr %{}_at", names[i]); }), inlined);
@@ -125,7 +145,7 @@ class writer {
     } else {
       for (int i = 0; i < s_.arity(); ++i)
         fmt::print(out_, "  %{0} = load {1}, ptr %{0}_at\n", names[i], ir_type(s_.arguments[i], f_.width));
-      if (from_packed) {
+      if (f_.width == 1) {
         fmt::print(out_, "  %packed = call {} @{}({}) {}\n", packed_type(1), f_.packed(), values(), pure);
         unpack();
       } else if (f_.has_second()) {
@@ -331,16 +351,14 @@ void write_opencl_crossings(std::FILE* out, const machine& on, const std::set<st
   for_each_form(on, exported, [&](const form& f) {
     writer text(out, f, on);
     text.declare();
-    const auto loops = loop_widths(f.op, f.variant, on);
-    const bool in_loops = std::ranges::find(loops, f.width) != loops.end();
-    const bool scalar_of_loops = f.width == 1 && !loops.empty();
-    if (scalar_of_loops)
-      text.define_scalar_of_loops(loops);
-    else if (in_loops && f.has_second())
-      text.define_packed();
-    const bool called_by_value = f.has_second() ? !scalar_of_loops : in_loops && loop_function(f) == f.by_value();
-    if (called_by_value || crossing_of(f) == crossing::in_memory) text.define_by_value();
-    if (f.width > 1 || f.has_second()) text.define_by_pointer(scalar_of_loops);
+    const auto loops = loop_widths(f.op, on);
+    if (f.width == 1) text.define_scalar_of_loops(loops);
+    const auto of_loops = std::ranges::find(loops, f.width) != loops.end() ? loop_function(f) : "";
+    if (of_loops == f.packed()) text.define_packed();
+    if (of_loops == f.lane_by_lane()) text.define_lane_by_lane();
+    if (f.width > 1 && (f.has_second() || crossing_of(f) == crossing::in_memory || of_loops == f.by_value()))
+      text.define_by_value();
+    if (f.width > 1 || f.has_second()) text.define_by_pointer();
   });
   if (on.fuses)
     for (lane l : {lane::f32, lane::f64})

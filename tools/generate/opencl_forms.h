@@ -18,6 +18,7 @@ struct form {
   std::string function() const;
   std::string by_value() const;
   std::string packed() const;
+  std::string lane_by_lane() const;
   std::string by_pointer() const;
 };
 
@@ -30,8 +31,8 @@ bool crosses_in_register(lanemath::lane l, int width);
 // The lanes of an operation's widest type that fill a register of the library's.
 int lanes_of_a_register(const lanemath::operation& o);
 
-// The numbers of lanes at which loops over the scalar built-in call a vector form.
-std::vector<int> loop_widths(const lanemath::operation& o, lanemath::variant v, const machine& on);
+// The numbers of lanes at which loops over a scalar built-in can be vectorised, and what they call then.
+std::vector<int> loop_widths(const lanemath::operation& o, const machine& on);
 std::string loop_function(const form& vector);
 
 // The runtime converts negative values otherwise.
