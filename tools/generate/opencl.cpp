@@ -60,11 +60,11 @@ bool is_unsigned_without_saturation(const operation& o) {
 }
 
 // What is measured to be no slower inline, and why:
-// - signs, selection, fields of the format, square roots, conversions in the rounding of the language: a few instructions
+// - signs, selection, fields of the format, square roots, conversions in the language's rounding: a few instructions
 //   everywhere, on vectors as wide as the machine's;
 // - roundings to integers, and fma: where the processor has the instruction;
-// - the other conversions: with AVX, whose wide vectors make up for the runtime's detours, but not double to int and uint
-//   to nearest, nor double to float toward zero.
+// - the other conversions: with AVX, whose wide vectors make up for the runtime's detours, but not double to int and
+//   uint to nearest, nor double to float toward zero.
 // Remainders stay the library's: the runtime's are loops over bits.
 bool left_to_compiler(const operation& o, variant v, const machine& on) {
   if (v != variant::standard) return false;
@@ -110,7 +110,7 @@ int registers_that_pay_for_memory(const operation& o, variant v) {
     return std::ranges::count(names, o.name()) != 0;
   };
   if (o.group == family::power) return v == variant::standard ? 2 : 4;
-  if (is_among({"tgamma", "tgammaf", "lgamma", "atan2pi"})) return 2;
+  if (is_among({"tgamma", "tgammaf", "lgamma", "lgammaf", "atan2pi"})) return 2;
   if (is_among({"cos", "tanpi", "atanpi", "asinhf", "atanh", "atanhf", "invf", "sqrtf"})) return 4;
   return never;
 }

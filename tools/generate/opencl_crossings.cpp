@@ -21,7 +21,8 @@ constexpr std::string_view head = R"(; How kernels reach the library. Made by th
 ;   function of our own, for calls in kernels are marked as not to be replaced. The vector forms are called, since the
 ;   runtime's linker copies only what is called. The calls vanish as unused; the addresses in an empty instruction keep
 ;   the vector forms, and keep constant arguments from being moved into the function.
-; Upper halves of registers are cleared before the library is called, which would be slow with them.
+; The library's functions are called by their addresses, without the detour by a linkage table, and with the upper halves
+; of registers cleared, which would slow its code down.
 ; lanemath_exp2_lane_by_lane: a vector form where the library's has an algorithm of its own, and so other bits.
 ; lanemath_sincosf1_packed: the same with two results in one value, since the vectoriser knows no more: an i64, or an
 ;   fp128 for the sake of its register.
@@ -37,8 +38,8 @@ constexpr std::string_view pure = "#0", with_memory = "#1", own = "#2", inlined 
 void write_attributes(std::FILE* out, const machine& on) {
   const auto processor = fmt::format("\"target-cpu\"=\"{}\"", on.processor);
   fmt::print(out,
-             "\nattributes {} = {{ nounwind readnone willreturn }}\n"
-             "attributes {} = {{ nounwind argmemonly willreturn }}\n"
+             "\nattributes {} = {{ nonlazybind nounwind readnone willreturn }}\n"
+             "attributes {} = {{ nonlazybind nounwind argmemonly willreturn }}\n"
              "attributes {} = {{ noinline nounwind readnone willreturn {} }}\n"
              "attributes {} = {{ alwaysinline nounwind argmemonly willreturn {} }}\n",
              pure, with_memory, own, processor, inlined, processor);
