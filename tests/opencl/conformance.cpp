@@ -50,6 +50,21 @@ class conformance {
     for (std::size_t i = 0; i < batch.size(); ++i) run(program, batch[i], kernels[i]);
   }
 
+  // Every argument of 32 bits there is, in the plain kernel of scalars.
+  void sweep(const group& g) {
+    const kernel k{fmt::format("sweep{}", groups_++), shape::plain, 1};
+    const auto program = device_.build(source_of(g, k));
+    std::vector<bytes> inputs{bytes(lanes * sizeof(std::uint32_t))};
+    for (std::uint64_t first = 0; first < std::uint64_t(1) << 32; first += lanes) {
+      for (std::size_t i = 0; i < lanes; ++i) {
+        const auto pattern = std::uint32_t(first + i);
+        std::memcpy(inputs[0].data() + i * sizeof pattern, &pattern, sizeof pattern);
+      }
+      run(program, g, k, inputs);
+    }
+    check_loop(g, k);
+  }
+
   bool passed() const { return calls_ != 0 && wrong_ == 0 && wrong_loops_ == 0; }
   std::string summary() const {
     return fmt::format(
@@ -68,7 +83,10 @@ class conformance {
     auto with_constant = inputs;
     with_constant.back() = constants_of(s.arguments[last], lanes, constant_argument);
 
-    for (const auto& k : kernels) run(program, g, k, k.form == shape::constant ? with_constant : inputs);
+    for (const auto& k : kernels) {
+      run(program, g, k, k.form == shape::constant ? with_constant : inputs);
+      if (k.width == 1 && k.form != shape::branch) check_loop(g, k);
+    }
   }
 
   void run(const cl::Program& program, const group& g, const kernel& k, const std::vector<bytes>& inputs) {
@@ -95,7 +113,6 @@ class conformance {
       }
       check(g, k, b, taken, flags, outputs, m);
     }
-    if (k.width == 1 && k.form != shape::branch) check_loop(g, k);
   }
 
   void check(const group& g, const kernel& k, const builtin& b, const std::vector<bytes>& inputs,
@@ -151,6 +168,12 @@ class conformance {
   std::size_t groups_ = 0, calls_ = 0, wrong_ = 0, loops_ = 0, wrong_loops_ = 0;
 };
 
+std::vector<std::string> names_of(const group& g) {
+  std::vector<std::string> all;
+  for (const auto& b : g.members) all.push_back(b.name(1));
+  return all;
+}
+
 // "1/3": part 1 of the parts 0, 1, 2.
 struct part {
   std::ptrdiff_t number = 0, count = 1;
@@ -167,11 +190,13 @@ std::istream& operator>>(std::istream& in, part& p) {
 int main(int argc, char** argv) try {
   std::string path, only, disassembler = "llvm-dis-15";
   std::uint64_t seed = 1;
+  bool exhaustive = false;
   part part;
   CLI::App app("Compares the maths built-ins of OpenCL kernels with direct calls of the library, bit for bit.");
   app.add_option("library", path, "the shared object")->required()->check(CLI::ExistingFile);
   app.add_option("--operation", only, "only this one, by its name in the catalogue");
   app.add_option("--part", part, "only this part of the built-ins: 0/2 and 1/2 are the halves");
+  app.add_flag("--exhaustive", exhaustive, "all arguments of the built-ins of one argument of 32 bits, instead");
   app.add_option("--seed", seed, "of the random inputs")->capture_default_str();
   app.add_option("--disassembler", disassembler, "of the LLVM that the runtime compiles with")->capture_default_str();
   CLI11_PARSE(app, argc, argv);
@@ -182,11 +207,22 @@ int main(int argc, char** argv) try {
   const device device;
   const auto& on = machine_of(device.name());
   std::vector<group> groups;
-  for (std::ptrdiff_t i = 0; auto& g : groups_of(library, only))
-    if (i++ % part.count == part.number) groups.push_back(std::move(g));
+  for (std::ptrdiff_t i = 0; auto& g : groups_of(library, only)) {
+    const auto& arguments = g.signature.arguments;
+    const bool can_sweep =
+        size_of(arguments[0]) == 4 && g.signature.arity() == 1 && g.how != manner{"global"} && g.how != manner{"local"};
+    if ((!exhaustive || can_sweep) && i++ % part.count == part.number) groups.push_back(std::move(g));
+  }
   if (groups.empty()) throw std::runtime_error("there are no built-ins to compare");
 
   conformance conformance(library, device, on, disassembler, seed);
+  if (exhaustive) {
+    for (const auto& g : groups) {
+      fmt::print(stderr, "{}\n", fmt::join(names_of(g), " "));
+      conformance.sweep(g);
+    }
+    groups.clear();
+  }
   for (std::size_t i = 0; i < groups.size(); i += groups_per_program)
     conformance.run(std::span(groups).subspan(i, std::min(groups_per_program, groups.size() - i)));
   fmt::print("{}\n", conformance.summary());
