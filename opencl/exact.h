@@ -22,37 +22,37 @@
   }
 
 // Only zeros and infinities are twice their floor: they give a zero of their sign.
-#define EXACT_FRACT(space, type, bits, sign_bit, below_one)                           \
-  BUILTIN type _cl_fract(type x, space type* second) {                                \
-    const type floor = __builtin_elementwise_floor(x), rest = x - floor;              \
-    const bits sign = __builtin_astype(x, bits) & (bits)(sign_bit);                   \
-    const type fraction = rest > (type)(below_one) ? (type)(below_one) : rest;        \
-    *second = floor;                                                                  \
-    return x == floor + floor ? __builtin_astype(sign, type) : fraction;              \
+#define EXACT_FRACT(space, type, bits, sign_bit, below_one)                    \
+  BUILTIN type _cl_fract(type x, space type* second) {                         \
+    const type floor = __builtin_elementwise_floor(x), rest = x - floor;       \
+    const bits sign = __builtin_astype(x, bits) & (bits)(sign_bit);            \
+    const type fraction = rest > (type)(below_one) ? (type)(below_one) : rest; \
+    *second = floor;                                                           \
+    return x == floor + floor ? __builtin_astype(sign, type) : fraction;       \
   }
 
 // `lanemath_fused_<type>` is the instruction.
-#define EXACT_FMA(type)                                                            \
+#define EXACT_FMA(type)                                                                  \
   void lanemath_fused_##type(type* result, const type* x, const type* y, const type* z); \
-  BUILTIN type _cl_fma(type x, type y, type z) {                                   \
-    type fused;                                                                    \
-    lanemath_fused_##type(&fused, &x, &y, &z);                                     \
-    return z == 0 ? x * y + z : fused;                                             \
+  BUILTIN type _cl_fma(type x, type y, type z) {                                         \
+    type fused;                                                                          \
+    lanemath_fused_##type(&fused, &x, &y, &z);                                           \
+    return z == 0 ? x * y + z : fused;                                                   \
   }
 
-// The magnitude of the rounded value. `convert` is CAST for scalars and __builtin_convertvector for vectors, `condition`
-// the signed integers of the result's size.
-#define EXACT_TO_UNSIGNED(name, from, to, condition, convert, rounded, bound, outside) \
-  BUILTIN to _cl_##name(from x) {                                                     \
-    const from magnitude = MAGNITUDE(rounded);                                         \
+// The magnitude of the rounded value. `convert` is CAST for scalars and __builtin_convertvector for vectors,
+// `condition` the signed integers of the result's size.
+#define EXACT_TO_UNSIGNED(name, from, to, condition, convert, rounded, bound, outside)             \
+  BUILTIN to _cl_##name(from x) {                                                                  \
+    const from magnitude = MAGNITUDE(rounded);                                                     \
     return convert(magnitude < (from)(bound), condition) ? convert(magnitude, to) : (to)(outside); \
   }
 
-#define EXACT_FREXP(space, type, ints, half, half_ints)                    \
+#define EXACT_FREXP(space, type, ints, half, half_ints)                            \
   half __attribute__((overloadable)) _cl_frexp(half x, private half_ints* second); \
-  BUILTIN type _cl_frexp(type x, space ints* second) {                     \
-    half_ints low, high;                                                   \
-    const type result = (type)(_cl_frexp(x.lo, &low), _cl_frexp(x.hi, &high)); \
-    *second = (ints)(low, high);                                           \
-    return result;                                                         \
+  BUILTIN type _cl_frexp(type x, space ints* second) {                             \
+    half_ints low, high;                                                           \
+    const type result = (type)(_cl_frexp(x.lo, &low), _cl_frexp(x.hi, &high));     \
+    *second = (ints)(low, high);                                                   \
+    return result;                                                                 \
   }
