@@ -16,14 +16,9 @@ void write_special_tables(table_writer&);
 
 int main(int argc, char** argv) {
   const std::map<std::string, void (*)(table_writer&)> families{
-      {"exp", write_exp_tables},
-      {"log", write_log_tables},
-      {"pow", write_pow_tables},
-      {"trig", write_trig_tables},
-      {"invtrig", write_invtrig_tables},
-      {"hyperbolic", write_hyperbolic_tables},
-      {"roots", write_roots_tables},
-      {"special", write_special_tables},
+      {"exp", write_exp_tables},     {"log", write_log_tables},         {"pow", write_pow_tables},
+      {"trig", write_trig_tables},   {"invtrig", write_invtrig_tables}, {"hyperbolic", write_hyperbolic_tables},
+      {"roots", write_roots_tables}, {"special", write_special_tables},
   };
   const auto family = argc == 2 ? families.find(argv[1]) : families.end();
   if (family == families.end()) {
