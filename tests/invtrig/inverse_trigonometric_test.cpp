@@ -123,7 +123,8 @@ TEST(InverseTrigonometry, OfDenormals) {
   EXPECT_EQ(bits_of("atanpi", variant::native, 2, 0x0008000000000000), 0x00028BE60DB93910u);
 }
 
-// Beyond 1 the NaN that the processor makes; a NaN in comes back quiet with its payload.
+// Beyond 1 the NaN that the processor makes; a NaN in comes back quiet with its payload, but from the light forms in
+// double precision.
 TEST(InverseTrigonometry, OfNaNsAndBeyondTheDomain) {
   for (int width : widths)
     for (auto v : {variant::standard, variant::native}) {
