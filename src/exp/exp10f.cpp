@@ -32,19 +32,19 @@ constexpr float LOG2T = 0x40549A78_f32;    // log2(10)
 constexpr std::int32_t RARE = 0x4217B818;  // 37.92978
 
 LANEMATH_RARE exp10f_rare(const float* px, float* py) {
-  if (exp_of_non_finite(*px, *py)) return 0;
+  if (exp_of_non_finite(*px, *py)) return status::ordinary;
   const double x = *px;
   if (x > 0x4043441360000000_f64) {  // 38.53184
     *py = float(overflowed());
-    return 3;
+    return status::overflow;
   }
   if (x < 0xC04693C6A0000000_f64) {  // -45.1545
     *py = 0.0f;
-    return 4;
+    return status::underflow;
   }
   const rare_power p = exp10_power(x);
   *py = float(scaled(p.w + p.hi, p.k));
-  return x <= 0xC042F70320000000_f64 ? 4 : 0;  // -37.92978
+  return x <= 0xC042F70320000000_f64 ? status::underflow : status::ordinary;  // -37.92978
 }
 
 using exp10f_guards = rare_above<float(float), exp10f_rare, RARE>;

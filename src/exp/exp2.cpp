@@ -41,25 +41,25 @@ constexpr light_exp2_rows exp2_native_table{
 constexpr std::int32_t RARE = 0x408FEFFF;  // upper half, just under 1022
 
 LANEMATH_RARE exp2_rare(const double* px, double* py) {
-  if (exp_of_non_finite(*px, *py)) return 0;
+  if (exp_of_non_finite(*px, *py)) return status::ordinary;
   const double x = *px;
   if (x >= 1024.0) {
     *py = overflowed();
-    return 3;
+    return status::overflow;
   }
   if (x <= -1075.0) {
     *py = underflowed();
-    return 4;
+    return status::underflow;
   }
   const rare_power p = exp2_power(x);
   const double y = p.w + p.hi;
   if (x < -1022.0) {  // a denormal result: rounded once, by the last product
     const double s = with_exponent_field(std::uint64_t(p.k + 1123) & 2047);
     *py = (s * y) * 0x39B0000000000000_f64;  // 2^-100
-    return 4;
+    return status::underflow;
   }
   *py = scaled(y, p.k);
-  return 0;
+  return status::ordinary;
 }
 
 using exp2_guards = rare_above<double(double), exp2_rare, RARE>;

@@ -32,19 +32,19 @@ constexpr exp2f_rows exp2f_table{
 constexpr std::int32_t RARE = 0x42FC0000;  // 126
 
 LANEMATH_RARE exp2f_rare(const float* px, float* py) {
-  if (exp_of_non_finite(*px, *py)) return 0;
+  if (exp_of_non_finite(*px, *py)) return status::ordinary;
   const double x = *px;
   if (x >= 128.0) {
     *py = float(overflowed());
-    return 3;
+    return status::overflow;
   }
   if (x <= -150.0) {
     *py = float(underflowed());
-    return 4;
+    return status::underflow;
   }
   const rare_power p = exp2_power(x);
   *py = float(scaled(p.w + p.hi, p.k));
-  return x < -126.0 ? 4 : 0;
+  return x < -126.0 ? status::underflow : status::ordinary;
 }
 
 using exp2f_guards = rare_above<float(float), exp2f_rare, RARE>;
@@ -134,7 +134,7 @@ LANEMATH_RARE exp2f_lane(const float* px, float* py) {
     auto special = pattern >= 0x43000000 ? 0x7F800000 : 0;
     if ((pattern & 0x7FFFFFFF) > 0x7F800000) special = pattern;
     __builtin_memcpy(py, &special, sizeof special);
-    return 0;
+    return status::ordinary;
   }
   float shift = 0.0f, factor = 1.0f;
   if (magnitudes >= 0xC2F70000) {  // -123.5
@@ -152,7 +152,7 @@ LANEMATH_RARE exp2f_lane(const float* px, float* py) {
   const scalar scale = from_bits(((bits(t) + 0x1FC0) & 0x3FC0) << 17);
   const scalar result = ((c.Q1 + f) * f + c.Q0) * (look_up(exp2_monic_64, j).hi * scale) * factor;
   *py = result.g[0];
-  return 0;
+  return status::ordinary;
 }
 
 struct exp2f4 : rare_above<float(float), exp2f_lane, 0x42F70000> {  // 123.5

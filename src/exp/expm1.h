@@ -59,10 +59,10 @@ auto expm1_beyond(V x, typename V::value_type bound) {
 
 // Only lanes beyond that bound come here: e^x - 1 is rounded like e^x, or like -1.
 template <class T>
-int expm1_rare_lane(const T* px, T* py, const rare_bounds& bounds) {
+status expm1_rare_lane(const T* px, T* py, const rare_bounds& bounds) {
   if (*px < zero_v<T>) {
     *py = -one_v<T>;
-    return 0;
+    return status::ordinary;
   }
   return exp_rare_lane(px, py, exp_power, bounds);
 }

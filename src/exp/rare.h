@@ -142,28 +142,28 @@ inline constexpr rare_bounds exp_bounds{
 
 // The whole routine of e^x, and of 10^x in double precision. `power` is one of the above.
 template <class T, class F>
-int exp_rare_lane(const T* px, T* py, F power, const rare_bounds& bounds) {
-  if (exp_of_non_finite(*px, *py)) return 0;
+status exp_rare_lane(const T* px, T* py, F power, const rare_bounds& bounds) {
+  if (exp_of_non_finite(*px, *py)) return status::ordinary;
   const double x = *px;
   if (std::fabs(x) < 0x1p-52) {
     *py = T(1.0 + x);
-    return 0;
+    return status::ordinary;
   }
   if (x > bounds.over) {
     *py = T(overflowed());
-    return 3;
+    return status::overflow;
   }
   if (x < bounds.under) {
     *py = T(underflowed());
-    return 4;
+    return status::underflow;
   }
   const rare_power p = power(x);
   if (x < bounds.denormal) {
     *py = T(scaled_to_denormal(p));
-    return 4;
+    return status::underflow;
   }
   *py = T(scaled(p.w + p.hi, p.k));
-  return 0;
+  return status::ordinary;
 }
 
 }  // namespace lanemath

@@ -14,11 +14,11 @@ LANEMATH_RARE frexp_rare(const T* x, T* significand, std::int32_t* exponent) {
   const T v = quieted(*x);
   *significand = v;
   *exponent = 0;
-  if (magnitude_pattern(v) == 0 || exponent_field(v) == f::top_field) return 0;
+  if (magnitude_pattern(v) == 0 || exponent_field(v) == f::top_field) return status::ordinary;
   const T lifted = v * f::lift;
   *exponent = exponent_field(lifted) - (f::bias - 1 + f::lift_exponent);
   *significand = value_of<T>((pattern_of(lifted) & ~f::infinity) | half_field<T>);
-  return 0;
+  return status::ordinary;
 }
 
 template <class T>
@@ -53,14 +53,14 @@ template <class T>
 LANEMATH_RARE ilogb_rare(const T* x, std::int32_t* exponent) {
   if (magnitude_pattern(*x) == 0) {
     *exponent = std::numeric_limits<std::int32_t>::min();
-    return 1;
+    return status::domain;
   }
   if (exponent_field(*x) == format<T>::top_field) {
     *exponent = std::numeric_limits<std::int32_t>::max();
-    return 1;
+    return status::domain;
   }
   *exponent = exponent_of_denormal(*x);
-  return 0;
+  return status::ordinary;
 }
 
 template <class T>
@@ -75,13 +75,13 @@ template <class T>
 LANEMATH_RARE logb_rare(const T* x, T* exponent) {
   if (magnitude_pattern(*x) == 0) {
     *exponent = opaque(-one_v<T>) / zero_v<T>;
-    return 1;
+    return status::domain;
   }
   if (exponent_field(*x) == format<T>::top_field)
     *exponent = value_of<T>(magnitude_pattern(*x));
   else
     *exponent = T(exponent_of_denormal(*x));
-  return 0;
+  return status::ordinary;
 }
 
 template <class T>

@@ -160,7 +160,7 @@ LANEMATH_RARE fma_rare(const T* px, const T* py, const T* pz, T* result) {
     *result = x * y + z;
   else
     *result = exact_sum<T>::of(x, y, z, direction);
-  return 0;
+  return status::ordinary;
 }
 
 template <class T>

@@ -30,31 +30,31 @@ LANEMATH_RARE fmod_rare(const T* px, const T* py, T* z) {
       *z = zero;
     else  // +0 from a difference of equals
       *z = x - value_of<T>(pattern_of(x) & ~(f::fraction >> exponent));
-    return 0;
+    return status::ordinary;
   }
   if (is_nan(x) || is_nan(y)) {
     *z = quieted(is_nan(y) ? y : x);
-    return 0;
+    return status::ordinary;
   }
   if (ay == 0 || ax == f::infinity) {
     *z = default_nan<T>();
-    return 2;
+    return status::singular;
   }
   if (ay == f::infinity || ax < ay) {
     *z = x;
-    return 0;
+    return status::ordinary;
   }
   if (ax == ay) {
     *z = zero;
-    return 0;
+    return status::ordinary;
   }
   if constexpr (sizeof(T) == 8)
     if (ay == pattern_of(2147483647.0) && ax < pattern_of(0x1p52)) {
       *z = fmod_by_2147483647(x, y);
-      return 0;
+      return status::ordinary;
     }
   *z = with_sign_of(pattern_of(long_division<T>(x, y).remainder), x);
-  return 0;
+  return status::ordinary;
 }
 
 template <class T, std::uint32_t Base, std::uint32_t Top>

@@ -11,7 +11,7 @@ LANEMATH_RARE fract_rare(const T* px, T* fraction, T* floor) {
   const T x = *px;
   *floor = x;
   *fraction = is_infinite(x) ? with_sign_of(0, x) : x;
-  return 0;
+  return status::ordinary;
 }
 
 template <class T>

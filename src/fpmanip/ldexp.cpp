@@ -21,7 +21,7 @@ LANEMATH_RARE ldexp_rare(const T* px, const std::int32_t* pn, T* y) {
   T x = *px;
   if (magnitude_pattern(x) == 0 || exponent_field(x) == f::top_field) {
     *y = sizeof(T) == 4 ? x : quieted(x);
-    return 0;
+    return status::ordinary;
   }
   int e = std::clamp(*pn, -farthest, farthest);
   if (exponent_field(x) == 0) {
@@ -34,18 +34,18 @@ LANEMATH_RARE ldexp_rare(const T* px, const std::int32_t* pn, T* y) {
   };
   if (e >= f::top_field) {
     *y = beyond(x, far);
-    return 3;
+    return status::overflow;
   }
   if (e > 0) {
     *y = with_field(e);
-    return 0;
+    return status::ordinary;
   }
   if (e >= 1 - std::numeric_limits<T>::digits) {
     *y = with_field(e + f::lift_exponent) * f::lower;
-    if (magnitude_pattern(*y) != 0) return 0;
+    if (magnitude_pattern(*y) != 0) return status::ordinary;
   }
   *y = beyond(x, -far);
-  return 4;
+  return status::underflow;
 }
 
 template <class T>

@@ -5,7 +5,7 @@ namespace lanemath {
 namespace {
 
 // In double for both precisions. The kernel sends infinities and NaNs alone.
-int modf_in_double(double x, double& fraction, double& integral) {
+status modf_in_double(double x, double& fraction, double& integral) {
   const int exponent = exponent_field(x) - format<double>::bias;
   if (is_nan(x)) {
     fraction = integral = x + x;
@@ -19,13 +19,13 @@ int modf_in_double(double x, double& fraction, double& integral) {
     integral = value_of<double>(pattern_of(x) & ~(format<double>::fraction >> exponent));
     fraction = with_sign_of(magnitude_pattern(x - integral), x);
   }
-  return 0;
+  return status::ordinary;
 }
 
 template <class T>
 LANEMATH_RARE modf_rare(const T* x, T* fraction, T* integral) {
   double first, second;
-  const int status = modf_in_double(double(*x), first, second);
+  const auto status = modf_in_double(double(*x), first, second);
   *fraction = T(first);
   *integral = T(second);
   return status;

@@ -10,21 +10,21 @@ LANEMATH_RARE nextafter_rare(const T* px, const T* py, T* z) {
   const T x = quieted(*px), y = quieted(*py);
   if (is_nan(x) || is_nan(y)) {
     *z = is_nan(x) ? x : y;
-    return 0;
+    return status::ordinary;
   }
   if (x == y) {
     *z = y;
-    return 0;
+    return status::ordinary;
   }
   if (magnitude_pattern(x) == 0) {
     *z = with_sign_of(1, y);
-    return 4;
+    return status::underflow;
   }
   const bool same_sign = ((pattern_of(x) ^ pattern_of(y)) & f::sign) == 0;
   const bool up = same_sign && magnitude_pattern(y) > magnitude_pattern(x);
   *z = value_of<T>(up ? pattern_of(x) + 1 : pattern_of(x) - 1);
   const int field = exponent_field(*z);
-  return field == f::top_field ? 3 : field == 0 ? 4 : 0;
+  return field == f::top_field ? status::overflow : field == 0 ? status::underflow : status::ordinary;
 }
 
 template <class T>

@@ -12,7 +12,7 @@ template <class T>
 struct divided {
   T remainder;
   std::int32_t quotient;
-  int status;
+  status met = status::ordinary;
 };
 
 // Makes a NaN quiet: done in double for both precisions.
@@ -29,18 +29,18 @@ LANEMATH_INLINE divided<T> divide(T x, T y) {
   const auto signed_as_x = [&](T r) { return value_of<T>(pattern_of(r) ^ sign_of_x); };
   const T zero = value_of<T>(sign_of_x);
 
-  if (is_nan(x)) return {quieted_in_double(x), 0, 0};
-  if (is_nan(y)) return {quieted_in_double(y), 0, 0};
-  if (ay == 0) return {default_nan<T>(), 0, 1};
-  if (ax == f::infinity) return {default_nan<T>(), 0, 0};
-  if (ax == 0 || ay == f::infinity) return {x, 0, 0};
+  if (is_nan(x)) return {quieted_in_double(x), 0};
+  if (is_nan(y)) return {quieted_in_double(y), 0};
+  if (ay == 0) return {default_nan<T>(), 0, status::domain};
+  if (ax == f::infinity) return {default_nan<T>(), 0};
+  if (ax == 0 || ay == f::infinity) return {x, 0};
 
   const int sign = ((pattern_of(x) ^ pattern_of(y)) & f::sign) == 0 ? 1 : -1;
   const T abs_x = value_of<T>(ax), abs_y = value_of<T>(ay);
   if (ay >= ax) {
-    if (ax == ay) return {zero, sign, 0};
-    if (exponent_field(x) < f::top_field - 1 && double(abs_y) >= 2.0 * double(abs_x)) return {x, 0, 0};
-    return {signed_as_x(abs_x - abs_y), sign, 0};
+    if (ax == ay) return {zero, sign};
+    if (exponent_field(x) < f::top_field - 1 && double(abs_y) >= 2.0 * double(abs_x)) return {x, 0};
+    return {signed_as_x(abs_x - abs_y), sign};
   }
 
   const long_division<T> division(x, y);
@@ -55,14 +55,14 @@ LANEMATH_INLINE divided<T> divide(T x, T y) {
     r = -r;
     ++quotient;
   }
-  return {signed_as_x(r), sign * std::int32_t(quotient & 0x7FFFFFFF), 0};
+  return {signed_as_x(r), sign * std::int32_t(quotient & 0x7FFFFFFF)};
 }
 
 template <class T>
 LANEMATH_RARE remainder_rare(const T* x, const T* y, T* r) {
   const auto result = divide(*x, *y);
   *r = result.remainder;
-  return result.status;
+  return result.met;
 }
 
 template <class T>
@@ -70,7 +70,7 @@ LANEMATH_RARE remquo_rare(const T* x, const T* y, T* r, std::int32_t* quotient) 
   const auto result = divide(*x, *y);
   *r = result.remainder;
   *quotient = result.quotient;
-  return sizeof(T) == 4 ? result.status : 0;
+  return sizeof(T) == 4 ? result.met : status::ordinary;
 }
 
 template <class T, std::uint32_t Base, std::uint32_t Top>

@@ -12,14 +12,14 @@ template <class T>
 LANEMATH_RARE number_before_nan(const T* x, const T* y, T* z) {
   if (is_nan(*y)) *z = *x;
   if (is_nan(*x)) *z = *y;
-  return 0;
+  return status::ordinary;
 }
 
 template <class T>
 LANEMATH_RARE nan_before_number(const T* x, const T* y, T* z) {
   if (is_nan(*x)) *z = *x;
   if (is_nan(*y)) *z = *y;
-  return 0;
+  return status::ordinary;
 }
 
 template <class T, auto Routine>

@@ -17,8 +17,7 @@
 // and fix_up and the rare routine take the second result after the first.
 //
 // A rare routine takes pointers to one lane of each argument, then of each result, which holds the kernel's
-// value on entry. It returns a status that tells what happened: 0 ordinary, 1 domain error, 2 singular point,
-// 3 overflow, 4 underflow. Nothing reads it.
+// value on entry. It returns a status.
 #pragma once
 
 #include <algorithm>
@@ -30,9 +29,12 @@
 #include "frame/catalogue.h"
 #include "frame/lanes.h"
 
-#define LANEMATH_RARE [[gnu::noinline]] static int
+#define LANEMATH_RARE [[gnu::noinline]] static status
 
 namespace lanemath {
+
+// What a rare routine met in its lane. Nothing reads it.
+enum class status : int { ordinary, domain, singular, overflow, underflow };
 
 // The result of a signature with two of them. What goes through the pointer is one store at the very end, of all
 // four lanes at width 3, to an address of any alignment.

@@ -13,15 +13,15 @@ namespace lanemath {
 namespace {
 
 template <class T>
-int acosh_rare_lane(const T* px, T* py) {
+status acosh_rare_lane(const T* px, T* py) {
   const T x = *px;
   if (x != x) {
     *py = x * x;
-    return 0;
+    return status::ordinary;
   }
   if (x != one_v<T> && x != std::numeric_limits<T>::infinity()) return outside_domain(*py);
   *py = x == one_v<T> ? zero_v<T> : x;
-  return 0;
+  return status::ordinary;
 }
 LANEMATH_RARE acoshf_rare(const float* x, float* y) { return acosh_rare_lane(x, y); }
 LANEMATH_RARE acosh_rare(const double* x, double* y) { return acosh_rare_lane(x, y); }
@@ -55,11 +55,11 @@ LANEMATH_RARE acoshf_lane(const float* px, float* py) {
   if (x < 0x3F800000 || x >= 0x7F800000) {
     const std::int32_t special = x < 0x3F800000 ? 0x7FFFFFFF : x;
     __builtin_memcpy(py, &special, sizeof special);
-    return 0;
+    return status::ordinary;
   }
   const double wide = *px;
   *py = float(log_by_cubics(wide + scalar_square_root(wide * wide - 1.0)));
-  return 0;
+  return status::ordinary;
 }
 
 constexpr std::int32_t IN_RANGE = 0x3FF80000;  // above 1.5
@@ -76,7 +76,7 @@ LANEMATH_RARE acosh_lane(const double* px, double* py) {
     const double d = x - 1.0;
     *py = log_of_one_plus(d + scalar_square_root(d * 2.0 + d * d));
   }
-  return 0;
+  return status::ordinary;
 }
 
 using acoshf4 = standalone_acosh<float, acoshf_lane, 0x3FC00000>;

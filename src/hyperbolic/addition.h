@@ -50,33 +50,33 @@ template <class T>
 inline constexpr double half_exp_overflow = sizeof(T) == 4 ? 89.4159927368164 : 710.475860073944;
 
 template <class T>
-int cosh_rare_lane(const T* px, T* py) {
+status cosh_rare_lane(const T* px, T* py) {
   const double x = *px, a = std::fabs(x);
   if (!(a < std::numeric_limits<double>::infinity())) {
     *py = T(x * x);
-    return 0;
+    return status::ordinary;
   }
   if (a >= half_exp_overflow<T>) {
     *py = T(overflowed());
-    return 3;
+    return status::overflow;
   }
   *py = T(half_exp(a));
-  return 0;
+  return status::ordinary;
 }
 
 template <class T>
-int sinh_rare_lane(const T* px, T* py) {
+status sinh_rare_lane(const T* px, T* py) {
   const double x = *px, a = std::fabs(x);
   if (!(a < std::numeric_limits<double>::infinity())) {
     *py = T(x + x);
-    return 0;
+    return status::ordinary;
   }
   if (a >= half_exp_overflow<T>) {
     *py = T(opaque(std::numeric_limits<double>::max()) * x);
-    return 3;
+    return status::overflow;
   }
   *py = T(std::copysign(half_exp(a), x));
-  return 0;
+  return status::ordinary;
 }
 
 }  // namespace lanemath

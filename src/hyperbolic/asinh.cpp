@@ -12,10 +12,10 @@ namespace lanemath {
 namespace {
 
 template <class T>
-int asinh_rare_lane(const T* px, T* py) {
+status asinh_rare_lane(const T* px, T* py) {
   const T x = *px;
   *py = x != x ? x * x : x;
-  return 0;
+  return status::ordinary;
 }
 LANEMATH_RARE asinhf_rare(const float* x, float* y) { return asinh_rare_lane(x, y); }
 LANEMATH_RARE asinh_rare(const double* x, double* y) { return asinh_rare_lane(x, y); }
@@ -75,12 +75,12 @@ LANEMATH_RARE asinhf_lane(const float* px, float* py) {
   __builtin_memcpy(&x, px, sizeof x);
   if ((x & 0x7FFFFFFF) - 0x31800000 >= 0x4E000000) {
     __builtin_memcpy(py, &x, sizeof x);
-    return 0;
+    return status::ordinary;
   }
   const double wide = *px;
   const double y = log_by_cubics(std::fabs(wide) + scalar_square_root(wide * wide + 1.0));
   *py = std::copysign(float(y), *px);
-  return 0;
+  return status::ordinary;
 }
 
 LANEMATH_RARE asinh_lane(const double* px, double* py) {
@@ -93,7 +93,7 @@ LANEMATH_RARE asinh_lane(const double* px, double* py) {
     const double q = a * a;
     *py = std::copysign(log_of_one_plus(a + q / (1.0 + scalar_square_root(1.0 + q))), x);
   }
-  return 0;
+  return status::ordinary;
 }
 
 using asinhf4 = standalone_asinh<float, asinhf_lane, 0x3F800000>;

@@ -10,15 +10,15 @@ namespace lanemath {
 namespace {
 
 template <class T>
-int atanh_rare_lane(const T* px, T* py) {
+status atanh_rare_lane(const T* px, T* py) {
   const T x = *px;
   if (x != x) {
     *py = x * x;
-    return 0;
+    return status::ordinary;
   }
   if (std::fabs(x) != one_v<T>) return outside_domain(*py);
   *py = std::copysign(std::numeric_limits<T>::infinity(), x);
-  return 2;
+  return status::singular;
 }
 LANEMATH_RARE atanhf_rare(const float* x, float* y) { return atanh_rare_lane(x, y); }
 LANEMATH_RARE atanh_rare(const double* x, double* y) { return atanh_rare_lane(x, y); }

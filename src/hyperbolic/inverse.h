@@ -165,9 +165,9 @@ LANEMATH_INLINE V log_of_sum_or_double(const one_plus<V>& sum, V x) {
 }
 
 template <class T>
-int outside_domain(T& y) {
+status outside_domain(T& y) {
   y = default_nan<T>();
-  return 1;
+  return status::domain;
 }
 
 }  // namespace lanemath

@@ -23,10 +23,10 @@ LANEMATH_INLINE auto interval(V x, std::int32_t first, std::int32_t last, int sh
 }
 
 template <class T>
-int tanh_rare_lane(const T* px, T* py) {
+status tanh_rare_lane(const T* px, T* py) {
   const T x = *px;
   *py = x != x ? x + x : std::copysign(one_v<T>, x);
-  return 0;
+  return status::ordinary;
 }
 LANEMATH_RARE tanhf_rare(const float* x, float* y) { return tanh_rare_lane(x, y); }
 LANEMATH_RARE tanh_rare(const double* x, double* y) { return tanh_rare_lane(x, y); }

@@ -14,12 +14,12 @@ namespace {
 template <class T>
 LANEMATH_RARE acospi_rare(const T* px, T* py) {
   const T x = *px;
-  int status;
-  if (!beyond_one(x, *py, status)) {
+  status met;
+  if (!beyond_one(x, *py, met)) {
     if (x == one_v<T>) *py = zero_v<T>;
     if (x == -one_v<T>) *py = one_v<T>;
   }
-  return status;
+  return met;
 }
 
 template <class T, variant Variant>

@@ -40,7 +40,7 @@ LANEMATH_RARE atan22_lane(const double* py, const double* px, double* result) {
   double angle;
   *result = special_angle<double, false>(*py, *px, angle) ? with_sign_of(angle, *py)
                                                           : atan2_standard::kernel(scalar(*py), scalar(*px)).g[0];
-  return 0;
+  return status::ordinary;
 }
 
 struct atan22 : atan2_standard, one_marks_all {
@@ -63,12 +63,12 @@ LANEMATH_RARE atan2f4_lane(const float* py, const float* px, float* result) {
   if (y != y || x != x) {
     const float nan = x != x ? x : y;
     *result = nan + nan;
-    return 0;
+    return status::ordinary;
   }
   float angle;
   if (special_angle<float, false>(y, x, angle)) {
     *result = with_sign_of(angle, y);
-    return 0;
+    return status::ordinary;
   }
   const float ay = with_sign_of(y, 0.0f), ax = with_sign_of(x, 0.0f);
   const bool swap = ay > ax;
@@ -84,7 +84,7 @@ LANEMATH_RARE atan2f4_lane(const float* py, const float* px, float* result) {
   double v = t * (e + o) + (swap ? half_pi<double> : 0.0);
   if (x < 0.0f) v = pi<double> - v;
   *result = float(y < 0.0f ? -v : v);
-  return 0;
+  return status::ordinary;
 }
 
 struct atan2f4 : one_marks_all {

@@ -144,15 +144,15 @@ LANEMATH_INLINE lanes<T, W> angle_at_end(const lanes<T, W>& x, const reduced<T, 
 
 // Beyond 1 the NaN of an invalid operation; a NaN comes back quiet. Whether x was one of them, and the status.
 template <class T>
-inline bool beyond_one(T x, T& y, int& status) {
+inline bool beyond_one(T x, T& y, status& met) {
   const T v = opaque(x);
-  status = 0;
+  met = status::ordinary;
   if (x != x) {
     y = v / v;
     return true;
   }
   if (!(x < -one_v<T> || x > one_v<T>)) return false;
-  status = 1;
+  met = status::domain;
   y = (v - v) / (v - v);
   return true;
 }
@@ -160,9 +160,9 @@ inline bool beyond_one(T x, T& y, int& status) {
 // Of the forms in radians, whose kernels serve |x| = 1.
 template <class T>
 LANEMATH_RARE radians_rare(const T* px, T* py) {
-  int status;
-  beyond_one(*px, *py, status);
-  return status;
+  status met;
+  beyond_one(*px, *py, met);
+  return met;
 }
 
 }  // namespace lanemath

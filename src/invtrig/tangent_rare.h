@@ -112,7 +112,7 @@ LANEMATH_RARE arc_tangent_rare(const T* px, T* py) {
   const T x = *px;
   if (x != x) {
     *py = x + x;
-    return 0;
+    return status::ordinary;
   }
   const double a = with_sign_of(x, zero_v<T>);
   T y;
@@ -123,7 +123,7 @@ LANEMATH_RARE arc_tangent_rare(const T* px, T* py) {
   else
     y = rounded<T, Scaled>(arc_tangent<at_middles>(a));
   *py = with_sign_of(y, x);
-  return 0;
+  return status::ordinary;
 }
 
 // The angle of a point with a coordinate that is zero, infinite or a NaN, its sign left to the caller. Whether it was
@@ -172,7 +172,7 @@ LANEMATH_RARE arc_tangent2_rare(const T* py, const T* px, T* result) {
   T angle;
   if (!special_angle<T, Scaled>(y, x, angle)) angle = finite_angle<T, Scaled>(with_sign_of(y, zero_v<T>), x);
   *result = with_sign_of(angle, y);
-  return 0;
+  return status::ordinary;
 }
 
 }  // namespace lanemath

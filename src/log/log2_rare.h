@@ -78,7 +78,7 @@ inline double log2_closest_to_one(double x) {
 
 }  // namespace log_detail
 
-[[gnu::noinline]] inline int log2_rare(const double* px, double* py) {
+[[gnu::noinline]] inline status log2_rare(const double* px, double* py) {
   const double x = *px;
   if (const auto status = log_detail::of_special(x, *py)) return *status;
   const auto pattern = std::bit_cast<std::uint64_t>(x);
@@ -91,7 +91,7 @@ inline double log2_closest_to_one(double x) {
     *py = log_detail::log2_close_to_one(x);
   else
     *py = log_detail::log2_closest_to_one(x);
-  return 0;
+  return status::ordinary;
 }
 
 }  // namespace lanemath

@@ -26,19 +26,19 @@ inline constexpr double index_shifter<double> = 0x42D0000000000040_f64;  // 2^46
 
 // The status of an argument that is no positive number below infinity.
 template <class T>
-std::optional<int> of_special(T x, T& y) {
+std::optional<status> of_special(T x, T& y) {
   constexpr T infinity = value_of<T>(format<T>::infinity);
   if (x > 0 && x < infinity) return std::nullopt;
   if (x == 0) {
     y = -infinity;
-    return 2;
+    return status::singular;
   }
   if (x < 0) {
     y = default_nan<T>();
-    return 1;
+    return status::domain;
   }
   y = x * x;  // makes a NaN quiet
-  return 0;
+  return status::ordinary;
 }
 
 template <class T>
@@ -90,14 +90,14 @@ inline constexpr natural_rows<double> natural_double{
 };
 
 template <class T>
-int natural(T x, T& y, const natural_rows<T>& rows, const T (&table)[65][3]) {
+status natural(T x, T& y, const natural_rows<T>& rows, const T (&table)[65][3]) {
   if (const auto status = of_special(x, y)) return *status;
   const bool denormal = exponent_field(x) == 0;
   if (denormal) x = x * rows.RESCALE;
   const T d = x - one_v<T>;
   if (std::fabs(d) <= rows.NEAR) {
     y = d + (horner(d, rows.Q) * d) * d;
-    return 0;
+    return status::ordinary;
   }
   const auto [k, m, g, i] = reduce(x, rows.GRID, denormal ? rows.SHIFT : 0);
   const T H = k * (denormal ? rows.DENORMAL_H : rows.LN2H), L = k * (denormal ? rows.DENORMAL_L : rows.LN2L);
@@ -106,7 +106,7 @@ int natural(T x, T& y, const natural_rows<T>& rows, const T (&table)[65][3]) {
   const T z1 = c * (m - g);
   const T z = z0 + z1;
   y = (z0 + (H + hi)) + ((z1 + (L + lo)) + (horner(z, rows.Q) * z) * z);
-  return 0;
+  return status::ordinary;
 }
 
 // To another base. Reciprocals are times SCALE, near 1 / ln of the base with few bits, so that z is already the
@@ -154,7 +154,7 @@ inline constexpr based_rows<double> log10_rows{
 };
 
 template <class T>
-int to_base(T x, T& y, const based_rows<T>& rows, const T (&table)[65][3]) {
+status to_base(T x, T& y, const based_rows<T>& rows, const T (&table)[65][3]) {
   if (const auto status = of_special(x, y)) return *status;
   const bool denormal = exponent_field(x) == 0;
   if (denormal) x = x * rows.RESCALE;
@@ -162,7 +162,7 @@ int to_base(T x, T& y, const based_rows<T>& rows, const T (&table)[65][3]) {
   if (std::fabs(d) <= rows.NEAR) {
     const T z = d * rows.SCALE;
     y = z + horner(z, rows.W) * z;
-    return 0;
+    return status::ordinary;
   }
   const auto [k, m, g, i] = reduce(x, rows.GRID, denormal ? rows.SHIFT : 0);
   const auto& [c, hi, lo] = table[i];
@@ -171,33 +171,33 @@ int to_base(T x, T& y, const based_rows<T>& rows, const T (&table)[65][3]) {
   const T z = z0 + z1;
   const T w = horner(z, rows.W);
   y = ((rows.LOG2H * k + hi) + z0) + (z1 + ((k * rows.LOG2L + lo) + z1 * w) + z0 * w);
-  return 0;
+  return status::ordinary;
 }
 
 }  // namespace log_detail
 
-[[gnu::noinline]] inline int logf_rare(const float* x, float* y) {
+[[gnu::noinline]] inline status logf_rare(const float* x, float* y) {
   return log_detail::natural(*x, *y, log_detail::natural_single, logf_reciprocals);
 }
-[[gnu::noinline]] inline int log2f_rare(const float* x, float* y) {
+[[gnu::noinline]] inline status log2f_rare(const float* x, float* y) {
   return log_detail::to_base(*x, *y, log_detail::log2f_rows, log2f_reciprocals);
 }
-[[gnu::noinline]] inline int log10f_rare(const float* x, float* y) {
+[[gnu::noinline]] inline status log10f_rare(const float* x, float* y) {
   return log_detail::to_base(*x, *y, log_detail::log10f_rows, log10f_reciprocals);
 }
-[[gnu::noinline]] inline int log_rare(const double* x, double* y) {
+[[gnu::noinline]] inline status log_rare(const double* x, double* y) {
   return log_detail::natural(*x, *y, log_detail::natural_double, log_reciprocals);
 }
-[[gnu::noinline]] inline int log10_rare(const double* x, double* y) {
+[[gnu::noinline]] inline status log10_rare(const double* x, double* y) {
   return log_detail::to_base(*x, *y, log_detail::log10_rows, log10_reciprocals);
 }
 
 // Of 1 + x, rounded once.
-[[gnu::noinline]] inline int log1pf_rare(const float* x, float* y) {
+[[gnu::noinline]] inline status log1pf_rare(const float* x, float* y) {
   const float w = float(double(*x) + 1.0);
   return logf_rare(&w, y);
 }
-[[gnu::noinline]] inline int log1p_rare(const double* x, double* y) {
+[[gnu::noinline]] inline status log1p_rare(const double* x, double* y) {
   const double w = *x + 1.0;
   return log_rare(&w, y);
 }

@@ -53,7 +53,7 @@ inline parity parity_of(std::int32_t n) { return n & 1 ? parity::odd : parity::e
 
 // What pow and pown share: everything but the exponent's own kind. `of_finite` takes the result's sign as well.
 template <class T, class Y, class F>
-int power_lane(T x, Y exponent, T& z, F of_finite) {
+status power_lane(T x, Y exponent, T& z, F of_finite) {
   const T y = T(exponent);
   if (x == 0) x = x + x;
   const parity kind = parity_of(exponent);
@@ -66,7 +66,7 @@ int power_lane(T x, Y exponent, T& z, F of_finite) {
   } else if (x == 0) {
     if (y < 0) {
       z = sign / square(x);
-      return 1;
+      return status::domain;
     }
     z = sign * square(x);
   } else if (x == -1 && (kind != parity::none || !is_finite(y))) {
@@ -74,7 +74,7 @@ int power_lane(T x, Y exponent, T& z, F of_finite) {
   } else if (is_finite(x) && is_finite(y)) {
     if (has_sign(x) && kind == parity::none) {
       z = default_nan<T>();
-      return 1;
+      return status::domain;
     }
     z = of_finite(x, sign);
   } else if (exponent_field(x) >= format<T>::bias) {
@@ -82,25 +82,25 @@ int power_lane(T x, Y exponent, T& z, F of_finite) {
   } else {
     z = y > 0 ? zero_v<T> : square(y);
   }
-  return 0;
+  return status::ordinary;
 }
 
 // powr: no base below zero, and a NaN wherever the limit depends on the path.
 template <class T, class F>
-int powr_lane(T x, T y, T& z, F of_finite) {
+status powr_lane(T x, T y, T& z, F of_finite) {
   constexpr T infinity = std::numeric_limits<T>::infinity();
   if (is_nan(x) || (x == infinity && y == 0)) {
     z = default_nan<T>();
   } else if (x == -infinity) {
     z = default_nan<T>();
-    return 1;
+    return status::domain;
   } else if (x == 0 && !is_nan(y)) {
     z = y == 0 ? default_nan<T>() : y > 0 ? zero_v<T> : reciprocal_of(zero_v<T>);
   } else if (x == 1) {
     z = is_finite(y) ? one_v<T> : default_nan<T>();
   } else if (has_sign(x)) {
     z = default_nan<T>();
-    return 1;
+    return status::domain;
   } else if (y == 0) {
     z = 1;
   } else if (is_nan(y)) {
@@ -112,12 +112,12 @@ int powr_lane(T x, T y, T& z, F of_finite) {
   } else {
     z = y > 0 ? zero_v<T> : square(y);
   }
-  return 0;
+  return status::ordinary;
 }
 
 // rootn. A root of a negative number is the root of its magnitude, the sign put back at the end.
 template <class T, class F>
-int rootn_lane(T x, std::int32_t n, T& z, F of_finite) {
+status rootn_lane(T x, std::int32_t n, T& z, F of_finite) {
   const bool odd = n & 1;
   if (n == 0) {
     z = default_nan<T>();
@@ -139,7 +139,7 @@ int rootn_lane(T x, std::int32_t n, T& z, F of_finite) {
     else
       z = n > 0 ? x : zero_v<T>;
   }
-  return 0;
+  return status::ordinary;
 }
 
 }  // namespace lanemath::powers

@@ -142,7 +142,7 @@ LANEMATH_RARE cbrt_rare(const T* px, T* py) {
     *py = x;
   else
     *py = evaluate_one<root>(x * scale) * unscale;
-  return 0;
+  return status::ordinary;
 }
 
 // A float's in double, and narrowed.
@@ -155,11 +155,11 @@ LANEMATH_RARE rcbrt_rare(const T* px, T* py) {
     *py = zero_v<T> / x;
   } else if (x == 0) {
     *py = one_v<T> / x;
-    return 2;
+    return status::singular;
   } else {
     *py = T(evaluate_one<inverse>(double(x) * 0x1p126) * 0x1p42);
   }
-  return 0;
+  return status::ordinary;
 }
 
 template <int Power, class T>

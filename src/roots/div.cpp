@@ -12,7 +12,7 @@ namespace {
 template <class T>
 LANEMATH_RARE div_rare(const T* x, const T* y, T* z) {
   *z = *x / *y;
-  return *y == 0 ? 2 : 0;
+  return *y == 0 ? status::singular : status::ordinary;
 }
 
 template <class T>

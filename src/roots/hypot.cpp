@@ -50,20 +50,20 @@ two_part<double> root_of(const two_part<double>& s) {
 // The squares of floats and their sum are exact in two doubles, and so the residual tells on which side of its nearest
 // double the root lies. The last bit is made to say that: then one rounding to float is correct.
 LANEMATH_RARE hypotf_rare(const float* px, const float* py, float* pz) {
-  if (hypot_of_non_finite(*px, *py, *pz)) return 0;
+  if (hypot_of_non_finite(*px, *py, *pz)) return status::ordinary;
   const double x = std::fabs(*px), y = std::fabs(*py);
   const double a = x < y ? y : x, b = x < y ? x : y;
   const auto [root, rest] = root_of(sum_of_squares(a, b));
   auto pattern = pattern_of(root);
   if (rest != 0 && pattern % 2 == 0) pattern += rest > 0 ? 1 : -1;
   *pz = float(value_of<double>(pattern));
-  return 0;
+  return status::ordinary;
 }
 
 // Near the ends of the range the larger argument is brought to [2, 4). Denormals are integers in units of the least of
 // them, and so is the root, by its pattern: the integer nearest to it is found in integers.
 LANEMATH_RARE hypot_rare(const double* px, const double* py, double* pz) {
-  if (hypot_of_non_finite(*px, *py, *pz)) return 0;
+  if (hypot_of_non_finite(*px, *py, *pz)) return status::ordinary;
   const double x = std::fabs(*px), y = std::fabs(*py);
   const double a = x < y ? y : x, b = x < y ? x : y;
   const auto field = std::uint64_t(exponent_field(a));
@@ -75,13 +75,13 @@ LANEMATH_RARE hypot_rare(const double* px, const double* py, double* pz) {
     while (sum > root * root + root) ++root;
     while (root != 0 && sum <= root * root - root) --root;
     *pz = value_of<double>(std::uint64_t(root));
-    return 0;
+    return status::ordinary;
   }
   const double down = value_of<double>((2047 - field) << 52);
   const double up = value_of<double>(field << 52);
   const auto [root, rest] = root_of(sum_of_squares(a * down, b * down));
   *pz = ((root + rest / (root + root)) * 0.5) * up;
-  return 0;
+  return status::ordinary;
 }
 
 struct hypotf_standard {

@@ -17,7 +17,7 @@ template <class T>
 LANEMATH_RARE inv_rare(const T* px, T* py) {
   const double x = *px;
   *py = T(1.0 / x);
-  return x == 0 ? 2 : 0;
+  return x == 0 ? status::singular : status::ordinary;
 }
 
 template <class T>

@@ -20,19 +20,19 @@ LANEMATH_RARE rsqrt_rare(const T* px, T* py) {
   double x = *px;
   if (is_nan(x)) {
     *py = T(x / x);
-    return 0;
+    return status::ordinary;
   }
   if (x == 0) {
     *py = T(1.0 / x);
-    return 2;
+    return status::singular;
   }
   if (x < 0) {
     *py = T(default_nan<double>());
-    return 1;
+    return status::domain;
   }
   if (is_infinite(x)) {
     *py = T(0.0 / x);
-    return 0;
+    return status::ordinary;
   }
 
   int correction = 0;
@@ -64,7 +64,7 @@ LANEMATH_RARE rsqrt_rare(const T* px, T* py) {
   const double g = s + w;
   const double d = (s - g) + w;
   *py = T(((v + d) + g) * power_of_two(-(correction + (k >> 1))));
-  return 0;
+  return status::ordinary;
 }
 
 struct rsqrtf_guards {

@@ -17,11 +17,11 @@ LANEMATH_RARE sqrtf_rare(const float* px, float* py) {
   const float x = *px;
   if (x < 0) {
     *py = default_nan<float>();
-    return 1;
+    return status::domain;
   }
   if (!(0 < x && x < std::numeric_limits<float>::infinity())) {
     *py = x == 0 ? x : x + x;
-    return 0;
+    return status::ordinary;
   }
 
   const bool denormal = exponent_field(x) == 0;
@@ -39,7 +39,7 @@ LANEMATH_RARE sqrtf_rare(const float* px, float* py) {
     g = g + t * g;
   }
   *py = float((y + g * residual_of_square(v, y)) * power_of_two((k >> 1) - (denormal ? 100 : 0)));
-  return 0;
+  return status::ordinary;
 }
 
 template <class T>

@@ -60,26 +60,26 @@ LANEMATH_RARE erfcf_rare(const float* px, float* py) {
   const float x = *px;
   if (!(x < std::numeric_limits<float>::infinity())) {
     *py = x != x ? x * x : 0.0f;
-    return 0;
+    return status::ordinary;
   }
   if (double(x) < 0x40241BBF700DC3FB_f64) {  // one float
     *py = std::numeric_limits<float>::denorm_min();
-    return 0;
+    return status::ordinary;
   }
   const double tiny = opaque(std::numeric_limits<double>::min());
   *py = float(tiny * tiny);
-  return 4;
+  return status::underflow;
 }
 
 LANEMATH_RARE erfc_rare(const double* px, double* py) {
   const double x = *px;
   if (!(x < std::numeric_limits<double>::infinity())) {
     *py = x != x ? x * x : 0.0;
-    return 0;
+    return status::ordinary;
   }
   const double tiny = opaque(std::numeric_limits<double>::min());
   *py = tiny * tiny;
-  return 4;
+  return status::underflow;
 }
 
 struct erfcf_guard {

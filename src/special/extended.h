@@ -39,14 +39,14 @@ X even_and_odd(const C (&c)[Size], X x) {
 
 // Runs a routine with the precision control of x87 at its full 64 bits. The control word is left as it was found.
 template <auto Routine, class... Pointers>
-int at_full_precision(Pointers... lanes_of) {
+status at_full_precision(Pointers... lanes_of) {
   std::uint16_t found;
   asm volatile("fnstcw %0" : "=m"(found)::"memory");
   constexpr std::uint16_t precision = 0x300;
   if ((found & precision) == precision) return Routine(lanes_of...);
   const std::uint16_t full = found | precision;
   asm volatile("fldcw %0" ::"m"(full) : "memory");
-  const int status = Routine(lanes_of...);
+  const auto status = Routine(lanes_of...);
   asm volatile("fldcw %0" ::"m"(found) : "memory");
   return status;
 }

@@ -59,41 +59,41 @@ struct integer_part {
 
 // log|gamma(x)| of one lane and the sign of gamma. `Lane` tells where the result is known and computes it elsewhere.
 template <class Lane, class T>
-int log_gamma(T x, T& y, std::int32_t& sign) {
+status log_gamma(T x, T& y, std::int32_t& sign) {
   sign = 1;
   if (!finite(x)) {
     y = x * x;
-    return 0;
+    return status::ordinary;
   }
   if (x == zero_v<T>) {
     sign = std::signbit(x) ? -1 : 1;
     y = pole<T>();
-    return 2;
+    return status::singular;
   }
   if (Lane::exact_zero(x)) {
     y = zero_v<T>;
-    return 0;
+    return status::ordinary;
   }
   if (Lane::overflows(x)) {
     y = overflowed(x);
-    return 3;
+    return status::overflow;
   }
   if (x < zero_v<T>) {
     const integer_part<T> n(x);
     if (n.whole) {
       y = pole<T>();
-      return 2;
+      return status::singular;
     }
     sign = n.odd ? 1 : -1;
   }
   y = Lane::value(x);
-  return 0;
+  return status::ordinary;
 }
 
 template <class T>
-T argument_of(int (*)(const T*, T*));
+T argument_of(status (*)(const T*, T*));
 template <class T>
-T argument_of(int (*)(const T*, T*, std::int32_t*));
+T argument_of(status (*)(const T*, T*, std::int32_t*));
 
 template <auto Routine>
 struct scalar_gamma {

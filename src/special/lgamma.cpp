@@ -106,7 +106,7 @@ struct lgamma_lane {
   static double value(double x) { return double(x > 0.0 ? on_positive_axis(x) : on_negative_axis(x)); }
 };
 
-[[gnu::noinline]] int lgamma_in_x87(const double* px, double* py, std::int32_t* sign) {
+[[gnu::noinline]] status lgamma_in_x87(const double* px, double* py, std::int32_t* sign) {
   return log_gamma<lgamma_lane>(*px, *py, *sign);
 }
 

@@ -15,7 +15,7 @@ struct tgamma_lane {
   static constexpr auto& rows = tgamma_rows;
   static constexpr double tiny = 0x0004000000000000_f64;
   static constexpr double least = -185.0;
-  static constexpr int underflow_status = 0;
+  static constexpr status of_underflow = status::ordinary;
   static constexpr double overflow = 0x406573FAE561F648_f64;  // 171.62
   // The last row is scaled down, and so is what its reciprocal must be.
   static constexpr double last_row = -176.0;
@@ -33,7 +33,7 @@ struct tgamma_lane {
   }
 };
 
-[[gnu::noinline]] int tgamma_in_x87(const double* px, double* py) { return gamma<tgamma_lane>(*px, *py); }
+[[gnu::noinline]] status tgamma_in_x87(const double* px, double* py) { return gamma<tgamma_lane>(*px, *py); }
 
 LANEMATH_RARE tgamma_rare(const double* px, double* py) { return at_full_precision<tgamma_in_x87>(px, py); }
 

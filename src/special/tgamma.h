@@ -8,22 +8,22 @@ namespace lanemath::special {
 // Gamma of one lane. `Lane` says the arithmetic to work in (`real`), the rows of its products of quadratics and how
 // many integers a row serves, gamma between 1 and 2 (`below_2`), sin(pi t) / pi (`sine`), and where the range ends.
 template <class Lane, class T>
-int gamma(T x, T& y) {
+status gamma(T x, T& y) {
   using real = typename Lane::real;
   constexpr T two = 2;
   if (!finite(x)) {
     const bool minus_infinity = x < zero_v<T>;
     y = minus_infinity ? default_nan<T>() : x + x;
-    return minus_infinity;
+    return minus_infinity ? status::domain : status::ordinary;
   }
   const T a = std::fabs(x);
   if (a == zero_v<T>) {
     y = pole(std::copysign(one_v<T>, x));
-    return 2;
+    return status::singular;
   }
   if (a <= Lane::tiny) {
     y = overflowed(x);
-    return 3;
+    return status::overflow;
   }
 
   // The integer part by a rounding constant, taken as it comes where that is no longer exact.
@@ -34,15 +34,15 @@ int gamma(T x, T& y) {
   if (negative) {
     if (a >= all_whole<T> || n == a) {
       y = default_nan<T>();
-      return 1;
+      return status::domain;
     }
     if (x < Lane::least) {
       y = underflowed(whole % 2 != 0 ? one_v<T> : -one_v<T>);
-      return Lane::underflow_status;
+      return Lane::of_underflow;
     }
   } else if (x >= Lane::overflow) {
     y = overflowed(x);
-    return 3;
+    return status::overflow;
   }
 
   const real magnitude = a;
@@ -57,13 +57,13 @@ int gamma(T x, T& y) {
   }
   if (!negative) {
     y = T(a < one_v<T> ? product / magnitude : product * walk);
-    return 0;
+    return status::ordinary;
   }
   const real sine = Lane::sine(std::fabs(a - nearest));
   real reflected = 1 / ((a < one_v<T> ? sine : magnitude * sine) * product * walk);
   if (x < Lane::last_row) reflected *= Lane::last_row_scale;
   y = T(whole % 2 != 0 ? reflected : -reflected);
-  return 0;
+  return status::ordinary;
 }
 
 }  // namespace lanemath::special

@@ -45,7 +45,7 @@ struct tgammaf_lane {
   static constexpr auto& rows = tgammaf_rows;
   static constexpr float tiny = 0x00200000_f32;
   static constexpr float least = -43.0f;
-  static constexpr int underflow_status = 4;
+  static constexpr status of_underflow = status::underflow;
   static constexpr double overflow = 0x4041852200000000_f64;  // 35.0401
   // The last row is scaled down, and so is what its reciprocal must be.
   static constexpr float last_row = -40.0f;

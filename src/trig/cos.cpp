@@ -15,7 +15,7 @@ constexpr double HALF_PI = 0x3FF921FB54442D18_f64;
 LANEMATH_RARE cos_rare(const double* px, double* py) {
   if (exponent_field(*px) == 0x7FF) return double_of_non_finite(*px, *py);
   *py = scalar_sine_cosine(*px).cosine;
-  return 0;
+  return status::ordinary;
 }
 
 template <auto& Pi, auto& C>

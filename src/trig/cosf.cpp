@@ -15,7 +15,7 @@ constexpr float HALF_PI = 0x3FC90FDB_f32;
 LANEMATH_RARE cosf_rare(const float* px, float* py) {
   if ((~std::bit_cast<std::uint32_t>(*px) & 0x7F800000) == 0) return single_of_non_finite(*px, *py);
   *py = float(scalar_sine_cosine(*px).cosine);
-  return 0;
+  return status::ordinary;
 }
 
 template <auto& Pi, auto& C>

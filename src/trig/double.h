@@ -48,10 +48,10 @@ struct large_double {
   }
 };
 
-inline int double_of_non_finite(double x, double& y) {
+inline status double_of_non_finite(double x, double& y) {
   const bool infinite = (pattern_of(x) & 0x7FFFFFFFFFFFFFFF) == 0x7FF0000000000000;
   y = infinite ? x * 0.0 : x * x;
-  return infinite;
+  return infinite ? status::domain : status::ordinary;
 }
 
 // The large stage of an operation with one result; `quarter` steps more make a cosine of the sine.

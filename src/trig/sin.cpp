@@ -18,7 +18,7 @@ constexpr double sin_c[] = {0xBFC55555555554A8_f64, 0x3F8111111110A573_f64, 0xBF
 LANEMATH_RARE sin_rare(const double* px, double* py) {
   if (exponent_field(*px) == 0x7FF) return double_of_non_finite(*px, *py);
   *py = scalar_sine_cosine(*px).sine;
-  return 0;
+  return status::ordinary;
 }
 
 template <auto& Pi, auto& C>

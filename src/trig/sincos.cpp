@@ -13,14 +13,14 @@ constexpr double sincos_c[] = {0xBFC55555555554A7_f64, 0x3F8111111110A4A6_f64, 0
 
 LANEMATH_RARE sincos_rare(const double* px, double* psine, double* pcosine) {
   if (exponent_field(*px) == 0x7FF) {
-    const int status = double_of_non_finite(*px, *psine);
+    const auto status = double_of_non_finite(*px, *psine);
     *pcosine = *psine;
     return status;
   }
   const auto both = scalar_sine_cosine(*px);
   *psine = both.sine;
   *pcosine = both.cosine;
-  return 0;
+  return status::ordinary;
 }
 
 template <auto& Pi, auto& C>

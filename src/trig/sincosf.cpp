@@ -12,14 +12,14 @@ constexpr float sincosf_native_c[] = {0x3F7FF87C_f32, 0xBE29E72F_f32, 0x3BF84524
 
 LANEMATH_RARE sincosf_rare(const float* px, float* psine, float* pcosine) {
   if ((~std::bit_cast<std::uint32_t>(*px) & 0x7F800000) == 0) {
-    const int status = single_of_non_finite(*px, *psine);
+    const auto status = single_of_non_finite(*px, *psine);
     *pcosine = *psine;
     return status;
   }
   const auto both = scalar_sine_cosine(*px);
   *psine = float(both.sine);
   *pcosine = float(both.cosine);
-  return 0;
+  return status::ordinary;
 }
 
 template <auto& Pi, auto& C>

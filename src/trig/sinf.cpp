@@ -16,7 +16,7 @@ constexpr float sinf_native_c[] = {0x3F7FF87C_f32, 0xBE29E72F_f32, 0x3BF84524_f3
 LANEMATH_RARE sinf_rare(const float* px, float* py) {
   if ((~std::bit_cast<std::uint32_t>(*px) & 0x7F800000) == 0) return single_of_non_finite(*px, *py);
   *py = float(scalar_sine_cosine(*px).sine);
-  return 0;
+  return status::ordinary;
 }
 
 template <auto& Pi, auto& C>

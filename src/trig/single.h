@@ -56,10 +56,10 @@ struct large_single {
   }
 };
 
-inline int single_of_non_finite(float x, float& y) {
+inline status single_of_non_finite(float x, float& y) {
   const bool infinite = (std::bit_cast<std::uint32_t>(x) & 0x7FFFFFFF) == 0x7F800000;
   y = infinite ? float(double(x) * 0.0) : x * x;
-  return infinite;
+  return infinite ? status::domain : status::ordinary;
 }
 
 // Guards of an operation with one result: `quarter` steps more make a cosine of the sine.
