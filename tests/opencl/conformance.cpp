@@ -185,9 +185,7 @@ std::istream& operator>>(std::istream& in, part& p) {
   return in;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) try {
+int run(int argc, char** argv) {
   std::string path, only, disassembler = "llvm-dis-15";
   std::uint64_t seed = 1;
   bool exhaustive = false;
@@ -227,10 +225,10 @@ int main(int argc, char** argv) try {
     conformance.run(std::span(groups).subspan(i, std::min(groups_per_program, groups.size() - i)));
   fmt::print("{}\n", conformance.summary());
   return conformance.passed() ? 0 : 1;
-} catch (const cl::Error& error) {
-  fmt::print(stderr, "OpenCL: {} gave error {}\n", error.what(), error.err());
-  return 1;
-} catch (const std::exception& error) {
-  fmt::print(stderr, "{}\n", error.what());
-  return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  return guarded([&] { return run(argc, argv); });
 }

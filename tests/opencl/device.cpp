@@ -31,6 +31,14 @@ std::filesystem::path kernel_cache::bitcode_of(const std::string& kernel) const 
   throw std::runtime_error(fmt::format("the runtime left no bitcode of the kernel {}", kernel));
 }
 
+int guarded(const std::function<int()>& program) try { return program(); } catch (const cl::Error& error) {
+  fmt::print(stderr, "OpenCL: {} gave error {}\n", error.what(), error.err());
+  return 1;
+} catch (const std::exception& error) {
+  fmt::print(stderr, "{}\n", error.what());
+  return 1;
+}
+
 device::device() try : context_(CL_DEVICE_TYPE_ALL), queue_(context_) {
 } catch (const cl::Error& error) {
   throw std::runtime_error(fmt::format("no OpenCL device: {} gave error {}", error.what(), error.err()));

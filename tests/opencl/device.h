@@ -7,6 +7,7 @@
 #include <CL/opencl.hpp>
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -27,6 +28,9 @@ class kernel_cache {
  private:
   std::filesystem::path folder_;
 };
+
+// Runs a program, and tells on standard error what stopped it.
+int guarded(const std::function<int()>& program);
 
 class device {
  public:

@@ -13,7 +13,7 @@
 
 using namespace lanemath;
 
-int main(int argc, char** argv) try {
+static int run(int argc, char** argv) {
   if (argc != 2) {
     fmt::print(stderr, "usage: {} LIBRARY\n", argv[0]);
     return 2;
@@ -51,10 +51,8 @@ int main(int argc, char** argv) try {
   const bool same = sums[0] == as_bytes(sum);
   fmt::print("{} calls of pow(double16) in groups of {}: {}\n", calls, items, same ? "the same sums" : "other sums");
   return same ? 0 : 1;
-} catch (const cl::Error& error) {
-  fmt::print(stderr, "OpenCL: {} gave error {}\n", error.what(), error.err());
-  return 1;
-} catch (const std::exception& error) {
-  fmt::print(stderr, "{}\n", error.what());
-  return 1;
+}
+
+int main(int argc, char** argv) {
+  return guarded([&] { return run(argc, argv); });
 }

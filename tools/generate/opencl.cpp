@@ -130,8 +130,8 @@ std::vector<int> loop_widths(const operation& o, const machine& on) {
   return wide ? std::vector{lanes, 2 * lanes} : std::vector{lanes};
 }
 
-// A form with an algorithm of its own has other bits than the scalar's; with its neighbours at other widths in mind,
-// such a call must not keep their loop scalar.
+// A form with an algorithm of its own has other bits than the scalar's. There the scalar's function is called for each
+// lane, so that the calls beside it can still be vectorised.
 std::string loop_function(const form& vector) {
   if (vector.has_second()) return vector.packed();
   const auto is_own = [&](int width) { return is_standalone(vector.op.name(), width, vector.variant); };
