@@ -6,7 +6,6 @@
 
 #include "frame/catalogue.h"
 #include "harness/harness.h"
-#include "ranges.h"
 
 namespace lanemath::bench {
 

@@ -49,13 +49,13 @@ std::optional<peer> to_integer_peer(bool saturated) {
 }
 
 template <class I, class A>
-std::optional<peer> to_integer_by_name(std::string_view name) {
-  const auto says = [&](std::string_view part) { return name.find(part) != name.npos; };
-  const bool saturated = !says("nosat");
-  if (says("rte")) return to_integer_peer<I, A, [](A x) { return std::nearbyint(x); }>(saturated);
-  if (says("rtn")) return to_integer_peer<I, A, [](A x) { return std::floor(x); }>(saturated);
-  if (says("rtp")) return to_integer_peer<I, A, [](A x) { return std::ceil(x); }>(saturated);
-  return to_integer_peer<I, A, [](A x) { return x; }>(saturated);
+std::optional<peer> to_integer_as(const operation& o) {
+  switch (o.rounding) {
+    case direction::nearest: return to_integer_peer<I, A, [](A x) { return std::nearbyint(x); }>(o.saturates);
+    case direction::down: return to_integer_peer<I, A, [](A x) { return std::floor(x); }>(o.saturates);
+    case direction::up: return to_integer_peer<I, A, [](A x) { return std::ceil(x); }>(o.saturates);
+    default: return to_integer_peer<I, A, [](A x) { return x; }>(o.saturates);
+  }
 }
 
 // C++ has no other direction than the one in force.
@@ -113,7 +113,7 @@ std::optional<peer> plain(const operation& o) {
       if constexpr (std::is_floating_point_v<R>)
         return loop<cast<R, A>, R, A>();
       else if constexpr (std::is_floating_point_v<A>)
-        return to_integer_by_name<R, A>(o.name());
+        return to_integer_as<R, A>(o);
       else
         return std::nullopt;
     });

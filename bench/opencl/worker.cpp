@@ -18,7 +18,6 @@
 #include <vector>
 
 #include "../arguments.h"
-#include "../ranges.h"
 #include "builtins.h"
 
 namespace lanemath::bench::opencl {
@@ -60,9 +59,8 @@ class device {
     }
 
     const auto& sig = b.op->sig;
-    const auto ranges = typical_arguments(*b.op);
     buffers_.clear();
-    for (int i = 0; i < sig.arity(); ++i) fill(sig.arguments[i], next_array(), array_lanes, ranges[i], i);
+    for (int i = 0; i < sig.arity(); ++i) fill(sig.arguments[i], next_array(), array_lanes, b.op->typical[i], i);
     next_array();
     if (sig.how == delivery::pointer) next_array();
 

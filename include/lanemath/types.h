@@ -19,7 +19,7 @@
 #error "lanemath needs an x86-64 target and GCC, Clang or a compiler that is like them"
 #endif
 
-#define LANEMATH_INLINE static inline __attribute__((always_inline, unused))
+#define LANEMATH_WRAPPER static inline __attribute__((always_inline, unused))
 
 /* Compilers remark where a wide vector is passed or returned that this depends on AVX. Here nothing does, as the
  * wrappers are always inlined; the remarks come at the caller's lines, so they are switched off for those too. */
@@ -47,7 +47,7 @@ LANEMATH_BEGIN
 /* For each vector type: the type itself; lanemath_border_<type>, as it crosses the border; the way to and from it;
  * and lanemath_<type>_pair, two of them by value. */
 #define LANEMATH_WAY(to, from, name) \
-  LANEMATH_INLINE to name(from v) {  \
+  LANEMATH_WRAPPER to name(from v) { \
     to r;                            \
     memcpy(&r, &v, sizeof r);        \
     return r;                        \
@@ -114,40 +114,40 @@ LANEMATH_END
 
 #define LANEMATH_UNARY(name, w, R, A)                                                \
   lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w);              \
-  LANEMATH_INLINE lanemath_##R##w lanemath_##name(lanemath_##A##w x) {               \
+  LANEMATH_WRAPPER lanemath_##R##w lanemath_##name(lanemath_##A##w x) {              \
     return lanemath_import_##R##w(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x))); \
   }
 #define LANEMATH_BINARY(name, w, R, A, B)                                                                       \
   lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w);                 \
-  LANEMATH_INLINE lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y) {                       \
+  LANEMATH_WRAPPER lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y) {                      \
     return lanemath_import_##R##w(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y))); \
   }
 #define LANEMATH_TERNARY(name, w, R, A, B, C)                                                                    \
   lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w,                   \
                                                lanemath_border_##C##w);                                          \
-  LANEMATH_INLINE lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y, lanemath_##C##w z) {     \
+  LANEMATH_WRAPPER lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y, lanemath_##C##w z) {    \
     return lanemath_import_##R##w(                                                                               \
         LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y), lanemath_export_##C##w(z))); \
   }
 #define LANEMATH_UNARY_POINTER(name, w, R, A, P)                                                    \
   lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, void*);                      \
-  LANEMATH_INLINE lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##P##w* second) {     \
+  LANEMATH_WRAPPER lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##P##w* second) {    \
     return lanemath_import_##R##w(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), (void*)second)); \
   }
-#define LANEMATH_BINARY_POINTER(name, w, R, A, B, P)                                                               \
-  lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w, void*);             \
-  LANEMATH_INLINE lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y, lanemath_##P##w* second) { \
-    return lanemath_import_##R##w(                                                                                 \
-        LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y), (void*)second));               \
+#define LANEMATH_BINARY_POINTER(name, w, R, A, B, P)                                                                \
+  lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w, void*);              \
+  LANEMATH_WRAPPER lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y, lanemath_##P##w* second) { \
+    return lanemath_import_##R##w(                                                                                  \
+        LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y), (void*)second));                \
   }
 #define LANEMATH_UNARY_PAIR(name, w, R, A)                                                  \
   lanemath_border_##R##w##_pair LANEMATH_SYMBOL(name)(lanemath_border_##A##w);              \
-  LANEMATH_INLINE lanemath_##R##w##_pair lanemath_##name(lanemath_##A##w x) {               \
+  LANEMATH_WRAPPER lanemath_##R##w##_pair lanemath_##name(lanemath_##A##w x) {              \
     return lanemath_import_##R##w##_pair(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x))); \
   }
 #define LANEMATH_BINARY_PAIR(name, w, R, A, B)                                                                         \
   lanemath_border_##R##w##_pair LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w);                 \
-  LANEMATH_INLINE lanemath_##R##w##_pair lanemath_##name(lanemath_##A##w x, lanemath_##B##w y) {                       \
+  LANEMATH_WRAPPER lanemath_##R##w##_pair lanemath_##name(lanemath_##A##w x, lanemath_##B##w y) {                      \
     return lanemath_import_##R##w##_pair(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y))); \
   }
 

@@ -5,15 +5,20 @@
 
 #include "frame/frame.h"
 
-// form(rounding, direction) for each rounding that an operation's name can say.
-#define LANEMATH_FOR_ROUNDINGS(form) form(rte, nearest) form(rtn, down) form(rtp, up) form(rtz, zero)
-
-// Exports a template's instance, whose commas a macro's argument cannot hold.
-#define LANEMATH_CONVERSION(operation, ...) \
-  using operation##_form = __VA_ARGS__;     \
-  LANEMATH_EXPORT(unary, operation, operation##_form, )
+// Exports an instance of `body`, which takes the operation's place in the catalogue.
+#define LANEMATH_CONVERSION(operation, body) LANEMATH_EXPORT(operation, body<::lanemath::index_of(#operation)>)
 
 namespace lanemath {
+
+// A conversion as the catalogue has it.
+template <std::size_t Index>
+struct conversion {
+  using from = type_of<catalogue[Index].sig.arguments[0]>;
+  using to = type_of<catalogue[Index].sig.result>;
+  using signature = to(from);
+  static constexpr direction rounding = catalogue[Index].rounding;
+  static constexpr bool saturates = catalogue[Index].saturates;
+};
 
 // A mask, or a small integer, in 64-bit lanes.
 template <class T, int W>

@@ -65,12 +65,11 @@ struct taken_apart {
 };
 
 // Every 32-bit integer is exact in double.
-template <class I>
-struct to_double {
-  using signature = double(I);
+template <std::size_t Index>
+struct to_double : conversion<Index> {
   template <class V>
   static auto kernel(V x) {
-    if constexpr (std::is_signed_v<I>)
+    if constexpr (std::is_signed_v<typename V::value_type>)
       return convert<double>(x);
     else
       return value_of(from_integer_rows<double>::P0, widen(x));
@@ -78,14 +77,15 @@ struct to_double {
 };
 
 // Integers as wide as the result: two fields.
-template <direction D, class I, class T>
-struct from_two_fields {
-  using signature = T(I);
+template <std::size_t Index>
+struct from_two_fields : conversion<Index> {
   static constexpr int groups_at_once = 2;
   template <class V>
   static auto kernel(V x) {
+    using T = typename conversion<Index>::to;
     using c = from_integer_rows<T>;
-    const taken_apart<I, T, V::width> from(x);
+    constexpr direction D = conversion<Index>::rounding;
+    const taken_apart<typename V::value_type, T, V::width> from(x);
     const auto lo = value_of(c::P0, from.m & c::FIELD);
     const auto hi = value_of(c::P1, from.m >> c::field_bits);
     const auto s = hi + lo;
@@ -121,13 +121,12 @@ struct three_fields {
 
 // The low field is left out of the first sum and added in the end. Where the first sum was rounded down on an exact
 // half while the low field is not zero, its last bit is set: the end's rounding then goes up.
-template <class I>
-struct from_three_fields_to_nearest {
-  using signature = float(I);
+template <std::size_t Index>
+struct from_three_fields_to_nearest : conversion<Index> {
   template <class V>
   static auto kernel(V x) {
     using c = from_integer_rows<float>;
-    const taken_apart<I, float, V::width> from(x);
+    const taken_apart<typename V::value_type, float, V::width> from(x);
     const three_fields fields(from.m);
     const auto minus_low = c::P0 - placed(c::P0, fields.low);
     const auto s = fields.high + fields.middle;
@@ -138,12 +137,13 @@ struct from_three_fields_to_nearest {
   }
 };
 
-template <direction D, class I>
-struct from_three_fields {
-  using signature = float(I);
+template <std::size_t Index>
+struct from_three_fields : conversion<Index> {
   template <class V>
   static auto kernel(V x) {
-    const taken_apart<I, float, V::width> from(x);
+    using I = typename V::value_type;
+    constexpr direction D = conversion<Index>::rounding;
+    const taken_apart<typename V::value_type, float, V::width> from(x);
     const three_fields fields(from.m);
     const auto low = value_of(from_integer_rows<float>::P0, fields.low);
     const auto s1 = fields.middle + low;
@@ -166,20 +166,40 @@ struct from_three_fields {
     }
   }
 };
-template <class I>
-struct from_three_fields<direction::nearest, I> : from_three_fields_to_nearest<I> {};
 
 }  // namespace
 
-#define FORMS(rounding, D)                                                                          \
-  LANEMATH_CONVERSION(cvti32tofp##rounding, to_double<std::int32_t>)                                \
-  LANEMATH_CONVERSION(cvtu32tofp##rounding, to_double<std::uint32_t>)                               \
-  LANEMATH_CONVERSION(cvti32tofp##rounding##f, from_two_fields<direction::D, std::int32_t, float>)  \
-  LANEMATH_CONVERSION(cvtu32tofp##rounding##f, from_two_fields<direction::D, std::uint32_t, float>) \
-  LANEMATH_CONVERSION(cvti64tofp##rounding, from_two_fields<direction::D, std::int64_t, double>)    \
-  LANEMATH_CONVERSION(cvtu64tofp##rounding, from_two_fields<direction::D, std::uint64_t, double>)   \
-  LANEMATH_CONVERSION(cvti64tofp##rounding##f, from_three_fields<direction::D, std::int64_t>)       \
-  LANEMATH_CONVERSION(cvtu64tofp##rounding##f, from_three_fields<direction::D, std::uint64_t>)
-LANEMATH_FOR_ROUNDINGS(FORMS)
+LANEMATH_CONVERSION(cvti32tofprte, to_double)
+LANEMATH_CONVERSION(cvti32tofprtn, to_double)
+LANEMATH_CONVERSION(cvti32tofprtp, to_double)
+LANEMATH_CONVERSION(cvti32tofprtz, to_double)
+LANEMATH_CONVERSION(cvtu32tofprte, to_double)
+LANEMATH_CONVERSION(cvtu32tofprtn, to_double)
+LANEMATH_CONVERSION(cvtu32tofprtp, to_double)
+LANEMATH_CONVERSION(cvtu32tofprtz, to_double)
+LANEMATH_CONVERSION(cvti32tofprtef, from_two_fields)
+LANEMATH_CONVERSION(cvti32tofprtnf, from_two_fields)
+LANEMATH_CONVERSION(cvti32tofprtpf, from_two_fields)
+LANEMATH_CONVERSION(cvti32tofprtzf, from_two_fields)
+LANEMATH_CONVERSION(cvtu32tofprtef, from_two_fields)
+LANEMATH_CONVERSION(cvtu32tofprtnf, from_two_fields)
+LANEMATH_CONVERSION(cvtu32tofprtpf, from_two_fields)
+LANEMATH_CONVERSION(cvtu32tofprtzf, from_two_fields)
+LANEMATH_CONVERSION(cvti64tofprte, from_two_fields)
+LANEMATH_CONVERSION(cvti64tofprtn, from_two_fields)
+LANEMATH_CONVERSION(cvti64tofprtp, from_two_fields)
+LANEMATH_CONVERSION(cvti64tofprtz, from_two_fields)
+LANEMATH_CONVERSION(cvtu64tofprte, from_two_fields)
+LANEMATH_CONVERSION(cvtu64tofprtn, from_two_fields)
+LANEMATH_CONVERSION(cvtu64tofprtp, from_two_fields)
+LANEMATH_CONVERSION(cvtu64tofprtz, from_two_fields)
+LANEMATH_CONVERSION(cvti64tofprtef, from_three_fields_to_nearest)
+LANEMATH_CONVERSION(cvti64tofprtnf, from_three_fields)
+LANEMATH_CONVERSION(cvti64tofprtpf, from_three_fields)
+LANEMATH_CONVERSION(cvti64tofprtzf, from_three_fields)
+LANEMATH_CONVERSION(cvtu64tofprtef, from_three_fields_to_nearest)
+LANEMATH_CONVERSION(cvtu64tofprtnf, from_three_fields)
+LANEMATH_CONVERSION(cvtu64tofprtpf, from_three_fields)
+LANEMATH_CONVERSION(cvtu64tofprtzf, from_three_fields)
 
 }  // namespace lanemath

@@ -7,11 +7,11 @@
 namespace lanemath {
 namespace {
 
-template <direction D>
-struct narrowed {
-  using signature = float(double);
+template <std::size_t Index>
+struct narrowed : conversion<Index> {
   template <class V>
   static auto kernel(V x) {
+    constexpr direction D = conversion<Index>::rounding;
     const auto r = convert<float>(x);
     const V b = convert<double>(r);
     const auto away_from_zero = (bits(r) >> 31) | 1;
@@ -28,7 +28,9 @@ struct narrowed {
 
 }  // namespace
 
-#define FORM(rounding, D) LANEMATH_CONVERSION(cvtfp64tofp32##rounding, narrowed<direction::D>)
-LANEMATH_FOR_ROUNDINGS(FORM)
+LANEMATH_CONVERSION(cvtfp64tofp32rte, narrowed)
+LANEMATH_CONVERSION(cvtfp64tofp32rtn, narrowed)
+LANEMATH_CONVERSION(cvtfp64tofp32rtp, narrowed)
+LANEMATH_CONVERSION(cvtfp64tofp32rtz, narrowed)
 
 }  // namespace lanemath

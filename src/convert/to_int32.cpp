@@ -28,23 +28,21 @@ struct to_int32_rows<double> {
   static constexpr int above_fraction = 11;
 };
 
-template <direction D, class T>
-struct to_signed {
-  using signature = std::int32_t(T);
+template <std::size_t Index>
+struct to_signed : conversion<Index> {
   template <class V>
   static auto kernel(V x) {
-    return convert<std::int32_t>(round_to<D>(x));
+    return convert<std::int32_t>(round_to<conversion<Index>::rounding>(x));
   }
 };
 
 // The indefinite result is the lower clamp already, and the upper one is its complement. A NaN gives 0.
-template <direction D, class T>
-struct to_signed_saturated {
-  using signature = std::int32_t(T);
+template <std::size_t Index>
+struct to_signed_saturated : conversion<Index> {
   template <class V>
   static auto kernel(V x) {
-    const V r = round_to<D>(x);
-    const auto above = narrow_mask(r >= to_int32_rows<T>::TWO_31);
+    const V r = round_to<conversion<Index>::rounding>(x);
+    const auto above = narrow_mask(r >= to_int32_rows<typename conversion<Index>::from>::TWO_31);
     return (convert<std::int32_t>(r) ^ above) & narrow_mask(r == r);
   }
 };
@@ -52,34 +50,56 @@ struct to_signed_saturated {
 // From 2^31 to 2^32 the integer is the fraction below a set top bit. Without saturation a negative lane gives its
 // magnitude, and what does not fit stays indefinite. With it, the bounds are tested on the leading word, so that a
 // NaN goes by its sign: 0xFFFFFFFF or 0.
-template <direction D, class T, bool Saturated>
-struct to_unsigned {
-  using signature = std::uint32_t(T);
+template <std::size_t Index>
+struct to_unsigned : conversion<Index> {
   template <class V>
   static auto kernel(V x) {
-    using c = to_int32_rows<T>;
-    const V r = round_to<D>(x);
-    const V a = Saturated ? r : magnitude(r);
+    constexpr bool saturates = conversion<Index>::saturates;
+    using c = to_int32_rows<typename conversion<Index>::from>;
+    const V r = round_to<conversion<Index>::rounding>(x);
+    const V a = saturates ? r : magnitude(r);
     const auto word = top_word(a);
     const auto top = (word & c::EXPONENT) == c::EXPONENT_31;
     const auto fraction = top_word(bits(a) << c::above_fraction);
     auto y = select(top, fraction | INDEFINITE, convert<std::int32_t>(a));
-    if constexpr (Saturated) y = (y | (word >= c::TWO_32)) & ~(word >> 31);
+    if constexpr (saturates) y = (y | (word >= c::TWO_32)) & ~(word >> 31);
     return as<std::uint32_t>(y);
   }
 };
 
 }  // namespace
 
-#define FORMS(rounding, D)                                                                   \
-  LANEMATH_CONVERSION(cvtfptoi32##rounding##nosatf, to_signed<direction::D, float>)          \
-  LANEMATH_CONVERSION(cvtfptoi32##rounding##nosat, to_signed<direction::D, double>)          \
-  LANEMATH_CONVERSION(cvtfptoi32##rounding##satf, to_signed_saturated<direction::D, float>)  \
-  LANEMATH_CONVERSION(cvtfptoi32##rounding##sat, to_signed_saturated<direction::D, double>)  \
-  LANEMATH_CONVERSION(cvtfptou32##rounding##nosatf, to_unsigned<direction::D, float, false>) \
-  LANEMATH_CONVERSION(cvtfptou32##rounding##nosat, to_unsigned<direction::D, double, false>) \
-  LANEMATH_CONVERSION(cvtfptou32##rounding##satf, to_unsigned<direction::D, float, true>)    \
-  LANEMATH_CONVERSION(cvtfptou32##rounding##sat, to_unsigned<direction::D, double, true>)
-LANEMATH_FOR_ROUNDINGS(FORMS)
+LANEMATH_CONVERSION(cvtfptoi32rtenosatf, to_signed)
+LANEMATH_CONVERSION(cvtfptoi32rtenosat, to_signed)
+LANEMATH_CONVERSION(cvtfptoi32rtnnosatf, to_signed)
+LANEMATH_CONVERSION(cvtfptoi32rtnnosat, to_signed)
+LANEMATH_CONVERSION(cvtfptoi32rtpnosatf, to_signed)
+LANEMATH_CONVERSION(cvtfptoi32rtpnosat, to_signed)
+LANEMATH_CONVERSION(cvtfptoi32rtznosatf, to_signed)
+LANEMATH_CONVERSION(cvtfptoi32rtznosat, to_signed)
+LANEMATH_CONVERSION(cvtfptoi32rtesatf, to_signed_saturated)
+LANEMATH_CONVERSION(cvtfptoi32rtesat, to_signed_saturated)
+LANEMATH_CONVERSION(cvtfptoi32rtnsatf, to_signed_saturated)
+LANEMATH_CONVERSION(cvtfptoi32rtnsat, to_signed_saturated)
+LANEMATH_CONVERSION(cvtfptoi32rtpsatf, to_signed_saturated)
+LANEMATH_CONVERSION(cvtfptoi32rtpsat, to_signed_saturated)
+LANEMATH_CONVERSION(cvtfptoi32rtzsatf, to_signed_saturated)
+LANEMATH_CONVERSION(cvtfptoi32rtzsat, to_signed_saturated)
+LANEMATH_CONVERSION(cvtfptou32rtenosatf, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtenosat, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtnnosatf, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtnnosat, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtpnosatf, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtpnosat, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtznosatf, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtznosat, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtesatf, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtesat, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtnsatf, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtnsat, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtpsatf, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtpsat, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtzsatf, to_unsigned)
+LANEMATH_CONVERSION(cvtfptou32rtzsat, to_unsigned)
 
 }  // namespace lanemath

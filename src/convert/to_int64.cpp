@@ -28,29 +28,31 @@ struct to_int64_rows<double> {
   static constexpr int fraction_bits = 52;
 };
 
-template <direction D, class I, class T, bool Saturated>
-struct to_int64 {
-  using signature = I(T);
+template <std::size_t Index>
+struct to_int64 : conversion<Index> {
   static constexpr int groups_at_once = 2;
   template <class V>
   static auto kernel(V x) {
+    using given = conversion<Index>;
+    using T = typename given::from;
+    using I = typename given::to;
     using c = to_int64_rows<T>;
     using wide = lanes<std::int64_t, V::width>;
     constexpr bool is_signed = std::is_signed_v<I>;
     constexpr T ZERO = 0, LIMIT = is_signed ? 0x1p63 : 0x1p64;
 
-    const V r = round_to<D>(x);
+    const V r = round_to<given::rounding>(x);
     // A negative lane gives its magnitude, or 0 by the last mask below.
-    const V a = Saturated && !is_signed ? r : magnitude(r);
+    const V a = given::saturates && !is_signed ? r : magnitude(r);
     const auto small = a < c::INTEGRAL;
     auto m = select(small, bits(a + c::INTEGRAL) & c::FRACTION, (bits(a) & c::FRACTION) | c::IMPLICIT);
     const auto k = ((bits(a) >> c::fraction_bits) - c::SHIFT_BASE) & ~small;
     const auto negative = r < ZERO;
     if constexpr (is_signed) m = (m ^ negative) - negative;
-    if constexpr (Saturated) m = m & (is_signed ? r == r : r >= ZERO);
+    if constexpr (given::saturates) m = m & (is_signed ? r == r : r >= ZERO);
     const wide v = shifted_left(as_64(m), as_64(k));
 
-    if constexpr (!Saturated)
+    if constexpr (!given::saturates)
       return as<I>(select(as_64(a < LIMIT), v, wide(std::numeric_limits<std::int64_t>::min())));
     else if constexpr (is_signed)
       return select(as_64(a >= LIMIT), as_64(negative) ^ std::numeric_limits<std::int64_t>::max(), v);
@@ -61,15 +63,37 @@ struct to_int64 {
 
 }  // namespace
 
-#define FORMS(rounding, D)                                                                               \
-  LANEMATH_CONVERSION(cvtfptoi64##rounding##nosatf, to_int64<direction::D, std::int64_t, float, false>)  \
-  LANEMATH_CONVERSION(cvtfptoi64##rounding##nosat, to_int64<direction::D, std::int64_t, double, false>)  \
-  LANEMATH_CONVERSION(cvtfptoi64##rounding##satf, to_int64<direction::D, std::int64_t, float, true>)     \
-  LANEMATH_CONVERSION(cvtfptoi64##rounding##sat, to_int64<direction::D, std::int64_t, double, true>)     \
-  LANEMATH_CONVERSION(cvtfptou64##rounding##nosatf, to_int64<direction::D, std::uint64_t, float, false>) \
-  LANEMATH_CONVERSION(cvtfptou64##rounding##nosat, to_int64<direction::D, std::uint64_t, double, false>) \
-  LANEMATH_CONVERSION(cvtfptou64##rounding##satf, to_int64<direction::D, std::uint64_t, float, true>)    \
-  LANEMATH_CONVERSION(cvtfptou64##rounding##sat, to_int64<direction::D, std::uint64_t, double, true>)
-LANEMATH_FOR_ROUNDINGS(FORMS)
+LANEMATH_CONVERSION(cvtfptoi64rtenosatf, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtenosat, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtnnosatf, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtnnosat, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtpnosatf, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtpnosat, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtznosatf, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtznosat, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtesatf, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtesat, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtnsatf, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtnsat, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtpsatf, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtpsat, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtzsatf, to_int64)
+LANEMATH_CONVERSION(cvtfptoi64rtzsat, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtenosatf, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtenosat, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtnnosatf, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtnnosat, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtpnosatf, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtpnosat, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtznosatf, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtznosat, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtesatf, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtesat, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtnsatf, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtnsat, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtpsatf, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtpsat, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtzsatf, to_int64)
+LANEMATH_CONVERSION(cvtfptou64rtzsat, to_int64)
 
 }  // namespace lanemath

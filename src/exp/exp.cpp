@@ -151,12 +151,8 @@ struct exp_at_2 {
 
 }  // namespace
 
-LANEMATH_EXPORT_AT(1, unary, exp, exp_standard, )
-LANEMATH_EXPORT_AT(2, unary, exp, exp_at_2, )
-LANEMATH_EXPORT_AT(3, unary, exp, exp_standard, )
-LANEMATH_EXPORT_AT(4, unary, exp, exp_standard, )
-LANEMATH_EXPORT_AT(8, unary, exp, exp_standard, )
-LANEMATH_EXPORT_AT(16, unary, exp, exp_standard, )
-LANEMATH_EXPORT(unary, exp, exp_native, _native)
+LANEMATH_EXPORT_BUT(2, exp, exp_standard)
+LANEMATH_EXPORT_AT(2, exp, exp_at_2)
+LANEMATH_EXPORT(exp, exp_native, _native)
 
 }  // namespace lanemath

@@ -80,7 +80,7 @@ struct exp10_native : exp10_guards {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, exp10, exp10_standard, )
-LANEMATH_EXPORT(unary, exp10, exp10_native, _native)
+LANEMATH_EXPORT(exp10, exp10_standard)
+LANEMATH_EXPORT(exp10, exp10_native, _native)
 
 }  // namespace lanemath

@@ -74,8 +74,8 @@ struct exp10f_native : exp10f_guards {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, exp10f, exp10f_standard, )
-LANEMATH_EXPORT(unary, exp10f, exp10f_native, _native)
+LANEMATH_EXPORT(exp10f, exp10f_standard)
+LANEMATH_EXPORT(exp10f, exp10f_native, _native)
 LANEMATH_SAME(exp10f, _native, _half)
 LANEMATH_SAME(exp10f, _native, _rm)
 

@@ -163,12 +163,8 @@ struct exp22 {
 
 }  // namespace
 
-LANEMATH_EXPORT_AT(1, unary, exp2, exp2_standard, )
-LANEMATH_EXPORT_AT(2, unary, exp2, exp22, )
-LANEMATH_EXPORT_AT(3, unary, exp2, exp2_standard, )
-LANEMATH_EXPORT_AT(4, unary, exp2, exp2_standard, )
-LANEMATH_EXPORT_AT(8, unary, exp2, exp2_standard, )
-LANEMATH_EXPORT_AT(16, unary, exp2, exp2_standard, )
-LANEMATH_EXPORT(unary, exp2, exp2_native, _native)
+LANEMATH_EXPORT_BUT(2, exp2, exp2_standard)
+LANEMATH_EXPORT_AT(2, exp2, exp22)
+LANEMATH_EXPORT(exp2, exp2_native, _native)
 
 }  // namespace lanemath

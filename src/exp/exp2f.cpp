@@ -176,14 +176,14 @@ struct exp2f4 : rare_above<float(float), exp2f_lane, 0x42F70000> {  // 123.5
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, exp2f, exp2f_frame, _rm)
-LANEMATH_EXPORT(unary, exp2f, exp2f_native, _native)
+LANEMATH_EXPORT(exp2f, exp2f_frame, _rm)
+LANEMATH_EXPORT(exp2f, exp2f_native, _native)
 LANEMATH_SAME(exp2f, _native, _half)
 
-LANEMATH_EXPORT_AT(1, unary, exp2f, exp2f1, )
+LANEMATH_EXPORT_AT(1, exp2f, exp2f1)
 LANEMATH_SAME_AT(2, exp2f, _rm, )
 LANEMATH_SAME_AT(3, exp2f, _rm, )
-LANEMATH_EXPORT_AT(4, unary, exp2f, exp2f4, )
+LANEMATH_EXPORT_AT(4, exp2f, exp2f4)
 LANEMATH_SAME_AT(8, exp2f, _rm, )
 LANEMATH_SAME_AT(16, exp2f, _rm, )
 

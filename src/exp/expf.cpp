@@ -111,9 +111,9 @@ struct expf_rm : expf_guards {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, expf, expf_standard, )
-LANEMATH_EXPORT(unary, expf, expf_native, _native)
+LANEMATH_EXPORT(expf, expf_standard)
+LANEMATH_EXPORT(expf, expf_native, _native)
 LANEMATH_SAME(expf, _native, _half)
-LANEMATH_EXPORT(unary, expf, expf_rm, _rm)
+LANEMATH_EXPORT(expf, expf_rm, _rm)
 
 }  // namespace lanemath

@@ -80,7 +80,7 @@ struct expm1_native : expm1_guards {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, expm1, expm1_standard, )
-LANEMATH_EXPORT(unary, expm1, expm1_native, _native)
+LANEMATH_EXPORT(expm1, expm1_standard)
+LANEMATH_EXPORT(expm1, expm1_native, _native)
 
 }  // namespace lanemath

@@ -76,7 +76,7 @@ struct expm1f_native : expm1f_guards {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, expm1f, expm1f_standard, )
-LANEMATH_EXPORT(unary, expm1f, expm1f_native, _native)
+LANEMATH_EXPORT(expm1f, expm1f_standard)
+LANEMATH_EXPORT(expm1f, expm1f_native, _native)
 
 }  // namespace lanemath

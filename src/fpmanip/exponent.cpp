@@ -94,11 +94,11 @@ struct logb {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, frexpf, frexp<float>, )
-LANEMATH_EXPORT(binary, frexp, frexp<double>, )
-LANEMATH_EXPORT(unary, ilogbf, ilogb<float>, )
-LANEMATH_EXPORT(unary, ilogb, ilogb<double>, )
-LANEMATH_EXPORT(unary, logbf, logb<float>, )
-LANEMATH_EXPORT(unary, logb, logb<double>, )
+LANEMATH_EXPORT(frexpf, frexp<float>)
+LANEMATH_EXPORT(frexp, frexp<double>)
+LANEMATH_EXPORT(ilogbf, ilogb<float>)
+LANEMATH_EXPORT(ilogb, ilogb<double>)
+LANEMATH_EXPORT(logbf, logb<float>)
+LANEMATH_EXPORT(logb, logb<double>)
 
 }  // namespace lanemath

@@ -173,8 +173,8 @@ struct fma {
 
 }  // namespace
 
-LANEMATH_EXPORT(ternary, fmaf, fma<float>, )
+LANEMATH_EXPORT(fmaf, fma<float>)
 LANEMATH_SAME(fmaf, , _rm)
-LANEMATH_EXPORT(ternary, fma, fma<double>, )
+LANEMATH_EXPORT(fma, fma<double>)
 
 }  // namespace lanemath

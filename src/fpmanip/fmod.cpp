@@ -80,7 +80,7 @@ using fmod_double = fmod<double, 0x83300000, 0xFCBFFFFF>;
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, fmodf, fmod_float, )
-LANEMATH_EXPORT(binary, fmod, fmod_double, )
+LANEMATH_EXPORT(fmodf, fmod_float)
+LANEMATH_EXPORT(fmod, fmod_double)
 
 }  // namespace lanemath

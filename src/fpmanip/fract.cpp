@@ -34,7 +34,7 @@ struct fract {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, fractf, fract<float>, )
-LANEMATH_EXPORT(binary, fract, fract<double>, )
+LANEMATH_EXPORT(fractf, fract<float>)
+LANEMATH_EXPORT(fract, fract<double>)
 
 }  // namespace lanemath

@@ -81,7 +81,7 @@ struct ldexp {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, ldexpf, ldexp<float>, )
-LANEMATH_EXPORT(binary, ldexp, ldexp<double>, )
+LANEMATH_EXPORT(ldexpf, ldexp<float>)
+LANEMATH_EXPORT(ldexp, ldexp<double>)
 
 }  // namespace lanemath

@@ -46,7 +46,7 @@ struct modf {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, modff, modf<float>, )
-LANEMATH_EXPORT(binary, modf, modf<double>, )
+LANEMATH_EXPORT(modff, modf<float>)
+LANEMATH_EXPORT(modf, modf<double>)
 
 }  // namespace lanemath

@@ -13,7 +13,7 @@ struct nan_of {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, nanf, nan_of<float>, )
-LANEMATH_EXPORT(unary, nan, nan_of<double>, )
+LANEMATH_EXPORT(nanf, nan_of<float>)
+LANEMATH_EXPORT(nan, nan_of<double>)
 
 }  // namespace lanemath

@@ -52,7 +52,7 @@ struct nextafter {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, nextafterf, nextafter<float>, )
-LANEMATH_EXPORT(binary, nextafter, nextafter<double>, )
+LANEMATH_EXPORT(nextafterf, nextafter<float>)
+LANEMATH_EXPORT(nextafter, nextafter<double>)
 
 }  // namespace lanemath

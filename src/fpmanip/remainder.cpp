@@ -110,9 +110,9 @@ using remainder_double = remainder_of<remquo_double, double>;
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, remainderf, remainder_float, )
-LANEMATH_EXPORT(binary, remainder, remainder_double, )
-LANEMATH_EXPORT(ternary, remquof, remquo_float, )
-LANEMATH_EXPORT(ternary, remquo, remquo_double, )
+LANEMATH_EXPORT(remainderf, remainder_float)
+LANEMATH_EXPORT(remainder, remainder_double)
+LANEMATH_EXPORT(remquof, remquo_float)
+LANEMATH_EXPORT(remquo, remquo_double)
 
 }  // namespace lanemath

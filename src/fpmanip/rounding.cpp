@@ -42,17 +42,17 @@ using nearbyint_double = rounding<double, direction::current_quietly>;
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, ceilf, ceil_float, )
-LANEMATH_EXPORT(unary, ceil, ceil_double, )
-LANEMATH_EXPORT(unary, floorf, floor_float, )
-LANEMATH_EXPORT(unary, floor, floor_double, )
-LANEMATH_EXPORT(unary, truncf, trunc_float, )
-LANEMATH_EXPORT(unary, trunc, trunc_double, )
-LANEMATH_EXPORT(unary, rintf, rint_float, )
-LANEMATH_EXPORT(unary, rint, rint_double, )
-LANEMATH_EXPORT(unary, nearbyintf, nearbyint_float, )
-LANEMATH_EXPORT(unary, nearbyint, nearbyint_double, )
-LANEMATH_EXPORT(unary, roundf, rounding_half_away<float>, )
-LANEMATH_EXPORT(unary, round, rounding_half_away<double>, )
+LANEMATH_EXPORT(ceilf, ceil_float)
+LANEMATH_EXPORT(ceil, ceil_double)
+LANEMATH_EXPORT(floorf, floor_float)
+LANEMATH_EXPORT(floor, floor_double)
+LANEMATH_EXPORT(truncf, trunc_float)
+LANEMATH_EXPORT(trunc, trunc_double)
+LANEMATH_EXPORT(rintf, rint_float)
+LANEMATH_EXPORT(rint, rint_double)
+LANEMATH_EXPORT(nearbyintf, nearbyint_float)
+LANEMATH_EXPORT(nearbyint, nearbyint_double)
+LANEMATH_EXPORT(roundf, rounding_half_away<float>)
+LANEMATH_EXPORT(round, rounding_half_away<double>)
 
 }  // namespace lanemath

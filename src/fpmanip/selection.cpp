@@ -73,15 +73,15 @@ struct positive_difference : selection<T, nan_before_number<T>> {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, fmaxf, larger<float>, )
-LANEMATH_EXPORT(binary, fmax, larger<double>, )
-LANEMATH_EXPORT(binary, fminf, smaller<float>, )
-LANEMATH_EXPORT(binary, fmin, smaller<double>, )
-LANEMATH_EXPORT(binary, maxmagf, larger_magnitude<float>, )
-LANEMATH_EXPORT(binary, maxmag, larger_magnitude<double>, )
-LANEMATH_EXPORT(binary, minmagf, smaller_magnitude<float>, )
-LANEMATH_EXPORT(binary, minmag, smaller_magnitude<double>, )
-LANEMATH_EXPORT(binary, fdimf, positive_difference<float>, )
-LANEMATH_EXPORT(binary, fdim, positive_difference<double>, )
+LANEMATH_EXPORT(fmaxf, larger<float>)
+LANEMATH_EXPORT(fmax, larger<double>)
+LANEMATH_EXPORT(fminf, smaller<float>)
+LANEMATH_EXPORT(fmin, smaller<double>)
+LANEMATH_EXPORT(maxmagf, larger_magnitude<float>)
+LANEMATH_EXPORT(maxmag, larger_magnitude<double>)
+LANEMATH_EXPORT(minmagf, smaller_magnitude<float>)
+LANEMATH_EXPORT(minmag, smaller_magnitude<double>)
+LANEMATH_EXPORT(fdimf, positive_difference<float>)
+LANEMATH_EXPORT(fdim, positive_difference<double>)
 
 }  // namespace lanemath

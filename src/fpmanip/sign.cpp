@@ -24,9 +24,9 @@ struct sign_copy {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, fabsf, absolute_value<float>, )
-LANEMATH_EXPORT(unary, fabs, absolute_value<double>, )
-LANEMATH_EXPORT(binary, copysignf, sign_copy<float>, )
-LANEMATH_EXPORT(binary, copysign, sign_copy<double>, )
+LANEMATH_EXPORT(fabsf, absolute_value<float>)
+LANEMATH_EXPORT(fabs, absolute_value<double>)
+LANEMATH_EXPORT(copysignf, sign_copy<float>)
+LANEMATH_EXPORT(copysign, sign_copy<double>)
 
 }  // namespace lanemath

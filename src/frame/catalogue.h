@@ -1,284 +1,265 @@
-// The one list of operations. The public header, the linker's export list, the OpenCL built-ins and
-// whatever tests, benchmarks and tools walk are made from it.
+// The one list of operations. The public header, the linker's export list, the OpenCL built-ins and whatever tests,
+// benchmarks and tools walk are made from it.
 //
-// An operation has a name (closing `f` = single precision), a signature, a set of accuracy variants and
-// the filler that a width-3 call puts into its fourth lane. It is exported at six widths as
+// An operation has a name (closing `f` = single precision), a signature and a set of accuracy variants. It is exported
+// at six widths as
 //   __ocl_lanemath_h8_<operation><width><variant>
 #pragma once
 
-#include <array>
-#include <cstddef>
-#include <cstdint>
-#include <string_view>
+#include "frame/catalogue_row.h"
 
 namespace lanemath {
 
-inline constexpr std::string_view symbol_prefix = "__ocl_lanemath_h8_";
-inline constexpr std::array widths{1, 2, 3, 4, 8, 16};
-
-enum class lane : std::uint8_t { none, f32, f64, i32, u32, i64, u64 };
-
-constexpr std::size_t size_of(lane l) {
-  return l == lane::none ? 0 : l == lane::f64 || l == lane::i64 || l == lane::u64 ? 8 : 4;
-}
-constexpr std::string_view type_name(lane l) {
-  return std::array<std::string_view, 7>{"", "float", "double", "int", "uint", "long", "ulong"}[std::size_t(l)];
-}
-
-// Lanes that a vector takes the room of.
-constexpr int padded(int width) { return width == 3 ? 4 : width; }
-
-// How a second result reaches the caller.
-enum class delivery : std::uint8_t { none, pointer, pair };
-
-struct signature {
-  lane result{};
-  std::array<lane, 3> arguments{};
-  lane second{};
-  delivery how{};
-
-  constexpr int arity() const {
-    int n = 0;
-    while (n < 3 && arguments[n] != lane::none) ++n;
-    return n;
-  }
-  constexpr bool operator==(const signature&) const = default;
-};
-
-enum class variant : std::uint8_t { standard, native, half, rm };
-inline constexpr std::array variants{variant::standard, variant::native, variant::half, variant::rm};
-constexpr std::string_view suffix(variant v) {
-  return std::array<std::string_view, 4>{"", "_native", "_half", "_rm"}[std::size_t(v)];
-}
-
-enum class family : std::uint8_t {
-  exponential,
-  logarithm,
-  power,
-  trigonometric,
-  inverse_trigonometric,
-  hyperbolic,
-  root,
-  special,
-  manipulation,
-  conversion,
-  integer_division
-};
-
-struct operation {
-  char spelling[24]{};
-  signature sig{};
-  family group{};
-  std::uint8_t variant_bits = 1;  // bit i: variants[i] exists
-  double filler = 0.75;           // of every argument, converted to the argument's type
-  std::string_view brief{};
-
-  constexpr std::string_view name() const { return spelling; }
-  constexpr bool has(variant v) const { return variant_bits >> int(v) & 1; }
-
-  // Not to be told from the name alone: erf and modf are double precision.
-  constexpr bool single() const { return sig.result == lane::f32 || sig.arguments[0] == lane::f32; }
-  // Without the f of single precision, where both precisions are one operation.
-  constexpr std::string_view base_name() const {
-    const bool closes = single() && group != family::conversion;
-    return name().substr(0, name().size() - closes);
-  }
-};
-
 namespace catalogue_detail {
 
-// Signatures by shape, over the floating type T of the row.
-enum class shape : std::uint8_t {
-  unary,
-  binary,
-  ternary,
-  with_int,
-  to_int,
-  second,
-  second_int,
-  binary_second_int,
-  pair,
-  from_bits
-};
+using enum family;
+using enum shape;
+using enum precision;
 
-constexpr signature of(shape s, bool single) {
-  const lane t = single ? lane::f32 : lane::f64;
-  const lane i = lane::i32;
-  switch (s) {
-    case shape::unary: return {t, {t}};
-    case shape::binary: return {t, {t, t}};
-    case shape::ternary: return {t, {t, t, t}};
-    case shape::with_int: return {t, {t, i}};
-    case shape::to_int: return {i, {t}};
-    case shape::second: return {t, {t}, t, delivery::pointer};
-    case shape::second_int: return {t, {t}, i, delivery::pointer};
-    case shape::binary_second_int: return {t, {t, t}, i, delivery::pointer};
-    case shape::pair: return {t, {t}, t, delivery::pair};
-    case shape::from_bits: return {t, {single ? lane::u32 : lane::u64}};
-  }
-  return {};
-}
+inline constexpr row floating_rows[] = {
+    row(exponential, "exp", unary, "e to the power x", around_zero(10))
+        .variants(N, N | H | R)
+        .same(floats, H, N)
+        .standalone(doubles, 2),
+    row(exponential, "exp2", unary, "2 to the power x", around_zero(10))
+        .variants(N, N | H | R)
+        .same(floats, H, N)
+        .same(floats, D, R)
+        .standalone(doubles, 2)
+        .standalone(floats, 1)
+        .standalone(floats, 4),
+    row(exponential, "exp10", unary, "10 to the power x", around_zero(10))
+        .variants(N, N | H | R)
+        .same(floats, H | R, N),
+    row(exponential, "expm1", unary, "e to the power x, minus one", around_zero(10)).variants(N, N),
 
-inline constexpr int N = 1 << int(variant::native), H = 1 << int(variant::half), R = 1 << int(variant::rm);
+    row(logarithm, "log", unary, "natural logarithm of x", magnitudes(1e-3, 1e3))
+        .variants(N, N | H | R)
+        .same(floats, R, D),
+    row(logarithm, "log2", unary, "base-2 logarithm of x", magnitudes(1e-3, 1e3))
+        .variants(N, N | H | R)
+        .same(floats, H, N)
+        .same(floats, R, D)
+        .standalone(doubles, 2),
+    row(logarithm, "log10", unary, "base-10 logarithm of x", magnitudes(1e-3, 1e3))
+        .variants(N, N | H)
+        .same(floats, H, N),
+    row(logarithm, "log1p", unary, "natural logarithm of 1 + x", magnitudes(1e-3, 1e3)).variants(N, N),
 
-struct floating_row {
-  std::string_view name;
-  shape form;
-  family group;
-  int more_double;  // variants besides the default
-  int more_single;
-  std::string_view brief;
-  double filler = 0.75;
-};
+    row(power, "pow", binary, "x to the power y", magnitudes(0.01, 100), around_zero(10))
+        .variants(N, N | R)
+        .same(floats, R, N),
+    row(power, "powr", binary, "x to the power y, for x >= 0", magnitudes(0.01, 100), around_zero(10))
+        .variants(N, N | H)
+        .same(floats, H, N),
+    row(power, "pown", with_int, "x to the integer power y", magnitudes(0.01, 100), around_zero(10))
+        .variants(N, N)
+        .filler(1.0),
+    row(power, "rootn", with_int, "x to the power 1 / y, y an integer", magnitudes(0.01, 100), between(2, 10))
+        .variants(N, N)
+        .filler(1.0),
 
-// One row for both precisions.
-inline constexpr floating_row floating_rows[] = {
-    {"exp", shape::unary, family::exponential, N, N | H | R, "e to the power x"},
-    {"exp2", shape::unary, family::exponential, N, N | H | R, "2 to the power x"},
-    {"exp10", shape::unary, family::exponential, N, N | H | R, "10 to the power x"},
-    {"expm1", shape::unary, family::exponential, N, N, "e to the power x, minus one"},
+    row(trigonometric, "sin", unary, "sine of x radians", around_zero(10))
+        .variants(N, N | H | R)
+        .same(floats, H | R, N)
+        .odd(10000),
+    row(trigonometric, "cos", unary, "cosine of x radians", around_zero(10))
+        .variants(N, N | H | R)
+        .same(floats, H | R, N)
+        .even(10000),
+    row(trigonometric, "sincos", second, "sine of x radians; cosine through the pointer", around_zero(10))
+        .variants(N, N | R)
+        .same(floats, R, N),
+    row(trigonometric, "sincosreg", pair, "sine and cosine of x radians, as a pair", around_zero(10))
+        .variants(N, N)
+        .opencl(""),
+    row(trigonometric, "tan", unary, "tangent of x radians", around_zero(10))
+        .variants(N, N | H | R)
+        .same(floats, H | R, N)
+        .odd(8256),
+    row(trigonometric, "sinpi", unary, "sine of pi x", around_zero(10)).variants(N, N).odd(),
+    row(trigonometric, "cospi", unary, "cosine of pi x", around_zero(10)).variants(N, N).even(),
+    row(trigonometric, "tanpi", unary, "tangent of pi x", around_zero(10)).variants(N, N).odd(),
 
-    {"log", shape::unary, family::logarithm, N, N | H | R, "natural logarithm of x"},
-    {"log2", shape::unary, family::logarithm, N, N | H | R, "base-2 logarithm of x"},
-    {"log10", shape::unary, family::logarithm, N, N | H, "base-10 logarithm of x"},
-    {"log1p", shape::unary, family::logarithm, N, N, "natural logarithm of 1 + x"},
+    row(inverse_trigonometric, "asin", unary, "arc sine of x, in radians", around_zero(1)).variants(N, N).odd(),
+    row(inverse_trigonometric, "acos", unary, "arc cosine of x, in radians", around_zero(1)).variants(N, N),
+    row(inverse_trigonometric, "asinpi", unary, "arc sine of x, divided by pi", around_zero(1)).variants(N, N).odd(),
+    row(inverse_trigonometric, "acospi", unary, "arc cosine of x, divided by pi", around_zero(1)).variants(N, N),
+    row(inverse_trigonometric, "atan", unary, "arc tangent of x, in radians", around_zero(10))
+        .variants(N, N)
+        .standalone(doubles, 2)
+        .standalone(floats, 4)
+        .odd(),
+    row(inverse_trigonometric, "atanpi", unary, "arc tangent of x, divided by pi", around_zero(10))
+        .variants(N, N)
+        .odd(),
+    row(inverse_trigonometric, "atan2", binary, "angle of the point (second, first) in radians, -pi to pi",
+        around_zero(10), around_zero(10))
+        .variants(N, N)
+        .standalone(doubles, 2)
+        .standalone(floats, 4),
+    row(inverse_trigonometric, "atan2pi", binary, "angle of the point (second, first) divided by pi, -1 to 1",
+        around_zero(10), around_zero(10))
+        .variants(N, N),
 
-    {"pow", shape::binary, family::power, N, N | R, "x to the power y"},
-    {"powr", shape::binary, family::power, N, N | H, "x to the power y, for x >= 0"},
-    {"pown", shape::with_int, family::power, N, N, "x to the integer power y", 1.0},
-    {"rootn", shape::with_int, family::power, N, N, "x to the power 1 / y, y an integer", 1.0},
+    row(hyperbolic, "sinh", unary, "hyperbolic sine of x", around_zero(5)).variants(N, N).same(doubles, N, D).odd(),
+    row(hyperbolic, "cosh", unary, "hyperbolic cosine of x", around_zero(5)).variants(N, N).same(doubles, N, D).even(),
+    row(hyperbolic, "tanh", unary, "hyperbolic tangent of x", around_zero(5)).variants(N, N).same(both, N, D).odd(),
+    row(hyperbolic, "asinh", unary, "inverse hyperbolic sine of x", around_zero(100))
+        .variants(N, N)
+        .standalone(doubles, 2, D | N)
+        .standalone(floats, 4, D | N)
+        .odd(),
+    row(hyperbolic, "acosh", unary, "inverse hyperbolic cosine of x", magnitudes(1, 100))
+        .variants(N, N)
+        .standalone(doubles, 2, D | N)
+        .standalone(floats, 4, D | N)
+        .filler(2.0),
+    row(hyperbolic, "atanh", unary, "inverse hyperbolic tangent of x", around_zero(0.99)).variants(N, N).odd(),
 
-    {"sin", shape::unary, family::trigonometric, N, N | H | R, "sine of x radians"},
-    {"cos", shape::unary, family::trigonometric, N, N | H | R, "cosine of x radians"},
-    {"sincos", shape::second, family::trigonometric, N, N | R, "sine of x radians; cosine through the pointer"},
-    {"sincosreg", shape::pair, family::trigonometric, N, N, "sine and cosine of x radians, as a pair"},
-    {"tan", shape::unary, family::trigonometric, N, N | H | R, "tangent of x radians"},
-    {"sinpi", shape::unary, family::trigonometric, N, N, "sine of pi x"},
-    {"cospi", shape::unary, family::trigonometric, N, N, "cosine of pi x"},
-    {"tanpi", shape::unary, family::trigonometric, N, N, "tangent of pi x"},
+    row(root, "div", binary, "x / y", around_zero(100), magnitudes(0.01, 100))
+        .variants(N, N | H | R)
+        .same(floats, H | R, N)
+        .opencl("", "divide"),
+    row(root, "inv", unary, "1 / x", magnitudes(0.01, 100))
+        .variants(N, N | H | R)
+        .same(floats, H | R, N)
+        .odd()
+        .unguarded(doubles, N)
+        .opencl("", "recip"),
+    row(root, "sqrt", unary, "square root of x", magnitudes(0.01, 100)).variants(N, N | H).unguarded(both, N),
+    row(root, "rsqrt", unary, "1 / square root of x", magnitudes(0.01, 100)).variants(N, N | H).same(floats, H, N),
+    row(root, "cbrt", unary, "cube root of x", around_zero(100)).variants(N, N).odd(),
+    row(root, "rcbrt", unary, "1 / cube root of x", around_zero(100)).variants(N, N).odd().opencl(""),
+    row(root, "hypot", binary, "square root of x x + y y, without undue overflow", around_zero(100), around_zero(100))
+        .variants(N, N)
+        .unguarded(floats, N),
 
-    {"asin", shape::unary, family::inverse_trigonometric, N, N, "arc sine of x, in radians"},
-    {"acos", shape::unary, family::inverse_trigonometric, N, N, "arc cosine of x, in radians"},
-    {"asinpi", shape::unary, family::inverse_trigonometric, N, N, "arc sine of x, divided by pi"},
-    {"acospi", shape::unary, family::inverse_trigonometric, N, N, "arc cosine of x, divided by pi"},
-    {"atan", shape::unary, family::inverse_trigonometric, N, N, "arc tangent of x, in radians"},
-    {"atanpi", shape::unary, family::inverse_trigonometric, N, N, "arc tangent of x, divided by pi"},
-    {"atan2", shape::binary, family::inverse_trigonometric, N, N,
-     "angle of the point (second, first) in radians, -pi to pi"},
-    {"atan2pi", shape::binary, family::inverse_trigonometric, N, N,
-     "angle of the point (second, first) divided by pi, -1 to 1"},
+    row(special, "erf", unary, "error function of x", around_zero(3)).variants(N, N).odd(),
+    row(special, "erfc", unary, "complementary error function, 1 - erf(x)", between(-2, 5)).variants(N, N),
+    row(special, "lgamma", unary, "natural logarithm of |gamma(x)|", between(0.5, 30)),
+    row(special, "lgammar", second_int, "natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer",
+        between(0.5, 30))
+        .opencl("lgamma_r"),
+    row(special, "tgamma", unary, "gamma function of x", between(0.5, 20)),
 
-    {"sinh", shape::unary, family::hyperbolic, N, N, "hyperbolic sine of x"},
-    {"cosh", shape::unary, family::hyperbolic, N, N, "hyperbolic cosine of x"},
-    {"tanh", shape::unary, family::hyperbolic, N, N, "hyperbolic tangent of x"},
-    {"asinh", shape::unary, family::hyperbolic, N, N, "inverse hyperbolic sine of x"},
-    {"acosh", shape::unary, family::hyperbolic, N, N, "inverse hyperbolic cosine of x", 2.0},
-    {"atanh", shape::unary, family::hyperbolic, N, N, "inverse hyperbolic tangent of x"},
-
-    {"div", shape::binary, family::root, N, N | H | R, "x / y"},
-    {"inv", shape::unary, family::root, N, N | H | R, "1 / x"},
-    {"sqrt", shape::unary, family::root, N, N | H, "square root of x"},
-    {"rsqrt", shape::unary, family::root, N, N | H, "1 / square root of x"},
-    {"cbrt", shape::unary, family::root, N, N, "cube root of x"},
-    {"rcbrt", shape::unary, family::root, N, N, "1 / cube root of x"},
-    {"hypot", shape::binary, family::root, N, N, "square root of x x + y y, without undue overflow"},
-
-    {"erf", shape::unary, family::special, N, N, "error function of x"},
-    {"erfc", shape::unary, family::special, N, N, "complementary error function, 1 - erf(x)"},
-    {"lgamma", shape::unary, family::special, 0, 0, "natural logarithm of |gamma(x)|"},
-    {"lgammar", shape::second_int, family::special, 0, 0,
-     "natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer"},
-    {"tgamma", shape::unary, family::special, 0, 0, "gamma function of x"},
-
-    {"ceil", shape::unary, family::manipulation, 0, 0, "x rounded up to an integer"},
-    {"floor", shape::unary, family::manipulation, 0, 0, "x rounded down to an integer"},
-    {"trunc", shape::unary, family::manipulation, 0, 0, "x rounded toward zero to an integer"},
-    {"rint", shape::unary, family::manipulation, 0, 0, "x rounded to an integer in the current direction"},
-    {"nearbyint", shape::unary, family::manipulation, 0, 0, "as rint, without the inexact flag"},
-    {"round", shape::unary, family::manipulation, 0, 0, "x rounded to the nearest integer, halves away from zero"},
-    {"fabs", shape::unary, family::manipulation, 0, 0, "x with the sign cleared"},
-    {"copysign", shape::binary, family::manipulation, 0, 0, "x with the sign of y"},
-    {"fdim", shape::binary, family::manipulation, 0, 0, "x - y if x > y, else +0"},
-    {"fmax", shape::binary, family::manipulation, 0, 0, "the larger of x and y, a number before a NaN"},
-    {"fmin", shape::binary, family::manipulation, 0, 0, "the smaller of x and y, a number before a NaN"},
-    {"maxmag", shape::binary, family::manipulation, 0, 0, "the one of x and y with the larger magnitude"},
-    {"minmag", shape::binary, family::manipulation, 0, 0, "the one of x and y with the smaller magnitude"},
-    {"fract", shape::second, family::manipulation, 0, 0, "x - floor(x), below 1; floor(x) through the pointer"},
-    {"modf", shape::second, family::manipulation, 0, 0, "fraction of x; integral part through the pointer"},
-    {"frexp", shape::second_int, family::manipulation, 0, 0,
-     "significand of x in [0.5, 1); exponent through the pointer"},
-    {"ldexp", shape::with_int, family::manipulation, 0, 0, "x times 2 to the power y", 1.0},
-    {"ilogb", shape::to_int, family::manipulation, 0, 0, "exponent of x as an integer"},
-    {"logb", shape::unary, family::manipulation, 0, 0, "exponent of x as a floating value"},
-    {"nan", shape::from_bits, family::manipulation, 0, 0, "a quiet NaN with the payload x", 0.0},
-    {"nextafter", shape::binary, family::manipulation, 0, 0, "the value next to x in the direction of y"},
-    {"fmod", shape::binary, family::manipulation, 0, 0, "remainder of x / y, quotient truncated"},
-    {"remainder", shape::binary, family::manipulation, 0, 0, "remainder of x / y, quotient to nearest even"},
-    {"remquo", shape::binary_second_int, family::manipulation, 0, 0,
-     "remainder of x / y; low bits of the quotient through the pointer"},
-    {"fma", shape::ternary, family::manipulation, 0, R, "x y + z with one rounding"},
+    row(manipulation, "ceil", unary, "x rounded up to an integer", around_zero(1000)),
+    row(manipulation, "floor", unary, "x rounded down to an integer", around_zero(1000)),
+    row(manipulation, "trunc", unary, "x rounded toward zero to an integer", around_zero(1000)).odd(),
+    row(manipulation, "rint", unary, "x rounded to an integer in the current direction", around_zero(1000)).odd(),
+    row(manipulation, "nearbyint", unary, "as rint, without the inexact flag", around_zero(1000)).odd().opencl(""),
+    row(manipulation, "round", unary, "x rounded to the nearest integer, halves away from zero", around_zero(1000))
+        .odd(),
+    row(manipulation, "fabs", unary, "x with the sign cleared", around_zero(1000)).even(),
+    row(manipulation, "copysign", binary, "x with the sign of y", around_zero(1000), around_zero(1000)),
+    row(manipulation, "fdim", binary, "x - y if x > y, else +0", around_zero(1000), around_zero(1000)),
+    row(manipulation, "fmax", binary, "the larger of x and y, a number before a NaN", around_zero(1000),
+        around_zero(1000)),
+    row(manipulation, "fmin", binary, "the smaller of x and y, a number before a NaN", around_zero(1000),
+        around_zero(1000)),
+    row(manipulation, "maxmag", binary, "the one of x and y with the larger magnitude", around_zero(1000),
+        around_zero(1000)),
+    row(manipulation, "minmag", binary, "the one of x and y with the smaller magnitude", around_zero(1000),
+        around_zero(1000)),
+    row(manipulation, "fract", second, "x - floor(x), below 1; floor(x) through the pointer", around_zero(1000)),
+    row(manipulation, "modf", second, "fraction of x; integral part through the pointer", around_zero(1000)),
+    row(manipulation, "frexp", second_int, "significand of x in [0.5, 1); exponent through the pointer",
+        magnitudes(1e-6, 1e6)),
+    row(manipulation, "ldexp", with_int, "x times 2 to the power y", around_zero(1000), around_zero(10)).filler(1.0),
+    row(manipulation, "ilogb", to_int, "exponent of x as an integer", magnitudes(1e-6, 1e6)),
+    row(manipulation, "logb", unary, "exponent of x as a floating value", magnitudes(1e-6, 1e6)).even(),
+    row(manipulation, "nan", from_bits, "a quiet NaN with the payload x", between(0, 1 << 22)).filler(0.0),
+    row(manipulation, "nextafter", binary, "the value next to x in the direction of y", around_zero(1000),
+        around_zero(1000)),
+    row(manipulation, "fmod", binary, "remainder of x / y, quotient truncated", around_zero(1000), magnitudes(1, 100)),
+    row(manipulation, "remainder", binary, "remainder of x / y, quotient to nearest even", around_zero(1000),
+        magnitudes(1, 100)),
+    row(manipulation, "remquo", binary_second_int, "remainder of x / y; low bits of the quotient through the pointer",
+        around_zero(1000), magnitudes(1, 100)),
+    row(manipulation, "fma", ternary, "x y + z with one rounding", around_zero(100), around_zero(100), around_zero(100))
+        .variants(0, R)
+        .same(floats, R, D),
 };
 
 struct integer_row {
   std::string_view name;
   signature sig;
   std::string_view brief;
+  range first;
 };
 
 inline constexpr integer_row integer_rows[] = {
-    {"idiv", {lane::i32, {lane::i32, lane::i32}}, "quotient of x / y, truncated"},
-    {"irem", {lane::i32, {lane::i32, lane::i32}}, "remainder of x / y, with the sign of x"},
-    {"idivrem", {lane::i32, {lane::i32, lane::i32}, lane::i32, delivery::pair}, "quotient and remainder of x / y"},
-    {"udiv", {lane::u32, {lane::u32, lane::u32}}, "quotient of x / y"},
-    {"urem", {lane::u32, {lane::u32, lane::u32}}, "remainder of x / y"},
-    {"udivrem", {lane::u32, {lane::u32, lane::u32}, lane::u32, delivery::pair}, "quotient and remainder of x / y"},
+    {"idiv", {lane::i32, {lane::i32, lane::i32}}, "quotient of x / y, truncated", around_zero(1e9)},
+    {"irem", {lane::i32, {lane::i32, lane::i32}}, "remainder of x / y, with the sign of x", around_zero(1e9)},
+    {"idivrem",
+     {lane::i32, {lane::i32, lane::i32}, lane::i32, delivery::pair},
+     "quotient and remainder of x / y",
+     around_zero(1e9)},
+    {"udiv", {lane::u32, {lane::u32, lane::u32}}, "quotient of x / y", between(0, 4e9)},
+    {"urem", {lane::u32, {lane::u32, lane::u32}}, "remainder of x / y", between(0, 4e9)},
+    {"udivrem",
+     {lane::u32, {lane::u32, lane::u32}, lane::u32, delivery::pair},
+     "quotient and remainder of x / y",
+     between(0, 4e9)},
 };
 
-inline constexpr std::string_view roundings[] = {"rte", "rtn", "rtp", "rtz"};
-struct integer_type {
+// Of conversions the name says the types, the rounding and whether what does not fit is clamped.
+struct named_direction {
+  std::string_view name;
+  direction rounding;
+};
+inline constexpr named_direction roundings[] = {
+    {"rte", direction::nearest}, {"rtn", direction::down}, {"rtp", direction::up}, {"rtz", direction::zero}};
+struct named_integer {
   std::string_view name;
   lane type;
 };
-inline constexpr integer_type integer_types[] = {
+inline constexpr named_integer integer_types[] = {
     {"i32", lane::i32}, {"u32", lane::u32}, {"i64", lane::i64}, {"u64", lane::u64}};
 
 inline constexpr std::size_t operation_count = 2 * std::size(floating_rows) + std::size(integer_rows) + 64 + 32 + 4;
-
-constexpr void append(char*& out, std::string_view text) {
-  for (char c : text) *out++ = c;
-}
 
 constexpr auto build() {
   std::array<operation, operation_count> all{};
   auto next = all.begin();
   const auto add = [&](std::initializer_list<std::string_view> name, operation o) {
     char* out = o.spelling;
-    for (auto part : name) append(out, part);
+    for (auto part : name)
+      for (char c : part) *out++ = c;
     *next++ = o;
   };
-  for (const auto& row : floating_rows)
-    for (bool single : {false, true})
-      add({row.name, single ? "f" : ""}, {{},
-                                          of(row.form, single),
-                                          row.group,
-                                          std::uint8_t(1 | (single ? row.more_single : row.more_double)),
-                                          row.filler,
-                                          row.brief});
-  for (const auto& row : integer_rows) add({row.name}, {{}, row.sig, family::integer_division, 1, 1.0, row.brief});
+  const auto add_conversion = [&](std::initializer_list<std::string_view> name, lane to, lane from, double filler,
+                                  direction rounding, bool saturates) {
+    const double low = is_unsigned(to) || is_unsigned(from) ? 0 : -1e6;
+    add(name, {.sig = {to, {from}},
+               .group = conversion,
+               .filler = filler,
+               .typical = {between(low, 1e6)},
+               .rounding = rounding,
+               .saturates = saturates});
+  };
 
+  for (const auto& row : floating_rows)
+    for (const auto& o : row.of_precision) *next++ = o;
+  for (const auto& row : integer_rows)
+    add({row.name}, {.sig = row.sig,
+                     .group = integer_division,
+                     .brief = row.brief,
+                     .filler = 1.0,
+                     .typical = {row.first, magnitudes(1, 1e5)}});
   for (const auto& to : integer_types)
-    for (auto rounding : roundings)
-      for (std::string_view saturation : {"sat", "nosat"})
+    for (const auto& rounding : roundings)
+      for (bool saturates : {true, false})
         for (bool single : {false, true})
-          add({"cvtfpto", to.name, rounding, saturation, single ? "f" : ""},
-              {{}, {to.type, {single ? lane::f32 : lane::f64}}, family::conversion, 1, 0.75, {}});
+          add_conversion({"cvtfpto", to.name, rounding.name, saturates ? "sat" : "nosat", single ? "f" : ""}, to.type,
+                         single ? lane::f32 : lane::f64, 0.75, rounding.rounding, saturates);
   for (const auto& from : integer_types)
-    for (auto rounding : roundings)
+    for (const auto& rounding : roundings)
       for (bool single : {false, true})
-        add({"cvt", from.name, "tofp", rounding, single ? "f" : ""},
-            {{}, {single ? lane::f32 : lane::f64, {from.type}}, family::conversion, 1, 1.0, {}});
-  for (auto rounding : roundings)
-    add({"cvtfp64tofp32", rounding}, {{}, {lane::f32, {lane::f64}}, family::conversion, 1, 0.75, {}});
+        add_conversion({"cvt", from.name, "tofp", rounding.name, single ? "f" : ""}, single ? lane::f32 : lane::f64,
+                       from.type, 1.0, rounding.rounding, false);
+  for (const auto& rounding : roundings)
+    add_conversion({"cvtfp64tofp32", rounding.name}, lane::f32, lane::f64, 0.75, rounding.rounding, false);
   return all;
 }
 
@@ -292,27 +273,8 @@ constexpr int pair_count() {
     for (auto v : variants) n += o.has(v);
   return n;
 }
+// What users have been promised: an operation that is added or taken away changes these numbers.
 static_assert(catalogue.size() == 248 && pair_count() == 361 && pair_count() * widths.size() == 2166);
-
-// Forms with an algorithm of their own: there a lane may differ from the same lane at another width.
-struct standalone_form {
-  std::string_view operation;
-  int width;
-  variant of;
-};
-inline constexpr standalone_form standalone_forms[] = {
-    {"exp", 2, variant::standard},    {"exp2", 2, variant::standard},   {"log2", 2, variant::standard},
-    {"exp2f", 1, variant::standard},  {"exp2f", 4, variant::standard},  {"atanf", 4, variant::standard},
-    {"atan", 2, variant::standard},   {"atan2f", 4, variant::standard}, {"atan2", 2, variant::standard},
-    {"acoshf", 4, variant::standard}, {"acoshf", 4, variant::native},   {"asinhf", 4, variant::standard},
-    {"asinhf", 4, variant::native},   {"acosh", 2, variant::standard},  {"acosh", 2, variant::native},
-    {"asinh", 2, variant::standard},  {"asinh", 2, variant::native},
-};
-constexpr bool is_standalone(std::string_view name, int width, variant v) {
-  for (const auto& form : standalone_forms)
-    if (form.operation == name && form.width == width && form.of == v) return true;
-  return false;
-}
 
 // Index of an operation; a name that is not in the catalogue does not compile where this is a constant.
 constexpr std::size_t index_of(std::string_view name) {

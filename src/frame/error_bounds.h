@@ -132,13 +132,6 @@ inline constexpr error_bound error_bounds[] = {
     {"fmaf", {0.5, 0, 0, 0.5}},
 };
 
-// Light forms that test nothing: their bounds hold where the processor's estimate of the argument is a normal number,
-// and nothing is promised elsewhere.
-constexpr bool is_unguarded(const operation& o, variant v) {
-  return v == variant::native &&
-         (o.name() == "inv" || o.name() == "sqrt" || o.name() == "sqrtf" || o.name() == "hypotf");
-}
-
 // Standalone forms have errors of their own.
 struct standalone_bound {
   std::string_view name;
@@ -166,7 +159,7 @@ constexpr bool is_exact(family f) {
 
 // The bound of a function, or nothing if none is stated.
 constexpr std::optional<double> bound_of(const operation& o, variant v, int width) {
-  if (is_standalone(o.name(), width, v)) {
+  if (o.is_standalone(width, v)) {
     for (const auto& bound : standalone_bounds)
       if (bound.name == o.name() && bound.width == width && bound.of == v) return bound.ulp;
     return std::nullopt;

@@ -251,24 +251,42 @@ LANEMATH_INLINE lanes<T, 4> with_filler(lanes<T, 4> v) {
   return v;
 }
 
-// One call of operation number `Index` of the catalogue at width W.
-template <class Op, int W, std::size_t Index, class... Arguments>
-LANEMATH_INLINE auto enter(const Arguments&... arguments) {
+// One call of operation number `Index` of the catalogue at width W. What a function does not take is `nothing`.
+struct nothing {};
+template <class Op, int W, std::size_t Index, class A, class B, class C>
+LANEMATH_INLINE auto enter(const A& a, const B& b, const C& c) {
   using crossing = border<typename Op::signature>;
   static_assert(crossing::sig == catalogue[Index].sig, "not the signature that the catalogue gives");
-  return crossing::template call<W>(
-      [](auto... x) LANEMATH_LAMBDA {
-        if constexpr (W == 3)
-          return evaluate<Op, 4>(with_filler<Index>(x)...);
-        else
-          return evaluate<Op, W>(x...);
-      },
-      arguments...);
+  const auto compute = [](auto... x) LANEMATH_LAMBDA {
+    if constexpr (W == 3)
+      return evaluate<Op, 4>(with_filler<Index>(x)...);
+    else
+      return evaluate<Op, W>(x...);
+  };
+  if constexpr (std::is_same_v<B, nothing>)
+    return crossing::template call<W>(compute, a);
+  else if constexpr (std::is_same_v<C, nothing>)
+    return crossing::template call<W>(compute, a, b);
+  else
+    return crossing::template call<W>(compute, a, b, c);
 }
 
-// The type of argument number i of a function.
+// Whether the catalogue's row says the same as the line that exports a form.
+template <std::size_t Index, int W, variant V, bool Standalone>
+constexpr void check_form() {
+  static_assert(catalogue[Index].has(V), "no variant that the catalogue gives");
+  static_assert(catalogue[Index].is_standalone(W, V) == Standalone, "standalone here or in the catalogue alone");
+  static_assert(catalogue[Index].served_by(W, V) == V, "another variant's function by the catalogue");
+}
+template <std::size_t Index, int W, variant One, variant Other>
+inline constexpr bool are_same = catalogue[Index].has(One) && catalogue[Index].has(Other) &&
+                                 catalogue[Index].served_by(W, One) == catalogue[Index].served_by(W, Other);
+
+// The type of argument number I of a function. An empty structure takes no place among a call's arguments.
 template <std::size_t I, class F>
-struct parameter;
+struct parameter {
+  using type = nothing;
+};
 template <std::size_t I, class R, class First, class... Rest>
 struct parameter<I, R(First, Rest...)> : parameter<I - 1, R(Rest...)> {};
 template <class R, class First, class... Rest>
@@ -286,42 +304,52 @@ using result_t = typename border<typename Op::signature>::template result<W>;
 }  // namespace frame_detail
 }  // namespace lanemath
 
-// LANEMATH_EXPORT(arity, operation, body, variant) exports `body` as one accuracy variant at all widths, and
-// LANEMATH_SAME(operation, variant, other) gives its functions to another variant as well. The forms with _AT
-// do the same for one width. `arity` is unary, binary, ternary or quaternary and counts a result pointer;
-// `variant` is empty for the default form.
-#define LANEMATH_SYMBOL(operation, width, variant) __ocl_lanemath_h8_##operation##width##variant
+// LANEMATH_EXPORT(operation, body) exports `body` as the default variant of an operation at all widths, and
+// LANEMATH_SAME(operation, variant, other) gives its functions to another variant as well. LANEMATH_EXPORT_BUT leaves
+// out one width, at which LANEMATH_EXPORT_AT exports a standalone body. Another variant than the default is told by a
+// last argument: LANEMATH_EXPORT(expf, expf_native, _native). The catalogue's row must say the same.
+#define LANEMATH_SYMBOL(name) __ocl_lanemath_h8_##name
 
-#define LANEMATH_PARAMETER(body, width, i) ::lanemath::frame_detail::parameter_t<body, width, i>
-#define LANEMATH_PARAMETERS_unary(body, width) LANEMATH_PARAMETER(body, width, 0) a
-#define LANEMATH_PARAMETERS_binary(body, width) \
-  LANEMATH_PARAMETERS_unary(body, width), LANEMATH_PARAMETER(body, width, 1) b
-#define LANEMATH_PARAMETERS_ternary(body, width) \
-  LANEMATH_PARAMETERS_binary(body, width), LANEMATH_PARAMETER(body, width, 2) c
-#define LANEMATH_ARGUMENTS_unary a
-#define LANEMATH_ARGUMENTS_binary a, b
-#define LANEMATH_ARGUMENTS_ternary a, b, c
-
-#define LANEMATH_EXPORT_AT(width, arity, operation, body, variant)                                                     \
-  extern "C" [[gnu::visibility("default"), gnu::flatten]] ::lanemath::frame_detail::result_t<body, width>              \
-  LANEMATH_SYMBOL(operation, width, variant)(LANEMATH_PARAMETERS_##arity(body, width)) {                               \
-    return ::lanemath::frame_detail::enter<body, width, ::lanemath::index_of(#operation)>(LANEMATH_ARGUMENTS_##arity); \
+#define LANEMATH_DEFINE(width, standalone, operation, body, ...)                                            \
+  extern "C" [[gnu::visibility("default"), gnu::flatten]] ::lanemath::frame_detail::result_t<body, width>   \
+  LANEMATH_SYMBOL(operation##width##__VA_ARGS__)(::lanemath::frame_detail::parameter_t<body, width, 0> a,   \
+                                                 ::lanemath::frame_detail::parameter_t<body, width, 1> b,   \
+                                                 ::lanemath::frame_detail::parameter_t<body, width, 2> c) { \
+    constexpr auto index = ::lanemath::index_of(#operation);                                                \
+    ::lanemath::frame_detail::check_form<index, width, ::lanemath::variant_of(#__VA_ARGS__), standalone>(); \
+    return ::lanemath::frame_detail::enter<body, width, index>(a, b, c);                                    \
   }
-#define LANEMATH_EXPORT(arity, operation, body, variant) \
-  LANEMATH_EXPORT_AT(1, arity, operation, body, variant) \
-  LANEMATH_EXPORT_AT(2, arity, operation, body, variant) \
-  LANEMATH_EXPORT_AT(3, arity, operation, body, variant) \
-  LANEMATH_EXPORT_AT(4, arity, operation, body, variant) \
-  LANEMATH_EXPORT_AT(8, arity, operation, body, variant) \
-  LANEMATH_EXPORT_AT(16, arity, operation, body, variant)
+#define LANEMATH_EXPORT_AT(width, ...) LANEMATH_DEFINE(width, true, __VA_ARGS__)
+#define LANEMATH_EXPORT(...)             \
+  LANEMATH_DEFINE(1, false, __VA_ARGS__) \
+  LANEMATH_DEFINE(2, false, __VA_ARGS__) \
+  LANEMATH_DEFINE(3, false, __VA_ARGS__) \
+  LANEMATH_DEFINE(4, false, __VA_ARGS__) \
+  LANEMATH_DEFINE(8, false, __VA_ARGS__) \
+  LANEMATH_DEFINE(16, false, __VA_ARGS__)
+#define LANEMATH_EXPORT_BUT_2(...)       \
+  LANEMATH_DEFINE(1, false, __VA_ARGS__) \
+  LANEMATH_DEFINE(3, false, __VA_ARGS__) \
+  LANEMATH_DEFINE(4, false, __VA_ARGS__) \
+  LANEMATH_DEFINE(8, false, __VA_ARGS__) \
+  LANEMATH_DEFINE(16, false, __VA_ARGS__)
+#define LANEMATH_EXPORT_BUT_4(...)       \
+  LANEMATH_DEFINE(1, false, __VA_ARGS__) \
+  LANEMATH_DEFINE(2, false, __VA_ARGS__) \
+  LANEMATH_DEFINE(3, false, __VA_ARGS__) \
+  LANEMATH_DEFINE(8, false, __VA_ARGS__) \
+  LANEMATH_DEFINE(16, false, __VA_ARGS__)
+#define LANEMATH_EXPORT_BUT(width, ...) LANEMATH_EXPORT_BUT_##width(__VA_ARGS__)
 
 #define LANEMATH_STRING_(text) #text
 #define LANEMATH_STRING(text) LANEMATH_STRING_(text)
 // clang-format off
-#define LANEMATH_SAME_AT(width, operation, variant, other)                                                  \
-  extern "C" [[gnu::visibility("default"),                                                                  \
-               gnu::alias(LANEMATH_STRING(LANEMATH_SYMBOL(operation, width, variant)))]]                    \
-  decltype(LANEMATH_SYMBOL(operation, width, variant)) LANEMATH_SYMBOL(operation, width, other);
+#define LANEMATH_SAME_AT(width, operation, variant, other)                                                      \
+  static_assert(::lanemath::frame_detail::are_same<::lanemath::index_of(#operation), width,                     \
+                                                   ::lanemath::variant_of(#variant), ::lanemath::variant_of(#other)>); \
+  extern "C" [[gnu::visibility("default"),                                                                      \
+               gnu::alias(LANEMATH_STRING(LANEMATH_SYMBOL(operation##width##variant)))]]                      \
+  decltype(LANEMATH_SYMBOL(operation##width##variant)) LANEMATH_SYMBOL(operation##width##other);
 // clang-format on
 #define LANEMATH_SAME(operation, variant, other) \
   LANEMATH_SAME_AT(1, operation, variant, other) \

@@ -14,6 +14,8 @@
 
 #include <smmintrin.h>
 
+#include "frame/operation.h"
+
 #define LANEMATH_INLINE [[gnu::always_inline]] inline
 #define LANEMATH_LAMBDA __attribute__((always_inline))
 
@@ -416,8 +418,7 @@ LANEMATH_INLINE lanes<float, W> reciprocal_root_estimate(const lanes<float, W>& 
   return lanes_detail::instruction(_mm_rsqrt_ps, _mm_rsqrt_ss, x);
 }
 
-// Rounded to an integral value by the rounding instruction, with its control values.
-enum class direction { nearest = 0, down = 1, up = 2, zero = 3, current = 4, current_quietly = 12 };
+// Rounded to an integral value by the rounding instruction.
 template <direction D, class T, int W>
 LANEMATH_INLINE lanes<T, W> round_to(const lanes<T, W>& x) {
   if constexpr (sizeof(T) == 4)

@@ -84,30 +84,14 @@ using acosh2 = standalone_acosh<double, acosh_lane, IN_RANGE>;
 
 }  // namespace
 
-LANEMATH_EXPORT_AT(1, unary, acoshf, acoshf_standard, )
-LANEMATH_EXPORT_AT(2, unary, acoshf, acoshf_standard, )
-LANEMATH_EXPORT_AT(3, unary, acoshf, acoshf_standard, )
-LANEMATH_EXPORT_AT(4, unary, acoshf, acoshf4, )
-LANEMATH_EXPORT_AT(8, unary, acoshf, acoshf_standard, )
-LANEMATH_EXPORT_AT(16, unary, acoshf, acoshf_standard, )
-LANEMATH_EXPORT_AT(1, unary, acoshf, acoshf_native, _native)
-LANEMATH_EXPORT_AT(2, unary, acoshf, acoshf_native, _native)
-LANEMATH_EXPORT_AT(3, unary, acoshf, acoshf_native, _native)
+LANEMATH_EXPORT_BUT(4, acoshf, acoshf_standard)
+LANEMATH_EXPORT_AT(4, acoshf, acoshf4)
+LANEMATH_EXPORT_BUT(4, acoshf, acoshf_native, _native)
 LANEMATH_SAME_AT(4, acoshf, , _native)
-LANEMATH_EXPORT_AT(8, unary, acoshf, acoshf_native, _native)
-LANEMATH_EXPORT_AT(16, unary, acoshf, acoshf_native, _native)
 
-LANEMATH_EXPORT_AT(1, unary, acosh, acosh_standard, )
-LANEMATH_EXPORT_AT(2, unary, acosh, acosh2, )
-LANEMATH_EXPORT_AT(3, unary, acosh, acosh_standard, )
-LANEMATH_EXPORT_AT(4, unary, acosh, acosh_standard, )
-LANEMATH_EXPORT_AT(8, unary, acosh, acosh_standard, )
-LANEMATH_EXPORT_AT(16, unary, acosh, acosh_standard, )
-LANEMATH_EXPORT_AT(1, unary, acosh, acosh_native, _native)
+LANEMATH_EXPORT_BUT(2, acosh, acosh_standard)
+LANEMATH_EXPORT_AT(2, acosh, acosh2)
+LANEMATH_EXPORT_BUT(2, acosh, acosh_native, _native)
 LANEMATH_SAME_AT(2, acosh, , _native)
-LANEMATH_EXPORT_AT(3, unary, acosh, acosh_native, _native)
-LANEMATH_EXPORT_AT(4, unary, acosh, acosh_native, _native)
-LANEMATH_EXPORT_AT(8, unary, acosh, acosh_native, _native)
-LANEMATH_EXPORT_AT(16, unary, acosh, acosh_native, _native)
 
 }  // namespace lanemath

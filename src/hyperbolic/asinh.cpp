@@ -101,30 +101,14 @@ using asinh2 = standalone_asinh<double, asinh_lane, 0x3FF00000>;
 
 }  // namespace
 
-LANEMATH_EXPORT_AT(1, unary, asinhf, asinhf_standard, )
-LANEMATH_EXPORT_AT(2, unary, asinhf, asinhf_standard, )
-LANEMATH_EXPORT_AT(3, unary, asinhf, asinhf_standard, )
-LANEMATH_EXPORT_AT(4, unary, asinhf, asinhf4, )
-LANEMATH_EXPORT_AT(8, unary, asinhf, asinhf_standard, )
-LANEMATH_EXPORT_AT(16, unary, asinhf, asinhf_standard, )
-LANEMATH_EXPORT_AT(1, unary, asinhf, asinhf_native, _native)
-LANEMATH_EXPORT_AT(2, unary, asinhf, asinhf_native, _native)
-LANEMATH_EXPORT_AT(3, unary, asinhf, asinhf_native, _native)
+LANEMATH_EXPORT_BUT(4, asinhf, asinhf_standard)
+LANEMATH_EXPORT_AT(4, asinhf, asinhf4)
+LANEMATH_EXPORT_BUT(4, asinhf, asinhf_native, _native)
 LANEMATH_SAME_AT(4, asinhf, , _native)
-LANEMATH_EXPORT_AT(8, unary, asinhf, asinhf_native, _native)
-LANEMATH_EXPORT_AT(16, unary, asinhf, asinhf_native, _native)
 
-LANEMATH_EXPORT_AT(1, unary, asinh, asinh_standard, )
-LANEMATH_EXPORT_AT(2, unary, asinh, asinh2, )
-LANEMATH_EXPORT_AT(3, unary, asinh, asinh_standard, )
-LANEMATH_EXPORT_AT(4, unary, asinh, asinh_standard, )
-LANEMATH_EXPORT_AT(8, unary, asinh, asinh_standard, )
-LANEMATH_EXPORT_AT(16, unary, asinh, asinh_standard, )
-LANEMATH_EXPORT_AT(1, unary, asinh, asinh_native, _native)
+LANEMATH_EXPORT_BUT(2, asinh, asinh_standard)
+LANEMATH_EXPORT_AT(2, asinh, asinh2)
+LANEMATH_EXPORT_BUT(2, asinh, asinh_native, _native)
 LANEMATH_SAME_AT(2, asinh, , _native)
-LANEMATH_EXPORT_AT(3, unary, asinh, asinh_native, _native)
-LANEMATH_EXPORT_AT(4, unary, asinh, asinh_native, _native)
-LANEMATH_EXPORT_AT(8, unary, asinh, asinh_native, _native)
-LANEMATH_EXPORT_AT(16, unary, asinh, asinh_native, _native)
 
 }  // namespace lanemath

@@ -63,9 +63,9 @@ using atanh_native = atanh_form<double, atanh_rare, 0x3FEFFFFF, light_logarithm<
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, atanhf, atanhf_standard, )
-LANEMATH_EXPORT(unary, atanhf, atanhf_native, _native)
-LANEMATH_EXPORT(unary, atanh, atanh_standard, )
-LANEMATH_EXPORT(unary, atanh, atanh_native, _native)
+LANEMATH_EXPORT(atanhf, atanhf_standard)
+LANEMATH_EXPORT(atanhf, atanhf_native, _native)
+LANEMATH_EXPORT(atanh, atanh_standard)
+LANEMATH_EXPORT(atanh, atanh_native, _native)
 
 }  // namespace lanemath

@@ -59,9 +59,9 @@ struct cosh_form : rare_above<double(double), cosh_rare, BOUND> {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, sinh, sinh_form, )
+LANEMATH_EXPORT(sinh, sinh_form)
 LANEMATH_SAME(sinh, , _native)
-LANEMATH_EXPORT(unary, cosh, cosh_form, )
+LANEMATH_EXPORT(cosh, cosh_form)
 LANEMATH_SAME(cosh, , _native)
 
 }  // namespace lanemath

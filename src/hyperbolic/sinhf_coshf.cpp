@@ -78,9 +78,9 @@ using coshf_native = coshf_form<true>;
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, sinhf, sinhf_standard, )
-LANEMATH_EXPORT(unary, sinhf, sinhf_native, _native)
-LANEMATH_EXPORT(unary, coshf, coshf_standard, )
-LANEMATH_EXPORT(unary, coshf, coshf_native, _native)
+LANEMATH_EXPORT(sinhf, sinhf_standard)
+LANEMATH_EXPORT(sinhf, sinhf_native, _native)
+LANEMATH_EXPORT(coshf, coshf_standard)
+LANEMATH_EXPORT(coshf, coshf_native, _native)
 
 }  // namespace lanemath

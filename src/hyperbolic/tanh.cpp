@@ -54,9 +54,9 @@ struct tanh_form : rare_above<double(double), tanh_rare, 0x7FE1FFFF> {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, tanhf, tanhf_form, )
+LANEMATH_EXPORT(tanhf, tanhf_form)
 LANEMATH_SAME(tanhf, , _native)
-LANEMATH_EXPORT(unary, tanh, tanh_form, )
+LANEMATH_EXPORT(tanh, tanh_form)
 LANEMATH_SAME(tanh, , _native)
 
 }  // namespace lanemath

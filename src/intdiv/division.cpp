@@ -33,11 +33,11 @@ struct division_with_remainder {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, idiv, division<std::int32_t>, )
-LANEMATH_EXPORT(binary, irem, remainder<std::int32_t>, )
-LANEMATH_EXPORT(binary, idivrem, division_with_remainder<std::int32_t>, )
-LANEMATH_EXPORT(binary, udiv, division<std::uint32_t>, )
-LANEMATH_EXPORT(binary, urem, remainder<std::uint32_t>, )
-LANEMATH_EXPORT(binary, udivrem, division_with_remainder<std::uint32_t>, )
+LANEMATH_EXPORT(idiv, division<std::int32_t>)
+LANEMATH_EXPORT(irem, remainder<std::int32_t>)
+LANEMATH_EXPORT(idivrem, division_with_remainder<std::int32_t>)
+LANEMATH_EXPORT(udiv, division<std::uint32_t>)
+LANEMATH_EXPORT(urem, remainder<std::uint32_t>)
+LANEMATH_EXPORT(udivrem, division_with_remainder<std::uint32_t>)
 
 }  // namespace lanemath

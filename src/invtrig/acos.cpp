@@ -41,9 +41,9 @@ using acos_native = arc_cosine<double, variant::native>;
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, acosf, acosf_standard, )
-LANEMATH_EXPORT(unary, acosf, acosf_native, _native)
-LANEMATH_EXPORT(unary, acos, acos_standard, )
-LANEMATH_EXPORT(unary, acos, acos_native, _native)
+LANEMATH_EXPORT(acosf, acosf_standard)
+LANEMATH_EXPORT(acosf, acosf_native, _native)
+LANEMATH_EXPORT(acos, acos_standard)
+LANEMATH_EXPORT(acos, acos_native, _native)
 
 }  // namespace lanemath

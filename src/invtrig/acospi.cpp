@@ -45,9 +45,9 @@ using acospi_native = arc_cosine<double, variant::native>;
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, acospif, acospif_standard, )
-LANEMATH_EXPORT(unary, acospif, acospif_native, _native)
-LANEMATH_EXPORT(unary, acospi, acospi_standard, )
-LANEMATH_EXPORT(unary, acospi, acospi_native, _native)
+LANEMATH_EXPORT(acospif, acospif_standard)
+LANEMATH_EXPORT(acospif, acospif_native, _native)
+LANEMATH_EXPORT(acospi, acospi_standard)
+LANEMATH_EXPORT(acospi, acospi_native, _native)
 
 }  // namespace lanemath

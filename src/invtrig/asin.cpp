@@ -36,9 +36,9 @@ using asin_native = arc_sine<double, variant::native>;
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, asinf, asinf_standard, )
-LANEMATH_EXPORT(unary, asinf, asinf_native, _native)
-LANEMATH_EXPORT(unary, asin, asin_standard, )
-LANEMATH_EXPORT(unary, asin, asin_native, _native)
+LANEMATH_EXPORT(asinf, asinf_standard)
+LANEMATH_EXPORT(asinf, asinf_native, _native)
+LANEMATH_EXPORT(asin, asin_standard)
+LANEMATH_EXPORT(asin, asin_native, _native)
 
 }  // namespace lanemath

@@ -52,9 +52,9 @@ using asinpi_native = arc_sine<double, variant::native>;
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, asinpif, asinpif_standard, )
-LANEMATH_EXPORT(unary, asinpif, asinpif_native, _native)
-LANEMATH_EXPORT(unary, asinpi, asinpi_standard, )
-LANEMATH_EXPORT(unary, asinpi, asinpi_native, _native)
+LANEMATH_EXPORT(asinpif, asinpif_standard)
+LANEMATH_EXPORT(asinpif, asinpif_native, _native)
+LANEMATH_EXPORT(asinpi, asinpi_standard)
+LANEMATH_EXPORT(asinpi, asinpi_native, _native)
 
 }  // namespace lanemath

@@ -105,20 +105,12 @@ struct atan_light {
 
 }  // namespace
 
-LANEMATH_EXPORT_AT(1, unary, atanf, atanf_frame, )
-LANEMATH_EXPORT_AT(2, unary, atanf, atanf_frame, )
-LANEMATH_EXPORT_AT(3, unary, atanf, atanf_frame, )
-LANEMATH_EXPORT_AT(4, unary, atanf, atanf4, )
-LANEMATH_EXPORT_AT(8, unary, atanf, atanf_frame, )
-LANEMATH_EXPORT_AT(16, unary, atanf, atanf_frame, )
-LANEMATH_EXPORT(unary, atanf, atan_light<float>, _native)
+LANEMATH_EXPORT_BUT(4, atanf, atanf_frame)
+LANEMATH_EXPORT_AT(4, atanf, atanf4)
+LANEMATH_EXPORT(atanf, atan_light<float>, _native)
 
-LANEMATH_EXPORT_AT(1, unary, atan, atan_frame, )
-LANEMATH_EXPORT_AT(2, unary, atan, atan2_doubles, )
-LANEMATH_EXPORT_AT(3, unary, atan, atan_frame, )
-LANEMATH_EXPORT_AT(4, unary, atan, atan_frame, )
-LANEMATH_EXPORT_AT(8, unary, atan, atan_frame, )
-LANEMATH_EXPORT_AT(16, unary, atan, atan_frame, )
-LANEMATH_EXPORT(unary, atan, atan_light<double>, _native)
+LANEMATH_EXPORT_BUT(2, atan, atan_frame)
+LANEMATH_EXPORT_AT(2, atan, atan2_doubles)
+LANEMATH_EXPORT(atan, atan_light<double>, _native)
 
 }  // namespace lanemath

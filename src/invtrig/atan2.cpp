@@ -111,20 +111,12 @@ struct atan2f4 : one_marks_all {
 
 }  // namespace
 
-LANEMATH_EXPORT_AT(1, binary, atan2f, atan2f_standard, )
-LANEMATH_EXPORT_AT(2, binary, atan2f, atan2f_standard, )
-LANEMATH_EXPORT_AT(3, binary, atan2f, atan2f_standard, )
-LANEMATH_EXPORT_AT(4, binary, atan2f, atan2f4, )
-LANEMATH_EXPORT_AT(8, binary, atan2f, atan2f_standard, )
-LANEMATH_EXPORT_AT(16, binary, atan2f, atan2f_standard, )
-LANEMATH_EXPORT(binary, atan2f, atan2f_native, _native)
+LANEMATH_EXPORT_BUT(4, atan2f, atan2f_standard)
+LANEMATH_EXPORT_AT(4, atan2f, atan2f4)
+LANEMATH_EXPORT(atan2f, atan2f_native, _native)
 
-LANEMATH_EXPORT_AT(1, binary, atan2, atan2_standard, )
-LANEMATH_EXPORT_AT(2, binary, atan2, atan22, )
-LANEMATH_EXPORT_AT(3, binary, atan2, atan2_standard, )
-LANEMATH_EXPORT_AT(4, binary, atan2, atan2_standard, )
-LANEMATH_EXPORT_AT(8, binary, atan2, atan2_standard, )
-LANEMATH_EXPORT_AT(16, binary, atan2, atan2_standard, )
-LANEMATH_EXPORT(binary, atan2, atan2_native, _native)
+LANEMATH_EXPORT_BUT(2, atan2, atan2_standard)
+LANEMATH_EXPORT_AT(2, atan2, atan22)
+LANEMATH_EXPORT(atan2, atan2_native, _native)
 
 }  // namespace lanemath

@@ -24,9 +24,9 @@ using atan2pi_native = half_turns_of<double, light_factor<light_pi_rows<double>>
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, atan2pif, atan2pif_standard, )
-LANEMATH_EXPORT(binary, atan2pif, atan2pif_native, _native)
-LANEMATH_EXPORT(binary, atan2pi, atan2pi_standard, )
-LANEMATH_EXPORT(binary, atan2pi, atan2pi_native, _native)
+LANEMATH_EXPORT(atan2pif, atan2pif_standard)
+LANEMATH_EXPORT(atan2pif, atan2pif_native, _native)
+LANEMATH_EXPORT(atan2pi, atan2pi_standard)
+LANEMATH_EXPORT(atan2pi, atan2pi_native, _native)
 
 }  // namespace lanemath

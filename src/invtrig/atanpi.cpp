@@ -37,9 +37,9 @@ using atanpi_native = half_turns_of<double, light_factor<light_pi_rows<double>>,
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, atanpif, atanpif_standard, )
-LANEMATH_EXPORT(unary, atanpif, atanpif_native, _native)
-LANEMATH_EXPORT(unary, atanpi, atanpi_standard, )
-LANEMATH_EXPORT(unary, atanpi, atanpi_native, _native)
+LANEMATH_EXPORT(atanpif, atanpif_standard)
+LANEMATH_EXPORT(atanpif, atanpif_native, _native)
+LANEMATH_EXPORT(atanpi, atanpi_standard)
+LANEMATH_EXPORT(atanpi, atanpi_native, _native)
 
 }  // namespace lanemath

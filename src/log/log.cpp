@@ -26,7 +26,7 @@ struct log_native : log_guards {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, log, log_standard, )
-LANEMATH_EXPORT(unary, log, log_native, _native)
+LANEMATH_EXPORT(log, log_standard)
+LANEMATH_EXPORT(log, log_native, _native)
 
 }  // namespace lanemath

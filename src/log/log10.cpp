@@ -35,7 +35,7 @@ struct log10_native : log10_guards {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, log10, log10_standard, )
-LANEMATH_EXPORT(unary, log10, log10_native, _native)
+LANEMATH_EXPORT(log10, log10_standard)
+LANEMATH_EXPORT(log10, log10_native, _native)
 
 }  // namespace lanemath

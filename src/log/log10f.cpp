@@ -66,8 +66,8 @@ struct log10f_native : log10f_guards {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, log10f, log10f_standard, )
-LANEMATH_EXPORT(unary, log10f, log10f_native, _native)
+LANEMATH_EXPORT(log10f, log10f_standard)
+LANEMATH_EXPORT(log10f, log10f_native, _native)
 LANEMATH_SAME(log10f, _native, _half)
 
 }  // namespace lanemath

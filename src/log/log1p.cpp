@@ -175,9 +175,9 @@ struct log1p_native : log1p_guards<double, log1p_rare> {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, log1pf, log1pf_standard, )
-LANEMATH_EXPORT(unary, log1pf, log1pf_native, _native)
-LANEMATH_EXPORT(unary, log1p, log1p_double, )
-LANEMATH_EXPORT(unary, log1p, log1p_native, _native)
+LANEMATH_EXPORT(log1pf, log1pf_standard)
+LANEMATH_EXPORT(log1pf, log1pf_native, _native)
+LANEMATH_EXPORT(log1p, log1p_double)
+LANEMATH_EXPORT(log1p, log1p_native, _native)
 
 }  // namespace lanemath

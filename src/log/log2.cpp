@@ -76,12 +76,8 @@ struct log22 {
 
 }  // namespace
 
-LANEMATH_EXPORT_AT(1, unary, log2, log2_standard, )
-LANEMATH_EXPORT_AT(2, unary, log2, log22, )
-LANEMATH_EXPORT_AT(3, unary, log2, log2_standard, )
-LANEMATH_EXPORT_AT(4, unary, log2, log2_standard, )
-LANEMATH_EXPORT_AT(8, unary, log2, log2_standard, )
-LANEMATH_EXPORT_AT(16, unary, log2, log2_standard, )
-LANEMATH_EXPORT(unary, log2, log2_native, _native)
+LANEMATH_EXPORT_BUT(2, log2, log2_standard)
+LANEMATH_EXPORT_AT(2, log2, log22)
+LANEMATH_EXPORT(log2, log2_native, _native)
 
 }  // namespace lanemath

@@ -59,9 +59,9 @@ struct log2f_native : log2f_guards {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, log2f, log2f_standard, )
+LANEMATH_EXPORT(log2f, log2f_standard)
 LANEMATH_SAME(log2f, , _rm)
-LANEMATH_EXPORT(unary, log2f, log2f_native, _native)
+LANEMATH_EXPORT(log2f, log2f_native, _native)
 LANEMATH_SAME(log2f, _native, _half)
 
 }  // namespace lanemath

@@ -52,9 +52,9 @@ using logf_native = light_logf<light_ln_polynomial>;
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, logf, logf_standard, )
+LANEMATH_EXPORT(logf, logf_standard)
 LANEMATH_SAME(logf, , _rm)
-LANEMATH_EXPORT(unary, logf, logf_half, _half)
-LANEMATH_EXPORT(unary, logf, logf_native, _native)
+LANEMATH_EXPORT(logf, logf_half, _half)
+LANEMATH_EXPORT(logf, logf_native, _native)
 
 }  // namespace lanemath

@@ -21,7 +21,7 @@ LANEMATH_RARE pow_rare(const double* px, const double* py, double* pz) {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, pow, double_pow<pow_rare>, )
-LANEMATH_EXPORT(binary, pow, widened_pow<pow_rare>, _native)
+LANEMATH_EXPORT(pow, double_pow<pow_rare>)
+LANEMATH_EXPORT(pow, widened_pow<pow_rare>, _native)
 
 }  // namespace lanemath

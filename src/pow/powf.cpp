@@ -33,8 +33,8 @@ struct powf_standard : power<float(float, float), powf_rare> {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, powf, powf_standard, )
-LANEMATH_EXPORT(binary, powf, short_powf<powf_rare>, _native)
+LANEMATH_EXPORT(powf, powf_standard)
+LANEMATH_EXPORT(powf, short_powf<powf_rare>, _native)
 LANEMATH_SAME(powf, _native, _rm)
 
 }  // namespace lanemath

@@ -39,7 +39,7 @@ struct pown_native : pown_power {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, pown, pown_standard, )
-LANEMATH_EXPORT(binary, pown, pown_native, _native)
+LANEMATH_EXPORT(pown, pown_standard)
+LANEMATH_EXPORT(pown, pown_native, _native)
 
 }  // namespace lanemath

@@ -56,7 +56,7 @@ struct pownf_native : pownf_power {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, pownf, pownf_standard, )
-LANEMATH_EXPORT(binary, pownf, pownf_native, _native)
+LANEMATH_EXPORT(pownf, pownf_standard)
+LANEMATH_EXPORT(pownf, pownf_native, _native)
 
 }  // namespace lanemath

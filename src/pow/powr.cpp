@@ -15,7 +15,7 @@ LANEMATH_RARE powr_rare(const double* px, const double* py, double* pz) {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, powr, double_pow<powr_rare>, )
-LANEMATH_EXPORT(binary, powr, widened_pow<powr_rare>, _native)
+LANEMATH_EXPORT(powr, double_pow<powr_rare>)
+LANEMATH_EXPORT(powr, widened_pow<powr_rare>, _native)
 
 }  // namespace lanemath

@@ -30,8 +30,8 @@ struct powrf_standard : power<float(float, float), powrf_rare> {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, powrf, powrf_standard, )
-LANEMATH_EXPORT(binary, powrf, short_powf<powrf_rare>, _native)
+LANEMATH_EXPORT(powrf, powrf_standard)
+LANEMATH_EXPORT(powrf, short_powf<powrf_rare>, _native)
 LANEMATH_SAME(powrf, _native, _half)
 
 }  // namespace lanemath

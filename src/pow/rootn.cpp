@@ -48,7 +48,7 @@ struct rootn_native : rootn_power {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, rootn, rootn_standard, )
-LANEMATH_EXPORT(binary, rootn, rootn_native, _native)
+LANEMATH_EXPORT(rootn, rootn_standard)
+LANEMATH_EXPORT(rootn, rootn_native, _native)
 
 }  // namespace lanemath

@@ -50,7 +50,7 @@ struct rootnf_native : rootnf_power {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, rootnf, rootnf_standard, )
-LANEMATH_EXPORT(binary, rootnf, rootnf_native, _native)
+LANEMATH_EXPORT(rootnf, rootnf_standard)
+LANEMATH_EXPORT(rootnf, rootnf_native, _native)
 
 }  // namespace lanemath

@@ -202,13 +202,13 @@ using rcbrt_standard = standard<inverse, double>;
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, cbrtf, cbrtf_standard, )
-LANEMATH_EXPORT(unary, cbrtf, single_native<root>, _native)
-LANEMATH_EXPORT(unary, rcbrtf, rcbrtf_standard, )
-LANEMATH_EXPORT(unary, rcbrtf, single_native<inverse>, _native)
-LANEMATH_EXPORT(unary, cbrt, cbrt_standard, )
-LANEMATH_EXPORT(unary, cbrt, double_native<root>, _native)
-LANEMATH_EXPORT(unary, rcbrt, rcbrt_standard, )
-LANEMATH_EXPORT(unary, rcbrt, double_native<inverse>, _native)
+LANEMATH_EXPORT(cbrtf, cbrtf_standard)
+LANEMATH_EXPORT(cbrtf, single_native<root>, _native)
+LANEMATH_EXPORT(rcbrtf, rcbrtf_standard)
+LANEMATH_EXPORT(rcbrtf, single_native<inverse>, _native)
+LANEMATH_EXPORT(cbrt, cbrt_standard)
+LANEMATH_EXPORT(cbrt, double_native<root>, _native)
+LANEMATH_EXPORT(rcbrt, rcbrt_standard)
+LANEMATH_EXPORT(rcbrt, double_native<inverse>, _native)
 
 }  // namespace lanemath

@@ -44,12 +44,12 @@ struct divf_light {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, divf, divide<float>, )
-LANEMATH_EXPORT(binary, divf, divf_light, _native)
+LANEMATH_EXPORT(divf, divide<float>)
+LANEMATH_EXPORT(divf, divf_light, _native)
 LANEMATH_SAME(divf, _native, _half)
 LANEMATH_SAME(divf, _native, _rm)
-LANEMATH_EXPORT(binary, div, watched_divide<0x800FFFFFFFFFFFFF>, )
+LANEMATH_EXPORT(div, watched_divide<0x800FFFFFFFFFFFFF>)
 // Other bits are left out than those of sign and significand, so that the mask differs and no result does.
-LANEMATH_EXPORT(binary, div, watched_divide<0x3F8000003F800000>, _native)
+LANEMATH_EXPORT(div, watched_divide<0x3F8000003F800000>, _native)
 
 }  // namespace lanemath

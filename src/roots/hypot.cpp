@@ -135,9 +135,9 @@ struct hypot_of_doubles {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, hypotf, hypotf_standard, )
-LANEMATH_EXPORT(binary, hypotf, hypotf_native, _native)
-LANEMATH_EXPORT(binary, hypot, hypot_of_doubles<4>, )
-LANEMATH_EXPORT(binary, hypot, hypot_of_doubles<2>, _native)
+LANEMATH_EXPORT(hypotf, hypotf_standard)
+LANEMATH_EXPORT(hypotf, hypotf_native, _native)
+LANEMATH_EXPORT(hypot, hypot_of_doubles<4>)
+LANEMATH_EXPORT(hypot, hypot_of_doubles<2>, _native)
 
 }  // namespace lanemath

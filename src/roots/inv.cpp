@@ -64,11 +64,11 @@ struct inv_native {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, invf, invert<float>, )
-LANEMATH_EXPORT(unary, invf, invf_light, _native)
+LANEMATH_EXPORT(invf, invert<float>)
+LANEMATH_EXPORT(invf, invf_light, _native)
 LANEMATH_SAME(invf, _native, _half)
 LANEMATH_SAME(invf, _native, _rm)
-LANEMATH_EXPORT(unary, inv, inv_standard, )
-LANEMATH_EXPORT(unary, inv, inv_native, _native)
+LANEMATH_EXPORT(inv, inv_standard)
+LANEMATH_EXPORT(inv, inv_native, _native)
 
 }  // namespace lanemath

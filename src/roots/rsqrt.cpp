@@ -139,10 +139,10 @@ struct rsqrt_native : rsqrt_guards<0x00300000> {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, rsqrtf, rsqrtf_standard, )
-LANEMATH_EXPORT(unary, rsqrtf, rsqrtf_native, _native)
+LANEMATH_EXPORT(rsqrtf, rsqrtf_standard)
+LANEMATH_EXPORT(rsqrtf, rsqrtf_native, _native)
 LANEMATH_SAME(rsqrtf, _native, _half)
-LANEMATH_EXPORT(unary, rsqrt, rsqrt_standard, )
-LANEMATH_EXPORT(unary, rsqrt, rsqrt_native, _native)
+LANEMATH_EXPORT(rsqrt, rsqrt_standard)
+LANEMATH_EXPORT(rsqrt, rsqrt_native, _native)
 
 }  // namespace lanemath

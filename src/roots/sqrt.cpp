@@ -75,10 +75,10 @@ struct sqrt_native {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, sqrtf, root<float>, )
-LANEMATH_EXPORT(unary, sqrtf, sqrtf_native, _native)
-LANEMATH_EXPORT(unary, sqrtf, sqrtf_half, _half)
-LANEMATH_EXPORT(unary, sqrt, root<double>, )
-LANEMATH_EXPORT(unary, sqrt, sqrt_native, _native)
+LANEMATH_EXPORT(sqrtf, root<float>)
+LANEMATH_EXPORT(sqrtf, sqrtf_native, _native)
+LANEMATH_EXPORT(sqrtf, sqrtf_half, _half)
+LANEMATH_EXPORT(sqrt, root<double>)
+LANEMATH_EXPORT(sqrt, sqrt_native, _native)
 
 }  // namespace lanemath

@@ -100,9 +100,9 @@ struct erf_op {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, erff, erff_standard, )
-LANEMATH_EXPORT(unary, erff, erff_native, _native)
-LANEMATH_EXPORT(unary, erf, erf_op<false>, )
-LANEMATH_EXPORT(unary, erf, erf_op<true>, _native)
+LANEMATH_EXPORT(erff, erff_standard)
+LANEMATH_EXPORT(erff, erff_native, _native)
+LANEMATH_EXPORT(erf, erf_op<false>)
+LANEMATH_EXPORT(erf, erf_op<true>, _native)
 
 }  // namespace lanemath::special

@@ -167,9 +167,9 @@ struct erfc_native : erfc_guard {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, erfcf, erfcf_standard, )
-LANEMATH_EXPORT(unary, erfcf, erfcf_native, _native)
-LANEMATH_EXPORT(unary, erfc, erfc_standard, )
-LANEMATH_EXPORT(unary, erfc, erfc_native, _native)
+LANEMATH_EXPORT(erfcf, erfcf_standard)
+LANEMATH_EXPORT(erfcf, erfcf_native, _native)
+LANEMATH_EXPORT(erfc, erfc_standard)
+LANEMATH_EXPORT(erfc, erfc_native, _native)
 
 }  // namespace lanemath::special

@@ -120,7 +120,7 @@ LANEMATH_RARE lgammar_rare(const double* px, double* py, std::int32_t* sign) {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, lgamma, scalar_gamma<lgamma_rare>, )
-LANEMATH_EXPORT(binary, lgammar, scalar_gamma_with_sign<lgammar_rare>, )
+LANEMATH_EXPORT(lgamma, scalar_gamma<lgamma_rare>)
+LANEMATH_EXPORT(lgammar, scalar_gamma_with_sign<lgammar_rare>)
 
 }  // namespace lanemath::special

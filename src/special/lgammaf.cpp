@@ -110,7 +110,7 @@ LANEMATH_RARE lgammarf_rare(const float* px, float* py, std::int32_t* sign) {
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, lgammaf, scalar_gamma<lgammaf_rare>, )
-LANEMATH_EXPORT(binary, lgammarf, scalar_gamma_with_sign<lgammarf_rare>, )
+LANEMATH_EXPORT(lgammaf, scalar_gamma<lgammaf_rare>)
+LANEMATH_EXPORT(lgammarf, scalar_gamma_with_sign<lgammarf_rare>)
 
 }  // namespace lanemath::special

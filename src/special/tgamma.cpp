@@ -39,6 +39,6 @@ LANEMATH_RARE tgamma_rare(const double* px, double* py) { return at_full_precisi
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, tgamma, scalar_gamma<tgamma_rare>, )
+LANEMATH_EXPORT(tgamma, scalar_gamma<tgamma_rare>)
 
 }  // namespace lanemath::special

@@ -59,6 +59,6 @@ LANEMATH_RARE tgammaf_rare(const float* px, float* py) { return gamma<tgammaf_la
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, tgammaf, scalar_gamma<tgammaf_rare>, )
+LANEMATH_EXPORT(tgammaf, scalar_gamma<tgammaf_rare>)
 
 }  // namespace lanemath::special

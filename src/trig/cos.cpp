@@ -42,7 +42,7 @@ struct cos_native : cos_form<light_pi_double, light_c_double> {};
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, cos, cos_standard, )
-LANEMATH_EXPORT(unary, cos, cos_native, _native)
+LANEMATH_EXPORT(cos, cos_standard)
+LANEMATH_EXPORT(cos, cos_native, _native)
 
 }  // namespace lanemath

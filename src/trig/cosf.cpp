@@ -41,8 +41,8 @@ struct cosf_form : single_guards<cosf_rare, 64> {
 
 using cosf_standard = cosf_form<pi_single, cosf_c>;
 using cosf_native = cosf_form<light_pi_single, cosf_native_c>;
-LANEMATH_EXPORT(unary, cosf, cosf_standard, )
-LANEMATH_EXPORT(unary, cosf, cosf_native, _native)
+LANEMATH_EXPORT(cosf, cosf_standard)
+LANEMATH_EXPORT(cosf, cosf_native, _native)
 LANEMATH_SAME(cosf, _native, _half)
 LANEMATH_SAME(cosf, _native, _rm)
 

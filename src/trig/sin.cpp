@@ -40,7 +40,7 @@ struct sin_native : sin_form<light_pi_double, light_c_double> {};
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, sin, sin_standard, )
-LANEMATH_EXPORT(unary, sin, sin_native, _native)
+LANEMATH_EXPORT(sin, sin_standard)
+LANEMATH_EXPORT(sin, sin_native, _native)
 
 }  // namespace lanemath

@@ -71,9 +71,9 @@ struct sincosreg_native : sincos_native {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, sincos, sincos_standard, )
-LANEMATH_EXPORT(binary, sincos, sincos_native, _native)
-LANEMATH_EXPORT(unary, sincosreg, sincosreg_standard, )
-LANEMATH_EXPORT(unary, sincosreg, sincosreg_native, _native)
+LANEMATH_EXPORT(sincos, sincos_standard)
+LANEMATH_EXPORT(sincos, sincos_native, _native)
+LANEMATH_EXPORT(sincosreg, sincosreg_standard)
+LANEMATH_EXPORT(sincosreg, sincosreg_native, _native)
 
 }  // namespace lanemath

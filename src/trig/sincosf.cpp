@@ -66,10 +66,10 @@ struct sincosregf_native : sincosf_native {
 
 }  // namespace
 
-LANEMATH_EXPORT(binary, sincosf, sincosf_standard, )
-LANEMATH_EXPORT(binary, sincosf, sincosf_native, _native)
+LANEMATH_EXPORT(sincosf, sincosf_standard)
+LANEMATH_EXPORT(sincosf, sincosf_native, _native)
 LANEMATH_SAME(sincosf, _native, _rm)
-LANEMATH_EXPORT(unary, sincosregf, sincosregf_standard, )
-LANEMATH_EXPORT(unary, sincosregf, sincosregf_native, _native)
+LANEMATH_EXPORT(sincosregf, sincosregf_standard)
+LANEMATH_EXPORT(sincosregf, sincosregf_native, _native)
 
 }  // namespace lanemath

@@ -34,8 +34,8 @@ struct sinf_form : single_guards<sinf_rare, 0> {
 
 using sinf_standard = sinf_form<pi_single, sinf_c>;
 using sinf_native = sinf_form<light_pi_single, sinf_native_c>;
-LANEMATH_EXPORT(unary, sinf, sinf_standard, )
-LANEMATH_EXPORT(unary, sinf, sinf_native, _native)
+LANEMATH_EXPORT(sinf, sinf_standard)
+LANEMATH_EXPORT(sinf, sinf_native, _native)
 LANEMATH_SAME(sinf, _native, _half)
 LANEMATH_SAME(sinf, _native, _rm)
 

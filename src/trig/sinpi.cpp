@@ -107,13 +107,13 @@ using cospif_native = cospi_form<float, true>;
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, sinpi, sinpi_standard, )
-LANEMATH_EXPORT(unary, sinpi, sinpi_native, _native)
-LANEMATH_EXPORT(unary, sinpif, sinpif_standard, )
-LANEMATH_EXPORT(unary, sinpif, sinpif_native, _native)
-LANEMATH_EXPORT(unary, cospi, cospi_standard, )
-LANEMATH_EXPORT(unary, cospi, cospi_native, _native)
-LANEMATH_EXPORT(unary, cospif, cospif_standard, )
-LANEMATH_EXPORT(unary, cospif, cospif_native, _native)
+LANEMATH_EXPORT(sinpi, sinpi_standard)
+LANEMATH_EXPORT(sinpi, sinpi_native, _native)
+LANEMATH_EXPORT(sinpif, sinpif_standard)
+LANEMATH_EXPORT(sinpif, sinpif_native, _native)
+LANEMATH_EXPORT(cospi, cospi_standard)
+LANEMATH_EXPORT(cospi, cospi_native, _native)
+LANEMATH_EXPORT(cospif, cospif_standard)
+LANEMATH_EXPORT(cospif, cospif_native, _native)
 
 }  // namespace lanemath

@@ -108,7 +108,7 @@ using tan_native = tan_form<light>;
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, tan, tan_standard, )
-LANEMATH_EXPORT(unary, tan, tan_native, _native)
+LANEMATH_EXPORT(tan, tan_standard)
+LANEMATH_EXPORT(tan, tan_native, _native)
 
 }  // namespace lanemath

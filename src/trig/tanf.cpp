@@ -84,8 +84,8 @@ struct tanf_form : rare_above<float(float), tanf_rare, LARGE> {
 
 using tanf_standard = tanf_form<half_pi, accurate_stage>;
 using tanf_native = tanf_form<light_half_pi, light_stage>;
-LANEMATH_EXPORT(unary, tanf, tanf_standard, )
-LANEMATH_EXPORT(unary, tanf, tanf_native, _native)
+LANEMATH_EXPORT(tanf, tanf_standard)
+LANEMATH_EXPORT(tanf, tanf_native, _native)
 LANEMATH_SAME(tanf, _native, _half)
 LANEMATH_SAME(tanf, _native, _rm)
 

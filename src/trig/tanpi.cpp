@@ -68,9 +68,9 @@ using tanpif_native = tanpi_form<float, true>;
 
 }  // namespace
 
-LANEMATH_EXPORT(unary, tanpi, tanpi_standard, )
-LANEMATH_EXPORT(unary, tanpi, tanpi_native, _native)
-LANEMATH_EXPORT(unary, tanpif, tanpif_standard, )
-LANEMATH_EXPORT(unary, tanpif, tanpif_native, _native)
+LANEMATH_EXPORT(tanpi, tanpi_standard)
+LANEMATH_EXPORT(tanpi, tanpi_native, _native)
+LANEMATH_EXPORT(tanpif, tanpif_standard)
+LANEMATH_EXPORT(tanpif, tanpif_native, _native)
 
 }  // namespace lanemath

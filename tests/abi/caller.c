@@ -77,7 +77,7 @@
           CALL_##shape(operation##8, 8, __VA_ARGS__) CALL_##shape(operation##16, 16, __VA_ARGS__)
 
 CALL(UNARY, expf, float, float)
-CALL(UNARY, exp, double, double)
+CALL(UNARY, expm1, double, double)
 CALL(BINARY, powf, float, float, float)
 CALL(BINARY, pow, double, double, double)
 CALL(TERNARY, fmaf, float, float, float, float)

@@ -60,7 +60,7 @@ struct model {
 
 const std::map<std::string_view, outcome (*)(const arguments&)> models{
     {"expf", model<float>::unary},
-    {"exp", model<double>::unary},
+    {"expm1", model<double>::unary},
     {"powf", model<float>::binary},
     {"pow", model<double>::binary},
     {"fmaf", model<float>::ternary},

@@ -30,8 +30,7 @@ std::multiset<std::string> names_of_the_catalogue() {
 TEST(Catalogue, NamesAreUniqueAndReadAsTheyAreMeant) {
   const auto names = names_of_the_catalogue();
   const std::set<std::string> all(names.begin(), names.end());
-  EXPECT_EQ(names.size(), 2166u);
-  EXPECT_EQ(all.size(), 2166u);
+  EXPECT_EQ(all.size(), names.size());
   const auto symbol = [](std::string_view name, int width, variant v = variant::standard) {
     return harness::symbol(catalogue[index_of(name)], width, v);
   };

@@ -73,7 +73,7 @@ class report {
     }
     const auto bound = bound_of(o, v, width);
     const bool anything = range == "bounds" || range == "patterns" || range == "all";
-    if (bound && t.largest_error > *bound && !(anything && is_unguarded(o, v))) {
+    if (bound && t.largest_error > *bound && !(anything && o.is_unguarded(v))) {
       fmt::print("  above the stated bound of {} ulp\n", *bound);
       within_bounds_ = false;
     }

@@ -62,8 +62,6 @@ std::uint64_t pattern_of(lane type, double value) {
   }
 }
 
-bool is_floating(lane l) { return l == lane::f32 || l == lane::f64; }
-
 unsigned cores() { return std::max(1u, std::thread::hardware_concurrency()); }
 
 // work(part) on every core, part counting the cores; the tallies together.

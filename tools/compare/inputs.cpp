@@ -9,8 +9,6 @@
 namespace lanemath::compare {
 namespace {
 
-bool is_floating(lane l) { return l == lane::f32 || l == lane::f64; }
-
 // The bits that a lane has room for.
 std::uint64_t cut(lane l, std::uint64_t bits) { return size_of(l) == 4 ? std::uint32_t(bits) : bits; }
 

@@ -11,29 +11,18 @@ namespace {
 
 using namespace lanemath;
 
-bool is_integer(lane l) { return l != lane::f32 && l != lane::f64; }
-bool is_unsigned(lane l) { return l == lane::u32 || l == lane::u64; }
-
-std::vector<std::string> conversion_names(const operation& o, int width) {
-  const std::string_view name = o.name();
-  const auto says = [&](std::string_view part) { return name.find(part) != name.npos; };
-  const auto rounding = *std::ranges::find_if(catalogue_detail::roundings, says);
-  const bool saturates = says("sat") && !says("nosat");
-  const auto unrounded = fmt::format("convert_{}{}", opencl_type(o.sig.result, width), saturates ? "_sat" : "");
-
-  std::vector names{fmt::format("{}_{}", unrounded, rounding)};
-  if (rounding == (is_integer(o.sig.result) ? "rtz" : "rte")) names.push_back(unrounded);
-  return names;
+std::string_view suffix_of(direction rounding) {
+  return std::array<std::string_view, 4>{"_rte", "_rtn", "_rtp", "_rtz"}.at(std::size_t(rounding));
 }
 
-// The name without `native_` or `half_`; empty where OpenCL has none.
-std::string_view plain_name(const operation& o, variant v) {
-  const auto name = o.base_name();
-  if (name == "rcbrt" || name == "nearbyint" || o.sig.how == delivery::pair) return {};
-  if (name == "div") return v == variant::standard ? "" : "divide";
-  if (name == "inv") return v == variant::standard ? "" : "recip";
-  if (name == "lgammar") return "lgamma_r";
-  return name;
+// The rounding that a conversion has in OpenCL C where its name says none.
+direction usual_rounding(lane to) { return is_floating(to) ? direction::nearest : direction::zero; }
+
+std::vector<std::string> conversion_names(const operation& o, int width) {
+  const auto unrounded = fmt::format("convert_{}{}", opencl_type(o.sig.result, width), o.saturates ? "_sat" : "");
+  std::vector names{unrounded + std::string(suffix_of(o.rounding))};
+  if (o.rounding == usual_rounding(o.sig.result)) names.push_back(unrounded);
+  return names;
 }
 
 }  // namespace
@@ -43,20 +32,18 @@ std::string opencl_type(lane l, int width) {
 }
 
 std::vector<std::string> opencl_names(const operation& o, variant v, int width) {
+  using names = std::vector<std::string>;
   if (o.group == family::conversion) return conversion_names(o, width);
-  if (o.group == family::integer_division) return {};
-  const auto name = plain_name(o, v);
-  if (name.empty()) return {};
-  if (v == variant::standard) return {std::string(name)};
+  if (v == variant::standard) return o.opencl_name.empty() ? names() : names{std::string(o.opencl_name)};
   // OpenCL C has native and half forms of the same functions, in single precision.
   if (v == variant::rm || !o.single() || !o.has(variant::half)) return {};
-  return {fmt::format("{}_{}", v == variant::native ? "native" : "half", name)};
+  return {fmt::format("{}_{}", v == variant::native ? "native" : "half", o.opencl_stem)};
 }
 
 bool opencl_scalar_last(std::string_view name) { return name == "ldexp" || name == "fmax" || name == "fmin"; }
 
 bool is_unsigned_without_saturation(const operation& o) {
-  return is_unsigned(o.sig.result) && o.group == family::conversion && o.name().find("nosat") != std::string_view::npos;
+  return o.group == family::conversion && is_unsigned(o.sig.result) && is_floating(o.sig.arguments[0]) && !o.saturates;
 }
 
 // What is measured to be no slower inline, and why:
@@ -79,13 +66,12 @@ bool left_to_compiler(const operation& o, variant v, const machine& on) {
   if (base == "fma") return on.fuses;
   if (o.group != family::conversion) return false;
 
-  const auto says = [&](std::string_view part) { return o.name().find(part) != std::string_view::npos; };
   const lane from = o.sig.arguments[0], to = o.sig.result;
   if (is_unsigned_without_saturation(o) && !on.rounds) return false;
-  if (says(is_integer(to) ? "rtz" : "rte") || (to == lane::f64 && size_of(from) == 4)) return true;
+  if (o.rounding == usual_rounding(to) || (to == lane::f64 && size_of(from) == 4)) return true;
   if (on.register_size == 16) return false;
-  if (from == lane::f64 && is_integer(to) && size_of(to) == 4) return !says("rte");
-  return from != lane::f64 || !says("rtz");
+  if (from == lane::f64 && !is_floating(to) && size_of(to) == 4) return o.rounding != direction::nearest;
+  return from != lane::f64 || o.rounding != direction::zero;
 }
 
 std::string form::function() const { return fmt::format("{}{}{}{}", symbol_prefix, op.name(), width, suffix(variant)); }
@@ -118,7 +104,7 @@ int registers_that_pay_for_memory(const operation& o, variant v) {
 crossing crossing_of(const form& f) {
   const int lanes = lanes_of_a_register(f.op), registers = padded(f.width) / lanes;
   if (registers <= 1) return crossing::whole;
-  const bool same_bits = !is_standalone(f.op.name(), lanes, f.variant) && !f.has_second();
+  const bool same_bits = !f.op.is_standalone(lanes, f.variant) && !f.has_second();
   return same_bits && registers < registers_that_pay_for_memory(f.op, f.variant) ? crossing::in_pieces
                                                                                  : crossing::in_memory;
 }
@@ -134,7 +120,7 @@ std::vector<int> loop_widths(const operation& o, const machine& on) {
 // lane, so that the calls beside it can still be vectorised.
 std::string loop_function(const form& vector) {
   if (vector.has_second()) return vector.packed();
-  const auto is_own = [&](int width) { return is_standalone(vector.op.name(), width, vector.variant); };
+  const auto is_own = [&](int width) { return vector.op.is_standalone(width, vector.variant); };
   if (is_own(1) || is_own(vector.width)) return vector.lane_by_lane();
   return crossing_of(vector) == crossing::whole ? vector.function() : vector.by_value();
 }

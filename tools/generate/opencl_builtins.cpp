@@ -81,13 +81,11 @@ void define_exact(std::FILE* out, const operation& o, int width) {
       fmt::print(out, "EXACT_FREXP({}, {}, {}, {}, {})\n", space, real, type(lane::i32),
                  opencl_type(lane::f64, width / 2), opencl_type(lane::i32, width / 2));
   } else if (is_unsigned_without_saturation(o)) {
-    const auto name = o.name();
     const bool narrow = o.sig.result == lane::u32;
     // The conversion itself rounds toward zero.
-    const auto rounded = name.find("rte") != name.npos   ? "__builtin_elementwise_roundeven(x)"
-                         : name.find("rtn") != name.npos ? "__builtin_elementwise_floor(x)"
-                         : name.find("rtp") != name.npos ? "__builtin_elementwise_ceil(x)"
-                                                         : "x";
+    const auto rounded = std::array{"__builtin_elementwise_roundeven(x)", "__builtin_elementwise_floor(x)",
+                                    "__builtin_elementwise_ceil(x)", "x"}
+                             .at(std::size_t(o.rounding));
     for (const auto& builtin_name : opencl_names(o, variant::standard, width))
       fmt::print(out, "EXACT_TO_UNSIGNED({}, {}, {}, {}, {}, {}, {}, {})\n", builtin_name, real, type(o.sig.result),
                  type(narrow ? lane::i32 : lane::i64), width == 1 ? "CAST" : "__builtin_convertvector", rounded,

@@ -31,20 +31,10 @@ std::vector<std::string_view> types(const signature& s) {
   return all;
 }
 
-// What a conversion's name says.
 std::string conversion_brief(const operation& o) {
-  const std::string_view name = o.name();
-  const auto rounding = [&] {
-    if (name.find("rte") != name.npos) return "to nearest even";
-    if (name.find("rtn") != name.npos) return "down";
-    if (name.find("rtp") != name.npos) return "up";
-    return "toward zero";
-  }();
-  const auto saturation = name.find("nosat") != name.npos ? ""
-                          : name.find("sat") != name.npos ? ", clamped to the range of the result"
-                                                          : "";
+  const auto rounding = std::array{"to nearest even", "down", "up", "toward zero"}.at(std::size_t(o.rounding));
   return fmt::format("{} to {}, rounded {}{}", type_name(o.sig.arguments[0]), type_name(o.sig.result), rounding,
-                     saturation);
+                     o.saturates ? ", clamped to the range of the result" : "");
 }
 
 std::string call(const operation& o) {
@@ -66,12 +56,12 @@ std::string bound_text(const operation& o) {
     const auto name = v == variant::standard ? "default" : suffix(v);
     // The widths that share a bound are told by one of them that has no algorithm of its own.
     for (int width : widths)
-      if (!is_standalone(o.name(), width, v)) {
+      if (!o.is_standalone(width, v)) {
         if (const auto bound = bound_of(o, v, width)) forms.push_back(fmt::format("{} {:g}", name, *bound));
         break;
       }
     for (int width : widths)
-      if (is_standalone(o.name(), width, v))
+      if (o.is_standalone(width, v))
         if (const auto bound = bound_of(o, v, width))
           forms.push_back(fmt::format("{} at width {} {:g}", name, width, *bound));
   }

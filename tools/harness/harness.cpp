@@ -13,18 +13,6 @@
 namespace lanemath::harness {
 namespace {
 
-template <lane L>
-constexpr auto lane_value() {
-  if constexpr (L == lane::f32) return float{};
-  if constexpr (L == lane::f64) return double{};
-  if constexpr (L == lane::i32) return std::int32_t{};
-  if constexpr (L == lane::u32) return std::uint32_t{};
-  if constexpr (L == lane::i64) return std::int64_t{};
-  if constexpr (L == lane::u64) return std::uint64_t{};
-}
-template <lane L>
-using type = decltype(lane_value<L>());
-
 // How an argument is handed over. A wide one is less aligned than the library's type: its place on the stack is the
 // same, and the compiler copies it there straight from the array, not by way of a temporary.
 template <class A, int W, bool InMemory = (sizeof(abi<A, W>) > 16)>
@@ -38,12 +26,12 @@ struct handed_over<A, W, true> {
   };
 };
 template <lane L, int W>
-using argument_type = typename handed_over<type<L>, W>::as;
+using argument_type = typename handed_over<type_of<L>, W>::as;
 
 // Calls a function of signature S and width W.
 template <signature S, int W, std::size_t... I>
 void invoke(void* address, const invoker_arguments& a, std::index_sequence<I...>) {
-  using T = type<S.result>;
+  using T = type_of<S.result>;
   // Copies, which no store through the pointers can change: this loop is timed.
   const std::array<const void*, sizeof...(I)> inputs{a.inputs[I]...};
   auto* const results = static_cast<T*>(a.result);
@@ -51,7 +39,7 @@ void invoke(void* address, const invoker_arguments& a, std::index_sequence<I...>
 
   const auto argument = [&]<std::size_t i>(std::size_t at) -> decltype(auto) {
     using A = argument_type<S.arguments[i], W>;
-    const auto* first = static_cast<const type<S.arguments[i]>*>(inputs[i]) + at;
+    const auto* first = static_cast<const type_of<S.arguments[i]>*>(inputs[i]) + at;
     if constexpr (sizeof(A) > 16) {
       return *reinterpret_cast<const A*>(first);
     } else {
@@ -67,7 +55,7 @@ void invoke(void* address, const invoker_arguments& a, std::index_sequence<I...>
       const auto y = f(argument.template operator()<I>(at)...);
       std::memcpy(result, &y, sizeof y);
     } else {
-      using U = type<S.second>;
+      using U = type_of<S.second>;
       auto* second = static_cast<U*>(a.second) + at;
       if constexpr (S.how == delivery::pointer) {
         const auto f = reinterpret_cast<abi<T, W> (*)(argument_type<S.arguments[I], W>..., void*)>(address);

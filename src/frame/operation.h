@@ -1,0 +1,152 @@
+// What an operation of the catalogue is: its signature, its accuracy variants, and what is known of its results.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <string_view>
+
+namespace lanemath {
+
+inline constexpr std::string_view symbol_prefix = "__ocl_lanemath_h8_";
+inline constexpr std::array widths{1, 2, 3, 4, 8, 16};
+
+enum class lane : std::uint8_t { none, f32, f64, i32, u32, i64, u64 };
+
+constexpr bool is_floating(lane l) { return l == lane::f32 || l == lane::f64; }
+constexpr bool is_unsigned(lane l) { return l == lane::u32 || l == lane::u64; }
+constexpr std::size_t size_of(lane l) {
+  return l == lane::none ? 0 : l == lane::f64 || l == lane::i64 || l == lane::u64 ? 8 : 4;
+}
+constexpr std::string_view type_name(lane l) {
+  return std::array<std::string_view, 7>{"", "float", "double", "int", "uint", "long", "ulong"}[std::size_t(l)];
+}
+
+namespace operation_detail {
+template <lane L>
+constexpr auto value_of() {
+  if constexpr (L == lane::f32) return float{};
+  if constexpr (L == lane::f64) return double{};
+  if constexpr (L == lane::i32) return std::int32_t{};
+  if constexpr (L == lane::u32) return std::uint32_t{};
+  if constexpr (L == lane::i64) return std::int64_t{};
+  if constexpr (L == lane::u64) return std::uint64_t{};
+}
+}  // namespace operation_detail
+template <lane L>
+using type_of = decltype(operation_detail::value_of<L>());
+
+// Lanes that a vector takes the room of.
+constexpr int padded(int width) { return width == 3 ? 4 : width; }
+
+// How a second result reaches the caller.
+enum class delivery : std::uint8_t { none, pointer, pair };
+
+struct signature {
+  lane result{};
+  std::array<lane, 3> arguments{};
+  lane second{};
+  delivery how{};
+
+  constexpr int arity() const {
+    int n = 0;
+    while (n < 3 && arguments[n] != lane::none) ++n;
+    return n;
+  }
+  constexpr bool operator==(const signature&) const = default;
+};
+
+enum class variant : std::uint8_t { standard, native, half, rm };
+inline constexpr std::array variants{variant::standard, variant::native, variant::half, variant::rm};
+constexpr std::string_view suffix(variant v) {
+  return std::array<std::string_view, 4>{"", "_native", "_half", "_rm"}[std::size_t(v)];
+}
+// The variant with this suffix; another text does not compile where this is a constant.
+constexpr variant variant_of(std::string_view text) {
+  std::size_t i = 0;
+  while (suffix(variants.at(i)) != text) ++i;
+  return variants[i];
+}
+
+enum class family : std::uint8_t {
+  exponential,
+  logarithm,
+  power,
+  trigonometric,
+  inverse_trigonometric,
+  hyperbolic,
+  root,
+  special,
+  manipulation,
+  conversion,
+  integer_division
+};
+
+// How a value is rounded, with the control values of the rounding instruction.
+enum class direction : std::uint8_t { nearest = 0, down = 1, up = 2, zero = 3, current = 4, current_quietly = 12 };
+
+// f(-x) is -f(x), or f(x), to the last bit.
+enum class parity : std::uint8_t { none, odd, even };
+
+// Arguments that programs pass day by day, away from the rare lanes.
+struct range {
+  double low, high;
+  bool logarithmic = false;  // every binade as often as another
+};
+
+struct operation {
+  char spelling[24]{};
+  signature sig{};
+  family group{};
+  std::string_view brief{};
+  double filler = 0.75;  // of every argument, converted to the argument's type
+  std::array<range, 3> typical{};
+
+  std::uint8_t variant_bits = 1;                    // bit i: variants[i] exists
+  std::uint8_t untested_bits = 0;                   // bit i: variants[i] serves no argument beyond its range
+  std::array<variant, 4> shared = variants;         // variants[i] is this one under another name
+  std::array<std::uint8_t, 4> standalone_widths{};  // bit k of [i]: variants[i] is standalone at widths[k]
+
+  parity symmetry{};
+  double symmetric_to = std::numeric_limits<double>::infinity();
+
+  // A conversion's.
+  direction rounding{};
+  bool saturates = false;
+
+  // In OpenCL C, and there after `native_` and `half_`; empty where it has none.
+  std::string_view opencl_name{}, opencl_stem{};
+
+  constexpr std::string_view name() const { return spelling; }
+  constexpr bool has(variant v) const { return variant_bits >> int(v) & 1; }
+
+  // Not to be told from the name alone: erf and modf are double precision.
+  constexpr bool single() const { return sig.result == lane::f32 || sig.arguments[0] == lane::f32; }
+  // Without the f of single precision, where both precisions are one operation.
+  constexpr std::string_view base_name() const {
+    const bool closes = single() && group != family::conversion;
+    return name().substr(0, name().size() - closes);
+  }
+
+  // Whether this form has an algorithm of its own: there a lane may differ from the same lane at another width. All
+  // variants that are standalone at a width are one.
+  constexpr bool is_standalone(int width, variant v) const {
+    for (std::size_t k = 0; k < widths.size(); ++k)
+      if (widths[k] == width) return standalone_widths[std::size_t(v)] >> k & 1;
+    return false;
+  }
+  // The variant whose function this form is.
+  constexpr variant served_by(int width, variant v) const {
+    if (is_standalone(width, v)) {
+      for (auto first : variants)
+        if (is_standalone(width, first)) return first;
+    }
+    const variant other = shared[std::size_t(v)];
+    return is_standalone(width, other) ? v : other;
+  }
+  // Whether the caller must keep to the variant's range: it tests nothing, and nothing is promised beyond.
+  constexpr bool is_unguarded(variant v) const { return untested_bits >> int(v) & 1; }
+};
+
+}  // namespace lanemath
