@@ -6,7 +6,7 @@
 //
 // Largest errors found, in ulp: default 1.003 at 1.3887258134490201 (0x3FF638388EFDFE1C), _native 1.5277e7 at
 // 297.68001428378852 (0x40729AE156A85AF4); rare lanes 0.527 at 307.94691929777167 (0x40733F2694D97E17).
-#include "exp/double.h"
+#include "exp/exponential_double.h"
 
 namespace lanemath {
 namespace {

@@ -6,7 +6,7 @@
 //
 // Largest errors over all inputs, in ulp: default 0.5564 at 36.122993 (0x42107DF2), light form 1304.3 at 37.923073
 // (0x4217B13A); rare lanes 0.5000.
-#include "exp/single.h"
+#include "exp/exponential_single.h"
 
 namespace lanemath {
 namespace {

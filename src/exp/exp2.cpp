@@ -8,7 +8,7 @@
 // Largest errors found, in ulp: default 1.640 at 0.97971836529934375 (0x3FEF59DA54480A58), at width 2 2.597 at
 // -927.02025604914638 (0xC08CF8297C00E50A), _native 1.5276e7 at -728.12831139315711 (0xC086C106C81FAA83); rare lanes
 // 0.757 at -1022.0536042536015 (0xC08FF06DC8112129), where a result next to the denormals is rounded twice.
-#include "exp/double.h"
+#include "exp/exponential_double.h"
 
 namespace lanemath {
 namespace {

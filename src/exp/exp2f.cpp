@@ -8,7 +8,7 @@
 // Largest errors over all inputs, in ulp: frame kernel 1.1017 at -0.4999604 (0xBEFFFACF), light form 1230.3 at
 // -0.02374056 (0xBCC27B90), width 1 0.5069 at -0.0019512158 (0xBAFFBFF0), width 4 2.5548 at -0.06610574 (0xBD876272);
 // rare lanes of the frame's forms 0.5000.
-#include "exp/single.h"
+#include "exp/exponential_single.h"
 
 namespace lanemath {
 namespace {

@@ -6,7 +6,7 @@
 //
 // Largest errors over all inputs, in ulp: default 0.5682 at 78.98359 (0x429DF799), light form 2168.9 at 79.36537
 // (0x429EBB12), _rm 2.9324 at -5.8916383 (0xC0BC884D); rare lanes 0.5000.
-#include "exp/single.h"
+#include "exp/exponential_single.h"
 
 namespace lanemath {
 namespace {

@@ -4,7 +4,7 @@
 // the result, which gives -0 at -0.
 #pragma once
 
-#include "exp/rare.h"
+#include "exp/exponential_rare.h"
 
 namespace lanemath {
 

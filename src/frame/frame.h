@@ -27,7 +27,10 @@
 
 #include "frame/abi.h"
 #include "frame/catalogue.h"
+#include "frame/conversions.h"
+#include "frame/instructions.h"
 #include "frame/lanes.h"
+#include "frame/look_up.h"
 
 #define LANEMATH_RARE [[gnu::noinline]] static status
 

@@ -5,8 +5,8 @@
 // Largest errors, in ulp: asinhf 2.1516 over all inputs, at 0.12490784 (0x3DFFCFAF); its _native 1468, asinhf4 2.278
 // at 1.0060257 (0x3F80C573), in lanes taken one by one 0.744; found: asinh 1.719 at 0.0034127567561980611
 // (0x3F6BF511D506BF76), _native 2.634e5 at 0.00048810854919033417, asinh2 2.278 at -1.0162959016529529.
-#include "hyperbolic/inverse.h"
-#include "hyperbolic/standalone.h"
+#include "hyperbolic/inverse_hyperbolic.h"
+#include "hyperbolic/inverse_hyperbolic_standalone.h"
 
 namespace lanemath {
 namespace {

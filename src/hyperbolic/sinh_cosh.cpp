@@ -4,7 +4,7 @@
 //
 // Largest errors found, in ulp: sinh 2.096 at -0.003830286056463007 (0xBF6F60B12B194269), cosh 1.506 at
 // 8.9910397005529319 (0x4021FB698E3DD330).
-#include "hyperbolic/addition.h"
+#include "hyperbolic/addition_theorems.h"
 #include "tables/hyperbolic.h"
 
 namespace lanemath {

@@ -9,8 +9,8 @@
 // (0x3F736EC0), light 3771.0 at 9.5367432e-07 (0x35800000). Double, searched: 2.6187 at -0.125599668442933
 // (0xBFC013A6622CE850), width 2 4.4058 at 1.00137658360956 (0x3FF005A373D9551C), light 2.165e7 at -0.00048828120987162
 // (0xBF3FFFFFD3E0DD7F).
-#include "invtrig/tangent.h"
-#include "invtrig/tangent_rare.h"
+#include "invtrig/arc_tangent.h"
+#include "invtrig/arc_tangent_rare.h"
 
 namespace lanemath {
 namespace {

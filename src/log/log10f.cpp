@@ -7,8 +7,8 @@
 //
 // Largest errors over all inputs, in ulp: default 0.7703 at 1.0021992 (0x3F804810), light form 995.72 at 1.3333414
 // (0x3FAAAAEE).
-#include "log/rare.h"
-#include "log/single.h"
+#include "log/logarithm_rare.h"
+#include "log/logarithm_single.h"
 
 namespace lanemath {
 namespace {

@@ -3,7 +3,7 @@
 // complete, though the kernels leave it only what is no positive normal number.
 #pragma once
 
-#include "log/rare.h"
+#include "log/logarithm_rare.h"
 
 namespace lanemath {
 

@@ -6,8 +6,8 @@
 //
 // Largest errors over all inputs, in ulp: default, _rm 2.6118 at 1.3336931 (0x3FAAB675), where the exponent and a
 // mantissa below 1 cancel; _native, _half 893.54 at 1.0905029 (0x3F8B9599).
-#include "log/rare.h"
-#include "log/single.h"
+#include "log/logarithm_rare.h"
+#include "log/logarithm_single.h"
 
 namespace lanemath {
 namespace {

@@ -6,8 +6,8 @@
 //
 // Largest errors over all inputs, in ulp: default 1.5337 at 1.8407e-41 (0x00003350), a denormal, and 0.92 elsewhere;
 // _half 3.9647 at 0.88279307 (0x3F61FEBA), _native 1567.7 at 0.77880496 (0x3F475FC3).
-#include "log/rare.h"
-#include "log/single.h"
+#include "log/logarithm_rare.h"
+#include "log/logarithm_single.h"
 
 namespace lanemath {
 namespace {

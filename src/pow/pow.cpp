@@ -6,9 +6,9 @@
 //
 // Largest errors found, in ulp: default 1.441 at 0x3FF002106EADBBEE, 0x4134BCDDFF1FEA85, light form 2.133e9 at
 // 0x3FEFF70466D3353F, 0x4123AF7D856A260E (near 1; 3.8e8 elsewhere); rare lanes 0.5002.
-#include "pow/double.h"
-#include "pow/finite_double.h"
-#include "pow/widened.h"
+#include "pow/power_double.h"
+#include "pow/power_rare_double.h"
+#include "pow/power_widened.h"
 
 namespace lanemath {
 namespace {

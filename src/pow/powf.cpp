@@ -6,9 +6,9 @@
 //
 // Largest errors found, in ulp: default 1.016 at 0x3F7FB84A, 0x47982860, light form 4310 at 0x3FAAB6CF, 0xC394A34C;
 // rare lanes 0.777.
-#include "pow/finite_single.h"
-#include "pow/single.h"
-#include "pow/widened.h"
+#include "pow/power_rare_single.h"
+#include "pow/power_single.h"
+#include "pow/power_widened.h"
 
 namespace lanemath {
 namespace {

@@ -3,9 +3,9 @@
 //
 // Largest errors found, in ulp: default 1.406 at 0x3FF00201EC781287, 1395905, light form 2.148e9 at 0x3FEFF709CBE2DD8D,
 // -647196; rare lanes 0.5001.
-#include "pow/double.h"
-#include "pow/finite_double.h"
-#include "pow/widened.h"
+#include "pow/power_double.h"
+#include "pow/power_rare_double.h"
+#include "pow/power_widened.h"
 
 namespace lanemath {
 namespace {

@@ -7,8 +7,8 @@
 // Largest errors found, in ulp: default 8.173 at 0x3F825649, 4423, and 8015 at 0x3F7AB00F, 4165, where a result next to
 // the normals is below them and the exponent has no room; light form 4951 at 0x3FAAB2E1, -301; rare lanes 1.319 at
 // 0x3F7EAB63, -17011.
-#include "pow/finite_single.h"
-#include "pow/single.h"
+#include "pow/power_rare_single.h"
+#include "pow/power_single.h"
 
 namespace lanemath {
 namespace {

@@ -1,9 +1,9 @@
 // x^y for x >= 0, double precision: the kernels of pow; other special cases.
 //
 // Largest errors: those of pow.
-#include "pow/double.h"
-#include "pow/finite_double.h"
-#include "pow/widened.h"
+#include "pow/power_double.h"
+#include "pow/power_rare_double.h"
+#include "pow/power_widened.h"
 
 namespace lanemath {
 namespace {

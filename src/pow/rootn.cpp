@@ -3,9 +3,9 @@
 //
 // Largest errors found, in ulp: default 1.032 at 0x7BC8C5A8A04AD10C, -3, light form 6.450e7 at 0x3FEFBEB829BC049D,
 // 2040455023; rare lanes 0.5001.
-#include "pow/double.h"
-#include "pow/finite_double.h"
-#include "pow/widened.h"
+#include "pow/power_double.h"
+#include "pow/power_rare_double.h"
+#include "pow/power_widened.h"
 
 namespace lanemath {
 namespace {

@@ -5,8 +5,8 @@
 //
 // Largest errors found, in ulp: default 5.364 at 0x0DB7A1C5, -1, light form 1395 at 0x737FE782, 1; rare
 // lanes 0.547.
-#include "pow/finite_single.h"
-#include "pow/single.h"
+#include "pow/power_rare_single.h"
+#include "pow/power_single.h"
 
 namespace lanemath {
 namespace {

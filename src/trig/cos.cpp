@@ -2,7 +2,7 @@
 // bound of the short reduction is on that difference. Otherwise as the sine.
 //
 // Largest errors found, in ulp: default 3.451 at 7815560.065014678 (0x415DD06204293353), above the bound 0.5018.
-#include "trig/double.h"
+#include "trig/sine_double.h"
 
 namespace lanemath {
 namespace {

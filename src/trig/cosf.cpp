@@ -3,7 +3,7 @@
 //
 // Largest errors, in ulp: default 2.5170 at 116.319756 (0x42E8A3B7) of all inputs; found: light form 2536.1 at
 // -66.12372 (0xC2843F58), above 10000 0.598.
-#include "trig/single.h"
+#include "trig/sine_single.h"
 
 namespace lanemath {
 namespace {

@@ -1,7 +1,7 @@
 // The sine, cosine and tangent of pi x: what they share. Whole turns are taken off without an error.
 #pragma once
 
-#include "trig/kernel.h"
+#include "trig/trigonometric.h"
 
 namespace lanemath {
 

@@ -6,7 +6,7 @@
 //
 // Largest errors found, in ulp: default 3.318 at 16374687.517740631 (0x416F3B73F09154CD), light form 6.143e7; above the
 // bound 0.5021, in the rare routine 0.505.
-#include "trig/double.h"
+#include "trig/sine_double.h"
 
 namespace lanemath {
 namespace {

@@ -2,7 +2,7 @@
 // the side that the sign of the remainder tells. Otherwise as the sine; the large stage starts at 2^23.
 //
 // Largest error found, in ulp: default 3.459 at -6074.160641281205 (0xC0B7BA291FC9792A).
-#include "trig/double.h"
+#include "trig/sine_double.h"
 
 namespace lanemath {
 namespace {

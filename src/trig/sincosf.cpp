@@ -2,7 +2,7 @@
 // the side that the sign of the remainder tells. Otherwise as the sine.
 //
 // Largest errors found, in ulp: default 2.825 at -1.6497488 (0xBFD32AF8), light form 2524.7; above 10000 0.600.
-#include "trig/single.h"
+#include "trig/sine_single.h"
 
 namespace lanemath {
 namespace {

@@ -5,7 +5,7 @@
 //
 // Largest errors, in ulp: default 2.5812 at 290.51978 (0x43914288) of all inputs; found: light form 2524.4 at 8496.282
 // (0x4604C127), above 10000 0.600.
-#include "trig/single.h"
+#include "trig/sine_single.h"
 
 namespace lanemath {
 namespace {

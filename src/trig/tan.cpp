@@ -8,7 +8,7 @@
 // 675691028.0734307 (0x41C4231D0A09662D); light form 1.06e7.
 #include <tuple>
 
-#include "trig/double.h"
+#include "trig/sine_double.h"
 #include "trig/tangent.h"
 
 namespace lanemath {

@@ -7,7 +7,7 @@
 // Largest errors, in ulp: default 3.9438 at 7566.779 (0x45EC763B) of all inputs; found: above 8256 1.472 at
 // 1.6171525e25 (0x6975035F), light form 478 next to a multiple of pi/2, above 8256 5.524, which depends on the
 // processor's estimate.
-#include "trig/single.h"
+#include "trig/sine_single.h"
 #include "trig/tangent.h"
 
 namespace lanemath {

@@ -3,7 +3,7 @@
 
 #include <bit>
 
-#include "trig/kernel.h"
+#include "trig/trigonometric.h"
 
 namespace lanemath {
 

@@ -1,6 +1,10 @@
 // The lane operations that kernels are written in, at every width against the same scalar arithmetic.
 #include "frame/lanes.h"
 
+#include "frame/conversions.h"
+#include "frame/instructions.h"
+#include "frame/look_up.h"
+
 #include <gtest/gtest.h>
 
 #include <array>

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-#include "frame/lanes.h"
+#include "frame/frame.h"
 #include "support/lanes_of.h"
 #include "support/library.h"
 #include "tables/special.h"

@@ -77,7 +77,7 @@ class table_writer {
  public:
   explicit table_writer(std::FILE* to) : to_(to) {
     fmt::print(to_,
-               "// Made by the table generator.\n#pragma once\n\n#include \"frame/lanes.h\"\n\n"
+               "// Made by the table generator.\n#pragma once\n\n#include \"frame/look_up.h\"\n\n"
                "namespace lanemath {{\n");
   }
   ~table_writer() { fmt::print(to_, "\n}}  // namespace lanemath\n"); }

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "frame/double_pair.h"
-#include "pow/special_cases.h"
+#include "pow/power_rare.h"
 #include "tables/pow.h"
 
 namespace lanemath::powers {

@@ -6,9 +6,9 @@
 // From 2^30 on acosh and asinh are the logarithm of x 2^-30 and 31 ln 2: 2 x, that is.
 #pragma once
 
-#include "log/double.h"
-#include "log/rare.h"
-#include "log/single.h"
+#include "log/logarithm_double.h"
+#include "log/logarithm_rare.h"
+#include "log/logarithm_single.h"
 
 namespace lanemath {
 

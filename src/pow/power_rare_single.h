@@ -2,8 +2,8 @@
 // stages of short reciprocals and a cubic, 2^v by a table of 128 pairs and a cubic.
 #pragma once
 
-#include "pow/marks.h"
-#include "pow/special_cases.h"
+#include "pow/power.h"
+#include "pow/power_rare.h"
 #include "tables/pow.h"
 
 namespace lanemath::powers {

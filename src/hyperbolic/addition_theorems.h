@@ -3,7 +3,7 @@
 //   sinh(A + r) = sinh A + (cosh A sinh r + sinh A (cosh r - 1)), and the same with sinh A and cosh A exchanged.
 #pragma once
 
-#include "exp/rare.h"
+#include "exp/exponential_rare.h"
 
 namespace lanemath {
 

@@ -3,7 +3,7 @@
 // table holds the middle term, with q = 9 up to n = 724 and 10 above, so that near 1 no large terms cancel.
 #pragma once
 
-#include "log/common.h"
+#include "log/logarithm.h"
 #include "tables/log.h"
 
 namespace lanemath {

@@ -1,7 +1,7 @@
 // The default double kernel of the powers: log2 x in two parts, the product with the exponent exact in its high part.
 #pragma once
 
-#include "pow/marks.h"
+#include "pow/power.h"
 #include "tables/pow.h"
 
 namespace lanemath {

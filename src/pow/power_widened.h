@@ -2,7 +2,7 @@
 // the double-precision powers.
 #pragma once
 
-#include "pow/marks.h"
+#include "pow/power.h"
 #include "tables/log.h"
 #include "tables/pow.h"
 

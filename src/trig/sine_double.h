@@ -3,8 +3,8 @@
 
 #include <iterator>
 
-#include "trig/kernel.h"
-#include "trig/scalar.h"
+#include "trig/sine_rare.h"
+#include "trig/trigonometric.h"
 
 namespace lanemath {
 

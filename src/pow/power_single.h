@@ -1,7 +1,7 @@
 // The float kernels of the powers: in pairs of floats, and the short one.
 #pragma once
 
-#include "pow/marks.h"
+#include "pow/power.h"
 #include "tables/pow.h"
 
 namespace lanemath {

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-#include "log/common.h"
+#include "log/logarithm.h"
 #include "tables/hyperbolic.h"
 
 namespace lanemath {

@@ -1,8 +1,8 @@
 // What the sine and cosine of single precision share.
 #pragma once
 
-#include "trig/kernel.h"
-#include "trig/scalar.h"
+#include "trig/sine_rare.h"
+#include "trig/trigonometric.h"
 
 namespace lanemath {
 

@@ -9,7 +9,7 @@
 #include <optional>
 
 #include "frame/fields.h"
-#include "log/common.h"
+#include "log/logarithm.h"
 #include "tables/log.h"
 
 namespace lanemath {

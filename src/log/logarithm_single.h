@@ -1,7 +1,7 @@
 // What the single-precision logarithms share.
 #pragma once
 
-#include "log/common.h"
+#include "log/logarithm.h"
 
 namespace lanemath {
 

@@ -1,7 +1,7 @@
 // What the single-precision exponentials share.
 #pragma once
 
-#include "exp/rare.h"
+#include "exp/exponential_rare.h"
 
 namespace lanemath {
 

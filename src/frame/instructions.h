@@ -1,0 +1,153 @@
+// What the processor has an instruction or two for.
+#pragma once
+
+#include "frame/lanes.h"
+#include "frame/operation.h"
+
+namespace lanemath {
+
+// An instruction on every group, or in its scalar form on one lane: that lane's register holds nothing else, so that no
+// other lane is computed on.
+namespace lanes_detail {
+
+template <class T>
+using packed = std::conditional_t<sizeof(T) == 4, __m128, __m128d>;
+
+LANEMATH_INLINE __m128 in_register(float v) { return _mm_set_ss(v); }
+LANEMATH_INLINE __m128d in_register(double v) { return _mm_set_sd(v); }
+
+template <class Packed, class Scalar, class T, int W, class... Rest>
+LANEMATH_INLINE lanes<T, W> instruction(Packed on_group, Scalar on_lane, const lanes<T, W>& first,
+                                        const Rest&... rest) {
+  return map<T>(
+      [&](auto... v) LANEMATH_LAMBDA {
+        if constexpr (W == 1)
+          return T(on_lane(in_register(v)...)[0]);
+        else
+          return std::bit_cast<typename lanes<T, W>::group>(on_group(std::bit_cast<packed<T>>(v)...));
+      },
+      first, rest...);
+}
+
+}  // namespace lanes_detail
+
+// x + y and x * y where two different NaNs may meet: x is the one that survives. Compilers swap the operands of the
+// plain operators as suits their registers.
+#define LANEMATH_IN_ORDER(name, mnemonic)                                        \
+  template <class T, int W>                                                      \
+  LANEMATH_INLINE lanes<T, W> name(const lanes<T, W>& x, const lanes<T, W>& y) { \
+    return map<T>(                                                               \
+        [](auto first, auto second) LANEMATH_LAMBDA {                            \
+          if constexpr (W == 1 && sizeof(T) == 4)                                \
+            asm(mnemonic "ss %1, %0" : "+x"(first) : "x"(second));               \
+          else if constexpr (W == 1)                                             \
+            asm(mnemonic "sd %1, %0" : "+x"(first) : "x"(second));               \
+          else if constexpr (sizeof(T) == 4)                                     \
+            asm(mnemonic "ps %1, %0" : "+x"(first) : "x"(second));               \
+          else                                                                   \
+            asm(mnemonic "pd %1, %0" : "+x"(first) : "x"(second));               \
+          return first;                                                          \
+        },                                                                       \
+        x, y);                                                                   \
+  }
+LANEMATH_IN_ORDER(ordered_sum, "add")
+LANEMATH_IN_ORDER(ordered_product, "mul")
+#undef LANEMATH_IN_ORDER
+
+// MINPS and MAXPS: x < y ? x : y and x > y ? x : y, so that y is the answer to a tie and to a NaN in either.
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> minimum(const lanes<T, W>& x, const std::type_identity_t<lanes<T, W>>& y) {
+  if constexpr (sizeof(T) == 4)
+    return lanes_detail::instruction(_mm_min_ps, _mm_min_ss, x, y);
+  else
+    return lanes_detail::instruction(_mm_min_pd, _mm_min_sd, x, y);
+}
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> maximum(const lanes<T, W>& x, const std::type_identity_t<lanes<T, W>>& y) {
+  if constexpr (sizeof(T) == 4)
+    return lanes_detail::instruction(_mm_max_ps, _mm_max_ss, x, y);
+  else
+    return lanes_detail::instruction(_mm_max_pd, _mm_max_sd, x, y);
+}
+
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> square_root(const lanes<T, W>& x) {
+  if constexpr (sizeof(T) == 4)
+    return lanes_detail::instruction(_mm_sqrt_ps, _mm_sqrt_ss, x);
+  else
+    return lanes_detail::instruction(
+        _mm_sqrt_pd, [](__m128d v) LANEMATH_LAMBDA { return _mm_sqrt_sd(v, v); }, x);
+}
+
+// About 11.5 good bits; which ones differs between processors.
+template <int W>
+LANEMATH_INLINE lanes<float, W> reciprocal_estimate(const lanes<float, W>& x) {
+  return lanes_detail::instruction(_mm_rcp_ps, _mm_rcp_ss, x);
+}
+template <int W>
+LANEMATH_INLINE lanes<float, W> reciprocal_root_estimate(const lanes<float, W>& x) {
+  return lanes_detail::instruction(_mm_rsqrt_ps, _mm_rsqrt_ss, x);
+}
+
+// Rounded to an integral value by the rounding instruction.
+template <direction D, class T, int W>
+LANEMATH_INLINE lanes<T, W> round_to(const lanes<T, W>& x) {
+  if constexpr (sizeof(T) == 4)
+    return lanes_detail::instruction([](__m128 v) LANEMATH_LAMBDA { return _mm_round_ps(v, int(D)); },
+                                     [](__m128 v) LANEMATH_LAMBDA { return _mm_round_ss(v, v, int(D)); }, x);
+  else
+    return lanes_detail::instruction([](__m128d v) LANEMATH_LAMBDA { return _mm_round_pd(v, int(D)); },
+                                     [](__m128d v) LANEMATH_LAMBDA { return _mm_round_sd(v, v, int(D)); }, x);
+}
+
+// The whole product of the lower 32 bits of each lane.
+template <int W>
+LANEMATH_INLINE lanes<std::uint64_t, W> product_of_lower(const lanes<std::uint64_t, W>& a,
+                                                         const lanes<std::uint64_t, W>& b) {
+  return map<std::uint64_t>(
+      [](auto p, auto q) LANEMATH_LAMBDA {
+        if constexpr (W == 1)
+          return std::uint64_t(std::uint32_t(p)) * std::uint32_t(q);
+        else
+          return std::bit_cast<decltype(p)>(_mm_mul_epu32(std::bit_cast<__m128i>(p), std::bit_cast<__m128i>(q)));
+      },
+      a, b);
+}
+
+// Each 64-bit lane shifted left by its own count, from 0 to 63. A lane with another count is unspecified.
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> shifted_left(const lanes<T, W>& v, const lanes<T, W>& count) {
+  static_assert(sizeof(T) == 8);
+  using U = std::make_unsigned_t<T>;
+  return as<T>(map<U>(
+      [](auto a, auto n) LANEMATH_LAMBDA {
+        if constexpr (W == 1) {
+          return a << (n & 63);
+        } else {
+          const auto both = std::bit_cast<__m128i>(a), first = std::bit_cast<__m128i>(n);
+          const auto second = _mm_unpackhi_epi64(first, first);
+          return std::bit_cast<typename lanes<U, W>::group>(
+              _mm_blend_epi16(_mm_sll_epi64(both, first), _mm_sll_epi64(both, second), 0xF0));
+        }
+      },
+      as<U>(v), as<U>(count)));
+}
+
+// Lanes in which either is a NaN.
+template <class T, int W>
+LANEMATH_INLINE auto unordered(const lanes<T, W>& x, const lanes<T, W>& y) {
+  if constexpr (sizeof(T) == 4)
+    return bits(lanes_detail::instruction(_mm_cmpunord_ps, _mm_cmpunord_ss, x, y));
+  else
+    return bits(lanes_detail::instruction(_mm_cmpunord_pd, _mm_cmpunord_sd, x, y));
+}
+
+// Lanes whose magnitude is above a bound, given as a bit pattern (the upper half of it for doubles): infinities and
+// NaNs are among them.
+template <class T, int W>
+LANEMATH_INLINE auto magnitude_above(const lanes<T, W>& x, std::int32_t bound) {
+  // Opaque: a compiler that knows the sign bit to be clear makes two instructions of the comparison.
+  return opaque(top_word(x) & 0x7FFFFFFF) > bound;
+}
+
+}  // namespace lanemath
