@@ -1,4 +1,4 @@
-// Lanes of one type made of another's.
+// Lanes of one type converted to another.
 #pragma once
 
 #include "frame/instructions.h"
@@ -24,7 +24,7 @@ LANEMATH_INLINE auto widen(const lanes<T, W>& v) {
   return result;
 }
 
-// Doubles with these upper halves, and zero below.
+// Doubles with these upper halves and lower halves of zero.
 template <int W>
 LANEMATH_INLINE lanes<double, W> from_upper(const lanes<std::int32_t, W>& v) {
   lanes<double, W> result;
@@ -41,8 +41,8 @@ LANEMATH_INLINE lanes<double, W> from_upper(const lanes<std::int32_t, W>& v) {
   return result;
 }
 
-// Lanes of another type, by value. To integers: in the direction in force, and `truncate` toward zero; what does not
-// fit is 0x80000000. To a narrower floating type: in the direction in force.
+// `convert` rounds in the direction in force, `truncate` toward zero. What does not fit a 32-bit integer becomes
+// 0x80000000.
 namespace lanes_detail {
 
 template <class U, bool Truncate, class T>
@@ -73,8 +73,8 @@ LANEMATH_INLINE lanes<U, W> convert(const lanes<T, W>& v) {
   using from = register_of<T>;
   using to = typename lanes<U, W>::group;
   if constexpr (W == 1) {
-    // The packed instructions where there are any: the scalar ones keep the rest of their destination, and so wait for
-    // what a call before this one left there.
+    // Packed instructions where there are any: a scalar one keeps the rest of its destination, and so waits for
+    // whatever an earlier call left there.
     if constexpr (std::is_integral_v<T>)
       result.g[0] = convert_group<U, Truncate>(_mm_cvtsi32_si128(v.g[0]))[0];
     else if constexpr (std::is_same_v<T, float> && std::is_same_v<U, double>)

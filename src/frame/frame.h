@@ -1,5 +1,5 @@
-// What every exported function shares. An operation says its signature, its kernel and, where it has rare
-// lanes, how they are told and mended; the frame makes the six widths of it.
+// What every exported function shares. An operation says its signature, its kernel and, where it has rare lanes, how
+// they are detected and repaired; the frame makes the six widths of it.
 //
 //   struct expf_standard {
 //     using signature = float(float);
@@ -169,7 +169,7 @@ LANEMATH_INLINE auto in_pieces(F f, const X&... x) {
     return f(x...);
   } else {
     const auto piece_at = [&](int first) LANEMATH_LAMBDA { return f(part<C>(x, first)...); };
-    // Not a loop: a compiler leaves one a loop where the pieces are large.
+    // Not a loop: where the pieces are large, compilers would not unroll it.
     const auto for_each_piece = [&]<int... I>(std::integer_sequence<int, I...>, auto put) LANEMATH_LAMBDA {
       (put(I * C, piece_at(I * C)), ...);
     };
@@ -192,7 +192,7 @@ LANEMATH_INLINE auto in_pieces(F f, const X&... x) {
   }
 }
 
-// How many groups are worth computing side by side before the registers spill.
+// How many groups can be computed side by side before the registers spill.
 template <class Op>
 constexpr int groups_at_once() {
   if constexpr (requires { Op::groups_at_once; })
@@ -201,7 +201,7 @@ constexpr int groups_at_once() {
     return 4;
 }
 
-// Mends the marked lanes of the kernel's result.
+// Repairs the marked lanes of the kernel's result.
 template <class Op, class Y, class M, class... X>
 LANEMATH_INLINE void settle(M rare, Y& y, const X&... x) {
   if (any(rare)) [[unlikely]] {
@@ -223,7 +223,7 @@ template <class Op>
 struct kernel_of {
   LANEMATH_INLINE auto operator()(const auto&... v) const { return Op::kernel(v...); }
 };
-// The result's type is written out: of a deduced one the oldest Clang returns a copy.
+// The result's type is written out: with a deduced one Clang 14 returns a copy.
 template <class Op, int W, int Piece, class... X>
 LANEMATH_INLINE auto evaluate_tested(const X&... x) -> decltype(in_pieces<Piece, W>(kernel_of<Op>(), x...)) {
   decltype(in_pieces<Piece, W>(kernel_of<Op>(), x...)) y = in_pieces<Piece, W>(kernel_of<Op>(), x...);
@@ -237,7 +237,7 @@ LANEMATH_INLINE auto evaluate_tested(const X&... x) -> decltype(in_pieces<Piece,
 
 template <class Op, int W, class... X>
 LANEMATH_INLINE auto evaluate(const X&... x) {
-  // Never less than a group of the narrowest lanes.
+  // At least a group of the narrowest lanes.
   constexpr int piece = std::max(4, groups_at_once<Op>() * 16 / int(border<typename Op::signature>::widest_lane));
   if constexpr (requires { Op::marked_kernel(x...); })
     return evaluate_marked<Op, W, piece>(x...);
@@ -248,7 +248,7 @@ LANEMATH_INLINE auto evaluate(const X&... x) {
 template <std::size_t Index, class T>
 LANEMATH_INLINE lanes<T, 4> with_filler(lanes<T, 4> v) {
   constexpr int per_group = 16 / int(sizeof(T));
-  // A constant of the lane's own type: under -frounding-math the conversion is else made by every call.
+  // A constant of the lane's own type: under -frounding-math every call would convert it.
   constexpr T filler = static_cast<T>(catalogue[Index].filler);
   v.g[3 / per_group][3 % per_group] = filler;
   return v;

@@ -31,8 +31,8 @@ LANEMATH_INLINE lanes<T, W> instruction(Packed on_group, Scalar on_lane, const l
 
 }  // namespace lanes_detail
 
-// x + y and x * y where two different NaNs may meet: x is the one that survives. Compilers swap the operands of the
-// plain operators as suits their registers.
+// x + y and x * y where two different NaNs may meet: x is the one that survives. Of the plain operators compilers swap
+// the operands as they please.
 #define LANEMATH_IN_ORDER(name, mnemonic)                                        \
   template <class T, int W>                                                      \
   LANEMATH_INLINE lanes<T, W> name(const lanes<T, W>& x, const lanes<T, W>& y) { \
@@ -79,7 +79,7 @@ LANEMATH_INLINE lanes<T, W> square_root(const lanes<T, W>& x) {
         _mm_sqrt_pd, [](__m128d v) LANEMATH_LAMBDA { return _mm_sqrt_sd(v, v); }, x);
 }
 
-// About 11.5 good bits; which ones differs between processors.
+// Right to about 11.5 bits; the bits differ between processors.
 template <int W>
 LANEMATH_INLINE lanes<float, W> reciprocal_estimate(const lanes<float, W>& x) {
   return lanes_detail::instruction(_mm_rcp_ps, _mm_rcp_ss, x);
@@ -100,7 +100,7 @@ LANEMATH_INLINE lanes<T, W> round_to(const lanes<T, W>& x) {
                                      [](__m128d v) LANEMATH_LAMBDA { return _mm_round_sd(v, v, int(D)); }, x);
 }
 
-// The whole product of the lower 32 bits of each lane.
+// The 64-bit product of the lower 32 bits of each lane.
 template <int W>
 LANEMATH_INLINE lanes<std::uint64_t, W> product_of_lower(const lanes<std::uint64_t, W>& a,
                                                          const lanes<std::uint64_t, W>& b) {
@@ -143,7 +143,7 @@ LANEMATH_INLINE auto unordered(const lanes<T, W>& x, const lanes<T, W>& y) {
 }
 
 // Lanes whose magnitude is above a bound, given as a bit pattern (the upper half of it for doubles): infinities and
-// NaNs are among them.
+// NaNs are above every finite bound.
 template <class T, int W>
 LANEMATH_INLINE auto magnitude_above(const lanes<T, W>& x, std::int32_t bound) {
   // Opaque: a compiler that knows the sign bit to be clear makes two instructions of the comparison.

@@ -52,7 +52,7 @@ struct lanes {
   }
 };
 
-// f over corresponding groups; the result's lanes are U.
+// Applies f to corresponding groups; the lanes of the result are U.
 template <class U, class F, class T, int W, class... Rest>
 LANEMATH_INLINE lanes<U, W> map(F f, const lanes<T, W>& first, const Rest&... rest) {
   lanes<U, W> result;
@@ -80,7 +80,7 @@ LANEMATH_INLINE auto from_bits(const lanes<T, W>& v) {
 // A constant by its bit pattern: 0x3F000000_f32 is 0.5f.
 constexpr float operator""_f32(unsigned long long v) { return std::bit_cast<float>(std::uint32_t(v)); }
 constexpr double operator""_f64(unsigned long long v) { return std::bit_cast<double>(std::uint64_t(v)); }
-// The same for either precision; T(0.5) in the midst of a kernel is a conversion at run time under -frounding-math.
+// The same for either precision; under -frounding-math T(0.5) inside a kernel would be converted at run time.
 template <class T>
 inline constexpr T zero_v = 0;
 template <class T>
@@ -101,7 +101,7 @@ LANEMATH_INLINE lanes<T, W> wrapping(F f, const lanes<T, W>& a, const lanes<T, W
   }
 }
 
-// Scalar floating comparisons are the instructions that make a mask: what a compiler makes of a < b is a branch.
+// Scalar floating comparisons use the instructions that make a mask: from a < b compilers make a branch.
 template <class T, class F, class Single, class Double, int W>
 LANEMATH_INLINE auto compare(F f, Single single, Double wide, const lanes<T, W>& a, const lanes<T, W>& b) {
   using I = int_of_size<sizeof(T)>;
@@ -205,7 +205,8 @@ LANEMATH_INLINE lanes<std::int32_t, W> lower(const lanes<T, W>& v) {
   return lanes_detail::halves<0>(v);
 }
 
-// The word with the sign and the exponent, or an integer's sign: the whole of a 32-bit lane, the upper half of another.
+// The word with the sign and the exponent, or an integer's sign: the whole of a 32-bit lane, the upper half of a 64-bit
+// one.
 template <class T, int W>
 LANEMATH_INLINE lanes<std::int32_t, W> top_word(const lanes<T, W>& x) {
   if constexpr (sizeof(T) == 4)
@@ -219,7 +220,7 @@ LANEMATH_INLINE lanes<std::int32_t, W> narrow_mask(const lanes<T, W>& mask) {
   return top_word(mask);
 }
 
-// Lanes first .. first + C - 1, whole groups of them; and their way back.
+// Lanes first to first + C - 1, in whole groups, taken out and put back.
 template <int C, class T, int W>
 LANEMATH_INLINE lanes<T, C> part(const lanes<T, W>& v, int first) {
   lanes<T, C> result;

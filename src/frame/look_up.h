@@ -7,7 +7,7 @@
 
 namespace lanemath {
 
-// A table entry of a high and a low part, side by side so that one load brings both.
+// A table entry of a high and a low part, side by side so that one load fetches both.
 template <class T>
 struct two_part {
   T hi, lo;
@@ -86,7 +86,7 @@ LANEMATH_INLINE lanes<T, W> look_up(const T (&table)[Size], const lanes<std::int
   return result;
 }
 
-// An entry of three values in the room of four, so that one load brings them all.
+// An entry of three values in the room of four, so that one load fetches them all.
 template <class T>
 struct alignas(4 * sizeof(T)) triple {
   T first, second, third;
@@ -123,7 +123,7 @@ LANEMATH_INLINE looked_up_triple<lanes<float, W>> look_up(const triple<float> (&
 
 namespace lanes_detail {
 
-// Columns first .. first + Count - 1 of two or four rows, turned into lanes. Count is 2 or 4 of 32 bits, 1 or 2 of 64.
+// Transposes Count columns of two or four rows into lanes. Count is 2 or 4 for 32-bit values, 1 or 2 for 64-bit ones.
 template <std::size_t Count, class T>
 LANEMATH_INLINE void turn_columns(std::array<__m128, Count>& column, const T* a, const T* b, const T* c, const T* d) {
   const auto whole = [](const T* from) LANEMATH_LAMBDA { return _mm_loadu_ps(reinterpret_cast<const float*>(from)); };
@@ -151,8 +151,8 @@ LANEMATH_INLINE void turn_columns(std::array<__m128, Count>& column, const T* a,
 
 }  // namespace lanes_detail
 
-// The columns of the rows at the lanes' indices, which must all be inside the table. Of 32-bit columns there is an
-// even number.
+// The columns of the rows at the lanes' indices, which must all be inside the table. The number of
+// 32-bit columns is even.
 template <class T, std::size_t Size, std::size_t Columns, int W>
 LANEMATH_INLINE std::array<lanes<T, W>, Columns> look_up_row(const T (&table)[Size][Columns],
                                                              const lanes<std::int32_t, W>& index) {

@@ -37,7 +37,7 @@ constexpr auto value_of() {
 template <lane L>
 using type_of = decltype(operation_detail::value_of<L>());
 
-// Lanes that a vector takes the room of.
+// The number of lanes that a vector takes the room of.
 constexpr int padded(int width) { return width == 3 ? 4 : width; }
 
 // How a second result reaches the caller.
@@ -89,7 +89,7 @@ enum class direction : std::uint8_t { nearest = 0, down = 1, up = 2, zero = 3, c
 // f(-x) is -f(x), or f(x), to the last bit.
 enum class parity : std::uint8_t { none, odd, even };
 
-// Arguments that programs pass day by day, away from the rare lanes.
+// Arguments that programs pass every day, away from the rare lanes.
 struct range {
   double low, high;
   bool logarithmic = false;  // every binade as often as another
@@ -121,7 +121,7 @@ struct operation {
   constexpr std::string_view name() const { return spelling; }
   constexpr bool has(variant v) const { return variant_bits >> int(v) & 1; }
 
-  // Not to be told from the name alone: erf and modf are double precision.
+  // The name alone does not tell: erf and modf are double precision.
   constexpr bool single() const { return sig.result == lane::f32 || sig.arguments[0] == lane::f32; }
   // Without the f of single precision, where both precisions are one operation.
   constexpr std::string_view base_name() const {
@@ -145,7 +145,7 @@ struct operation {
     const variant other = shared[std::size_t(v)];
     return is_standalone(width, other) ? v : other;
   }
-  // Whether the caller must keep to the variant's range: it tests nothing, and nothing is promised beyond.
+  // Whether the caller must keep to the variant's range: it tests nothing, and promises nothing outside.
   constexpr bool is_unguarded(variant v) const { return untested_bits >> int(v) & 1; }
 };
 
