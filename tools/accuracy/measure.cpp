@@ -105,6 +105,28 @@ std::uint64_t draw(lane type, const interval& from, bool over_patterns, std::mt1
   return pattern_of(type, std::uniform_real_distribution<double>(from.low, from.high)(random));
 }
 
+// On this core.
+tally measure_here(const operation& o, const reference& r, const harness::function& f, int width,
+                   std::span<const arguments> tuples) {
+  const auto outcomes = harness::evaluate(o, f, width, tuples);
+  tally found;
+  big exact;
+  big_arguments given;
+  for (std::size_t n = 0; n < tuples.size(); ++n) {
+    for (int i = 0; i < o.sig.arity(); ++i)
+      mpfr_set_d(given.v[i], value_of(o.sig.arguments[i], tuples[n][i]), MPFR_RNDN);
+    const auto add = [&](exact_function value, lane type, std::uint64_t got) {
+      value(exact.v, given.v);
+      const auto verdict = judge(type, exact.v, value_of(type, got));
+      found.add(verdict.error, tuples[n], verdict.correct);
+    };
+    add(r.value, o.sig.result, outcomes[n].first);
+    if (r.second) add(r.second, o.sig.second, outcomes[n].second);
+  }
+  mpfr_free_cache2(MPFR_FREE_LOCAL_CACHE);
+  return found;
+}
+
 }  // namespace
 
 judgement judge(lane type, const mpfr_t exact, double got) {
@@ -190,25 +212,12 @@ tally measure(const operation& o, const reference& r, const harness::function& f
               const std::vector<arguments>& inputs) {
   return on_all_cores([&](unsigned part) {
     const std::size_t from = inputs.size() * part / cores(), to = inputs.size() * (part + 1) / cores();
-    const std::span tuples(inputs.data() + from, to - from);
-    const auto outcomes = harness::evaluate(o, f, width, tuples);
-    tally found;
-    big exact;
-    big_arguments given;
-    for (std::size_t n = 0; n < tuples.size(); ++n) {
-      for (int i = 0; i < o.sig.arity(); ++i)
-        mpfr_set_d(given.v[i], value_of(o.sig.arguments[i], tuples[n][i]), MPFR_RNDN);
-      const auto add = [&](exact_function value, lane type, std::uint64_t got) {
-        value(exact.v, given.v);
-        const auto verdict = judge(type, exact.v, value_of(type, got));
-        found.add(verdict.error, tuples[n], verdict.correct);
-      };
-      add(r.value, o.sig.result, outcomes[n].first);
-      if (r.second) add(r.second, o.sig.second, outcomes[n].second);
-    }
-    mpfr_free_cache2(MPFR_FREE_LOCAL_CACHE);
-    return found;
+    return measure_here(o, r, f, width, {inputs.data() + from, to - from});
   });
+}
+
+tally measure_at(const operation& o, const reference& r, const harness::function& f, int width, const arguments& input) {
+  return measure_here(o, r, f, width, std::vector(std::size_t(width), input));
 }
 
 tally measure_all_floats(const reference& r, const harness::function& f, int width,

@@ -7,12 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "accuracy/errors.h"
 #include "accuracy/reference.h"
 #include "harness/harness.h"
 
 namespace lanemath::accuracy {
-
-using harness::arguments;
 
 struct tally {
   double largest_error = -1;  // ulp; infinite for a NaN or a number where the other was due; -1 before any lane
@@ -51,6 +50,8 @@ std::vector<arguments> around_bounds(const operation& o, const reference& r, std
 // The function's largest error over these arguments, by MPFR.
 tally measure(const operation& o, const reference& r, const harness::function& f, int width,
               const std::vector<arguments>& inputs);
+// The same of one tuple, in every lane.
+tally measure_at(const operation& o, const reference& r, const harness::function& f, int width, const arguments& input);
 
 // The function's largest error over all 2^32 floats (three quarters of them at width 3, whose fourth lane is not a
 // result), on all cores. `progress` is told the share that is done.
