@@ -69,7 +69,7 @@ error_record record_in(const std::string& line) {
   if (!field[2].empty()) {
     r.width = number<int>(field[2]);
     for (auto v : r.variants)
-      if (!is_standalone(o.name(), r.width, v)) throw std::runtime_error("not a standalone form");
+      if (own_width(o, v, r.width) != r.width) throw std::runtime_error("not a standalone form");
   }
   r.part = field[3];
   r.error = error_in(field[4]);
@@ -95,13 +95,9 @@ std::string line_of(const error_record& r) {
                      r.anywhere ? text_of_error(*r.anywhere) : "");
 }
 
-bool shares_variant(const error_record& a, const error_record& b) {
-  return std::any_of(a.variants.begin(), a.variants.end(), [&](variant v) {
-    return std::find(b.variants.begin(), b.variants.end(), v) != b.variants.end();
-  });
-}
 bool same_form(const error_record& a, const error_record& b) {
-  return a.index == b.index && a.width == b.width && shares_variant(a, b);
+  return a.index == b.index && a.width == b.width &&
+         std::any_of(a.variants.begin(), a.variants.end(), [&](variant v) { return b.has(v); });
 }
 
 // No form twice, and no part without the whole, whose error is no smaller.
@@ -120,10 +116,12 @@ void check_together(const std::vector<error_record>& records) {
 
 }  // namespace
 
+int own_width(const operation& o, variant v, int width) { return is_standalone(o.name(), width, v) ? width : 0; }
+
+bool error_record::has(variant v) const { return std::find(variants.begin(), variants.end(), v) != variants.end(); }
+
 bool error_record::is_of(const operation& o, variant v, int of_width) const {
-  const int alone = is_standalone(o.name(), of_width, v) ? of_width : 0;
-  return catalogue[index].name() == o.name() && width == alone &&
-         std::find(variants.begin(), variants.end(), v) != variants.end();
+  return catalogue[index].name() == o.name() && width == own_width(o, v, of_width) && has(v);
 }
 
 double error_record::bound() const { return anywhere.value_or(rounded_up(error, 3)); }

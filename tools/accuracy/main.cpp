@@ -43,16 +43,11 @@ class progress_bar {
   std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
 };
 
-std::string input_text(const operation& o, const arguments& input) {
-  std::string text;
-  for (int i = 0; i < o.sig.arity(); ++i) text += (i ? ", " : "") + text_of(o.sig.arguments[i], input[i]);
-  return text;
-}
-
 class report {
  public:
   report(const std::string& csv, std::string record, std::string part)
       : record_(std::move(record)), part_(std::move(part)) {
+    if (!record_.empty()) read_errors(record_);  // a file that cannot serve is told of before the work
     fmt::print("{:<10} {:<8} {:>5} {:<10} {:>10} {:>12}  {}\n", "operation", "variant", "width", "range", "error/ulp",
                "rounded", "at");
     if (csv.empty()) return;
@@ -65,11 +60,11 @@ class report {
     const auto name = v == variant::standard ? "default" : suffix(v);
     const double share = double(t.correctly_rounded) / double(t.lanes);
     fmt::print("{:<10} {:<8} {:>5} {:<10} {:>10.4f} {:>10.4f} %  {}\n", o.name(), name, width, range, t.largest_error,
-               share * 100, input_text(o, t.input));
+               share * 100, text_of(o, t.input));
     std::fflush(stdout);
     if (csv_.is_open()) {
       csv_ << fmt::format("{},{},{},{},{},{},{},\"{}\"\n", o.name(), name, width, range, t.lanes, t.largest_error,
-                          share, input_text(o, t.input));
+                          share, text_of(o, t.input));
       if (!csv_.flush()) throw std::runtime_error("cannot write the CSV file");
     }
     const auto bound = bound_of(o, v, width);
@@ -83,7 +78,7 @@ class report {
       auto records = read_errors(record_);
       merge(records, {.index = index_of(o.name()),
                       .variants = {v},
-                      .width = is_standalone(o.name(), width, v) ? width : 0,
+                      .width = own_width(o, v, width),
                       .part = part_,
                       .error = t.largest_error,
                       .at = t.input,
@@ -135,7 +130,8 @@ int main(int argc, char** argv) try {
                  ->excludes("--exhaustive");
   auto* recording = app.add_option("--record", record, "put errors larger than those in this file of errors into it")
                         ->check(CLI::ExistingFile);
-  app.add_option("--part", part, "of which arguments the recorded errors are, in words (default: all)")->needs(recording);
+  app.add_option("--part", part, "of which arguments the recorded errors are, in words (default: all)")
+      ->needs(recording);
   app.add_option("--csv", csv, "also write the table to this file");
   app.add_option("-l,--library", path, "the library to measure");
   CLI11_PARSE(app, argc, argv);

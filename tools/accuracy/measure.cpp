@@ -161,6 +161,12 @@ std::string text_of(lane type, std::uint64_t pattern) {
                            : fmt::format("{} (0x{:016X})", value_of(type, pattern), pattern);
 }
 
+std::string text_of(const operation& o, const arguments& input) {
+  std::string text;
+  for (int i = 0; i < o.sig.arity(); ++i) text += (i ? ", " : "") + text_of(o.sig.arguments[i], input[i]);
+  return text;
+}
+
 std::vector<arguments> sample(const operation& o, const range& r, std::size_t count, std::uint64_t seed) {
   std::mt19937_64 random(seed);
   std::vector<arguments> all(count);
@@ -216,7 +222,8 @@ tally measure(const operation& o, const reference& r, const harness::function& f
   });
 }
 
-tally measure_at(const operation& o, const reference& r, const harness::function& f, int width, const arguments& input) {
+tally measure_at(const operation& o, const reference& r, const harness::function& f, int width,
+                 const arguments& input) {
   return measure_here(o, r, f, width, std::vector(std::size_t(width), input));
 }
 

@@ -37,8 +37,9 @@ struct judgement {
 // A number of a lane type that was got, against the exact value. One that rounds to infinity is at 2^128 or 2^1024.
 judgement judge(lane type, const mpfr_t exact, double got);
 
-// A value of a lane type as text: the number and its pattern.
+// A value of a lane type as text: the number and its pattern. And of all arguments.
 std::string text_of(lane type, std::uint64_t pattern);
+std::string text_of(const operation& o, const arguments& input);
 
 // Argument tuples drawn from a range, half of them evenly over the values and half over the bit patterns.
 std::vector<arguments> sample(const operation& o, const range& r, std::size_t count, std::uint64_t seed);
