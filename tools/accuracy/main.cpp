@@ -47,7 +47,6 @@ class report {
  public:
   report(const std::string& csv, std::string record, std::string part)
       : record_(std::move(record)), part_(std::move(part)) {
-    if (!record_.empty()) read_errors(record_);  // a file that cannot serve is told of before the work
     fmt::print("{:<10} {:<8} {:>5} {:<10} {:>10} {:>12}  {}\n", "operation", "variant", "width", "range", "error/ulp",
                "rounded", "at");
     if (csv.empty()) return;
@@ -76,16 +75,17 @@ class report {
     }
     if (!record_.empty()) {
       auto records = read_errors(record_);
-      merge(records, {.index = index_of(o.name()),
-                      .variants = {v},
-                      .width = own_width(o, v, width),
-                      .part = part_,
-                      .error = t.largest_error,
-                      .at = t.input,
-                      .search = range == "all"       ? "all inputs"
-                                : range == "a place" ? "directed search"
-                                                     : fmt::format("{} lanes in one range", t.lanes),
-                      .rounded = range == "all" ? std::optional(share * 100) : std::nullopt});
+      merge(records,
+            {.index = index_of(o.name()),
+             .variants = {v},
+             .width = own_width(o, v, width),
+             .part = part_,
+             .error = t.largest_error,
+             .at = t.input,
+             .search = range == "all"                           ? "all inputs"
+                       : range == "a place" || range == "climb" ? "directed search"
+                                                                : fmt::format("{} lanes in one range", t.lanes),
+             .rounded = range == "all" ? std::optional(share * 100) : std::nullopt});
       write_errors(record_, std::move(records));
     }
   }
@@ -110,7 +110,7 @@ int main(int argc, char** argv) try {
   std::string path = LANEMATH_LIBRARY, csv, record, part, place;
   std::size_t samples = 100'000;
   std::uint64_t seed = 1;
-  bool exhaustive = false;
+  bool exhaustive = false, climbing = false;
   app.add_option("operations", operations, "operations to measure, such as expf (default: all that are built)");
   app.add_option("-w,--width", chosen_widths, "widths, separated by commas")
       ->check(CLI::IsMember({1, 2, 3, 4, 8, 16}))
@@ -128,6 +128,8 @@ int main(int argc, char** argv) try {
   app.add_flag("-e,--exhaustive", exhaustive, "all 2^32 inputs of one-argument float operations, instead of ranges");
   auto* at = app.add_option("--at", place, "one place instead of ranges, by bit patterns: \"0x3F7FB84A 0x47982860\"")
                  ->excludes("--exhaustive");
+  app.add_flag("-c,--climb", climbing, "search around the recorded places of all arguments, instead of ranges")
+      ->excludes("--exhaustive", "--at");
   auto* recording = app.add_option("--record", record, "put errors larger than those in this file of errors into it")
                         ->check(CLI::ExistingFile);
   app.add_option("--part", part, "of which arguments the recorded errors are, in words (default: all)")
@@ -142,6 +144,7 @@ int main(int argc, char** argv) try {
     }
 
   const harness::library library(path);
+  const auto records = record.empty() ? recorded_errors() : read_errors(record);
   report table(csv, record, part);
   for (std::size_t index = 0; index < catalogue.size(); ++index) {
     const auto& o = catalogue[index];
@@ -166,6 +169,12 @@ int main(int argc, char** argv) try {
         }
         if (*at) {
           table.add(o, v, width, "a place", measure_at(o, *reference, *f, width, place_in(place, o.sig)));
+          continue;
+        }
+        if (climbing) {
+          for (const auto& line : records)
+            if (line.part.empty() && line.at && line.is_of(o, v, width) && !is_unguarded(o, v))
+              table.add(o, v, width, "climb", climb(o, *reference, *f, width, *line.at, samples, seed));
           continue;
         }
         for (const auto& r : reference->ranges) on(r.name, sample(o, r, samples, seed));

@@ -227,6 +227,25 @@ tally measure_at(const operation& o, const reference& r, const harness::function
   return measure_here(o, r, f, width, std::vector(std::size_t(width), input));
 }
 
+tally climb(const operation& o, const reference& r, const harness::function& f, int width, const arguments& from,
+            std::size_t count, std::uint64_t seed) {
+  constexpr std::size_t rounds = 20;
+  std::mt19937_64 random(seed);
+  tally best = measure_at(o, r, f, width, from);
+  for (std::size_t round = 0; round < rounds; ++round) {
+    std::vector<arguments> around(count / rounds + 1, best.input);
+    for (auto& tuple : around)
+      for (int i = 0; i < o.sig.arity(); ++i) {
+        const lane type = o.sig.arguments[i];
+        const auto distance = std::int64_t(random()) >> (63 - random() % (8 * size_of(type) - 12));
+        tuple[i] = is_floating(type) ? unordered(type, ordered(type, tuple[i]) + distance)
+                                     : std::uint32_t(tuple[i] + std::uint64_t(distance));
+      }
+    best.merge(measure(o, r, f, width, around));
+  }
+  return best;
+}
+
 tally measure_all_floats(const reference& r, const harness::function& f, int width,
                          const std::function<void(double)>& progress) {
   constexpr std::uint64_t block_lanes = 1 << 14, blocks = (std::uint64_t(1) << 32) / block_lanes;

@@ -54,6 +54,11 @@ tally measure(const operation& o, const reference& r, const harness::function& f
 // The same of one tuple, in every lane.
 tally measure_at(const operation& o, const reference& r, const harness::function& f, int width, const arguments& input);
 
+// The largest error that is found from a place on: round after round among tuples around the worst so far, at distances
+// of every size.
+tally climb(const operation& o, const reference& r, const harness::function& f, int width, const arguments& from,
+            std::size_t count, std::uint64_t seed);
+
 // The function's largest error over all 2^32 floats (three quarters of them at width 3, whose fourth lane is not a
 // result), on all cores. `progress` is told the share that is done.
 tally measure_all_floats(const reference& r, const harness::function& f, int width,
