@@ -26,7 +26,7 @@ std::optional<double> bound_anywhere(const error_record& r, const std::vector<er
 }
 
 int check(const harness::library& library) {
-  int wrong = 0;
+  int measured = 0, wrong = 0;
   const auto& records = recorded_errors();
   for (const auto& r : records) {
     if (!r.at) continue;
@@ -38,6 +38,7 @@ int check(const harness::library& library) {
       const auto f = library.find(r.index, v, width);
       if (!reference || !f) throw std::runtime_error(fmt::format("{}: nothing to measure", name));
       const double error = rounded_up(measure_at(o, *reference, *f, width, *r.at).largest_error, 6);
+      ++measured;
       const auto limit = bound_anywhere(r, records);
       if (limit ? error <= *limit : error == r.error) continue;
       fmt::print("{} at {}: {} ulp, recorded {}\n", name, text_of(o, *r.at), text_of_error(error),
@@ -45,7 +46,7 @@ int check(const harness::library& library) {
       ++wrong;
     }
   }
-  fmt::print("{} of {} errors are not what they should be\n", wrong, records.size());
+  fmt::print("{} of {} errors are not what they should be\n", wrong, measured);
   return wrong ? 1 : 0;
 }
 
