@@ -3,9 +3,6 @@
 // Default: x = (n / 128) log10(2) + r; 2^(j/128) from a table, 10^r by a polynomial of degree 5, the power of two added
 // to the exponent field. _native: 2^(x log2(10)) by a polynomial of degree 6 over a whole binade. Rare lanes with a
 // table of high and low parts.
-//
-// Largest errors found, in ulp: default 1.003 at 1.3887258134490201 (0x3FF638388EFDFE1C), _native 1.5277e7 at
-// 297.68001428378852 (0x40729AE156A85AF4); rare lanes 0.527 at 307.94691929777167 (0x40733F2694D97E17).
 #include "exp/exponential_double.h"
 
 namespace lanemath {

@@ -3,11 +3,7 @@
 // Default (but at width 2): x = n / 128 + f; 2^(j/128) from a table, 2^f by a polynomial of degree 4, the power of two
 // added to the exponent field. _native: a polynomial of degree 6 over a whole binade. The default form at width 2 is
 // the default method with its polynomial in halves, the power of two by a multiplication, and a scalar way of its own
-// for large lanes. Rare lanes with a table of high and low parts.
-//
-// Largest errors found, in ulp: default 1.640 at 0.97971836529934375 (0x3FEF59DA54480A58), at width 2 2.597 at
-// -927.02025604914638 (0xC08CF8297C00E50A), _native 1.5276e7 at -728.12831139315711 (0xC086C106C81FAA83); rare lanes
-// 0.757 at -1022.0536042536015 (0xC08FF06DC8112129), where a result next to the denormals is rounded twice.
+// for large lanes. Rare lanes with a table of high and low parts; a result next to the denormals is rounded twice.
 #include "exp/exponential_double.h"
 
 namespace lanemath {

@@ -4,10 +4,6 @@
 // added to the exponent field. Light form (_native, _half): a cubic whose constant term is not 1. The default
 // form at width 1 works in double with a table of 256 entries; at width 4 with a table of 64 entries and a
 // monic quadratic. Rare lanes in double.
-//
-// Largest errors over all inputs, in ulp: frame kernel 1.1017 at -0.4999604 (0xBEFFFACF), light form 1230.3 at
-// -0.02374056 (0xBCC27B90), width 1 0.5069 at -0.0019512158 (0xBAFFBFF0), width 4 2.5548 at -0.06610574 (0xBD876272);
-// rare lanes of the frame's forms 0.5000.
 #include "exp/exponential_single.h"
 
 namespace lanemath {

@@ -3,9 +3,6 @@
 // Default: x = (n / 128) ln 2 + r; 2^(j/128) from a table of high and low parts, e^r by a quadratic, the power
 // of two by a multiplication. Light form (_native, _half): a cubic over a whole binade. _rm: ln 2 in two parts
 // and a quintic, no table. Rare lanes in double.
-//
-// Largest errors over all inputs, in ulp: default 0.5682 at 78.98359 (0x429DF799), light form 2168.9 at 79.36537
-// (0x429EBB12), _rm 2.9324 at -5.8916383 (0xC0BC884D); rare lanes 0.5000.
 #include "exp/exponential_single.h"
 
 namespace lanemath {

@@ -2,9 +2,6 @@
 //
 // Default: 2^(j/128) from a table in two parts, e^r - 1 by a polynomial of degree 5. _native: 2^(j/128) in one part, ln
 // 2 unsplit, e^r - 1 by a cubic. Rare lanes with a table of high and low parts.
-//
-// Largest errors found, in ulp: default 2.962 at 0.0029467151727416438 (0x3F6823B5A9858C82), _native 5.1891e6 at
-// 0.0027076063376553329 (0x3F662E431576251A); rare lanes 0.516 at 709.05212079778755 (0x4086286ABE4F0F83).
 #include "exp/expm1.h"
 
 namespace lanemath {

@@ -2,9 +2,6 @@
 //
 // Default: 2^(j/64) from a table in two parts, e^r - 1 by a cubic. _native: 2^(j/32) in one part, ln 2 unsplit, e^r - 1
 // by a quadratic. Rare lanes in double.
-//
-// Largest errors over all inputs, in ulp: default 1.8016 at 0.02724499 (0x3CDF30E3), _native 283.70 at 0.010830459
-// (0x3C31723D); rare lanes 0.5000.
 #include "exp/expm1.h"
 
 namespace lanemath {

@@ -1,6 +1,6 @@
 // fract: x - floor(x), kept below 1, and floor(x).
 //
-// One rounding: at most 0.5 ulp, but up to 1 where a tiny negative x gives the largest number below 1.
+// One rounding, to the nearest number but where a tiny negative x gives the largest number below 1.
 #include "frame/fields.h"
 
 namespace lanemath {

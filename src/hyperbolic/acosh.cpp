@@ -2,10 +2,7 @@
 // _native has a polish of one term and a shorter logarithm, the double-precision one a shorter logarithm. The forms
 // acoshf4 and acosh2, those of _native too, are by the method in standalone.h.
 //
-// Largest errors, in ulp: acoshf 3.2008 over all inputs, at 1.0069476 (0x3F80E3A9), its _native 2299.7 at 1.0273364
-// (0x3F837FC2), acoshf4 2.135 at 1.5226463, in lanes taken one by one 0.611; found: acosh 4.351 at 1.0000073967340752
-// (0x3FF00007C18BB1F9), _native 2.634e5 at 1.0000001191245584, acosh2 2.185 at 1.5309116883133218. v has no second
-// part: that shows where the logarithm is least exact, just below 2^-8.
+// v has no second part: that shows where the logarithm is least exact, just below 2^-8.
 #include "hyperbolic/inverse_hyperbolic.h"
 #include "hyperbolic/inverse_hyperbolic_standalone.h"
 

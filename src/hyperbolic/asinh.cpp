@@ -1,10 +1,6 @@
 // asinh x, both precisions, by the method in inverse.h: v = |x| + T with T = sqrt(1 + x^2) - 1, from x^2 in two parts.
 // Near 0 the root is a series instead. _native has a shorter logarithm. The forms asinhf4 and asinh2, those of _native
 // too, are by the method in standalone.h.
-//
-// Largest errors, in ulp: asinhf 2.1516 over all inputs, at 0.12490784 (0x3DFFCFAF); its _native 1468, asinhf4 2.278
-// at 1.0060257 (0x3F80C573), in lanes taken one by one 0.744; found: asinh 1.719 at 0.0034127567561980611
-// (0x3F6BF511D506BF76), _native 2.634e5 at 0.00048810854919033417, asinh2 2.278 at -1.0162959016529529.
 #include "hyperbolic/inverse_hyperbolic.h"
 #include "hyperbolic/inverse_hyperbolic_standalone.h"
 

@@ -2,10 +2,6 @@
 //
 // Below 1/2 in magnitude pi/2 - x - x Q(x²), above it 2 sqrt(h) (1 + Q(h)) with h = (1 - |x|) / 2, or pi less that.
 // Light form (_native): a shorter polynomial; in double the root from a float estimate. Beyond 1 a NaN.
-//
-// Largest errors in ulp, all floats from 2^-20 up: 1.2381 at -0.5008808 (0xBF0039B9), light 532.47 at 0.99996954
-// (0x3F7FFE01). Double, searched: 1.3086 at 0.607183553605457 (0x3FE36E0C342CF1A7), light 4.848e6 at 0.96971885778931
-// (0x3FEF07EFD790A040).
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {

@@ -2,10 +2,6 @@
 //
 // As the arc cosine, with the polynomial of the arc sine divided by pi; 1/pi is added to it. Light form (_native): a
 // shorter polynomial; in double the root from a float estimate. At 1 and -1 exact, beyond a NaN.
-//
-// Largest errors in ulp, all floats from 2^-20 up: 2.4572 at 0.92644137 (0x3F6D2B43), light 531.57 at 0.99992514
-// (0x3F7FFB18). Double, searched: 2.2871 at 0.980978167728805 (0x3FEF642C538F86EC), light 4.560e6 at 0.981006547746789
-// (0x3FEF6467D7F77F8B).
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {

@@ -2,10 +2,6 @@
 //
 // Below 1/2 in magnitude x + x Q(x²), above it pi/2 - 2 sqrt(h) (1 + Q(h)) with h = (1 - |x|) / 2: no table, no branch.
 // Light form (_native): a shorter polynomial; in double the root from a float estimate. Beyond 1 a NaN.
-//
-// Largest errors in ulp, all floats from 2^-20 up: 2.2742 at 0.50152457 (0x3F0063EA), light 535.23 at 0.5000008
-// (0x3F00000D). Double, searched: 2.1621 at 0.507588837896067 (0x3FE03E2AF252810B), light 4.740e6 at -0.5000000092553
-// (0xBFE0000004F809CB).
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {

@@ -2,10 +2,6 @@
 //
 // As the arc sine, with a polynomial of its own; 1/pi is applied in the outer sum. Light form (_native): a shorter
 // polynomial that has 1/pi in it; in double the root from a float estimate. At 1 and -1 exact, beyond a NaN.
-//
-// Largest errors in ulp, all floats from 2^-20 up: 3.2077 at 0.7000836 (0x3F3338AE), light 681.04 at 0.5000004
-// (0x3F000007). Double, searched: 3.0146 at -0.692183965536609 (0xBFE6265F07963AC2), light 6.035e6 at -0.5000000147992
-// (0xBFE0000007F1FD68).
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {

@@ -4,11 +4,6 @@
 // and 1 by the larger, with coefficients of its own. Double: atan(c) from a table of quarters below 7.875 and
 // atan((|x| - c) / (1 + |x| c)) by a short polynomial; at width 2 a long polynomial and no table. Light form (_native):
 // an estimated reciprocal, which fails at infinity alone.
-//
-// Largest errors in ulp, all floats from 2^-20 to 2^20: 2.8115 at 1.0060743 (0x3F80C70B), width 4 3.7520 at 0.95090866
-// (0x3F736EC0), light 3771.0 at 9.5367432e-07 (0x35800000). Double, searched: 2.6187 at -0.125599668442933
-// (0xBFC013A6622CE850), width 2 4.4058 at 1.00137658360956 (0x3FF005A373D9551C), light 2.165e7 at -0.00048828120987162
-// (0xBF3FFFFFD3E0DD7F).
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"
 

@@ -2,10 +2,6 @@
 //
 // As the angle in radians, with the polynomials of the arc tangent divided by pi and an estimated reciprocal, corrected
 // once, in the default double form twice. Light form (_native): a shorter polynomial.
-//
-// Largest errors in ulp, searched: float 5.1199 at (-1.4276179e-06, 5.9768219e-05), light 3774.2 at (4.9900286e-06,
-// 0.013013597); double 4.3560 at (-5.9712781422362005e-05, 6.0949581827809614e-05), light 2.179e7 at
-// (-168.77989988836865, 440128.12895473349).
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"
 

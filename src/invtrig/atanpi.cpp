@@ -3,10 +3,6 @@
 // t = |x|, or -1 by |x| above 1, where 0.5 is added; a polynomial on [-1, 1] with 1/pi in it. The reciprocal is an
 // estimate with a correction but for the default double form, which divides. Light form (_native): a shorter
 // polynomial.
-//
-// Largest errors in ulp, all floats from 2^-20 to 2^20: 3.6072 at 0.99697936 (0x3F7F3A0A), light 3773.1 at
-// 0.00038349515 (0x39C90FD9). Double, searched: 3.2661 at 0.988375435798731 (0x3FEFA0C5859D9C06), light 2.178e7 at
-// -0.000383495209267511 (0xBF3921FB61C93882).
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"
 

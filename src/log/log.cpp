@@ -1,7 +1,4 @@
 // ln x, double precision, by the method in double.h. _native takes g in one part and drops two powers of z.
-//
-// Largest errors found, in ulp: default 1.549 at 0.16272232435971046 (0x3FC4D415CABA1EA8), _native 2.095e6 at
-// 0.9990239148616975 (0x3FEFF80100481796); denormals 0.5000.
 #include "log/logarithm_double.h"
 #include "log/logarithm_rare.h"
 

@@ -1,7 +1,4 @@
 // log10 x, double precision, by the method in double.h. _native takes g in one part and drops two powers of z.
-//
-// Largest errors found, in ulp: default 2.059 at 1.0004979673362322 (0x3FF0020A2816C70A), _native 2.919e6 at
-// 0.998901517876654 (0x3FEFF70050E68F44); denormals 0.5000.
 #include "log/logarithm_double.h"
 #include "log/logarithm_rare.h"
 

@@ -4,9 +4,6 @@
 // exactly; log10 x from the raw biased exponent, a table of log10(R / n) that has the bias taken off, and a cubic in t,
 // whose first term is t. Light form (_native, _half): x = 2^k (1 + r), 1 + r from 2/3 to 4/3, and a polynomial of
 // degree 5. Rare lanes: zeros, denormals, negative values, infinities and NaNs.
-//
-// Largest errors over all inputs, in ulp: default 0.7703 at 1.0021992 (0x3F804810), light form 995.72 at 1.3333414
-// (0x3FAAAAEE).
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"
 

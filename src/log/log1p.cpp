@@ -4,10 +4,6 @@
 // unless x is tiny, so that the mantissa g of w times n, an integer near 1 / g, is exact; ln(1 + x) from the raw biased
 // exponent, a table of -ln n that has the bias taken off, and a short polynomial in z = (w + l) n 2^j - 1. _native: the
 // light logarithm of w with l added to its residual. The sign of x is put on the result, for -0.
-//
-// Largest errors in ulp. log1pf, over all inputs: 0.574 in the kernel, 1.0000 at 9.457452e+37 (0x7E8E4CC8), a rare
-// lane; _native 1567.7 at -0.22119504 (0xBE6280F4). log1p, in tens of millions of lanes: 0.7436 at
-// -0.0009744220158187591 (0xBF4FEE0B586077C5), rare lanes 0.5000; _native 2.09e6.
 #include "log/logarithm_double.h"
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"

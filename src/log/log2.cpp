@@ -2,9 +2,7 @@
 //
 // The default form at width 2 is another: m in [1, 2) is compared with the nearest 128th, whose reciprocal and
 // logarithm stand in a table, and it settles every special lane itself.
-//
-// Largest errors found, in ulp: default 2.076 at 1.0005215431612915 (0x3FF00222E0AD23A2), width 2 1.793 at
-// 0.9980394037335515 (0x3FEFEFF054E4F54D), _native 2.424e6 at 0.998901517876654 (0x3FEFF70050E68F44); denormals 0.504.
+#include "log/logarithm_double.h"
 #include "log/log2_rare.h"
 #include "log/logarithm_double.h"
 

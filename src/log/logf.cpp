@@ -3,9 +3,6 @@
 // x = 2^k (1 + r), 1 + r from 2/3 to 4/3; ln(1 + r) = r + q(r) r^2, q of degree 8 (default, _rm), 6 (_half) or 3
 // (_native); ln 2 in two parts in the default form. No table. Rare lanes: zeros, denormals, negative values, infinities
 // and NaNs.
-//
-// Largest errors over all inputs, in ulp: default 1.5337 at 1.8407e-41 (0x00003350), a denormal, and 0.92 elsewhere;
-// _half 3.9647 at 0.88279307 (0x3F61FEBA), _native 1567.7 at 0.77880496 (0x3F475FC3).
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"
 

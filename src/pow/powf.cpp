@@ -3,9 +3,6 @@
 // Default: y ln x in double, by a table of logarithms for every integer reciprocal and a cubic; e^s by a table of 2048
 // entries and a chord; one rounding to float, which makes infinities and denormals as well. Light form (_native, _rm):
 // polynomials in single floats. Rare lanes in pairs of floats.
-//
-// Largest errors found, in ulp: default 1.016 at 0x3F7FB84A, 0x47982860, light form 4310 at 0x3FAAB6CF, 0xC394A34C;
-// rare lanes 0.777.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"
 #include "pow/power_widened.h"

@@ -1,8 +1,5 @@
 // x^n for an integer n, double precision: the kernels of pow on the magnitude of x; n is exact as a double. Rare lanes
 // in pairs of doubles.
-//
-// Largest errors found, in ulp: default 1.406 at 0x3FF00201EC781287, 1395905, light form 2.148e9 at 0x3FEFF709CBE2DD8D,
-// -647196; rare lanes 0.5001.
 #include "pow/power_double.h"
 #include "pow/power_rare_double.h"
 #include "pow/power_widened.h"

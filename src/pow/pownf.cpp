@@ -2,11 +2,8 @@
 //
 // Default: the kernel of powrf on the magnitude of x, with the bits of n that a float cannot hold in the exponent's
 // low part. Light form (_native): polynomials in single floats. Neither has 1 as its constant term, so that x^0 and
-// 1^n are next to 1 and not 1. Rare lanes in pairs of floats.
-//
-// Largest errors found, in ulp: default 8.173 at 0x3F825649, 4423, and 8015 at 0x3F7AB00F, 4165, where a result next to
-// the normals is below them and the exponent has no room; light form 4951 at 0x3FAAB2E1, -301; rare lanes 1.319 at
-// 0x3F7EAB63, -17011.
+// 1^n are next to 1 and not 1. Where a result next to the normals is below them the exponent has no room. Rare lanes in
+// pairs of floats.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"
 

@@ -2,8 +2,6 @@
 //
 // Default: ln x in two floats, by a table of 65 short reciprocals and a cubic; the product with y in two parts; e^r by
 // a quintic. Light form (_native, _half): that of powf. Rare lanes in pairs of floats.
-//
-// Largest errors found, in ulp: default 6.970 at 0x3F7BAD2B, 0xC556D803, light form that of powf; rare lanes 1.222.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"
 

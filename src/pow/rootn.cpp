@@ -1,8 +1,5 @@
 // The n-th root of x, x^(1/n), double precision: the kernels of pow on the magnitude of x, with 1/n in two parts; the
 // light form (_native) takes 1/n in one. Rare lanes in pairs of doubles.
-//
-// Largest errors found, in ulp: default 1.032 at 0x7BC8C5A8A04AD10C, -3, light form 6.450e7 at 0x3FEFBEB829BC049D,
-// 2040455023; rare lanes 0.5001.
 #include "pow/power_double.h"
 #include "pow/power_rare_double.h"
 #include "pow/power_widened.h"

@@ -5,10 +5,6 @@
 // series of (1 + r)^(1/3) or (1 + r)^(-1/3). The quotient becomes a power of two, which also carries the sign. In
 // single precision the entries have a low part; the light forms do without it and keep one term of four. In double the
 // light forms keep five terms of seven. Zeros, denormals, infinities and NaNs are rare.
-//
-// Largest errors found, in ulp: of three binades whole, cbrtf 0.5140 at 4.6294818 (0x409424B7), _native 355.8 at 4;
-// rcbrtf 0.5143 at 1.1247123 (0x3F8FF693), _native 888.7 at 1.0000027; in samples, cbrt 1.097 at
-// -2.349179977752495e-53, _native 2265; rcbrt 1.010, _native 13370 at 1.0000000000000067.
 #include "roots/roots.h"
 #include "tables/roots.h"
 

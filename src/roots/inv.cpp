@@ -4,9 +4,6 @@
 // it is. Light form in double: the estimate for the significand, moved into a double's layout with the exponent taken
 // out by integer arithmetic, then one step of third order. It has no test: infinities,
 // denormals and denormal results get what that arithmetic gives; zeros and NaNs come out right.
-//
-// Largest errors found, in ulp: invf light form 4762.3 at 1.2360482e-38 (0x008697FF), of all inputs; inv_native 2.326e5
-// at 1.7390503141272306e-11.
 #include "roots/reciprocal.h"
 
 namespace lanemath {

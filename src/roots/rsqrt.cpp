@@ -5,10 +5,6 @@
 // is that of a float made of the significand and the exponent's parity, its power of two is made by integer arithmetic,
 // and the default form computes the residual with x in two parts. Rare lanes in double, from a table of seeds, the
 // result as a high and a low part.
-//
-// Largest errors found, in ulp: rsqrtf 0.9784 at 2.0370167e-37 (0x028AA1D6), its light form 2.6216 at 1.2004782e-38
-// (0x0082B873), both of all inputs; rsqrt 0.5276 at 0.00024533377220191735, its light form 2.725e5 at
-// 17841259288936.97, in samples; rare lanes 0.5000.
 #include "roots/roots.h"
 #include "tables/roots.h"
 

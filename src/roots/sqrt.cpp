@@ -5,8 +5,6 @@
 // either sign +infinity; in double the estimate is that of x narrowed to float, so that what lies beyond a float's
 // range gives 0 or an infinity. _half hands such lanes to a scalar routine: a seed from a table, three rounds of a
 // coupled iteration for root and half of the reciprocal root, and a last step by the exact residual, in double.
-//
-// Largest errors found, in ulp: sqrtf_half 4156.4 at 4.400642e-38 (0x016F97FF), of all inputs; sqrt_native 2.23e12.
 #include "roots/roots.h"
 #include "tables/roots.h"
 

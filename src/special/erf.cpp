@@ -3,10 +3,6 @@
 // Value and slope at the nearest point m of a grid of 1/128, and an expansion in d = |x| - m. From the last point on
 // the result is 1. _native: one term (erff) or three (erf) fewer. There are no rare lanes: a NaN gets through as the
 // second operand of a minimum.
-//
-// Largest errors found, in ulp: erff 1.9286 at 0.00344431098 (0x3B61B9F3), _native 276.90 at 0.0273437668 (0x3CE00009);
-// erf 2.5435 at 0.003906637648786692 (0x3F7000680F05934C), _native 3.1467e5 at 0.0034618374216548501
-// (0x3F6C5BFFD0528C0B).
 #include "special/erf_grid.h"
 
 namespace lanemath::special {

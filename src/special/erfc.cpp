@@ -6,9 +6,6 @@
 // grid of half as many points and a shorter expansion.
 //
 // Rare lanes: where the result rounds to zero, and NaNs.
-//
-// Largest errors found, in ulp: erfcf 1.7630 at 8.92956543 (0x410EDF80), _native 404.45 at 8.45312119 (0x41073FFC);
-// erfc 2.0071 at 24.167927708334503 (0x40382AFD4F6F6390), _native 6.758e6 at 20.117178701732328 (0x40341DFF6C63BA64).
 #include "special/erf_grid.h"
 
 namespace lanemath::special {

@@ -4,8 +4,6 @@
 // interval's or an octave's polynomial upward of 0.875, Stirling's formula from 512 on, walked up below, reflected
 // below -17, and expansions about the 26 zeros between -15 and -2. From 2.25 on the polynomials are products of
 // quadratics.
-//
-// Largest error found: 0.5086 ulp at -2.5049127049203537 (0xC0040A0FAC17BE17).
 #include "special/gamma.h"
 
 namespace lanemath::special {

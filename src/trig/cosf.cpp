@@ -1,8 +1,5 @@
 // cos x, single precision: the sine of x + pi/2, with half a multiple of pi taken off instead of a whole one, so that x
 // itself is reduced. Otherwise as the sine.
-//
-// Largest errors, in ulp: default 2.5170 at 116.319756 (0x42E8A3B7) of all inputs; found: light form 2536.1 at
-// -66.12372 (0xC2843F58), above 10000 0.598.
 #include "trig/sine_single.h"
 
 namespace lanemath {

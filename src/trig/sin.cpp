@@ -3,9 +3,6 @@
 // x = N pi + r, pi in four pieces, and an odd polynomial of degree 15; the light form has three pieces and degree 9.
 // Above 2^24 the default form reduces by a window of 1 / (2 pi), 512 steps in a turn and a table; the light form leaves
 // those lanes to the rare routine.
-//
-// Largest errors found, in ulp: default 3.318 at 16374687.517740631 (0x416F3B73F09154CD), light form 6.143e7; above the
-// bound 0.5021, in the rare routine 0.505.
 #include "trig/sine_double.h"
 
 namespace lanemath {

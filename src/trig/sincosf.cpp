@@ -1,7 +1,5 @@
 // sin x and cos x, single precision. One multiple of pi serves both: the cosine's differs from the sine's by a half, on
 // the side that the sign of the remainder tells. Otherwise as the sine.
-//
-// Largest errors found, in ulp: default 2.825 at -1.6497488 (0xBFD32AF8), light form 2524.7; above 10000 0.600.
 #include "trig/sine_single.h"
 
 namespace lanemath {

@@ -2,9 +2,6 @@
 //
 // x = N pi + r, pi in pieces (four, in the light form three), and an odd polynomial of r. Above 10000 the reduction by
 // a window of 1 / (2 pi), 256 steps in a turn and a table.
-//
-// Largest errors, in ulp: default 2.5812 at 290.51978 (0x43914288) of all inputs; found: light form 2524.4 at 8496.282
-// (0x4604C127), above 10000 0.600.
 #include "trig/sine_single.h"
 
 namespace lanemath {

@@ -3,10 +3,6 @@
 // Default: the argument's turn is cut into 128 steps without an error; a step's sine in two parts and short polynomials
 // for the rest d. Of the slope, pi times the step's cosine, a power of two is taken off: its product with d is exact.
 // Light forms: one polynomial up to 1/2.
-//
-// Largest errors found, in ulp: sinpi 0.921 at -9.116941154161804e-06 (0xBEE31E9ED9E1489F), cospi 0.919 at
-// 0.5001540867957999 (0x3FE0014324B7F566), sinpif 1.0577 at 0.004969963 (0x3BA2DB12), cospif 1.0424 at 2.4993877
-// (0x401FF5F8), both of all inputs; light forms 4.79e7 and 1816.3.
 #include <iterator>
 
 #include "trig/pi_scaled.h"

@@ -3,9 +3,6 @@
 // x = N pi/2 + r, pi/2 in four pieces and r in two parts, and an odd polynomial; in odd quadrants the negative
 // reciprocal. Above 2^20 the reduction by a window of 1 / (2 pi), to quarters of a turn. Light form: r in one part,
 // fewer terms.
-//
-// Largest errors found, in ulp: default 1.105 at -2.4032650335019774 (0xC00339E304941738), above 2^20 1.210 at
-// 675691028.0734307 (0x41C4231D0A09662D); light form 1.06e7.
 #include <tuple>
 
 #include "trig/sine_double.h"

@@ -3,10 +3,6 @@
 // x = N pi/2 + r, pi/2 in pieces (four, in the light form three), and a quotient of two polynomials, upside down in odd
 // quadrants. Above 8256 the reduction by a window of 1 / (2 pi) and a table of 128 steps in half a turn: next to the
 // pole the pole's term apart, by a reciprocal.
-//
-// Largest errors, in ulp: default 3.9438 at 7566.779 (0x45EC763B) of all inputs; found: above 8256 1.472 at
-// 1.6171525e25 (0x6975035F), light form 478 next to a multiple of pi/2, above 8256 5.524, which depends on the
-// processor's estimate.
 #include "trig/sine_single.h"
 #include "trig/tangent.h"
 

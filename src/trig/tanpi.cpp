@@ -2,9 +2,6 @@
 //
 // A distance r of at most 1/4 to a multiple of 1/2; 4 r, which is exact, an odd polynomial for the rest; next to the
 // poles the reciprocal of that. Light forms: one part, fewer terms.
-//
-// Largest errors found, in ulp: tanpi 1.110 at -0.23708141087026724 (0xBFCE58AF0516B2F8), tanpif 1.254 at 9.236519
-// (0x4113C898); light forms 1.06e7 and 741.4.
 #include "trig/pi_scaled.h"
 #include "trig/tangent.h"
 

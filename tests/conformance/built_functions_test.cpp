@@ -3,8 +3,8 @@
 
 #include <filesystem>
 
+#include "accuracy/errors.h"
 #include "accuracy/measure.h"
-#include "frame/error_bounds.h"
 #include "support/lanes_of.h"
 #include "support/library.h"
 

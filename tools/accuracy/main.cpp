@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "accuracy/errors.h"
 #include "accuracy/measure.h"
-#include "frame/error_bounds.h"
 
 namespace {
 
@@ -43,15 +43,10 @@ class progress_bar {
   std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
 };
 
-std::string input_text(const operation& o, const arguments& input) {
-  std::string text;
-  for (int i = 0; i < o.sig.arity(); ++i) text += (i ? ", " : "") + text_of(o.sig.arguments[i], input[i]);
-  return text;
-}
-
 class report {
  public:
-  explicit report(const std::string& csv) {
+  report(const std::string& csv, std::string record, std::string part)
+      : record_(std::move(record)), part_(std::move(part)) {
     fmt::print("{:<10} {:<8} {:>5} {:<10} {:>10} {:>12}  {}\n", "operation", "variant", "width", "range", "error/ulp",
                "rounded", "at");
     if (csv.empty()) return;
@@ -64,23 +59,40 @@ class report {
     const auto name = v == variant::standard ? "default" : suffix(v);
     const double share = double(t.correctly_rounded) / double(t.lanes);
     fmt::print("{:<10} {:<8} {:>5} {:<10} {:>10.4f} {:>10.4f} %  {}\n", o.name(), name, width, range, t.largest_error,
-               share * 100, input_text(o, t.input));
+               share * 100, text_of(o, t.input));
     std::fflush(stdout);
     if (csv_.is_open()) {
       csv_ << fmt::format("{},{},{},{},{},{},{},\"{}\"\n", o.name(), name, width, range, t.lanes, t.largest_error,
-                          share, input_text(o, t.input));
+                          share, text_of(o, t.input));
       if (!csv_.flush()) throw std::runtime_error("cannot write the CSV file");
     }
     const auto bound = bound_of(o, v, width);
     const bool anything = range == "bounds" || range == "patterns" || range == "all";
-    if (bound && t.largest_error > *bound && !(anything && o.is_unguarded(v))) {
+    if (anything && o.is_unguarded(v)) return;
+    if (bound && t.largest_error > *bound) {
       fmt::print("  above the stated bound of {} ulp\n", *bound);
       within_bounds_ = false;
+    }
+    if (!record_.empty()) {
+      auto records = read_errors(record_);
+      merge(records,
+            {.index = index_of(o.name()),
+             .variants = {v},
+             .width = own_width(o, v, width),
+             .part = part_,
+             .error = t.largest_error,
+             .at = t.input,
+             .search = range == "all"                           ? "all inputs"
+                       : range == "a place" || range == "climb" ? "directed search"
+                                                                : fmt::format("{} lanes in one range", t.lanes),
+             .rounded = range == "all" ? std::optional(share * 100) : std::nullopt});
+      write_errors(record_, std::move(records));
     }
   }
   bool within_bounds() const { return within_bounds_; }
 
  private:
+  std::string record_, part_;
   std::ofstream csv_;
   bool within_bounds_ = true;
 };
@@ -95,10 +107,10 @@ int main(int argc, char** argv) try {
   CLI::App app{"Error in units in the last place of lanemath's functions, against MPFR."};
   std::vector<std::string> operations, names, ranges;
   std::vector<int> chosen_widths;
-  std::string path = LANEMATH_LIBRARY, csv;
+  std::string path = LANEMATH_LIBRARY, csv, record, part, place;
   std::size_t samples = 100'000;
   std::uint64_t seed = 1;
-  bool exhaustive = false;
+  bool exhaustive = false, climbing = false;
   app.add_option("operations", operations, "operations to measure, such as expf (default: all that are built)");
   app.add_option("-w,--width", chosen_widths, "widths, separated by commas")
       ->check(CLI::IsMember({1, 2, 3, 4, 8, 16}))
@@ -114,6 +126,14 @@ int main(int argc, char** argv) try {
   app.add_option("-n,--samples", samples, "lanes per range")->check(CLI::PositiveNumber)->capture_default_str();
   app.add_option("-s,--seed", seed, "of the random numbers")->capture_default_str();
   app.add_flag("-e,--exhaustive", exhaustive, "all 2^32 inputs of one-argument float operations, instead of ranges");
+  auto* at = app.add_option("--at", place, "one place instead of ranges, by bit patterns: \"0x3F7FB84A 0x47982860\"")
+                 ->excludes("--exhaustive");
+  app.add_flag("-c,--climb", climbing, "search around the recorded places of all arguments, instead of ranges")
+      ->excludes("--exhaustive", "--at");
+  auto* recording = app.add_option("--record", record, "put errors larger than those in this file of errors into it")
+                        ->check(CLI::ExistingFile);
+  app.add_option("--part", part, "of which arguments the recorded errors are, in words (default: all)")
+      ->needs(recording);
   app.add_option("--csv", csv, "also write the table to this file");
   app.add_option("-l,--library", path, "the library to measure");
   CLI11_PARSE(app, argc, argv);
@@ -124,7 +144,8 @@ int main(int argc, char** argv) try {
     }
 
   const harness::library library(path);
-  report table(csv);
+  const auto records = record.empty() ? recorded_errors() : read_errors(record);
+  report table(csv, record, part);
   for (std::size_t index = 0; index < catalogue.size(); ++index) {
     const auto& o = catalogue[index];
     const auto* reference = find_reference(o);
@@ -144,6 +165,16 @@ int main(int argc, char** argv) try {
           const auto found = measure_all_floats(*reference, *f, width, [&](double share) { bar.show(share); });
           bar.clear();
           table.add(o, v, width, "all", found);
+          continue;
+        }
+        if (*at) {
+          table.add(o, v, width, "a place", measure_at(o, *reference, *f, width, place_in(place, o.sig)));
+          continue;
+        }
+        if (climbing) {
+          for (const auto& line : records)
+            if (line.part.empty() && line.at && line.is_of(o, v, width) && !o.is_unguarded(v))
+              table.add(o, v, width, "climb", climb(o, *reference, *f, width, *line.at, samples, seed));
           continue;
         }
         for (const auto& r : reference->ranges) on(r.name, sample(o, r, samples, seed));

@@ -103,6 +103,28 @@ std::uint64_t draw(lane type, const interval& from, bool over_patterns, std::mt1
   return pattern_of(type, std::uniform_real_distribution<double>(from.low, from.high)(random));
 }
 
+// On this core.
+tally measure_here(const operation& o, const reference& r, const harness::function& f, int width,
+                   std::span<const arguments> tuples) {
+  const auto outcomes = harness::evaluate(o, f, width, tuples);
+  tally found;
+  big exact;
+  big_arguments given;
+  for (std::size_t n = 0; n < tuples.size(); ++n) {
+    for (int i = 0; i < o.sig.arity(); ++i)
+      mpfr_set_d(given.v[i], value_of(o.sig.arguments[i], tuples[n][i]), MPFR_RNDN);
+    const auto add = [&](exact_function value, lane type, std::uint64_t got) {
+      value(exact.v, given.v);
+      const auto verdict = judge(type, exact.v, value_of(type, got));
+      found.add(verdict.error, tuples[n], verdict.correct);
+    };
+    add(r.value, o.sig.result, outcomes[n].first);
+    if (r.second) add(r.second, o.sig.second, outcomes[n].second);
+  }
+  mpfr_free_cache2(MPFR_FREE_LOCAL_CACHE);
+  return found;
+}
+
 }  // namespace
 
 judgement judge(lane type, const mpfr_t exact, double got) {
@@ -135,6 +157,12 @@ std::string text_of(lane type, std::uint64_t pattern) {
   if (!is_floating(type)) return fmt::format("{}", value_of(type, pattern));
   return type == lane::f32 ? fmt::format("{} (0x{:08X})", float(value_of(type, pattern)), pattern)
                            : fmt::format("{} (0x{:016X})", value_of(type, pattern), pattern);
+}
+
+std::string text_of(const operation& o, const arguments& input) {
+  std::string text;
+  for (int i = 0; i < o.sig.arity(); ++i) text += (i ? ", " : "") + text_of(o.sig.arguments[i], input[i]);
+  return text;
 }
 
 std::vector<arguments> sample(const operation& o, const range& r, std::size_t count, std::uint64_t seed) {
@@ -188,25 +216,32 @@ tally measure(const operation& o, const reference& r, const harness::function& f
               const std::vector<arguments>& inputs) {
   return on_all_cores([&](unsigned part) {
     const std::size_t from = inputs.size() * part / cores(), to = inputs.size() * (part + 1) / cores();
-    const std::span tuples(inputs.data() + from, to - from);
-    const auto outcomes = harness::evaluate(o, f, width, tuples);
-    tally found;
-    big exact;
-    big_arguments given;
-    for (std::size_t n = 0; n < tuples.size(); ++n) {
-      for (int i = 0; i < o.sig.arity(); ++i)
-        mpfr_set_d(given.v[i], value_of(o.sig.arguments[i], tuples[n][i]), MPFR_RNDN);
-      const auto add = [&](exact_function value, lane type, std::uint64_t got) {
-        value(exact.v, given.v);
-        const auto verdict = judge(type, exact.v, value_of(type, got));
-        found.add(verdict.error, tuples[n], verdict.correct);
-      };
-      add(r.value, o.sig.result, outcomes[n].first);
-      if (r.second) add(r.second, o.sig.second, outcomes[n].second);
-    }
-    mpfr_free_cache2(MPFR_FREE_LOCAL_CACHE);
-    return found;
+    return measure_here(o, r, f, width, {inputs.data() + from, to - from});
   });
+}
+
+tally measure_at(const operation& o, const reference& r, const harness::function& f, int width,
+                 const arguments& input) {
+  return measure_here(o, r, f, width, std::vector(std::size_t(width), input));
+}
+
+tally climb(const operation& o, const reference& r, const harness::function& f, int width, const arguments& from,
+            std::size_t count, std::uint64_t seed) {
+  constexpr std::size_t rounds = 20;
+  std::mt19937_64 random(seed);
+  tally best = measure_at(o, r, f, width, from);
+  for (std::size_t round = 0; round < rounds; ++round) {
+    std::vector<arguments> around(count / rounds + 1, best.input);
+    for (auto& tuple : around)
+      for (int i = 0; i < o.sig.arity(); ++i) {
+        const lane type = o.sig.arguments[i];
+        const auto distance = std::int64_t(random()) >> (63 - random() % (8 * size_of(type) - 12));
+        tuple[i] = is_floating(type) ? unordered(type, ordered(type, tuple[i]) + distance)
+                                     : std::uint32_t(tuple[i] + std::uint64_t(distance));
+      }
+    best.merge(measure(o, r, f, width, around));
+  }
+  return best;
 }
 
 tally measure_all_floats(const reference& r, const harness::function& f, int width,

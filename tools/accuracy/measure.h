@@ -7,12 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "accuracy/errors.h"
 #include "accuracy/reference.h"
 #include "harness/harness.h"
 
 namespace lanemath::accuracy {
-
-using harness::arguments;
 
 struct tally {
   double largest_error = -1;  // ulp; infinite for a NaN or a number where the other was due; -1 before any lane
@@ -38,8 +37,9 @@ struct judgement {
 // A number of a lane type that was got, against the exact value. One that rounds to infinity is at 2^128 or 2^1024.
 judgement judge(lane type, const mpfr_t exact, double got);
 
-// A value of a lane type as text: the number and its pattern.
+// A value of a lane type as text: the number and its pattern. And of all arguments.
 std::string text_of(lane type, std::uint64_t pattern);
+std::string text_of(const operation& o, const arguments& input);
 
 // Argument tuples drawn from a range, half of them evenly over the values and half over the bit patterns.
 std::vector<arguments> sample(const operation& o, const range& r, std::size_t count, std::uint64_t seed);
@@ -51,6 +51,13 @@ std::vector<arguments> around_bounds(const operation& o, const reference& r, std
 // The function's largest error over these arguments, by MPFR.
 tally measure(const operation& o, const reference& r, const harness::function& f, int width,
               const std::vector<arguments>& inputs);
+// The same of one tuple, in every lane.
+tally measure_at(const operation& o, const reference& r, const harness::function& f, int width, const arguments& input);
+
+// The largest error that is found from a place on: round after round among tuples around the worst so far, at distances
+// of every size.
+tally climb(const operation& o, const reference& r, const harness::function& f, int width, const arguments& from,
+            std::size_t count, std::uint64_t seed);
 
 // The function's largest error over all 2^32 floats (three quarters of them at width 3, whose fourth lane is not a
 // result), on all cores. `progress` is told the share that is done.

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "accuracy/errors.h"
 #include "families.h"
-#include "frame/error_bounds.h"
 #include "generate.h"
 
 namespace {

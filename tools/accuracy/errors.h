@@ -1,0 +1,75 @@
+// The largest errors that were found, from errors.csv beside this file, and the bounds that follow from them. The
+// public headers state the bounds, the tests hold every form to them, and docs/accuracy.md tells the errors.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "frame/catalogue.h"
+
+namespace lanemath::accuracy {
+
+using arguments = std::array<std::uint64_t, 3>;  // bit patterns
+
+// The width of a standalone form; 0 for the forms that share the code of the other widths.
+int own_width(const operation& o, variant v, int width);
+
+// A line of the file. Results that round to a denormal or overflow count in units of the format's smallest step there.
+struct error_record {
+  std::size_t index = 0;            // of the operation in the catalogue
+  std::vector<variant> variants{};  // those that share the code
+  int width = 0;                    // of a standalone form, or 0
+  std::string part{};               // of the arguments, in words; empty: all of them
+  double error = 0;                 // ulp, rounded up to six digits
+  std::optional<arguments> at{};
+  std::string search{};             // how it was found, in words
+  std::optional<double> rounded{};  // percent of all inputs whose results are correctly rounded
+  // The bound on whatever processor, of a form that starts from the processor's estimate of a reciprocal or a root:
+  // with the largest error of an estimate that makers promise, 1.5 * 2^-12.
+  std::optional<double> anywhere{};
+
+  bool has(variant v) const;
+  bool is_of(const operation& o, variant v, int width) const;
+  // What is stated: the error rounded up to three digits, or what holds on whatever processor.
+  double bound() const;
+};
+
+// The file's lines. A file that is not as it should be throws std::runtime_error, which tells the line.
+std::vector<error_record> read_errors(const std::string& path);
+void write_errors(const std::string& path, std::vector<error_record> records);
+// The file in the source folder, and its lines.
+extern const char* const errors_path;
+const std::vector<error_record>& recorded_errors();
+
+// What was measured, for a line of `records`: a larger error than the line's replaces it, with its place. A part's
+// error is one of all arguments as well. Throws if a bound that should hold on every processor is broken.
+void merge(std::vector<error_record>& records, const error_record& found);
+
+// The bit patterns of an operation's arguments, as in the file: "0x3F7FB84A 0x47982860".
+arguments place_in(std::string_view text, const signature& sig);
+
+// Rounded up to so many significant digits, and as text.
+double rounded_up(double error, int digits);
+std::string text_of_error(double error);
+
+// By way of a temporary file beside it, so that the file is whole at every moment.
+void replace_file(const std::string& path, const std::string& text);
+
+}  // namespace lanemath::accuracy
+
+namespace lanemath {
+
+// Families of operations that are exact unless they have a line: each result is the one that the operation's rule
+// gives.
+constexpr bool is_exact(family f) {
+  return f == family::conversion || f == family::integer_division || f == family::manipulation;
+}
+
+// The bound of a function, or nothing if none is stated.
+std::optional<double> bound_of(const operation& o, variant v, int width);
+
+}  // namespace lanemath
