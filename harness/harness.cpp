@@ -144,4 +144,16 @@ std::vector<outcome> evaluate(const operation& o, const function& f, int width, 
   return outcomes;
 }
 
+std::string hexadecimal(lane l, std::uint64_t bits) { return fmt::format("{:#0{}x}", bits, 2 + 2 * size_of(l)); }
+
+std::string text_of(const operation& o, const arguments& tuple) {
+  std::string text;
+  for (int i = 0; i < o.sig.arity(); ++i) text += (i ? ", " : "") + hexadecimal(o.sig.arguments[i], tuple[i]);
+  return text;
+}
+std::string text_of(const operation& o, const outcome& got) {
+  const auto text = hexadecimal(o.sig.result, got.first);
+  return o.sig.how == delivery::none ? text : fmt::format("({}, {})", text, hexadecimal(o.sig.second, got.second));
+}
+
 }  // namespace lanemath::harness

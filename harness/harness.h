@@ -1,5 +1,4 @@
-// Calls any exported function over arrays of lanes, by its place in the catalogue. What the tests, the accuracy
-// tool and the benchmark stand on.
+// Calls any exported function over arrays of lanes, by its place in the catalogue.
 #pragma once
 
 #include <cstddef>
@@ -63,5 +62,10 @@ struct outcome {
 // The function on each tuple, packed into vectors of its width. At width 3 every fourth lane holds `junk`.
 std::vector<outcome> evaluate(const operation& o, const function& f, int width, std::span<const arguments> tuples,
                               std::uint64_t junk = 0);
+
+// For messages: with all digits of the lane.
+std::string hexadecimal(lane l, std::uint64_t bits);
+std::string text_of(const operation& o, const arguments& tuple);
+std::string text_of(const operation& o, const outcome& got);
 
 }  // namespace lanemath::harness

@@ -2,7 +2,6 @@
 // hold both, so two workers take turns on each kernel: both then see the same machine.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
-#include <fnmatch.h>
 #include <signal.h>
 #include <stdlib.h>
 #include <unistd.h>
@@ -16,6 +15,7 @@
 #include <stdexcept>
 
 #include "builtins.h"
+#include "harness/names.h"
 #include "process.h"
 #include "report.h"
 #include "worker.h"
@@ -23,6 +23,7 @@
 namespace {
 
 using namespace lanemath::bench::opencl;
+using lanemath::harness::matches;
 
 constexpr int turns = 6;
 constexpr auto worker_flag = "--worker";
@@ -49,10 +50,6 @@ class temporary_folder {
  private:
   std::string path_;
 };
-
-bool matches(const std::string& pattern, const std::string& name) {
-  return fnmatch(pattern.c_str(), name.c_str(), 0) == 0;
-}
 
 // What one of the patterns names, everything if there are none. Each of them has to name something.
 template <class Range, class Named>

@@ -11,7 +11,7 @@
 
 using bytes = std::vector<std::byte>;
 
-// A third each of special values, of random bits, and of ordinary values or small integers.
+// A quarter where functions turn, the others special patterns, any patterns, and ordinary values.
 bytes inputs_of(lanemath::lane l, std::size_t lanes, std::mt19937_64& random);
 
 // All lanes the same.
