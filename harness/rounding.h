@@ -16,13 +16,20 @@ inline constexpr direction directions[] = {
 // The rounding direction of MXCSR and of the x87 control word, for as long as this lives.
 class rounding {
  public:
-  explicit rounding(int mode) { std::fesetround(mode); }
-  ~rounding() { std::fesetround(before_); }
+  explicit rounding(int mode);
+  ~rounding();
   rounding(const rounding&) = delete;
   rounding& operator=(const rounding&) = delete;
 
  private:
-  int before_ = std::fegetround();
+  int before_;
 };
+
+// What f gives when it runs in that direction.
+template <class F>
+auto in_direction(int mode, F f) {
+  const rounding in_force(mode);
+  return f();
+}
 
 }  // namespace lanemath::harness
