@@ -13,8 +13,8 @@ namespace {
 
 using namespace lanemath;
 
-// The runs of one operation take turns in random order, so that a busy moment of the machine does not fall on a
-// single one of them.
+// The runs of one operation alternate in random order, so that a busy moment of the machine does not hit only one of
+// them.
 void initialise(const char* program, const std::vector<std::string>& more_flags) {
   std::vector<std::string> flags{program, "--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=9",
                                  "--benchmark_min_time=0.01"};

@@ -1,4 +1,4 @@
-# Installing: the library, the public header, a CMake package, a pkg-config file, a Debian package by CPack.
+# Installs the library, the public headers, a CMake package and a pkg-config file; CPack makes a Debian package of them.
 include(CMakePackageConfigHelpers)
 
 install(TARGETS lanemath EXPORT lanemath-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})

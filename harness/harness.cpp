@@ -25,8 +25,8 @@ constexpr auto lane_value() {
 template <lane L>
 using type = decltype(lane_value<L>());
 
-// How an argument is handed over. A wide one is less aligned than the library's type: its place on the stack is the
-// same, and the compiler copies it there straight from the array, not by way of a temporary.
+// How an argument is passed. A wide one is less aligned than the library's type: its place on the stack is the same,
+// and the compiler copies it there directly from the array, without a temporary.
 template <class A, int W, bool InMemory = (sizeof(abi<A, W>) > 16)>
 struct handed_over {
   using as = abi<A, W>;
@@ -44,7 +44,7 @@ using argument_type = typename handed_over<type<L>, W>::as;
 template <signature S, int W, std::size_t... I>
 void invoke(void* address, const invoker_arguments& a, std::index_sequence<I...>) {
   using T = type<S.result>;
-  // Copies, which no store through the pointers can change: this loop is timed.
+  // Copies, which no store through the pointers can change, because this loop is timed.
   const std::array<const void*, sizeof...(I)> inputs{a.inputs[I]...};
   auto* const results = static_cast<T*>(a.result);
   const std::size_t lanes = a.lanes;

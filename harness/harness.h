@@ -45,14 +45,14 @@ class library {
   library(const library&) = delete;
   library& operator=(const library&) = delete;
 
-  // Nothing if the library does not export it.
+  // Empty if the library does not export it.
   std::optional<function> find(std::size_t operation_index, variant v, int width) const;
 
  private:
   void* handle_;
 };
 
-// Lanes by their bit patterns: the arguments of one lane, and what came of it.
+// Lanes by their bit patterns: the arguments of one lane, and its results.
 using arguments = std::array<std::uint64_t, 3>;
 struct outcome {
   std::uint64_t first = 0, second = 0;
@@ -63,7 +63,7 @@ struct outcome {
 std::vector<outcome> evaluate(const operation& o, const function& f, int width, std::span<const arguments> tuples,
                               std::uint64_t junk = 0);
 
-// For messages: with all digits of the lane.
+// For messages, with all digits of the lane.
 std::string hexadecimal(lane l, std::uint64_t bits);
 std::string text_of(const operation& o, const arguments& tuple);
 std::string text_of(const operation& o, const outcome& got);

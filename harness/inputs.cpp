@@ -67,8 +67,7 @@ std::vector<u64> all_turning_points() {
   const auto& special = special_patterns(L);
   all.insert(all.end(), special.begin(), special.end());
   std::ranges::sort(all);
-  const auto repeated = std::ranges::unique(all);
-  all.erase(repeated.begin(), repeated.end());
+  all.erase(std::unique(all.begin(), all.end()), all.end());
   return all;
 }
 

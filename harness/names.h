@@ -1,4 +1,4 @@
-// How the user of a tool names operations: 'expf', 'expf_native', or a shell pattern such as 'exp*'.
+// How users of the tools name operations: 'expf', 'expf_native', or a shell pattern such as 'exp*'.
 #pragma once
 
 #include <string>

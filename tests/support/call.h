@@ -46,7 +46,7 @@ inline outcome outcome_of(std::string_view name, variant v, int width, const arg
   return call(name, v, width, std::vector(width, lane))[0];
 }
 template <class... A>
-requires(std::is_arithmetic_v<A>&&...) outcome outcome_of(std::string_view name, variant v, int width, A... lane) {
+outcome outcome_of(std::string_view name, variant v, int width, A... lane) {
   return outcome_of(name, v, width, arguments{pattern(lane)...});
 }
 template <class... A>

@@ -20,7 +20,7 @@ std::uint64_t pick(const std::vector<std::uint64_t>& from, std::mt19937_64& rand
 // Values of like size, and maybe of one sign, so that whole vectors of them stay on a function's straight path.
 class ordinary {
  public:
-  ordinary(lane l, std::mt19937_64& random) : lane_(l), size_(random() % (8 * size_of(l))) {
+  ordinary(lane l, std::mt19937_64& random) : lane_(l), size_(int(random() % (8 * size_of(l)))) {
     constexpr struct {
       int low, high;
     } of_exponents[] = {{-1, -1}, {-5, -1}, {0, 0}, {0, 3}, {-2, 6}, {4, 9}, {10, 40}, {-30, 30}, {-120, 120}};
@@ -83,7 +83,7 @@ std::vector<arguments> random_inputs(const signature& s, std::size_t count, std:
     }
     if (kind < 2) continue;
     for (std::size_t sixteen = from; sixteen + 16 <= to; sixteen += 16) {
-      const int i = random() % arity;
+      const int i = int(random() % arity);
       all[sixteen + random() % 16][i] =
           random() % 4 ? pick(turning_points(s.arguments[i]), random) : cut(s.arguments[i], random());
     }

@@ -1,4 +1,4 @@
-// Whether two builds of the library give the same bits: every function on the same lanes.
+// Tells whether two builds of the library give the same bits: calls every function of both on the same lanes.
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
@@ -25,7 +25,7 @@ struct form {
 };
 
 void call_both(const operation& o, form& f, std::span<const arguments> inputs, const harness::direction& d) {
-  constexpr std::uint64_t junk = 0x7FF000007F800001;  // a signalling NaN, its lower half too
+  constexpr std::uint64_t junk = 0x7FF000007F800001;  // a signalling NaN, and so is its lower half
   const harness::rounding in_force(d.mode);
   const auto first = harness::evaluate(o, f.first, f.width, inputs, junk);
   const auto second = harness::evaluate(o, f.second, f.width, inputs, junk);
@@ -56,7 +56,8 @@ int main(int argc, char** argv) try {
   CLI11_PARSE(app, argc, argv);
   harness::check_names(patterns);
 
-  // Whole paths: the loader takes a bare file name for the recorded name of a library that it has loaded already.
+  // Absolute paths, because the loader takes a bare file name for the recorded name of a library that is loaded
+  // already.
   const harness::library first(std::filesystem::absolute(first_path)), second(std::filesystem::absolute(second_path));
   const auto in_force = std::span(harness::directions).first(all_directions ? std::size(harness::directions) : 1);
   std::uint64_t compared = 0, lanes_compared = 0, differing = 0, missing = 0;

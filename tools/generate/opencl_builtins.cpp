@@ -1,5 +1,5 @@
-// The built-ins in OpenCL C: each hands its vectors on by pointers, a scalar by value. Exact ones that the runtime
-// gives other bits are written out in opencl/exact.h.
+// The built-ins in OpenCL C: each passes its vectors on by pointers, a scalar by value. Exact ones for which the
+// runtime has other bits are written out in opencl/exact.h.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
