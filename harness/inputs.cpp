@@ -57,13 +57,13 @@ std::vector<u64> special_integers() {
 
 template <lane L>
 std::vector<u64> all_turning_points() {
-  constexpr std::size_t bits = 8 * size_of(L);
+  constexpr u64 all_bits = size_of(L) == 4 ? 0xFFFFFFFF : ~u64(0), sign = all_bits ^ all_bits >> 1;
   auto all = L == lane::f32   ? special_numbers<float>()
              : L == lane::f64 ? special_numbers<double>()
                               : special_integers();
   for (std::size_t i = 0, positive = all.size(); i < positive; ++i)
-    all.push_back(is_floating(L) ? all[i] | u64(1) << (bits - 1) : -all[i]);
-  for (auto& each : all) each &= ~u64(0) >> (64 - bits);
+    all.push_back(is_floating(L) ? all[i] | sign : -all[i]);
+  for (auto& each : all) each &= all_bits;
   const auto& special = special_patterns(L);
   all.insert(all.end(), special.begin(), special.end());
   std::ranges::sort(all);
