@@ -1,21 +1,20 @@
 // Measures every exported function, and what other libraries have for the same task on the same arguments.
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
-#include <fnmatch.h>
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <string>
 #include <vector>
 
+#include "harness/names.h"
 #include "suite.h"
 
 namespace {
 
 using namespace lanemath;
 
-// The runs of one operation take turns in random order, so that a busy moment of the machine does not fall on a
-// single one of them.
+// The runs of one operation alternate in random order, so that a busy moment of the machine does not hit only one of
+// them.
 void initialise(const char* program, const std::vector<std::string>& more_flags) {
   std::vector<std::string> flags{program, "--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=9",
                                  "--benchmark_min_time=0.01"};
@@ -25,16 +24,6 @@ void initialise(const char* program, const std::vector<std::string>& more_flags)
   int count = int(arguments.size());
   benchmark::Initialize(&count, arguments.data());
   if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) std::exit(2);
-}
-
-bool wanted(const std::vector<std::string>& patterns, const operation& o, variant v) {
-  const auto matches = [](const std::string& pattern, const std::string& name) {
-    return fnmatch(pattern.c_str(), name.c_str(), 0) == 0;
-  };
-  const std::string name(o.name()), with_variant = name + std::string(suffix(v));
-  return patterns.empty() || std::any_of(patterns.begin(), patterns.end(), [&](const auto& pattern) {
-           return matches(pattern, name) || matches(pattern, with_variant);
-         });
 }
 
 }  // namespace
@@ -50,6 +39,7 @@ int main(int argc, char** argv) try {
   app.add_option("--benchmark_out", json_path, "Write all that was measured to this file as JSON");
   app.allow_extras();
   CLI11_PARSE(app, argc, argv);
+  harness::check_names(patterns);
   initialise(argv[0], app.remaining());
 
   const harness::library library(library_path);
@@ -57,7 +47,7 @@ int main(int argc, char** argv) try {
   bool any = false;
   for (std::size_t i = 0; i < catalogue.size(); ++i)
     for (auto v : variants) {
-      if (!catalogue[i].has(v) || !wanted(patterns, catalogue[i], v)) continue;
+      if (!catalogue[i].has(v) || !harness::wanted(patterns, catalogue[i], v)) continue;
       bench::suite suite(library, i, v);
       if (!suite.exported()) continue;
       if (!any) suite.print_heading();

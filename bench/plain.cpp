@@ -1,5 +1,5 @@
-// What C++ itself has for conversions and integer division, in loops that the compiler makes of them what it can at the
-// library's instruction level.
+// What C++ itself has for conversions and integer division, in loops that the compiler optimises as far as the
+// library's instruction set allows.
 #include <cmath>
 #include <cstdint>
 #include <limits>

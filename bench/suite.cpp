@@ -96,7 +96,7 @@ void suite::register_benchmarks() {
 
 void suite::print_heading() {
   fmt::print(
-      "Nanoseconds. gap: the dearest width's cost over width 4's, narrow widths per call, wide ones per lane.\n"
+      "Nanoseconds. gap: how many times width 4 the slowest width costs, narrow widths per call, wide ones per lane.\n"
       "cycles: per lane at width 4. rare: per lane at width 4 where one lane in {} is rare. latency: of width 1.\n"
       "Peers: per lane on the same arguments, and how many times that is of ours at width 4. Beside conversions and\n"
       "integer divisions stands a loop of plain C++ in the C library's place, compiled for the same instructions.\n\n",

@@ -1,7 +1,8 @@
 // Exact functions that are a few instructions. The runtime's own definitions give other bits: maxmag and minmag for
 // zeros of unlike signs, fract for -0 and -infinity, fma for a product that vanishes beside a zero, conversions to
-// unsigned integers for negative values, frexp for the exponents of eight and sixteen doubles. Here the bits are the
-// library's, but for the payloads of NaNs. The generator says for which types they are wanted.
+// unsigned integers for negative values, frexp for the exponents of eight and sixteen doubles, ldexp of vectors for
+// denormal results, which it rounds twice. Here the bits are the library's, but for the payloads of NaNs. The generator
+// says for which types they are wanted.
 #pragma OPENCL FP_CONTRACT OFF
 
 #define BUILTIN __attribute__((overloadable, always_inline))
@@ -56,3 +57,20 @@
     *second = (ints)(low, high);                                                   \
     return result;                                                                 \
   }
+
+// `fields` are the integers of the result's size; exponents of normal numbers are `least` to 1 - `least`. Of three
+// factors only the last one rounds a result: what becomes denormal before has so far to go that it ends as a zero.
+#define LDEXP_FACTOR(type, fields, digits, least, n) \
+  __builtin_astype((__builtin_convertvector(n, fields) + (1 - (least))) << ((digits)-1), type)
+#define EXACT_LDEXP(type, ints, fields, digits, least)                          \
+  BUILTIN type _cl_ldexp(type x, ints n) {                                      \
+    const ints low = least, high = 1 - (least);                                 \
+    for (int i = 0; i < 2; ++i) {                                               \
+      const ints step = n > high ? high : n < low ? low + (digits) : (ints)(0); \
+      x *= LDEXP_FACTOR(type, fields, digits, least, step);                     \
+      n -= step;                                                                \
+    }                                                                           \
+    n = __builtin_elementwise_min(__builtin_elementwise_max(n, low), high);     \
+    return x * LDEXP_FACTOR(type, fields, digits, least, n);                    \
+  }                                                                             \
+  BUILTIN type _cl_ldexp(type x, int n) { return _cl_ldexp(x, (ints)(n)); }

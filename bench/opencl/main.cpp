@@ -1,8 +1,7 @@
 // Measures every built-in in OpenCL kernels, the runtime's own definition beside the library's. One process cannot
-// hold both, so two workers take turns on each kernel: both then see the same machine.
+// hold both, so two workers take turns on each kernel, and both see the machine in the same state.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
-#include <fnmatch.h>
 #include <signal.h>
 #include <stdlib.h>
 #include <unistd.h>
@@ -16,6 +15,7 @@
 #include <stdexcept>
 
 #include "builtins.h"
+#include "harness/names.h"
 #include "process.h"
 #include "report.h"
 #include "worker.h"
@@ -23,11 +23,12 @@
 namespace {
 
 using namespace lanemath::bench::opencl;
+using lanemath::harness::matches;
 
 constexpr int turns = 6;
 constexpr auto worker_flag = "--worker";
 
-// What the user asked for makes no sense.
+// The user asked for something that makes no sense.
 struct usage_error : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
@@ -50,11 +51,7 @@ class temporary_folder {
   std::string path_;
 };
 
-bool matches(const std::string& pattern, const std::string& name) {
-  return fnmatch(pattern.c_str(), name.c_str(), 0) == 0;
-}
-
-// What one of the patterns names, everything if there are none. Each of them has to name something.
+// Whatever one of the patterns names, or everything if there are no patterns. Each pattern has to name something.
 template <class Range, class Named>
 auto chosen(const Range& all, const std::vector<std::string>& patterns, const std::string& noun, Named named) {
   for (const auto& pattern : patterns)
@@ -118,7 +115,7 @@ class workers {
   std::string device_;
 };
 
-// On a terminal the progress is one line, which the table's rows then overwrite.
+// On a terminal, progress is one line that the rows of the table then overwrite.
 void show_progress(std::size_t done, std::size_t all, const std::string& title) {
   static const bool terminal = isatty(STDERR_FILENO);
   fmt::print(stderr, "{}{}/{} {}{}", terminal ? "\r\033[K" : "", done, all, title, terminal ? "" : "\n");
@@ -175,7 +172,7 @@ void run(const options& given) {
   if (json) json->write({both.device(), given.kind}, all, types);
 }
 
-// Signals interrupt what waits for a worker, so that nothing is left behind.
+// Signals only interrupt the wait for a worker, so that everything is still cleaned up.
 void end_in_order_on_signals() {
   struct sigaction action {};
   action.sa_handler = [](int) {};

@@ -50,7 +50,7 @@ std::string process::read() {
 }
 
 std::string process::ask(const std::string& question) {
-  // What cannot be written has a reason, which reading finds.
+  // If writing fails there is a reason, and reading finds it.
   dprintf(socket_, "%s\n", question.c_str());
   return read();
 }

@@ -16,7 +16,7 @@
 namespace lanemath::bench::opencl {
 namespace {
 
-// A built-in whose ratio is less is listed.
+// Built-ins with a lower ratio than this are listed.
 constexpr double least_ratio = 0.9;
 
 std::optional<double> geometric_mean(const measurements& all, vector_type type, group g) {
@@ -113,7 +113,7 @@ void print_summary(const measurements& all, const std::vector<vector_type>& type
   }
 }
 
-// What is no ordinary file, as a pipe, keeps its place.
+// Anything but an ordinary file, such as a pipe, stays in its place.
 json_file::json_file(std::string path) : path_(std::move(path)), temporary_(path_ + ".new") {
   if (std::filesystem::exists(path_) && !std::filesystem::is_regular_file(path_)) temporary_ = path_;
   file_ = std::fopen(temporary_.c_str(), "w");

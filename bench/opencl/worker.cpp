@@ -27,7 +27,7 @@ namespace {
 constexpr std::size_t array_lanes = 8192;
 constexpr std::size_t lanes_per_group = 256;
 
-// A launch lasts this long at least. What a launch costs of itself, some microseconds, is lost in it.
+// A launch lasts at least this long, so that its own cost of some microseconds does not show.
 constexpr double launch_nanoseconds = 1e6;
 // The first launch of a turn finds the caches full of the other process's work.
 constexpr int launches_per_turn = 3;

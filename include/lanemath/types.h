@@ -21,8 +21,8 @@
 
 #define LANEMATH_WRAPPER static inline __attribute__((always_inline, unused))
 
-/* Compilers remark where a wide vector is passed or returned that this depends on AVX. Here nothing does, as the
- * wrappers are always inlined; the remarks come at the caller's lines, so they are switched off for those too. */
+/* Compilers warn that passing or returning a wide vector depends on AVX. Here nothing depends on it, because the
+ * wrappers are always inlined. The warnings point at the caller's lines, so they are switched off there too. */
 #ifndef __AVX512F__
 #pragma GCC diagnostic ignored "-Wpsabi"
 #endif

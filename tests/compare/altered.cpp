@@ -1,5 +1,5 @@
-// The library with a few functions altered, each in a way that is easily missed. All others are found in the real one,
-// which this one needs.
+// The library with a few functions altered, each in a way that is easily missed. All others come from the real one,
+// which this one links.
 #include <xmmintrin.h>
 
 #include <bit>
@@ -21,7 +21,7 @@ ALTERED float4 __ocl_lanemath_h8_expf4(float4 x) {
   return y;
 }
 
-// The fourth lane of three is nobody's.
+// The fourth lane of three does not matter.
 ALTERED float4 __ocl_lanemath_h8_expf3(float4 x) {
   float4 y{0, 0, 0, 1};
   for (int i = 0; i < 3; ++i) y[i] = __ocl_lanemath_h8_expf1(x[i]);

@@ -1,20 +1,13 @@
 // Conversions against what the processor and x87 arithmetic make of the same values, in every direction, and stated
 // results at stated inputs.
 #include <gtest/gtest.h>
-#include <xmmintrin.h>
 
-#include <bit>
-#include <cfenv>
 #include <limits>
 
-#include "support/lanes_of.h"
-#include "support/library.h"
+#include "support/call.h"
 
 namespace lanemath::testing {
 namespace {
-
-using u32 = std::uint32_t;
-using u64 = std::uint64_t;
 
 struct rounding {
   std::string_view name;
@@ -23,29 +16,9 @@ struct rounding {
 constexpr rounding roundings[] = {
     {"rte", FE_TONEAREST}, {"rtn", FE_DOWNWARD}, {"rtp", FE_UPWARD}, {"rtz", FE_TOWARDZERO}};
 
-// Runs f in a rounding direction, of SSE and x87.
-template <class F>
-auto in_mode(int mode, F f) {
-  std::fesetround(mode);
-  const auto result = f();
-  std::fesetround(FE_TONEAREST);
-  return result;
-}
-
 std::vector<outcome> evaluate(std::string_view name, int width, const std::vector<arguments>& tuples,
                               int mode = FE_TONEAREST) {
-  const auto index = index_of(name);
-  const auto f = library().find(index, variant::standard, width).value();
-  return in_mode(mode, [&] { return harness::evaluate(catalogue[index], f, width, tuples); });
-}
-
-template <class T>
-u64 pattern(T v) {
-  return std::bit_cast<std::conditional_t<sizeof(T) == 4, u32, u64>>(v);
-}
-template <class T>
-T value(u64 pattern) {
-  return std::bit_cast<T>(std::conditional_t<sizeof(T) == 4, u32, u64>(pattern));
+  return in_direction(mode, [&] { return call(name, standard, width, tuples); });
 }
 
 // A few steps round each bound, halves of all sizes, specials and any patterns.
@@ -147,41 +120,36 @@ TEST(FloatingToInteger, IsExactOrTheRuleForWhatDoesNotFit) {
   check_to_integer<std::uint64_t, double>("u64");
 }
 
-template <class T>
-u64 one_lane(std::string_view name, T x) {
-  return evaluate(name, 1, {{pattern(x)}})[0].first;
-}
-
 TEST(FloatingToInteger, GivesStatedResults) {
-  EXPECT_EQ(one_lane("cvtfptoi32rtznosatf", 3e9f), 0x80000000u);
-  EXPECT_EQ(one_lane("cvtfptoi32rtzsatf", 3e9f), 0x7FFFFFFFu);
-  EXPECT_EQ(one_lane("cvtfptoi32rtzsatf", -3e9f), 0x80000000u);
-  EXPECT_EQ(one_lane("cvtfptoi32rtpsat", 2147483647.5), 0x7FFFFFFFu);
-  EXPECT_EQ(one_lane("cvtfptoi32rtnsat", 2147483647.5), 0x7FFFFFFFu);
-  EXPECT_EQ(one_lane("cvtfptou32rtznosatf", -5.5f), 5u);
-  EXPECT_EQ(one_lane("cvtfptou32rtnnosatf", -5.5f), 6u);
-  EXPECT_EQ(one_lane("cvtfptou32rtzsatf", -5.5f), 0u);
-  EXPECT_EQ(one_lane("cvtfptou32rtnnosatf", -0.5f), 1u);
-  EXPECT_EQ(one_lane("cvtfptou32rtznosatf", -0.5f), 0u);
-  EXPECT_EQ(one_lane("cvtfptou32rtznosatf", 4294967040.0f), 0xFFFFFF00u);
-  EXPECT_EQ(one_lane("cvtfptou32rtznosatf", 4294967296.0f), 0x80000000u);
-  EXPECT_EQ(one_lane("cvtfptou32rtznosat", 4294967295.5), 0xFFFFFFFFu);
+  EXPECT_EQ(bits_of("cvtfptoi32rtznosatf", standard, 1, 3e9f), 0x80000000u);
+  EXPECT_EQ(bits_of("cvtfptoi32rtzsatf", standard, 1, 3e9f), 0x7FFFFFFFu);
+  EXPECT_EQ(bits_of("cvtfptoi32rtzsatf", standard, 1, -3e9f), 0x80000000u);
+  EXPECT_EQ(bits_of("cvtfptoi32rtpsat", standard, 1, 2147483647.5), 0x7FFFFFFFu);
+  EXPECT_EQ(bits_of("cvtfptoi32rtnsat", standard, 1, 2147483647.5), 0x7FFFFFFFu);
+  EXPECT_EQ(bits_of("cvtfptou32rtznosatf", standard, 1, -5.5f), 5u);
+  EXPECT_EQ(bits_of("cvtfptou32rtnnosatf", standard, 1, -5.5f), 6u);
+  EXPECT_EQ(bits_of("cvtfptou32rtzsatf", standard, 1, -5.5f), 0u);
+  EXPECT_EQ(bits_of("cvtfptou32rtnnosatf", standard, 1, -0.5f), 1u);
+  EXPECT_EQ(bits_of("cvtfptou32rtznosatf", standard, 1, -0.5f), 0u);
+  EXPECT_EQ(bits_of("cvtfptou32rtznosatf", standard, 1, 4294967040.0f), 0xFFFFFF00u);
+  EXPECT_EQ(bits_of("cvtfptou32rtznosatf", standard, 1, 4294967296.0f), 0x80000000u);
+  EXPECT_EQ(bits_of("cvtfptou32rtznosat", standard, 1, 4294967295.5), 0xFFFFFFFFu);
   const float nan = std::numeric_limits<float>::quiet_NaN();
-  EXPECT_EQ(one_lane("cvtfptou32rtzsatf", nan), 0xFFFFFFFFu);
-  EXPECT_EQ(one_lane("cvtfptou32rtzsatf", -nan), 0u);
-  EXPECT_EQ(one_lane("cvtfptou64rtzsatf", nan), 0u);
-  EXPECT_EQ(one_lane("cvtfptoi32rtzsatf", nan), 0u);
-  EXPECT_EQ(one_lane("cvtfptoi64rtzsat", 9.3e18), 0x7FFFFFFFFFFFFFFFu);
-  EXPECT_EQ(one_lane("cvtfptoi64rtzsat", -9.3e18), 0x8000000000000000u);
-  EXPECT_EQ(one_lane("cvtfptou64rtznosat", 0x1p63), 0x8000000000000000u);
-  EXPECT_EQ(one_lane("cvtfptou64rtznosat", 0x1p64), 0x8000000000000000u);
+  EXPECT_EQ(bits_of("cvtfptou32rtzsatf", standard, 1, nan), 0xFFFFFFFFu);
+  EXPECT_EQ(bits_of("cvtfptou32rtzsatf", standard, 1, -nan), 0u);
+  EXPECT_EQ(bits_of("cvtfptou64rtzsatf", standard, 1, nan), 0u);
+  EXPECT_EQ(bits_of("cvtfptoi32rtzsatf", standard, 1, nan), 0u);
+  EXPECT_EQ(bits_of("cvtfptoi64rtzsat", standard, 1, 9.3e18), 0x7FFFFFFFFFFFFFFFu);
+  EXPECT_EQ(bits_of("cvtfptoi64rtzsat", standard, 1, -9.3e18), 0x8000000000000000u);
+  EXPECT_EQ(bits_of("cvtfptou64rtznosat", standard, 1, 0x1p63), 0x8000000000000000u);
+  EXPECT_EQ(bits_of("cvtfptou64rtznosat", standard, 1, 0x1p64), 0x8000000000000000u);
 }
 
 // x87 arithmetic holds every 64-bit integer and rounds once, in its own direction.
 template <class T>
 u64 due_floating(long double exact, int mode) {
   volatile long double hidden = exact;
-  return in_mode(mode, [&] {
+  return in_direction(mode, [&] {
     volatile T narrow = static_cast<T>(hidden);
     return pattern(T(narrow));
   });

@@ -4,30 +4,24 @@
 #include <mpfr.h>
 #include <xmmintrin.h>
 
-#include <bit>
-#include <cfenv>
 #include <limits>
 
-#include "support/lanes_of.h"
-#include "support/library.h"
+#include "support/call.h"
 
 namespace lanemath::testing {
 namespace {
 
-constexpr int modes[] = {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO};
-
 template <class T>
 struct model {
-  using U = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
+  using U = std::conditional_t<sizeof(T) == 4, u32, u64>;
   using limits = std::numeric_limits<T>;
   static constexpr U sign = U(1) << (8 * sizeof(T) - 1);
   static constexpr U quiet = U(1) << (limits::digits - 2);
 
-  static U bits(T v) { return std::bit_cast<U>(v); }
-  static T value(U v) { return std::bit_cast<T>(v); }
+  static U bits(T v) { return U(pattern(v)); }
   static T signed_zero(T x) { return std::copysign(T(0), x); }
-  static T hushed(T nan) { return value(bits(nan) | quiet); }
-  static T default_nan() { return value(bits(limits::infinity()) | sign | quiet); }
+  static T hushed(T nan) { return testing::value<T>(bits(nan) | quiet); }
+  static T default_nan() { return testing::value<T>(bits(limits::infinity()) | sign | quiet); }
 
   template <T F(T)>
   static outcome rounded(T x, T) {
@@ -69,7 +63,7 @@ struct model {
   static outcome fract(T x, T) {
     if (std::isnan(x)) return {bits(x), bits(x)};
     if (std::isinf(x) || x == 0) return {bits(signed_zero(x)), bits(x)};
-    const T floor = std::floor(x), below_one = value(bits(T(1)) - 1);
+    const T floor = std::floor(x), below_one = testing::value<T>(bits(T(1)) - 1);
     const T rest = x - floor;
     return {bits(rest < below_one ? rest : below_one), bits(floor)};
   }
@@ -89,7 +83,7 @@ struct model {
     if (x == 0) return {0x80000000};
     return {std::isfinite(x) ? std::uint32_t(std::ilogb(x)) : 0x7FFFFFFF};
   }
-  static outcome logb(T x, T) { return {bits(std::isnan(x) ? value(bits(x) & ~sign) : std::logb(x))}; }
+  static outcome logb(T x, T) { return {bits(std::isnan(x) ? testing::value<T>(bits(x) & ~sign) : std::logb(x))}; }
   static outcome nextafter(T x, T y) {
     if (std::isnan(x) || std::isnan(y)) return {bits(hushed(std::isnan(x) ? x : y))};
     return {bits(x == y ? y : std::nextafter(x, y))};
@@ -191,69 +185,56 @@ class ExactOperations : public ::testing::Test {};
 using floating_types = ::testing::Types<float, double>;
 TYPED_TEST_SUITE(ExactOperations, floating_types);
 
-TYPED_TEST(ExactOperations, GiveTheExactResultInEveryDirection) {
-  using T = TypeParam;
-  using U = typename model<T>::U;
-  for (const auto& [name, due, any_direction] : rows<T>()) {
-    const auto index = index_of(std::string(name) + (sizeof(T) == 4 ? "f" : ""));
-    const auto& o = catalogue[index];
-    const auto tuples = operands<T>(o, 40'000);
-    for (int mode : modes) {
-      if (mode != FE_TONEAREST && !any_direction) continue;
-      ASSERT_EQ(std::fesetround(mode), 0);
-      const unsigned control = _mm_getcsr() & 0xFFC0;
-      const auto got = harness::evaluate(o, *library().find(index, variant::standard, 4), 4, tuples);
-      const unsigned control_after = _mm_getcsr() & 0xFFC0;
-      std::vector<outcome> want(tuples.size());
-      for (std::size_t n = 0; n < tuples.size(); ++n)
-        want[n] = due(std::bit_cast<T>(U(tuples[n][0])), std::bit_cast<T>(U(tuples[n][1])));
-      std::fesetround(FE_TONEAREST);
-      EXPECT_EQ(control_after, control);
-      for (std::size_t n = 0; n < tuples.size(); ++n)
-        ASSERT_EQ(got[n], want[n]) << o.name() << " of " << text_of(o, tuples[n]) << " in direction " << mode
-                                   << fmt::format(": {:X} {:X}, due {:X} {:X}", got[n].first, got[n].second,
-                                                  want[n].first, want[n].second);
-    }
-  }
+std::string told(const operation& o, const arguments& tuple, const outcome& got, const outcome& due,
+                 const harness::direction& d) {
+  return fmt::format("{} of {}, rounding {}: {}, due {}", o.name(), text_of(o, tuple), d.name, text_of(o, got),
+                     text_of(o, due));
 }
 
-// The pattern of a function's result in one lane, the other lanes holding the same.
-template <class T, class... A>
-T value_at_width(int width, std::string_view name, A... a) {
-  const auto index = index_of(name);
-  const std::vector<arguments> tuples(width, arguments{std::uint64_t(a)...});
-  const auto f = library().find(index, variant::standard, width).value();
-  return std::bit_cast<T>(typename model<T>::U(harness::evaluate(catalogue[index], f, width, tuples)[0].first));
+TYPED_TEST(ExactOperations, GiveTheExactResultInEveryDirection) {
+  using T = TypeParam;
+  for (const auto& [base, due, any_direction] : rows<T>()) {
+    const auto name = std::string(base) + (sizeof(T) == 4 ? "f" : "");
+    const auto& o = catalogue[index_of(name)];
+    const auto tuples = operands<T>(o, 40'000);
+    for (const auto& direction : harness::directions) {
+      if (direction.mode != FE_TONEAREST && !any_direction) continue;
+      const harness::rounding in_force(direction.mode);
+      const unsigned control = _mm_getcsr() & 0xFFC0;
+      const auto got = call(name, standard, 4, tuples);
+      EXPECT_EQ(_mm_getcsr() & 0xFFC0, control);
+      for (std::size_t n = 0; n < tuples.size(); ++n) {
+        const outcome want = due(value<T>(tuples[n][0]), value<T>(tuples[n][1]));
+        ASSERT_EQ(got[n], want) << told(o, tuples[n], got[n], want, direction);
+      }
+    }
+  }
 }
 
 TYPED_TEST(ExactOperations, LdexpRoundsOnceInEveryDirection) {
   using T = TypeParam;
   using m = model<T>;
-  const auto index = index_of(sizeof(T) == 4 ? "ldexpf" : "ldexp");
-  const auto& o = catalogue[index];
+  const std::string_view name = sizeof(T) == 4 ? "ldexpf" : "ldexp";
+  const auto& o = catalogue[index_of(name)];
   auto tuples = operands<T>(o, 60'000);
   std::mt19937_64 random(5);
   constexpr int range = std::numeric_limits<T>::max_exponent;
   for (std::size_t n = 0; n < tuples.size(); ++n) {
-    const T x = std::bit_cast<T>(typename m::U(tuples[n][0]));
+    const T x = value<T>(tuples[n][0]);
     const int exponent = std::isfinite(x) && x != 0 ? std::ilogb(x) : 0;
     // To where the result overflows, is denormal or vanishes; and far beyond.
     const int target = n % 2 ? -range - int(random() % 60) + 5 : range - int(random() % 4);
     if (n % 8) tuples[n][1] = std::uint32_t(target - exponent);
   }
-  for (int mode : modes) {
-    ASSERT_EQ(std::fesetround(mode), 0);
-    const auto got = harness::evaluate(o, *library().find(index, variant::standard, 16), 16, tuples);
-    std::vector<std::uint64_t> want(tuples.size());
+  for (const auto& direction : harness::directions) {
+    const harness::rounding in_force(direction.mode);
+    const auto got = call(name, standard, 16, tuples);
     for (std::size_t n = 0; n < tuples.size(); ++n) {
-      const T x = std::bit_cast<T>(typename m::U(tuples[n][0]));
+      const T x = value<T>(tuples[n][0]);
       // A signalling NaN stays one in single precision.
-      want[n] = std::isnan(x) ? m::bits(sizeof(T) == 4 ? x : m::hushed(x))
-                              : m::bits(std::ldexp(x, std::int32_t(tuples[n][1])));
+      const T want = !std::isnan(x) ? std::ldexp(x, std::int32_t(tuples[n][1])) : sizeof(T) == 4 ? x : m::hushed(x);
+      ASSERT_EQ(got[n].first, m::bits(want)) << told(o, tuples[n], got[n], outcome{m::bits(want)}, direction);
     }
-    std::fesetround(FE_TONEAREST);
-    for (std::size_t n = 0; n < tuples.size(); ++n)
-      ASSERT_EQ(got[n].first, want[n]) << text_of(o, tuples[n]) << " in direction " << mode;
   }
 }
 
@@ -261,11 +242,11 @@ TYPED_TEST(ExactOperations, FmaRoundsOnceInEveryDirection) {
   using T = TypeParam;
   using m = model<T>;
   using U = typename m::U;
-  const auto index = index_of(sizeof(T) == 4 ? "fmaf" : "fma");
-  const auto& o = catalogue[index];
+  const std::string_view name = sizeof(T) == 4 ? "fmaf" : "fma";
+  const auto& o = catalogue[index_of(name)];
   auto tuples = operands<T>(o, 100'000);
   std::mt19937_64 random(6);
-  const auto argument = [&](std::size_t n, int i) { return std::bit_cast<T>(U(tuples[n][i])); };
+  const auto argument = [&](std::size_t n, int i) { return value<T>(tuples[n][i]); };
   constexpr int digits = std::numeric_limits<T>::digits;
   for (std::size_t n = 0; n < tuples.size(); ++n) {
     // A summand that cancels the product, or lies a few bits or all of them from it.
@@ -276,23 +257,19 @@ TYPED_TEST(ExactOperations, FmaRoundsOnceInEveryDirection) {
       tuples[n][2] = m::bits(std::ldexp(product, int(random() % (6 * digits)) - 3 * digits)) ^ (random() % 8);
     tuples[n][2] &= ~U(0);
   }
-  for (int mode : modes) {
-    ASSERT_EQ(std::fesetround(mode), 0);  // of both control words
-    const auto got = harness::evaluate(o, *library().find(index, variant::standard, 8), 8, tuples);
-    std::vector<U> want(tuples.size());
+  for (const auto& direction : harness::directions) {
+    const harness::rounding in_force(direction.mode);  // of both control words
+    const auto got = call(name, standard, 8, tuples);
     for (std::size_t n = 0; n < tuples.size(); ++n) {
       const T x = argument(n, 0), y = argument(n, 1), z = argument(n, 2);
       const bool product_is_plain = x == 0 || y == 0 || std::fabs(x) == 1 || std::fabs(y) == 1 || z == 0;
-      want[n] = m::bits(std::isnan(x)      ? m::hushed(x)
-                        : std::isnan(y)    ? m::hushed(y)
-                        : std::isnan(z)    ? m::hushed(z)
-                        : product_is_plain ? x * y + z
-                                           : std::fma(x, y, z));
+      const T want = std::isnan(x)      ? m::hushed(x)
+                     : std::isnan(y)    ? m::hushed(y)
+                     : std::isnan(z)    ? m::hushed(z)
+                     : product_is_plain ? x * y + z
+                                        : std::fma(x, y, z);
+      ASSERT_EQ(got[n].first, m::bits(want)) << told(o, tuples[n], got[n], outcome{m::bits(want)}, direction);
     }
-    std::fesetround(FE_TONEAREST);
-    for (std::size_t n = 0; n < tuples.size(); ++n)
-      ASSERT_EQ(got[n].first, want[n]) << text_of(o, tuples[n]) << " in direction " << mode
-                                       << fmt::format(": {:X}, due {:X}", got[n].first, want[n]);
   }
 }
 
@@ -303,8 +280,7 @@ TEST(Fma, RoundsAsTheX87ControlWordSays) {
     asm volatile("fnstcw %0" : "=m"(before));
     const std::uint16_t control = (before & ~0xC00) | direction;
     asm volatile("fldcw %0" ::"m"(control));
-    const auto pattern = [](float v) { return std::bit_cast<std::uint32_t>(v); };
-    const float result = value_at_width<float>(4, "fmaf", pattern(x), pattern(y), pattern(z));
+    const float result = value_of<float>("fmaf", standard, 4, x, y, z);
     asm volatile("fnstcw %0\n\tfldcw %1" : "=m"(after) : "m"(before));
     EXPECT_EQ(after, control);
     return result;
@@ -320,20 +296,18 @@ TEST(Fma, RoundsAsTheX87ControlWordSays) {
 }
 
 TEST(ExactValues, ThatAreStated) {
-  const auto f = [](float v) { return std::bit_cast<std::uint32_t>(v); };
-  const auto d = [](double v) { return std::bit_cast<std::uint64_t>(v); };
   for (int width : widths) {
-    EXPECT_EQ(f(value_at_width<float>(width, "fmodf", f(-4096), f(1))), 0u);
-    EXPECT_EQ(f(value_at_width<float>(width, "fmodf", f(-2048), f(1))), 0x80000000u);
-    EXPECT_EQ(f(value_at_width<float>(width, "fmodf", f(-0x1p23f), f(1))), 0x80000000u);
-    EXPECT_EQ(d(value_at_width<double>(width, "fma", d(1 + 0x1p-30), d(1 - 0x1p-30), d(-1))), d(-0x1p-60));
-    EXPECT_EQ(f(value_at_width<float>(width, "fmaf", 1, 0x80000001, 0)), 0u);
-    EXPECT_EQ(f(value_at_width<float>(width, "fmaxf", 0, 0x80000000)), 0x80000000u);
-    EXPECT_EQ(f(value_at_width<float>(width, "maxmagf", 0, 0x80000000)), 0u);
-    EXPECT_EQ(f(value_at_width<float>(width, "fractf", f(-1e-10f))), 0x3F7FFFFFu);
+    EXPECT_EQ(bits_of("fmodf", standard, width, -4096.0f, 1.0f), 0u);
+    EXPECT_EQ(bits_of("fmodf", standard, width, -2048.0f, 1.0f), 0x80000000u);
+    EXPECT_EQ(bits_of("fmodf", standard, width, -0x1p23f, 1.0f), 0x80000000u);
+    EXPECT_EQ(value_of<double>("fma", standard, width, 1 + 0x1p-30, 1 - 0x1p-30, -1.0), -0x1p-60);
+    EXPECT_EQ(bits_of("fmaf", standard, width, 1, 0x80000001, 0), 0u);
+    EXPECT_EQ(bits_of("fmaxf", standard, width, 0, 0x80000000), 0x80000000u);
+    EXPECT_EQ(bits_of("maxmagf", standard, width, 0, 0x80000000), 0u);
+    EXPECT_EQ(bits_of("fractf", standard, width, -1e-10f), 0x3F7FFFFFu);
     // The integer's bits stay as they are, also where they reach the sign.
-    EXPECT_EQ(f(value_at_width<float>(width, "nanf", 0x80012345)), 0xFFC12345u);
-    EXPECT_EQ(d(value_at_width<double>(width, "nan", 0x123456789)), 0x7FF8000123456789u);
+    EXPECT_EQ(bits_of("nanf", standard, width, 0x80012345), 0xFFC12345u);
+    EXPECT_EQ(bits_of("nan", standard, width, 0x123456789), 0x7FF8000123456789u);
   }
 }
 

@@ -1,22 +1,13 @@
 // Integer division against the processor's own.
 #include <gtest/gtest.h>
 
-#include <cfenv>
-
 #include "intdiv/division.h"
-#include "support/lanes_of.h"
-#include "support/library.h"
+#include "support/call.h"
 
 namespace lanemath::testing {
 namespace {
 
 using i32 = std::int32_t;
-using u32 = std::uint32_t;
-
-std::vector<outcome> evaluate(std::string_view name, int width, const std::vector<arguments>& tuples) {
-  const auto index = index_of(name);
-  return harness::evaluate(catalogue[index], library().find(index, variant::standard, width).value(), width, tuples);
-}
 
 struct result {
   u32 quotient, remainder;
@@ -54,12 +45,12 @@ template <class T>
 void check(std::string_view prefix) {
   const auto inputs = pairs();
   const auto name = [&](std::string_view end) { return fmt::format("{}{}", prefix, end); };
-  for (int mode : {FE_TONEAREST, FE_DOWNWARD, FE_UPWARD, FE_TOWARDZERO})
+  for (const auto& direction : harness::directions)
     for (int width : {1, 4, 16}) {
-      std::fesetround(mode);
-      const auto quotients = evaluate(name("div"), width, inputs), remainders = evaluate(name("rem"), width, inputs),
-                 both = evaluate(name("divrem"), width, inputs);
-      std::fesetround(FE_TONEAREST);
+      const harness::rounding in_force(direction.mode);
+      const auto quotients = call(name("div"), standard, width, inputs),
+                 remainders = call(name("rem"), standard, width, inputs),
+                 both = call(name("divrem"), standard, width, inputs);
       for (std::size_t n = 0; n < inputs.size(); ++n) {
         const auto [quotient, remainder] = due(T(inputs[n][0]), T(inputs[n][1]));
         ASSERT_EQ(quotients[n].first, quotient) << T(inputs[n][0]) << " / " << T(inputs[n][1]);
@@ -75,8 +66,8 @@ TEST(IntegerDivision, IsTheProcessorsWhereThatHasAResult) {
 }
 
 TEST(IntegerDivision, GivesStatedResults) {
-  const auto signed_pair = [](i32 a, i32 b) { return evaluate("idivrem", 1, {{u32(a), u32(b)}})[0]; };
-  const auto unsigned_pair = [](u32 a, u32 b) { return evaluate("udivrem", 1, {{a, b}})[0]; };
+  const auto signed_pair = [](i32 a, i32 b) { return outcome_of("idivrem", standard, 1, u32(a), u32(b)); };
+  const auto unsigned_pair = [](u32 a, u32 b) { return outcome_of("udivrem", standard, 1, a, b); };
   EXPECT_EQ(signed_pair(-7, 2), (outcome{u32(-3), u32(-1)}));
   EXPECT_EQ(signed_pair(7, -2), (outcome{u32(-3), 1}));
   EXPECT_EQ(signed_pair(5, 0), (outcome{0x80000000, 5}));

@@ -11,13 +11,13 @@
 
 using bytes = std::vector<std::byte>;
 
-// A third each of special values, of random bits, and of ordinary values or small integers.
+// A quarter of the lanes are turning points, the others special patterns, any patterns and ordinary values.
 bytes inputs_of(lanemath::lane l, std::size_t lanes, std::mt19937_64& random);
 
 // All lanes the same.
 bytes constants_of(lanemath::lane l, std::size_t lanes, double value);
 
-// Each lane as the first of its share.
+// Makes each lane equal to the first one of its share.
 void spread_first_lanes(bytes& values, std::size_t lane_size, std::size_t lanes_per_share);
 
 struct comparison {

@@ -50,7 +50,7 @@ class conformance {
     for (std::size_t i = 0; i < batch.size(); ++i) run(program, batch[i], kernels[i]);
   }
 
-  // Every argument of 32 bits there is, in the plain kernel of scalars.
+  // Every 32-bit argument there is, in the plain kernel of scalars.
   void sweep(const group& g) {
     const kernel k{fmt::format("sweep{}", groups_++), shape::plain, 1};
     const auto program = device_.build(source_of(g, k));
@@ -98,7 +98,7 @@ class conformance {
     auto memory = inputs;
     std::vector<int> flags;
     if (k.form == shape::branch) {
-      for (std::size_t i = 0; i < lanes; ++i) flags.push_back(random_() % 2);
+      for (std::size_t i = 0; i < lanes; ++i) flags.push_back(int(random_() % 2));
       const auto* first = reinterpret_cast<const std::byte*>(flags.data());
       memory.emplace_back(first, first + lanes * sizeof(int));
     }
@@ -126,8 +126,8 @@ class conformance {
         .call(pointers.data(), direct.data(), direct_second.data(), lanes);
     for (std::size_t i = 0; i < flags.size(); ++i)
       if (!flags[i]) {
-        std::fill_n(direct.begin() + i * size_of(s.result), size_of(s.result), untouched);
-        std::fill_n(direct_second.begin() + i * size_of(s.second), size_of(s.second), untouched);
+        std::fill_n(direct.data() + i * size_of(s.result), size_of(s.result), untouched);
+        std::fill_n(direct_second.data() + i * size_of(s.second), size_of(s.second), untouched);
       }
 
     const bool any_nan = left_to_compiler(b.operation(), b.variant, on_);
@@ -144,8 +144,8 @@ class conformance {
     ++calls_;
   }
 
-  // The runtime loops over a kernel's work items. That loop must call vector forms, but in a kernel of its own loop,
-  // which says that it is not to be vectorised, no loop may. Where a branch is in it, the compiler weighs the cost.
+  // The runtime loops over a kernel's work items, and that loop must call vector forms. A kernel with a loop of its own
+  // asks for it not to be vectorised, and none may be. Where the loop has a branch in it, the compiler decides by cost.
   void check_loop(const group& g, const kernel& k) {
     const auto called = device_.called_by(k.name, disassembler_);
     for (const auto& b : g.members) {

@@ -14,7 +14,7 @@
 
 using bytes = std::vector<std::byte>;
 
-// A folder for the runtime's compiled kernels: a fresh one, so that all that is in it is of this run.
+// A fresh folder for the runtime's compiled kernels, so that everything in it comes from this run.
 class kernel_cache {
  public:
   kernel_cache();
@@ -29,7 +29,7 @@ class kernel_cache {
   std::filesystem::path folder_;
 };
 
-// Runs a program, and tells on standard error what stopped it.
+// Runs a program, and says on standard error what stopped it.
 int guarded(const std::function<int()>& program);
 
 class device {

@@ -1,32 +1,19 @@
 // Stated results of the roots and reciprocals at stated inputs, and what their tables hold.
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cmath>
 #include <limits>
 #include <random>
 
-#include "support/lanes_of.h"
-#include "support/library.h"
+#include "support/call.h"
 #include "tables/roots.h"
 
 namespace lanemath::testing {
 namespace {
 
-using u32 = std::uint32_t;
-using u64 = std::uint64_t;
-constexpr auto standard = variant::standard, native = variant::native, half = variant::half;
-
-u64 bits_of(std::string_view name, variant v, int width, arguments patterns) {
-  const auto index = index_of(name);
-  const std::vector<arguments> tuples(width, patterns);
-  return harness::evaluate(catalogue[index], library().find(index, v, width).value(), width, tuples)[0].first;
-}
-float value(std::string_view name, variant v, float x, float y = 0) {
-  return std::bit_cast<float>(u32(bits_of(name, v, 8, {std::bit_cast<u32>(x), std::bit_cast<u32>(y)})));
-}
-double value(std::string_view name, variant v, double x, double y = 0) {
-  return std::bit_cast<double>(bits_of(name, v, 8, {std::bit_cast<u64>(x), std::bit_cast<u64>(y)}));
+template <class T>
+T root(std::string_view name, variant v, T x, T y = 0) {
+  return value_of<T>(name, v, 8, x, y);
 }
 
 // Inputs and results by their bits, in the given variants.
@@ -46,8 +33,7 @@ void expect(const std::vector<stated>& all) {
 
 constexpr u64 inf = 0x7FF0000000000000, minus = 0x8000000000000000, invalid = 0xFFF8000000000000;
 constexpr u64 inff = 0x7F800000, minusf = 0x80000000, invalidf = 0xFFC00000;
-const std::vector<variant> divisions{standard, native, half, variant::rm}, two{standard, native},
-    three{standard, native, half};
+const std::vector<variant> divisions{standard, native, half, rm}, two{standard, native}, three{standard, native, half};
 
 TEST(Roots, OfZerosInfinitiesAndNegatives) {
   expect({
@@ -122,37 +108,36 @@ TEST(Roots, OfNaNs) {
 }
 
 TEST(Roots, HaveExactValuesWhereTheirMethodsDo) {
-  EXPECT_EQ(value("rsqrt", standard, 4.0), 0.5);
-  EXPECT_EQ(value("hypotf", standard, 1e30f, 0.0f), 1e30f);
-  EXPECT_EQ(value("hypotf", standard, 0x1.8p127f, -0x1.8p127f), std::numeric_limits<float>::infinity());
+  EXPECT_EQ(root("rsqrt", standard, 4.0), 0.5);
+  EXPECT_EQ(root("hypotf", standard, 1e30f, 0.0f), 1e30f);
+  EXPECT_EQ(root("hypotf", standard, 0x1.8p127f, -0x1.8p127f), std::numeric_limits<float>::infinity());
   for (auto v : two) {
-    EXPECT_EQ(value("hypot", v, 3e300, 4e300), 5e300);
-    EXPECT_EQ(value("hypot", v, 0x3p-1074, -0x4p-1074), 0x5p-1074);
-    EXPECT_EQ(value("hypot", v, 0x1p1023, 0x1p-1074), 0x1p1023);
-    EXPECT_EQ(value("hypot", v, 0x1.8p1023, 0x1.8p1023), std::numeric_limits<double>::infinity());
+    EXPECT_EQ(root("hypot", v, 3e300, 4e300), 5e300);
+    EXPECT_EQ(root("hypot", v, 0x3p-1074, -0x4p-1074), 0x5p-1074);
+    EXPECT_EQ(root("hypot", v, 0x1p1023, 0x1p-1074), 0x1p1023);
+    EXPECT_EQ(root("hypot", v, 0x1.8p1023, 0x1.8p1023), std::numeric_limits<double>::infinity());
   }
   for (int n = -42; n <= 42; ++n) {
     const float x = std::ldexp(1.0f, n);
-    EXPECT_EQ(value("cbrtf", standard, -x * x * x), -x) << n;
-    EXPECT_EQ(value("rcbrtf", standard, -x * x * x), -1 / x) << n;
+    EXPECT_EQ(root("cbrtf", standard, -x * x * x), -x) << n;
+    EXPECT_EQ(root("rcbrtf", standard, -x * x * x), -1 / x) << n;
   }
   for (int n = -74; n <= 63; ++n)
-    EXPECT_EQ(value("rsqrtf", standard, std::ldexp(1.0f, 2 * n)), std::ldexp(1.0f, -n)) << n;
+    EXPECT_EQ(root("rsqrtf", standard, std::ldexp(1.0f, 2 * n)), std::ldexp(1.0f, -n)) << n;
 }
 
 // Nothing but an estimate, where a scalar routine is not asked; the true quotient where it is.
 TEST(Roots, LightReciprocalsAreExactBeyondTheirBounds) {
-  const auto quotient = [](float x, float y) { return std::bit_cast<u32>(value("divf", native, x, y)); };
+  const auto quotient = [](float x, float y) { return pattern(root("divf", native, x, y)); };
   for (float y : {0x1p126f, 0x1.fffffep127f, 0x1p-149f, 0x1.fffffcp-127f, -0x1.8p126f})
-    EXPECT_EQ(quotient(0.7f, y), std::bit_cast<u32>(0.7f / y)) << y;
-  for (float x : {0x1.ffdp126f, 0x1.fffffep127f, 0x1p-149f, -0x1p-127f})
-    EXPECT_EQ(value("invf", native, x), 1 / x) << x;
+    EXPECT_EQ(quotient(0.7f, y), pattern(0.7f / y)) << y;
+  for (float x : {0x1.ffdp126f, 0x1.fffffep127f, 0x1p-149f, -0x1p-127f}) EXPECT_EQ(root("invf", native, x), 1 / x) << x;
   std::mt19937 random(1);
   for (int n = 0; n < 2000; ++n) {
     const float x = std::ldexp(1 + float(random() >> 8) * 0x1p-24f, int(random() % 200) - 100);
-    EXPECT_NEAR(value("divf", native, 1.0f, x) * x, 1, 0x1.9p-12) << x;
-    EXPECT_NEAR(value("invf", native, x) * x, 1, 0x1.9p-12) << x;
-    EXPECT_NEAR(value("sqrtf", half, x) / std::sqrt(x), 1, 0x1.9p-12) << x;
+    EXPECT_NEAR(root("divf", native, 1.0f, x) * x, 1, 0x1.9p-12) << x;
+    EXPECT_NEAR(root("invf", native, x) * x, 1, 0x1.9p-12) << x;
+    EXPECT_NEAR(root("sqrtf", half, x) / std::sqrt(x), 1, 0x1.9p-12) << x;
   }
 }
 
@@ -160,19 +145,19 @@ TEST(Roots, LightReciprocalsAreExactBeyondTheirBounds) {
 TEST(Roots, ScalarRoutinesRoundToTheNearest) {
   std::mt19937_64 random(2);
   for (int n = 0; n < 4000; ++n) {
-    const auto denormal = std::bit_cast<float>(u32(random()) & 0x007FFFFF);
-    const auto x = std::bit_cast<float>(u32(random()) & 0x7FFFFFFF), y = std::bit_cast<float>(u32(random()));
-    EXPECT_EQ(value("sqrtf", half, denormal), std::sqrt(denormal));
+    const auto denormal = value<float>(random() & 0x007FFFFF);
+    const auto x = value<float>(random() & 0x7FFFFFFF), y = value<float>(random());
+    EXPECT_EQ(root("sqrtf", half, denormal), std::sqrt(denormal));
     if (!(std::isfinite(x) && std::isfinite(y))) continue;
     const double sum = double(x) * x + double(y) * y;
     if (sum > 0x1p67 || sum < 0x1p-68) {
-      EXPECT_EQ(value("hypotf", standard, x, y), float(std::sqrt(sum))) << x << ' ' << y;
+      EXPECT_EQ(root("hypotf", standard, x, y), float(std::sqrt(sum))) << x << ' ' << y;
     }
 
     // Of denormals and so of integers: n is the nearest if n^2 - n < a^2 + b^2 <= n^2 + n.
     using wide = unsigned __int128;
     const u64 a = random() >> 12 >> random() % 30, b = random() >> 12 >> random() % 30;
-    const wide root = bits_of("hypot", standard, 2, {a, b}), squares = wide(a) * a + wide(b) * b;
+    const wide root = bits_of("hypot", standard, 2, a, b), squares = wide(a) * a + wide(b) * b;
     EXPECT_TRUE(squares <= root * root + root && (root == 0 || squares > root * root - root)) << a << ' ' << b;
   }
 }

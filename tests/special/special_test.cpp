@@ -6,25 +6,12 @@
 #include <limits>
 
 #include "frame/frame.h"
-#include "support/lanes_of.h"
-#include "support/library.h"
+#include "support/call.h"
 #include "tables/special.h"
 
 namespace lanemath::testing {
 namespace {
 
-using u32 = std::uint32_t;
-using u64 = std::uint64_t;
-
-outcome call(std::string_view name, variant v, int width, u64 pattern) {
-  const auto index = index_of(name);
-  const std::vector<arguments> tuples(width, arguments{pattern});
-  return harness::evaluate(catalogue[index], library().find(index, v, width).value(), width, tuples)[0];
-}
-u64 pattern_of(float x) { return std::bit_cast<u32>(x); }
-u64 pattern_of(double x) { return std::bit_cast<u64>(x); }
-
-constexpr auto standard = variant::standard, native = variant::native;
 constexpr float infinity = std::numeric_limits<float>::infinity();
 constexpr double wide_infinity = std::numeric_limits<double>::infinity();
 const double nan_d = std::numeric_limits<double>::quiet_NaN();
@@ -42,7 +29,7 @@ void expect_all(std::initializer_list<std::string_view> names, std::initializer_
     for (auto v : forms)
       for (int width : widths)
         for (const auto& [x, y] : cases)
-          EXPECT_EQ(call(name, v, width, pattern_of(x)).first, pattern_of(y))
+          EXPECT_EQ(bits_of(name, v, width, x), pattern(y))
               << name << width << suffix(v) << " of " << x << ", due " << y;
 }
 
@@ -53,10 +40,10 @@ void expect_nans_kept(std::string_view name, std::initializer_list<variant> form
     for (int width : widths) {
       if (narrow)
         for (u64 nan : {0x7FC00000u, 0xFFC12345u, 0x7F800001u, 0xFF812345u})
-          EXPECT_EQ(call(name, v, width, nan).first, nan | 0x00400000) << name << width << suffix(v);
+          EXPECT_EQ(bits_of(name, v, width, nan), nan | 0x00400000) << name << width << suffix(v);
       else
         for (u64 nan : {0x7FF8000000000000u, 0xFFF8000012345678u, 0x7FF0000000000001u, 0xFFF0000000000123u})
-          EXPECT_EQ(call(name, v, width, nan).first, nan | 0x0008000000000000) << name << width << suffix(v);
+          EXPECT_EQ(bits_of(name, v, width, nan), nan | 0x0008000000000000) << name << width << suffix(v);
     }
 }
 
@@ -145,8 +132,8 @@ TEST(LogGamma, AtItsSpecialValues) {
                                {-0x1p52, wide_infinity},
                                {-wide_infinity, wide_infinity},
                                {std::bit_cast<double>(0x7F5754D9278B51A8u), wide_infinity}});
-  EXPECT_TRUE(std::isfinite(std::bit_cast<float>(u32(call("lgammaf", standard, 4, pattern_of(last)).first))));
-  EXPECT_TRUE(std::isfinite(std::bit_cast<double>(call("lgamma", standard, 2, 0x7F5754D9278B51A7).first)));
+  EXPECT_TRUE(std::isfinite(value_of<float>("lgammaf", standard, 4, last)));
+  EXPECT_TRUE(std::isfinite(value_of<double>("lgamma", standard, 2, 0x7F5754D9278B51A7)));
   for (auto name : {"lgammaf", "lgammarf", "lgamma", "lgammar"}) expect_nans_kept(name, {standard});
 }
 
@@ -160,11 +147,11 @@ TEST(LogGamma, GivesTheSignOfGamma) {
                      {nan_d, 1},  {1e306, 1},         {-0x1p-140, -1}};
   for (int width : widths)
     for (const auto& [x, sign] : cases) {
-      EXPECT_EQ(std::int32_t(call("lgammar", standard, width, pattern_of(x)).second), sign) << x;
-      EXPECT_EQ(std::int32_t(call("lgammarf", standard, width, pattern_of(float(x))).second), sign) << float(x);
+      EXPECT_EQ(std::int32_t(outcome_of("lgammar", standard, width, x).second), sign) << x;
+      EXPECT_EQ(std::int32_t(outcome_of("lgammarf", standard, width, float(x)).second), sign) << float(x);
     }
-  EXPECT_EQ(std::int32_t(call("lgammar", standard, 4, pattern_of(-0x1.0000000000001p51)).second), -1);
-  EXPECT_EQ(std::int32_t(call("lgammar", standard, 4, pattern_of(-0x1.0000000000003p51)).second), 1);
+  EXPECT_EQ(std::int32_t(outcome_of("lgammar", standard, 4, -0x1.0000000000001p51).second), -1);
+  EXPECT_EQ(std::int32_t(outcome_of("lgammar", standard, 4, -0x1.0000000000003p51).second), 1);
 }
 
 TEST(Gamma, AtItsSpecialValues) {
@@ -206,13 +193,13 @@ TEST(Gamma, AtItsSpecialValues) {
                                {-186.5, -0.0}});
   for (int width : widths) {
     for (float x : {-infinity, -1.0f, -2.0f, -44.0f, -4194307.0f, -0x1p23f, -1e30f})
-      EXPECT_EQ(call("tgammaf", standard, width, pattern_of(x)).first, default_nan) << x;
+      EXPECT_EQ(bits_of("tgammaf", standard, width, x), default_nan) << x;
     for (double x : {-wide_infinity, -1.0, -2.0, -186.0, -0x1p52, -1e300})
-      EXPECT_EQ(call("tgamma", standard, width, pattern_of(x)).first, wide_default_nan) << x;
+      EXPECT_EQ(bits_of("tgamma", standard, width, x), wide_default_nan) << x;
   }
   const float below = std::nextafter(std::bit_cast<float>(u32(0x420C2910)), 0.0f);  // 35.0401
-  EXPECT_TRUE(std::isfinite(std::bit_cast<float>(u32(call("tgammaf", standard, 4, pattern_of(below)).first))));
-  EXPECT_TRUE(std::isfinite(std::bit_cast<double>(call("tgamma", standard, 2, pattern_of(171.6)).first)));
+  EXPECT_TRUE(std::isfinite(value_of<float>("tgammaf", standard, 4, below)));
+  EXPECT_TRUE(std::isfinite(value_of<double>("tgamma", standard, 2, 171.6)));
   for (auto name : {"tgammaf", "tgamma"}) expect_nans_kept(name, {standard});
 }
 
@@ -239,11 +226,11 @@ TEST(GammaFunctions, LeaveTheX87ControlWordAsTheyFoundIt) {
       for (u32 precision : {0x000u, 0x200u, 0x300u})
         for (u32 rounding : {0x000u, 0xC00u}) {
           const bool narrow = name.back() == 'f';
-          const u64 pattern = narrow ? pattern_of(float(x)) : pattern_of(x);
-          const auto due = call(name, standard, 1, pattern);
+          const u64 lane = pattern_of(name, x);
+          const auto due = outcome_of(name, standard, 1, lane);
           const u32 control = (usual & ~0xF00u) | precision | rounding;
           set_x87_control(control);
-          const auto got = call(name, standard, 1, pattern);
+          const auto got = outcome_of(name, standard, 1, lane);
           const u32 after = x87_control();
           set_x87_control(usual);
           EXPECT_EQ(after, control) << name << " of " << x;

@@ -6,8 +6,7 @@
 #include <cstdlib>
 #include <limits>
 
-#include "support/lanes_of.h"
-#include "support/library.h"
+#include "support/call.h"
 #include "tables/trig.h"
 
 namespace lanemath::testing {
@@ -15,12 +14,8 @@ namespace {
 
 // Lane 0 of a call with the value in every lane, as a double.
 double of(std::string_view name, variant v, int width, double x) {
-  const auto index = index_of(name);
-  const bool single = name.back() == 'f';
-  const std::uint64_t pattern = single ? std::bit_cast<std::uint32_t>(float(x)) : std::bit_cast<std::uint64_t>(x);
-  const std::vector<arguments> tuples(width, arguments{pattern});
-  const auto y = harness::evaluate(catalogue[index], library().find(index, v, width).value(), width, tuples)[0].first;
-  return single ? double(std::bit_cast<float>(std::uint32_t(y))) : std::bit_cast<double>(y);
+  const auto y = bits_of(name, v, width, pattern_of(name, x));
+  return is_single(name) ? double(value<float>(y)) : value<double>(y);
 }
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -47,25 +42,25 @@ void expect(const stated& each, variant v, double x, double y) {
   for (const std::string precision : {"", "f"})
     for (int width : widths) {
       const double found = of(std::string(each.name) + precision, v, width, x);
-      EXPECT_EQ(std::bit_cast<std::uint64_t>(found), std::bit_cast<std::uint64_t>(y)) << each.name << precision << x;
+      EXPECT_EQ(pattern(found), pattern(y)) << each.name << precision << x;
     }
 }
 
 TEST(OfPi, StatedResults) {
   for (const auto& each : exact_results)
-    for (auto v : {variant::standard, variant::native})
-      if (each.y != 1 || v == variant::standard) expect(each, v, each.x, each.y);
-  for (const auto& each : rounded_results) expect(each, variant::standard, each.x, each.y);
+    for (auto v : {standard, native})
+      if (each.y != 1 || v == standard) expect(each, v, each.x, each.y);
+  for (const auto& each : rounded_results) expect(each, standard, each.x, each.y);
 }
 
 TEST(OfPi, SineAndTangentAreOdd) {
   for (const auto& each : exact_results)
-    if (each.name != "cospi") expect(each, variant::standard, -each.x, -each.y);
+    if (each.name != "cospi") expect(each, standard, -each.x, -each.y);
 }
 
 TEST(OfPi, InfinitiesAndNaNsGiveNaN) {
   for (const std::string name : {"sinpi", "cospi", "tanpi", "sinpif", "cospif", "tanpif", "tan", "tanf"})
-    for (auto v : {variant::standard, variant::native})
+    for (auto v : {standard, native})
       for (int width : widths)
         for (double x : {infinity, -infinity, std::nan("")})
           EXPECT_TRUE(std::isnan(of(name, v, width, x))) << name << x;
@@ -73,7 +68,7 @@ TEST(OfPi, InfinitiesAndNaNsGiveNaN) {
 
 TEST(Tangent, KeepsTheSignOfZero) {
   for (const std::string name : {"tan", "tanf"})
-    for (auto v : {variant::standard, variant::native}) {
+    for (auto v : {standard, native}) {
       EXPECT_TRUE(std::signbit(of(name, v, 4, -0.0)));
       EXPECT_FALSE(std::signbit(of(name, v, 4, 0.0)));
     }
@@ -85,7 +80,7 @@ TEST(Tangent, KeepsBothPartsOfTheRemainder) {
                                                    {0x1.921fb54442d18p0, 0x1.d02967c31cdb5p+53},
                                                    {0x1.6ac5b262ca1ffp849, -0x1.d9ba9a7975636p+60}};
   for (const auto& [x, y] : results) {
-    const auto found = std::bit_cast<std::int64_t>(of("tan", variant::standard, 2, x));
+    const auto found = std::bit_cast<std::int64_t>(of("tan", standard, 2, x));
     EXPECT_LE(std::abs(found - std::bit_cast<std::int64_t>(y)), 1) << x;
   }
 }
@@ -95,8 +90,7 @@ TEST(Tangent, TheTableHasItsStatedRows) {
       {0x3FC90FDB, 0xB33BBD2E, 0, 0, 0, 0x3F800000, 0, 0, 0x3EAAACDD, 0},
       {0x3FC5EB9B, 0x32DE638C, 0, 0x3CC91A31, 0x2F8E8D1A, 0x3F800000, 0x3A1DFA00, 0x3CC9392D, 0x3EAB1889, 0x3C885D3B}};
   for (int j : {0, 1})
-    for (int c = 0; c < 10; ++c)
-      EXPECT_EQ(std::bit_cast<std::uint32_t>(tangent_128[j][c]), rows[j][c]) << j << ' ' << c;
+    for (int c = 0; c < 10; ++c) EXPECT_EQ(pattern(tangent_128[j][c]), rows[j][c]) << j << ' ' << c;
   const std::pair<int, float> powers[] = {{25, 1}, {26, 2}, {32, 0.5f}, {34, 0.25f}, {95, 0.5f}, {96, 2}, {103, 1}};
   for (const auto& [j, power] : powers) EXPECT_EQ(tangent_128[j][5], power) << j;
   EXPECT_EQ(tangent_128[64][0], 0);
@@ -104,12 +98,10 @@ TEST(Tangent, TheTableHasItsStatedRows) {
 
 // One lane above the bound leaves the others alone.
 TEST(Tangent, TheLargeStageIsForLargeLanesOnly) {
-  const auto index = index_of("tanf");
-  const auto bits = [](float x) { return arguments{std::bit_cast<std::uint32_t>(x)}; };
-  const auto f = library().find(index, variant::standard, 4).value();
-  const auto mixed =
-      harness::evaluate(catalogue[index], f, 4, std::vector{bits(1e30f), bits(1), bits(8256), bits(-0.0f)});
-  const auto plain = harness::evaluate(catalogue[index], f, 4, std::vector{bits(1), bits(1), bits(8256), bits(-0.0f)});
+  const auto lanes = [](float first) {
+    return call("tanf", standard, 4, {{pattern(first)}, {pattern(1.0f)}, {pattern(8256.0f)}, {pattern(-0.0f)}});
+  };
+  const auto mixed = lanes(1e30f), plain = lanes(1);
   for (int i = 1; i < 4; ++i) EXPECT_EQ(mixed[i], plain[i]) << i;
 }
 

@@ -1,5 +1,5 @@
-// The built-ins in OpenCL C: each hands its vectors on by pointers, a scalar by value. Exact ones that the runtime
-// gives other bits are written out in opencl/exact.h.
+// The built-ins in OpenCL C: each passes its vectors on by pointers, a scalar by value. Exact ones for which the
+// runtime has other bits are written out in opencl/exact.h.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
@@ -76,6 +76,9 @@ void define_exact(std::FILE* out, const operation& o, int width) {
     for (auto space : address_spaces)
       fmt::print(out, "EXACT_FRACT({}, {}, {}, {}, {})\n", space, real, type(single ? lane::u32 : lane::u64),
                  single ? "0x80000000" : "0x8000000000000000", single ? "0x1.fffffep-1f" : "0x1.fffffffffffffp-1");
+  } else if (base == "ldexp" && width > 1) {
+    fmt::print(out, "EXACT_LDEXP({}, {}, {}, {})\n", real, type(lane::i32), type(single ? lane::i32 : lane::i64),
+               single ? "24, -126" : "53, -1022");
   } else if (o.name() == "frexp" && width >= 8) {
     for (auto space : address_spaces)
       fmt::print(out, "EXACT_FREXP({}, {}, {}, {}, {})\n", space, real, type(lane::i32),

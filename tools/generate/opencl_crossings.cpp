@@ -198,7 +198,7 @@ class writer {
     return fmt::format("%{}_room", name);
   }
   std::string store(std::string_view name, lane l) {
-    const auto at = room(name, l);
+    auto at = room(name, l);
     fmt::print(out_, "  store {} %{}, ptr {}, align 16\n", ir_type(l, f_.width), name, at);
     return at;
   }
@@ -301,7 +301,7 @@ class writer {
     const form piece{f_.op, f_.variant, lanes};
     for (int k = 0; k * lanes < f_.width; ++k) {
       const auto at = [&](std::string_view pointer, lane l) {
-        const auto name = fmt::format("%{}{}", pointer, k);
+        auto name = fmt::format("%{}{}", pointer, k);
         fmt::print(out_, "  {} = getelementptr i8, ptr %{}, i64 {}\n", name, pointer, k * lanes * int(size_of(l)));
         return name;
       };

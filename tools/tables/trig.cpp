@@ -138,7 +138,8 @@ void write_trig_tables(table_writer& out) {
   out.rows("sincos_256",
            "By step j of 256 in a turn: cosine less head, sine, sine's low part, cosine's head (a power of two)", 256,
            [](int j) {
-             const step<float> s(j, 256, power_near_cosine_of_256(j), [](real low) { return low.nearest<float>(); });
+             const step<float> s(j, 256, power_near_cosine_of_256(j),
+                                 [](const real& low) { return low.nearest<float>(); });
              return std::array{s.cos_tail, s.sin_hi, s.sin_lo, s.cos_head};
            });
   out.rows("sincos_512",
@@ -146,7 +147,7 @@ void write_trig_tables(table_writer& out) {
            "24 bits",
            512, [](int j) {
              const step<double> s(j, 512, power_near(cosine(j, 512)),
-                                  [](real low) { return cut(low, 24, MPFR_RNDZ).nearest<double>(); });
+                                  [](const real& low) { return cut(low, 24, MPFR_RNDZ).nearest<double>(); });
              return std::array{s.cos_tail, s.cos_head, s.sin_hi, s.sin_lo};
            });
   out.rows("sincos_64",
@@ -154,7 +155,7 @@ void write_trig_tables(table_writer& out) {
            "two, -0 for 0)",
            64, [](int j) {
              const step<double> s(j, 64, power_near(cosine(j, 64)),
-                                  [](real low) { return cut(low, 24, MPFR_RNDN).nearest<double>(); });
+                                  [](const real& low) { return cut(low, 24, MPFR_RNDN).nearest<double>(); });
              return std::array{s.cos_tail, s.sin_hi, s.sin_lo, s.cos_head == 0 ? -0.0 : s.cos_head};
            });
 

@@ -1,5 +1,4 @@
-// Calls any exported function over arrays of lanes, by its place in the catalogue. What the tests, the accuracy
-// tool and the benchmark stand on.
+// Calls any exported function over arrays of lanes, by its place in the catalogue.
 #pragma once
 
 #include <cstddef>
@@ -46,14 +45,14 @@ class library {
   library(const library&) = delete;
   library& operator=(const library&) = delete;
 
-  // Nothing if the library does not export it.
+  // Empty if the library does not export it.
   std::optional<function> find(std::size_t operation_index, variant v, int width) const;
 
  private:
   void* handle_;
 };
 
-// Lanes by their bit patterns: the arguments of one lane, and what came of it.
+// Lanes by their bit patterns: the arguments of one lane, and its results.
 using arguments = std::array<std::uint64_t, 3>;
 struct outcome {
   std::uint64_t first = 0, second = 0;
@@ -63,5 +62,10 @@ struct outcome {
 // The function on each tuple, packed into vectors of its width. At width 3 every fourth lane holds `junk`.
 std::vector<outcome> evaluate(const operation& o, const function& f, int width, std::span<const arguments> tuples,
                               std::uint64_t junk = 0);
+
+// For messages, with all digits of the lane.
+std::string hexadecimal(lane l, std::uint64_t bits);
+std::string text_of(const operation& o, const arguments& tuple);
+std::string text_of(const operation& o, const outcome& got);
 
 }  // namespace lanemath::harness

@@ -1,4 +1,4 @@
-# Installing: the library, the public header, a CMake package, a pkg-config file, a Debian package by CPack.
+# Installs the library, the public headers, a CMake package and a pkg-config file; CPack makes a Debian package of them.
 include(CMakePackageConfigHelpers)
 
 install(TARGETS lanemath EXPORT lanemath-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
@@ -10,7 +10,7 @@ install(EXPORT lanemath-targets NAMESPACE lanemath:: FILE lanemath-config.cmake 
 write_basic_package_version_file(lanemath-config-version.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/lanemath-config-version.cmake DESTINATION ${package_dir})
 
-configure_file(lanemath.pc.in lanemath.pc @ONLY)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/lanemath.pc.in lanemath.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/lanemath.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
 set(CPACK_PACKAGE_NAME lanemath)

@@ -13,8 +13,8 @@
 namespace lanemath::harness {
 namespace {
 
-// How an argument is handed over. A wide one is less aligned than the library's type: its place on the stack is the
-// same, and the compiler copies it there straight from the array, not by way of a temporary.
+// How an argument is passed. A wide one is less aligned than the library's type: its place on the stack is the same,
+// and the compiler copies it there directly from the array, without a temporary.
 template <class A, int W, bool InMemory = (sizeof(abi<A, W>) > 16)>
 struct handed_over {
   using as = abi<A, W>;
@@ -32,7 +32,7 @@ using argument_type = typename handed_over<type_of<L>, W>::as;
 template <signature S, int W, std::size_t... I>
 void invoke(void* address, const invoker_arguments& a, std::index_sequence<I...>) {
   using T = type_of<S.result>;
-  // Copies, which no store through the pointers can change: this loop is timed.
+  // Copies, which no store through the pointers can change, because this loop is timed.
   const std::array<const void*, sizeof...(I)> inputs{a.inputs[I]...};
   auto* const results = static_cast<T*>(a.result);
   const std::size_t lanes = a.lanes;
@@ -130,6 +130,18 @@ std::vector<outcome> evaluate(const operation& o, const function& f, int width, 
       std::memcpy(&outcomes[n].second, &second[place(n) * size_of(o.sig.second)], size_of(o.sig.second));
   }
   return outcomes;
+}
+
+std::string hexadecimal(lane l, std::uint64_t bits) { return fmt::format("{:#0{}x}", bits, 2 + 2 * size_of(l)); }
+
+std::string text_of(const operation& o, const arguments& tuple) {
+  std::string text;
+  for (int i = 0; i < o.sig.arity(); ++i) text += (i ? ", " : "") + hexadecimal(o.sig.arguments[i], tuple[i]);
+  return text;
+}
+std::string text_of(const operation& o, const outcome& got) {
+  const auto text = hexadecimal(o.sig.result, got.first);
+  return o.sig.how == delivery::none ? text : fmt::format("({}, {})", text, hexadecimal(o.sig.second, got.second));
 }
 
 }  // namespace lanemath::harness
