@@ -99,65 +99,56 @@ constexpr exp22_rows exp22_table{
     .G4 = 0x3F83B2AB0AC701B3_f64,
 };
 
-struct exp22 {
-  using signature = double(double);
-
-  template <class V>
-  static V kernel(V x) {
-    const auto [t, p] = reduced(x);
-    const V e = from_bits(((bits(t) + 0x1FF80) >> 7) << 52);
-    const V y = (look_up(exp2_128_double, lower(t) & 0x7F) * e) * p;
-    if (any(magnitude_above(x, 0x408FF000))) [[unlikely]]  // 1022 in the upper half
-      return each_lane(x);
-    return y;
-  }
-
- private:
-  using scalar = lanes<double, 1>;
-
-  template <class V>
-  struct reduction {
-    V t, p;
-  };
-  template <class V>
-  static reduction<V> reduced(V x) {
+template <class V>
+struct exp22_reduction {
+  V t, p;
+  explicit exp22_reduction(V x) {
     constexpr auto& c = exp22_table;
-    const V t = c.S2 + x;
+    t = c.S2 + x;
     const V f = (c.S2 - t) + x;
     const V s = f * f;
     const V a = (c.G4 * s + c.G2) * s;
     const V b = (c.G3 * s + c.G1) * f;
-    return {t, (b + a) + 1.0};
+    p = (b + a) + 1.0;
   }
+};
+
+// On the upper half of the pattern. Any NaN comes back as one and the same.
+LANEMATH_RARE exp22_lane(const double* px, double* py) {
+  using scalar = lanes<double, 1>;
+  const double x = *px;
+  const auto pattern = std::bit_cast<std::uint64_t>(x);
+  const auto magnitudes = std::uint32_t(pattern >> 32);  // orders the negative values by magnitude
+  const auto h = std::int32_t(magnitudes);
+  if (h >= 0x40900000 || magnitudes >= 0xC090CC00) {  // 1024, -1075
+    *py = pattern << 1 > 0xFFE0000000000000 ? 0x7FFFFFFF00000000_f64
+          : h >= 0x40900000                 ? std::numeric_limits<double>::infinity()
+                                            : 0.0;
+    return status::ordinary;
+  }
+  double shift = 0.0, factor = 1.0;
+  if (magnitudes >= 0xC08FF000) {  // -1022
+    shift = 53.0;
+    factor = 0x3CA0000000000000_f64;  // 2^-53
+  }
+  if (h > 0x408FFFF7) {  // 1023.99
+    shift = -1.0;
+    factor = 2.0;
+  }
+  const auto [t, p] = exp22_reduction(scalar(x + shift));
+  const scalar e = from_bits(((bits(t) + 0x1FF80) & 0x3FF80) << 45);
+  *py = ((p * (look_up(exp2_128_double, lower(t) & 0x7F) * e)) * factor).g[0];
+  return status::ordinary;
+}
+
+struct exp22 : rare_above<double(double), exp22_lane, 0x408FF000> {  // 1022
+  static constexpr bool one_marks_all = true;
 
   template <class V>
-  [[gnu::noinline, gnu::cold]] static V each_lane(V x) {
-    for (auto& group : x.g)
-      for (int i = 0; i < 2; ++i) group[i] = lane(group[i]);
-    return x;
-  }
-
-  // One lane, on the upper half of its pattern. Any NaN comes back as one and the same.
-  static double lane(double x) {
-    const auto pattern = std::bit_cast<std::uint64_t>(x);
-    const auto magnitudes = std::uint32_t(pattern >> 32);  // orders the negative values by magnitude
-    const auto h = std::int32_t(magnitudes);
-    if (h >= 0x40900000 || magnitudes >= 0xC090CC00) {  // 1024, -1075
-      if (pattern << 1 > 0xFFE0000000000000) return 0x7FFFFFFF00000000_f64;
-      return h >= 0x40900000 ? std::numeric_limits<double>::infinity() : 0.0;
-    }
-    double shift = 0.0, factor = 1.0;
-    if (magnitudes >= 0xC08FF000) {  // -1022
-      shift = 53.0;
-      factor = 0x3CA0000000000000_f64;  // 2^-53
-    }
-    if (h > 0x408FFFF7) {  // 1023.99
-      shift = -1.0;
-      factor = 2.0;
-    }
-    const auto [t, p] = reduced(scalar(x + shift));
-    const scalar e = from_bits(((bits(t) + 0x1FF80) & 0x3FF80) << 45);
-    return ((p * (look_up(exp2_128_double, lower(t) & 0x7F) * e)) * factor).g[0];
+  static V kernel(V x) {
+    const auto [t, p] = exp22_reduction(x);
+    const V e = from_bits(((bits(t) + 0x1FF80) >> 7) << 52);
+    return (look_up(exp2_128_double, lower(t) & 0x7F) * e) * p;
   }
 };
 

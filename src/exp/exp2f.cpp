@@ -156,6 +156,8 @@ LANEMATH_RARE exp2f_lane(const float* px, float* py) {
 }
 
 struct exp2f4 : rare_above<float(float), exp2f_lane, 0x42F70000> {  // 123.5
+  static constexpr bool one_marks_all = true;
+
   template <class V>
   static V kernel(V x) {
     constexpr auto& c = exp2f4_table;
@@ -166,11 +168,6 @@ struct exp2f4 : rare_above<float(float), exp2f_lane, 0x42F70000> {  // 123.5
     const V g = (c.Q1 + f) * f + c.Q0;
     const V scale = from_bits(((bits(t) + 0x1FC0) >> 6) << 23);
     return (look_up(exp2_monic_64, j).hi * scale) * g;
-  }
-  // One marked lane sends all four to the scalar routine.
-  template <class V, class M>
-  static void fix_up(V, V&, M& rare) {
-    rare = M(-1);
   }
 };
 

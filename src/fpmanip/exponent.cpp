@@ -1,5 +1,5 @@
 // frexp, ilogb, logb: the exponent field taken out, for normal numbers by the kernel. Exact.
-#include "frame/fields.h"
+#include "numeric/fields.h"
 
 namespace lanemath {
 namespace {

@@ -5,7 +5,7 @@
 // plain product and sum, in the direction of MXCSR.
 #include <utility>
 
-#include "frame/fields.h"
+#include "numeric/fields.h"
 
 namespace lanemath {
 namespace {

@@ -1,7 +1,7 @@
 // fract: x - floor(x), kept below 1, and floor(x).
 //
 // One rounding: at most 0.5 ulp, but up to 1 where a tiny negative x gives the largest number below 1.
-#include "frame/fields.h"
+#include "numeric/fields.h"
 
 namespace lanemath {
 namespace {

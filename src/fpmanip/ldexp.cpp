@@ -1,5 +1,5 @@
 // ldexp: x times 2^n, rounded once and only where the result is denormal.
-#include "frame/fields.h"
+#include "numeric/fields.h"
 
 namespace lanemath {
 namespace {

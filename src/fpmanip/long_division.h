@@ -1,7 +1,7 @@
 // What fmod, remainder and remquo share: the kernel's tests, and the long division that their rare lanes go through.
 #pragma once
 
-#include "frame/fields.h"
+#include "numeric/fields.h"
 
 namespace lanemath {
 

@@ -1,5 +1,5 @@
 // modf: x - trunc(x) with the sign of x, and trunc(x). Exact.
-#include "frame/fields.h"
+#include "numeric/fields.h"
 
 namespace lanemath {
 namespace {

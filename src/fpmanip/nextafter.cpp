@@ -1,5 +1,5 @@
 // nextafter: the pattern of x one up or one down. Exact.
-#include "frame/fields.h"
+#include "numeric/fields.h"
 
 namespace lanemath {
 namespace {

@@ -84,11 +84,8 @@ struct standalone_guards {
   using signature = T(T);
   static constexpr auto rare = Lane;
   static constexpr std::int32_t INFINITE = sizeof(T) == 4 ? 0x7F800000 : 0x7FF00000;
+  static constexpr bool one_marks_all = true;
   static auto out_of_range(auto top) { return ~((top > Low) & (top < INFINITE)); }
-  template <class V, class M>
-  static void fix_up(V, V&, M& rare) {
-    rare = M(-1);
-  }
 };
 template <class T, auto Lane, std::int32_t Low>
 struct standalone_acosh : standalone_guards<T, Lane, Low> {

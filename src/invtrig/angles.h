@@ -1,7 +1,7 @@
 // The angles that the inverse functions are put together from.
 #pragma once
 
-#include "frame/polynomial.h"
+#include "numeric/polynomial.h"
 
 namespace lanemath {
 
@@ -21,8 +21,8 @@ inline constexpr double over_pi<double> = 0x3FD45F306DC9C883_f64;
 // An estimate in float for doubles, group by group: to join two groups for one estimate costs more than it saves.
 template <class F, int W>
 LANEMATH_INLINE lanes<double, W> by_floats(F estimate, const lanes<double, W>& x) {
-  return frame_detail::in_pieces<2, W>(
-      [&](const auto& v) LANEMATH_LAMBDA { return convert<double>(estimate(convert<float>(v))); }, x);
+  return by_pieces<2, W>([&](const auto& v) LANEMATH_LAMBDA { return convert<double>(estimate(convert<float>(v))); },
+                         x);
 }
 
 }  // namespace lanemath

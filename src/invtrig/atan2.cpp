@@ -25,14 +25,6 @@ using atan2f_native = radians_of<float, light_factor<light_rows<float>>, by_esti
 using atan2_standard = radians_of<double, four_chain_factor, by_division>;
 using atan2_native = radians_of<double, light_factor<light_rows<double>>, by_estimate>;
 
-// One marked lane sends all of them to the scalar routine.
-struct one_marks_all {
-  template <class V, class M>
-  static void fix_up(V, V, V&, M& rare) {
-    rare = M(-1);
-  }
-};
-
 // The default form in double at width 2. The scalar routine has the kernel's bits.
 
 LANEMATH_RARE atan22_lane(const double* py, const double* px, double* result) {
@@ -43,8 +35,9 @@ LANEMATH_RARE atan22_lane(const double* py, const double* px, double* result) {
   return status::ordinary;
 }
 
-struct atan22 : atan2_standard, one_marks_all {
+struct atan22 : atan2_standard {
   static constexpr auto rare = atan22_lane;
+  static constexpr bool one_marks_all = true;
 
   template <class V>
   static auto rare_test(V y, V x) {
@@ -87,9 +80,10 @@ LANEMATH_RARE atan2f4_lane(const float* py, const float* px, float* result) {
   return status::ordinary;
 }
 
-struct atan2f4 : one_marks_all {
+struct atan2f4 {
   using signature = float(float, float);
   static constexpr auto rare = atan2f4_lane;
+  static constexpr bool one_marks_all = true;
 
   template <class V>
   static V kernel(V y, V x) {

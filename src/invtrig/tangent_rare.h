@@ -2,7 +2,7 @@
 // cannot reach.
 #pragma once
 
-#include "frame/double_pair.h"
+#include "numeric/double_pair.h"
 #include "invtrig/angles.h"
 #include "tables/invtrig.h"
 

@@ -1,7 +1,7 @@
 // What the logarithms of both precisions share.
 #pragma once
 
-#include "frame/polynomial.h"
+#include "numeric/polynomial.h"
 
 namespace lanemath {
 

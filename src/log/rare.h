@@ -8,7 +8,7 @@
 #include <cmath>
 #include <optional>
 
-#include "frame/fields.h"
+#include "numeric/fields.h"
 #include "log/common.h"
 #include "tables/log.h"
 

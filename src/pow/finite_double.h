@@ -3,7 +3,7 @@
 // series, one rounding at the result's own last place.
 #pragma once
 
-#include "frame/double_pair.h"
+#include "numeric/double_pair.h"
 #include "pow/special_cases.h"
 #include "tables/pow.h"
 

@@ -4,7 +4,7 @@
 // Infinities, zeros and NaNs are made by arithmetic.
 #pragma once
 
-#include "frame/fields.h"
+#include "numeric/fields.h"
 
 namespace lanemath::powers {
 

@@ -2,8 +2,8 @@
 // their scalar routines are made of.
 #pragma once
 
-#include "frame/double_pair.h"
-#include "frame/fields.h"
+#include "numeric/double_pair.h"
+#include "numeric/fields.h"
 
 namespace lanemath {
 

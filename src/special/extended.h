@@ -4,7 +4,7 @@
 #include <cstring>
 #include <iterator>
 
-#include "frame/polynomial.h"
+#include "numeric/polynomial.h"
 
 namespace lanemath::special {
 

@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "frame/fields.h"
+#include "numeric/fields.h"
 #include "special/log_extended.h"
 
 namespace lanemath::special {

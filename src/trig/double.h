@@ -67,7 +67,7 @@ struct double_large_stage {
       else
         return sine;
     };
-    y = select(rare, frame_detail::in_pieces<2, W>(stage, x), y);
+    y = select(rare, by_pieces<2, W>(stage, x), y);
     rare = rare & ~(magnitude(x) <= std::numeric_limits<double>::max());
   }
 };

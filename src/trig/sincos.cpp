@@ -56,7 +56,7 @@ struct sincos_standard : sincos_form<pi_double, sincos_c> {
       using V = std::decay_t<decltype(r)>;
       return two_results<V, V>{flipped(at.sine(j), sign_of(v)), at.sine((j + 128) & 0x1FF)};
     };
-    const auto y = frame_detail::in_pieces<2, W>(stage, x);
+    const auto y = by_pieces<2, W>(stage, x);
     sine = select(rare, y.first, sine);
     cosine = select(rare, y.second, cosine);
     rare = rare & ~(magnitude(x) <= std::numeric_limits<double>::max());

@@ -48,7 +48,7 @@ struct sincosf_form : rare_above<through_pointer<float, float>(float), sincosf_r
       using V = std::decay_t<decltype(r)>;
       return two_results<V, V>{flipped(at.template sine<true>(j), sign_of(v)), at.template sine<true>((j + 64) & 0xFF)};
     };
-    const auto y = frame_detail::in_pieces<4, W>(stage, x);
+    const auto y = by_pieces<4, W>(stage, x);
     sine = select(rare, y.first, sine);
     cosine = select(rare, y.second, cosine);
     rare = not_finite(x);

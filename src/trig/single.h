@@ -71,7 +71,7 @@ struct single_guards : rare_above<float(float), Routine, LARGE_SINGLE> {
       const auto [j, r, rl] = reduce_to_step(v);
       return large_single(r, rl).template sine<false>((j + Quarter) & 0xFF);
     };
-    y = select(rare, frame_detail::in_pieces<4, W>(stage, x), y);
+    y = select(rare, by_pieces<4, W>(stage, x), y);
     rare = not_finite(x);
   }
 };

@@ -89,7 +89,7 @@ struct tan_form {
       const auto [r, rl, odd] = Form::reduce(magnitude(v));
       return flipped(Form::tangent(r, rl, odd), sign_of(v));
     };
-    return frame_detail::in_pieces<2, W>(group, x);
+    return by_pieces<2, W>(group, x);
   }
   static auto rare_test(auto x) { return ~(magnitude(x) <= 0x1p20); }
   template <int W, class M>
@@ -98,7 +98,7 @@ struct tan_form {
       const auto [j, r, rl] = reduce_to_step(magnitude(v), QUARTERS);
       return flipped(Form::tangent(r, rl, odd_ones(widen(j))), sign_of(v));
     };
-    y = select(rare, frame_detail::in_pieces<2, W>(stage, x), y);
+    y = select(rare, by_pieces<2, W>(stage, x), y);
     rare = rare & ~(magnitude(x) <= std::numeric_limits<double>::max());
   }
 };

@@ -75,7 +75,7 @@ struct tanf_form : rare_above<float(float), tanf_rare, LARGE> {
       const auto [j, r, rl] = reduce_to_step(v);
       return Stage::tangent(r + rl, look_up_row(tangent_128, j & 0x7F));
     };
-    y = select(rare, frame_detail::in_pieces<4, W>(stage, x), y);
+    y = select(rare, by_pieces<4, W>(stage, x), y);
     rare = not_finite(x);
   }
 };
