@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "convert/convert.h"
+#include "numeric/fields.h"
 
 namespace lanemath {
 namespace {
@@ -36,7 +37,7 @@ LANEMATH_INLINE auto placed(auto p, const lanes<U, W>& field) {
   return from_bits(field | std::bit_cast<U>(p));
 }
 template <class U, int W>
-LANEMATH_INLINE auto value_of(auto p, const lanes<U, W>& field) {
+LANEMATH_INLINE auto field_value(auto p, const lanes<U, W>& field) {
   return placed(p, field) - p;
 }
 
@@ -73,7 +74,7 @@ struct to_double {
     if constexpr (std::is_signed_v<I>)
       return convert<double>(x);
     else
-      return value_of(from_integer_rows<double>::P0, widen(x));
+      return field_value(from_integer_rows<double>::P0, widen(x));
   }
 };
 
@@ -86,8 +87,8 @@ struct from_two_fields {
   static auto kernel(V x) {
     using c = from_integer_rows<T>;
     const taken_apart<I, T, V::width> from(x);
-    const auto lo = value_of(c::P0, from.m & c::FIELD);
-    const auto hi = value_of(c::P1, from.m >> c::field_bits);
+    const auto lo = field_value(c::P0, from.m & c::FIELD);
+    const auto hi = field_value(c::P1, from.m >> c::field_bits);
     const auto s = hi + lo;
     if constexpr (D == direction::nearest) {
       return with_bits(s, from.sign);
@@ -115,8 +116,8 @@ struct three_fields {
 
   LANEMATH_INLINE explicit three_fields(const V& m)
       : low(as<std::uint32_t>(lower(m)) & c::FIELD),
-        middle(value_of(c::P1, as<std::uint32_t>(lower(m >> 23)) & c::FIELD)),
-        high(value_of(c::P2, as<std::uint32_t>(upper(m)) >> 14)) {}
+        middle(field_value(c::P1, as<std::uint32_t>(lower(m >> 23)) & c::FIELD)),
+        high(field_value(c::P2, as<std::uint32_t>(upper(m)) >> 14)) {}
 };
 
 // The low field is left out of the first sum and added in the end. Where the first sum was rounded down on an exact
@@ -145,7 +146,7 @@ struct from_three_fields {
   static auto kernel(V x) {
     const taken_apart<I, float, V::width> from(x);
     const three_fields fields(from.m);
-    const auto low = value_of(from_integer_rows<float>::P0, fields.low);
+    const auto low = field_value(from_integer_rows<float>::P0, fields.low);
     const auto s1 = fields.middle + low;
     const auto error1 = low + (fields.middle - s1);
     const auto s2 = fields.high + s1;
@@ -158,7 +159,7 @@ struct from_three_fields {
       return from_bits(bits(s2) - (bits(0.0f - error) >> 31));
     } else {
       const auto signed_s = with_bits(s2, from.sign);
-      const auto signed_error = from_bits(bits(error) ^ from.sign);
+      const auto signed_error = flipped(error, from.sign);
       if constexpr (D == direction::down)
         return from_bits(bits(signed_s) - (from.step & (signed_error < 0.0f)));
       else

@@ -8,7 +8,7 @@
 // Largest errors found, in ulp: default 3.078 at 295.26208242723226 (0x407274317D57DD1A), at width 2 2.956 at
 // 577.362556506981 (0x40820AE68406A37C), _native 2.9718e7 at -12.479356877875556 (0xC028F56E43C32D26);
 // rare lanes 0.513.
-#include "exp/double.h"
+#include "exp/rare.h"
 
 namespace lanemath {
 namespace {

@@ -8,7 +8,7 @@
 // Largest errors found, in ulp: default 1.640 at 0.97971836529934375 (0x3FEF59DA54480A58), at width 2 2.597 at
 // -927.02025604914638 (0xC08CF8297C00E50A), _native 1.5276e7 at -728.12831139315711 (0xC086C106C81FAA83); rare lanes
 // 0.757 at -1022.0536042536015 (0xC08FF06DC8112129), where a result next to the denormals is rounded twice.
-#include "exp/double.h"
+#include "exp/rare.h"
 
 namespace lanemath {
 namespace {
@@ -27,16 +27,9 @@ constexpr exp2_rows exp2_table{
     .JMASK = 0x7F,
 };
 
-constexpr light_exp2_rows exp2_native_table{
-    .S = 0x4338000000000000_f64,
-    .A0 = 0x3FF0000000261500_f64,
-    .A1 = 0x3FE62E430C7E923C_f64,
-    .A2 = 0x3FCEBFBDADCB0BA8_f64,
-    .A3 = 0x3FAC6AED4B950AE1_f64,
-    .A4 = 0x3F83B2DBBC0FE08E_f64,
-    .A5 = 0x3F55F456A8ADF058_f64,
-    .A6 = 0x3F241D3336B2AE61_f64,
-};
+constexpr double light_polynomial[] = {0x3F241D3336B2AE61_f64, 0x3F55F456A8ADF058_f64, 0x3F83B2DBBC0FE08E_f64,
+                                       0x3FAC6AED4B950AE1_f64, 0x3FCEBFBDADCB0BA8_f64, 0x3FE62E430C7E923C_f64,
+                                       0x3FF0000000261500_f64};
 
 constexpr std::int32_t RARE = 0x408FEFFF;  // upper half, just under 1022
 
@@ -44,17 +37,17 @@ LANEMATH_RARE exp2_rare(const double* px, double* py) {
   if (exp_of_non_finite(*px, *py)) return status::ordinary;
   const double x = *px;
   if (x >= 1024.0) {
-    *py = overflowed();
+    *py = overflowed<double>();
     return status::overflow;
   }
   if (x <= -1075.0) {
-    *py = underflowed();
+    *py = underflowed<double>();
     return status::underflow;
   }
   const rare_power p = exp2_power(x);
   const double y = p.w + p.hi;
   if (x < -1022.0) {  // a denormal result: rounded once, by the last product
-    const double s = with_exponent_field(std::uint64_t(p.k + 1123) & 2047);
+    const double s = with_exponent_field<double>((p.k + 1123) & 2047);
     *py = (s * y) * 0x39B0000000000000_f64;  // 2^-100
     return status::underflow;
   }
@@ -81,7 +74,7 @@ struct exp2_standard : exp2_guards {
 struct exp2_native : exp2_guards {
   template <class V>
   static V kernel(V x) {
-    return light_exp2(x, exp2_native_table);
+    return exp2_by_polynomial(x, integer_shifter<double>, light_polynomial);
   }
 };
 
@@ -117,7 +110,7 @@ struct exp22_reduction {
 LANEMATH_RARE exp22_lane(const double* px, double* py) {
   using scalar = lanes<double, 1>;
   const double x = *px;
-  const auto pattern = std::bit_cast<std::uint64_t>(x);
+  const auto pattern = pattern_of(x);
   const auto magnitudes = std::uint32_t(pattern >> 32);  // orders the negative values by magnitude
   const auto h = std::int32_t(magnitudes);
   if (h >= 0x40900000 || magnitudes >= 0xC090CC00) {  // 1024, -1075

@@ -6,7 +6,7 @@
 //
 // Largest errors over all inputs, in ulp: default 0.5682 at 78.98359 (0x429DF799), light form 2168.9 at 79.36537
 // (0x429EBB12), _rm 2.9324 at -5.8916383 (0xC0BC884D); rare lanes 0.5000.
-#include "exp/single.h"
+#include "exp/rare.h"
 
 namespace lanemath {
 namespace {
@@ -33,13 +33,7 @@ constexpr expf_rows expf_table{
 
 constexpr float LOG2E = 0x3FB8AA3B_f32;  // 1 / ln 2
 
-constexpr light_exp_rows expf_native_table{
-    .S = 0x4B400000_f32,
-    .A0 = 1.0f,
-    .A1 = 0x3F317422_f32,
-    .A2 = 0x3E77D66A_f32,
-    .A3 = 0x3D63582B_f32,
-};
+constexpr float light_polynomial[] = {0x3D63582B_f32, 0x3E77D66A_f32, 0x3F317422_f32, 1.0f};
 
 struct expf_rm_rows {
   float S;     // shifter
@@ -91,7 +85,7 @@ struct expf_standard : expf_guards {
 struct expf_native : expf_guards {
   template <class V>
   static V kernel(V x) {
-    return light_exp2(x * LOG2E, expf_native_table);
+    return exp2_by_polynomial(x * LOG2E, integer_shifter<float>, light_polynomial);
   }
 };
 

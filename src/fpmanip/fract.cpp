@@ -1,6 +1,8 @@
 // fract: x - floor(x), kept below 1, and floor(x).
 //
 // One rounding: at most 0.5 ulp, but up to 1 where a tiny negative x gives the largest number below 1.
+#include <cmath>
+
 #include "numeric/fields.h"
 
 namespace lanemath {
@@ -10,7 +12,7 @@ template <class T>
 LANEMATH_RARE fract_rare(const T* px, T* fraction, T* floor) {
   const T x = *px;
   *floor = x;
-  *fraction = is_infinite(x) ? with_sign_of(0, x) : x;
+  *fraction = is_infinite(x) ? std::copysign(zero_v<T>, x) : x;
   return status::ordinary;
 }
 

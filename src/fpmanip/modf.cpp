@@ -1,4 +1,6 @@
 // modf: x - trunc(x) with the sign of x, and trunc(x). Exact.
+#include <cmath>
+
 #include "numeric/fields.h"
 
 namespace lanemath {
@@ -11,13 +13,13 @@ status modf_in_double(double x, double& fraction, double& integral) {
     fraction = integral = x + x;
   } else if (exponent < 0) {
     fraction = x;
-    integral = with_sign_of(0, x);
+    integral = std::copysign(0.0, x);
   } else if (exponent >= format<double>::fraction_bits) {
-    fraction = with_sign_of(0, x);
+    fraction = std::copysign(0.0, x);
     integral = x;
   } else {
     integral = value_of<double>(pattern_of(x) & ~(format<double>::fraction >> exponent));
-    fraction = with_sign_of(magnitude_pattern(x - integral), x);
+    fraction = std::copysign(x - integral, x);
   }
   return status::ordinary;
 }

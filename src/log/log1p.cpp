@@ -60,16 +60,6 @@ constexpr auto& rows_of() {
     return log1p_table;
 }
 
-// 1 + x = w + l exactly.
-template <class V>
-struct exact_sum {
-  static constexpr auto ONE = one_v<typename V::value_type>;
-  V larger, smaller;
-  LANEMATH_INLINE explicit exact_sum(V x) : larger(maximum(V(ONE), x)), smaller(minimum(V(ONE), x)) {}
-  LANEMATH_INLINE V w() const { return larger + smaller; }
-  LANEMATH_INLINE V lost_by(V w) const { return (larger - w) + smaller; }
-};
-
 // w = g / scale, with n an integer near 1 / g.
 template <class V>
 struct scaled_sum {
@@ -106,11 +96,11 @@ struct log1p_standard : log1p_guards<T, Routine> {
   template <class V>
   static V kernel(V x) {
     constexpr auto& c = rows_of<T>();
-    const exact_sum<V> sum(x);
+    const one_plus<V> sum(x);
     const V w = from_bits(bits(sum.w()) & ((magnitude(x) < c.TINY) | c.MASKH));
     const V l = sum.lost_by(w);
     const scaled_sum<V> a(w);
-    const V t1 = a.g * a.n - sum.ONE;
+    const V t1 = a.g * a.n - sum.one;
     const V t2 = l * a.f;
     const V z = t1 + t2;
     const V d = t2 - (z - t1);
@@ -146,11 +136,11 @@ struct log1pf_native {
   using signature = float(float);
   static constexpr auto rare = log1pf_rare;
   // Marks a sum that is no positive normal number or is above 2^127.
-  static auto rare_test(auto x) { return bits(x + 1.0f) + 0x01000000 < 0x01800000; }
+  static auto rare_test(auto x) { return outside(bits(x + 1.0f), 0x00800000, 0x7EFFFFFF); }
 
   template <class V>
   static V kernel(V x) {
-    const exact_sum<V> sum(x);
+    const one_plus<V> sum(x);
     const V w = sum.w();
     const V l = sum.lost_by(w);
     const centred_mantissa<V> a(w);
@@ -163,13 +153,13 @@ struct log1pf_native {
 struct log1p_native : log1p_guards<double, log1p_rare> {
   template <class V>
   static V kernel(V x) {
-    const exact_sum<V> sum(x);
+    const one_plus<V> sum(x);
     const V w = sum.w();
     const V l = sum.lost_by(w);
     const scaled_sum<V> a(w);
     const V z = (a.g * a.n - 1.0) + l * a.f;
     const V y = z + (log_table.P3 * z + log_table.P2) * (z * z);
-    return with_bits(with_exponent_term<log_table, ln_of_integers>(y, w, a.near), sign_of(x));
+    return with_bits(with_exponent_term<log_table, ln_of_integers>(y, unbiased_exponent(w), a.near), sign_of(x));
   }
 };
 

@@ -5,11 +5,10 @@
 // exact. What c m is off 1 goes into a polynomial, -log c comes from a table in two parts.
 #pragma once
 
-#include <cmath>
 #include <optional>
 
-#include "numeric/fields.h"
 #include "log/common.h"
+#include "numeric/exceptional.h"
 #include "tables/log.h"
 
 namespace lanemath {

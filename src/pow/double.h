@@ -6,13 +6,10 @@
 
 namespace lanemath {
 
-template <class V>
-LANEMATH_INLINE V short_part(const V& v) {
-  return from_bits(bits(v) & std::int64_t(0xFFFFFFFFF8000000));
-}
-template <class V>
-LANEMATH_INLINE exponent_parts<V> exponent_of(const V& y) {
-  const V hi = short_part(y);
+// Cut, not rounded.
+template <int W>
+LANEMATH_INLINE exponent_parts<lanes<double, W>> cut_exponent(const lanes<double, W>& y) {
+  const auto hi = without_low_bits(y, 27);
   return {y, hi, y - hi};
 }
 
@@ -32,7 +29,7 @@ LANEMATH_INLINE auto double_power(const lanes<double, W>& x, const exponent_part
 
   const V R = look_up(scaled_reciprocal_1024, i);
   const auto [log_hi, log_lo] = look_up(log2_1024, i);
-  const V mh = short_part(m);
+  const V mh = without_low_bits(m, 27);
   const V ml = m - mh;
   const V z = m * R;
   const V low = ml * R + (mh * R - z);
@@ -52,7 +49,7 @@ LANEMATH_INLINE auto double_power(const lanes<double, W>& x, const exponent_part
   const V L_low = p + e;
   const V L = H + L_low;
 
-  const V Lh = short_part(L);
+  const V Lh = without_low_bits(L, 27);
   const V Ll = L - Lh;
   const V t = L_low - (L - H);
   const V P = y.hi * Lh;
@@ -75,8 +72,8 @@ template <auto Routine>
 struct double_pow : power<double(double, double), Routine> {
   template <class V>
   LANEMATH_INLINE static auto marked_kernel(V x, V y) {
-    const auto [z, rare] = double_power(x, exponent_of(y));
-    return marked(z, rare | beyond_plain_upper(upper(x)) | magnitude_above(y, LARGEST));
+    const auto [z, rare] = double_power(x, cut_exponent(y));
+    return marked(z, rare | not_positive_normal(x) | magnitude_above(y, LARGEST));
   }
 };
 

@@ -7,6 +7,7 @@
 //
 // Largest errors found, in ulp: invf light form 4762.3 at 1.2360482e-38 (0x008697FF), of all inputs; inv_native 2.326e5
 // at 1.7390503141272306e-11.
+#include "numeric/estimates.h"
 #include "roots/reciprocal.h"
 
 namespace lanemath {
@@ -52,10 +53,7 @@ struct inv_native {
 
   template <class V>
   static V kernel(V x) {
-    const auto h = upper(x);
-    const auto m = from_bits(((h << 3) & 0x007FFFFF) | 0x3F800000);
-    const auto r = reciprocal_estimate(m);
-    const V y = from_upper((bits(r) >> 3) + 0x77F00000 - (h & std::int32_t(0xFFF00000)));
+    const V y = full_range_reciprocal_estimate(x);
     const V t = 1.0 - x * y;
     const V u = t + t * t;
     return y + u * y;

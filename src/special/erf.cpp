@@ -7,6 +7,7 @@
 // Largest errors found, in ulp: erff 1.9286 at 0.00344431098 (0x3B61B9F3), _native 276.90 at 0.0273437668 (0x3CE00009);
 // erf 2.5435 at 0.003906637648786692 (0x3F7000680F05934C), _native 3.1467e5 at 0.0034618374216548501
 // (0x3F6C5BFFD0528C0B).
+#include "numeric/fields.h"
 #include "special/grid.h"
 
 namespace lanemath::special {
@@ -91,7 +92,7 @@ struct erf_op {
     const V e = where(b > c.tiny, d);
     const V z = e * e;
     const V w = at.m * d;
-    const V v = from_bits(bits(minimum(d, a)) ^ s);
+    const V v = flipped(minimum(d, a), s);
     const V p = Native ? erf_native_correction(w, z) : erf_correction(w, z);
     const V u = at.D * v;
     return (u + p * u) + with_bits(at.E, s);

@@ -9,6 +9,7 @@
 //
 // Largest errors found, in ulp: erfcf 1.7630 at 8.92956543 (0x410EDF80), _native 404.45 at 8.45312119 (0x41073FFC);
 // erfc 2.0071 at 24.167927708334503 (0x40382AFD4F6F6390), _native 6.758e6 at 20.117178701732328 (0x40341DFF6C63BA64).
+#include "numeric/exceptional.h"
 #include "special/grid.h"
 
 namespace lanemath::special {
@@ -66,8 +67,7 @@ LANEMATH_RARE erfcf_rare(const float* px, float* py) {
     *py = std::numeric_limits<float>::denorm_min();
     return status::ordinary;
   }
-  const double tiny = opaque(std::numeric_limits<double>::min());
-  *py = float(tiny * tiny);
+  *py = underflowed<float>();
   return status::underflow;
 }
 
@@ -77,8 +77,7 @@ LANEMATH_RARE erfc_rare(const double* px, double* py) {
     *py = x != x ? x * x : 0.0;
     return status::ordinary;
   }
-  const double tiny = opaque(std::numeric_limits<double>::min());
-  *py = tiny * tiny;
+  *py = underflowed<double>();
   return status::underflow;
 }
 
