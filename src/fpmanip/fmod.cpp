@@ -7,7 +7,7 @@
 namespace lanemath {
 namespace {
 
-// A multiple of the significand's last bit that no kernel sends, for |x| below 2^52.
+// For |x| below 2^52. Kept although no argument reaches it: beside this divisor the kernel serves all below 2^56.
 inline double fmod_by_2147483647(double x, double y) {
   const double ax = std::fabs(x);
   const auto quotient = std::uint32_t(std::int64_t(ax * 0x3E00000000000000_f64));  // 2^-31
@@ -24,7 +24,7 @@ LANEMATH_RARE fmod_rare(const T* px, const T* py, T* z) {
   const T zero = std::copysign(zero_v<T>, x);
   if (ay == one && ax < f::infinity) {
     const int exponent = exponent_field(x) - f::bias;
-    if (ax < one)
+    if (ax < one)  // these two are kept although no argument reaches them: the kernel serves small quotients
       *z = x;
     else if (ax == one || exponent >= f::fraction_bits)
       *z = zero;

@@ -118,7 +118,7 @@ struct double_logarithm {
     V y = c.P3 * z + c.P2;
     if constexpr (!Light) y = (c.P5 * z + c.P4) * s + y;
     y = y * s + lo;
-    const auto k = exponent_beside(unbiased_exponent(m), near);
+    const auto k = exponent_beside(exponent_of_positive(m), near);
     const V exponent = (convert<double>(k) + ... + where(scaled, V(31.0)));
     return ((z + y) + look_up(ln_of_integers, index_of_integer(near))) + exponent * c.LOG2;
   }

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "log/common.h"
+#include "numeric/estimates.h"
 #include "numeric/split.h"
 #include "tables/hyperbolic.h"
 
@@ -42,7 +43,7 @@ struct quotient_log {
     const auto m = bits(v) & typename f::signed_pattern(f::fraction);
     const auto carry = (m + rows::SPLIT) & typename f::signed_pattern(f::implicit_bit);
     z = from_bits(m | (carry ^ ONE));
-    E = convert<T>(unbiased_exponent(v) + (top_word(carry) >> f::top_shift));
+    E = convert<T>(exponent_of_positive(v) + (top_word(carry) >> f::top_shift));
   }
 
   LANEMATH_INLINE V value() const {
@@ -102,8 +103,6 @@ struct standalone_asinh : standalone_guards<T, Lane, Low> {
 };
 
 // The scalar routines.
-
-inline double scalar_square_root(double x) { return square_root(lanes<double, 1>(x)).g[0]; }
 
 // ln v of a positive normal number, to 5e-13, near 1 to 6e-11.
 inline double log_by_cubics(double v) {

@@ -98,7 +98,7 @@ LANEMATH_RARE arc_tangent_rare(const T* px, T* py) {
     y = half_turns<T, Scaled>(0.5);
   else if (a < 0x3CA0000000000000_f64)  // 2^-53
     y = a == 0.0 ? zero_v<T> : tiny_arc_tangent<T, Scaled>(a, 1.0);
-  else
+  else  // kept although no argument reaches it: the kernels serve these
     y = rounded<T, Scaled>(arc_tangent<at_middles>(a));
   *py = std::copysign(y, x);
   return status::ordinary;

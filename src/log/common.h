@@ -18,12 +18,6 @@ struct rare_unless_normal {
   static auto rare_test(auto x) { return not_positive_normal(x); }
 };
 
-// Of a positive normal number.
-template <class T, int W>
-LANEMATH_INLINE lanes<std::int32_t, W> unbiased_exponent(const lanes<T, W>& x) {
-  return (top_word(x) >> format<T>::top_shift) - format<T>::bias;
-}
-
 // The integer nearest to the processor's estimate of 1 / g, g in a binade. Which integer that is differs between
 // processors; it is then taken as what it is.
 template <int W>

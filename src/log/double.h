@@ -65,7 +65,7 @@ LANEMATH_INLINE V double_log(V x) {
   const V z = (gh * n - 1.0) + gl * n;
   const V s = z * z;
   const V y = s * ((c.P5 * z + c.P4) * s + (c.P3 * z + c.P2)) + times<c.P1 == 1.0>(z, c.P1);
-  return with_exponent_term<c, table>(y, unbiased_exponent(x), near);
+  return with_exponent_term<c, table>(y, exponent_of_positive(x), near);
 }
 
 template <auto& c, auto& table, class V, class E, class N>
@@ -77,13 +77,13 @@ LANEMATH_INLINE V light_double_log(V g, E exponent, N near) {
 template <auto& c, auto& table, int W>
 LANEMATH_INLINE lanes<double, W> light_double_log(const lanes<double, W>& x) {
   const auto g = scaled_mantissa(x);
-  return light_double_log<c, table>(g, unbiased_exponent(x), integer_near_reciprocal(g));
+  return light_double_log<c, table>(g, exponent_of_positive(x), integer_near_reciprocal(g));
 }
 // Of a float, in double.
 template <auto& c, auto& table, int W>
 LANEMATH_INLINE lanes<double, W> light_double_log(const lanes<float, W>& x) {
   const auto g = from_bits((bits(x) & 0x007FFFFF) | 0x3A800000);
-  return light_double_log<c, table>(convert<double>(g), unbiased_exponent(x), integer_near_reciprocal(g));
+  return light_double_log<c, table>(convert<double>(g), exponent_of_positive(x), integer_near_reciprocal(g));
 }
 
 }  // namespace lanemath

@@ -159,7 +159,7 @@ struct log1p_native : log1p_guards<double, log1p_rare> {
     const scaled_sum<V> a(w);
     const V z = (a.g * a.n - 1.0) + l * a.f;
     const V y = z + (log_table.P3 * z + log_table.P2) * (z * z);
-    return with_bits(with_exponent_term<log_table, ln_of_integers>(y, unbiased_exponent(w), a.near), sign_of(x));
+    return with_bits(with_exponent_term<log_table, ln_of_integers>(y, exponent_of_positive(w), a.near), sign_of(x));
   }
 };
 

@@ -59,7 +59,7 @@ struct log22 {
     const auto m = (bits(x) & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000;
     const V mh = (from_bits(m | 0x000003FF000003FF) + to_128ths) - to_128ths;  // halfway goes up
     const auto j = ((upper(x) >> 12 & 0xFF) + 1) >> 1;
-    const V k = convert<double>((upper(x) >> 20) - 1023);
+    const V k = convert<double>(exponent_of_positive(x));
     V a, b, r;
     for (int i = 0; i < 2; ++i) {
       const auto& [hi, lo, reciprocal] = log2_of_128ths[j.g[0][i]];

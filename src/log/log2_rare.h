@@ -1,6 +1,6 @@
 // The rare routine of log2. Away from 1: reciprocals c of the middles of 256 intervals, -log2 c from a table in two
-// parts, and a polynomial; the sum's large terms are exact. Near 1: polynomials in x - 1, the nearer the shorter. It is
-// complete, though the kernels leave it only what is no positive normal number.
+// parts, and a polynomial; the sum's large terms are exact. Near 1: polynomials in x - 1, the nearer the shorter; these
+// are kept although no argument reaches them, since the kernels leave it only what is no positive normal number.
 #pragma once
 
 #include "log/rare.h"

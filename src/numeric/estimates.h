@@ -1,4 +1,4 @@
-// The processor's estimates for doubles.
+// The processor's estimates for doubles, and its root of one.
 #pragma once
 
 #include "frame/frame.h"
@@ -23,5 +23,7 @@ LANEMATH_INLINE lanes<double, W> full_range_reciprocal_estimate(const lanes<doub
   const auto leading = from_bits(((top << 3) & 0x007FFFFF) | 0x3F800000);
   return from_upper((bits(reciprocal_estimate(leading)) >> 3) + 0x77F00000 - (top & std::int32_t(0xFFF00000)));
 }
+
+inline double scalar_square_root(double x) { return square_root(lanes<double, 1>(x)).g[0]; }
 
 }  // namespace lanemath

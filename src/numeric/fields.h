@@ -99,6 +99,12 @@ struct unpacked {
   }
 };
 
+// Of positive normal numbers.
+template <class T, int W>
+LANEMATH_INLINE lanes<std::int32_t, W> exponent_of_positive(const lanes<T, W>& x) {
+  return (top_word(x) >> format<T>::top_shift) - format<T>::bias;
+}
+
 // The word with a pattern's lowest bits.
 template <class T, int W>
 LANEMATH_INLINE lanes<std::int32_t, W> low_word(const lanes<T, W>& x) {

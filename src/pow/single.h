@@ -1,6 +1,7 @@
 // The float kernels of the powers: in pairs of floats, and the short one.
 #pragma once
 
+#include "log/single.h"
 #include "numeric/constants.h"
 #include "pow/marks.h"
 #include "tables/pow.h"
@@ -94,10 +95,8 @@ template <int W>
 LANEMATH_INLINE auto short_power(const lanes<std::int32_t, W>& b, const lanes<float, W>& y, const short_exp_rows& c) {
   using V = lanes<float, W>;
 
-  // m lies in [2/3, 4/3).
-  const auto d = b - 0x3F2AAAAB;
-  const V K = convert<float>(d >> 23);
-  const V z = from_bits((d & 0x007FFFFF) + 0x3F2AAAAB) - 1.0f;
+  const centred_mantissa<V> x(from_bits(b));
+  const V K = convert<float>(x.k), z = x.r;
   const V q =
       ((((z * 0x3E2B350C_f32 + 0xBE424B46_f32) * z + 0x3E4B62C0_f32) * z + 0xBE7F0F0F_f32) * z + 0x3EAAAD03_f32) * z +
       0xBF000000_f32;

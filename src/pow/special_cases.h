@@ -110,7 +110,7 @@ status rootn_lane(T x, std::int32_t n, T& z, F of_finite) {
   } else {
     const T sign = std::signbit(x) ? -one_v<T> : one_v<T>;
     x = std::fabs(x);
-    if (x == 1)
+    if (x == 1)  // kept although no argument reaches it: the kernels serve it
       z = sign;
     else if (is_finite(x))
       z = of_finite(x) * sign;

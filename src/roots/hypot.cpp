@@ -42,7 +42,7 @@ two_part<double> sum_of_squares(double a, double b) {
 
 // The root's nearest double, and the residual that is left.
 two_part<double> root_of(const two_part<double>& s) {
-  const double y = square_root(lanes<double, 1>(s.hi)).g[0];
+  const double y = scalar_square_root(s.hi);
   return {y, residual_of_square(s.hi, y) + s.lo};
 }
 

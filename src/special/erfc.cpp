@@ -57,38 +57,29 @@ struct erfc_parts {
   LANEMATH_INLINE V result(V drop) const { return ((at.E - drop) + k) * f; }
 };
 
-LANEMATH_RARE erfcf_rare(const float* px, float* py) {
-  const float x = *px;
-  if (!(x < std::numeric_limits<float>::infinity())) {
-    *py = x != x ? x * x : 0.0f;
+template <class T>
+LANEMATH_RARE erfc_rare(const T* px, T* py) {
+  const T x = *px;
+  if (!(x < std::numeric_limits<T>::infinity())) {
+    *py = x != x ? x * x : zero_v<T>;
     return status::ordinary;
   }
-  if (double(x) < 0x40241BBF700DC3FB_f64) {  // one float
-    *py = std::numeric_limits<float>::denorm_min();
+  if (sizeof(T) == 4 && double(x) < 0x40241BBF700DC3FB_f64) {  // one float
+    *py = std::numeric_limits<T>::denorm_min();
     return status::ordinary;
   }
-  *py = underflowed<float>();
-  return status::underflow;
-}
-
-LANEMATH_RARE erfc_rare(const double* px, double* py) {
-  const double x = *px;
-  if (!(x < std::numeric_limits<double>::infinity())) {
-    *py = x != x ? x * x : 0.0;
-    return status::ordinary;
-  }
-  *py = underflowed<double>();
+  *py = underflowed<T>();
   return status::underflow;
 }
 
 struct erfcf_guard {
   using signature = float(float);
-  static constexpr auto rare = erfcf_rare;
+  static constexpr auto rare = erfc_rare<float>;
   static auto rare_test(auto x) { return ~(x < erfcf_bound); }
 };
 struct erfc_guard {
   using signature = double(double);
-  static constexpr auto rare = erfc_rare;
+  static constexpr auto rare = erfc_rare<double>;
   static auto rare_test(auto x) { return ~(x < erfc_bound); }
 };
 

@@ -54,7 +54,8 @@ status at_full_precision(Pointers... lanes_of) {
 // The nearest integer where |x| is below 2^22 or 2^51, by a rounding constant in the lane's own precision.
 template <class T>
 T nearest_integer(T x) {
-  return (x + integer_shifter<T>)-integer_shifter<T>;
+  const T shifted = x + integer_shifter<T>;
+  return shifted - integer_shifter<T>;
 }
 
 }  // namespace lanemath::special

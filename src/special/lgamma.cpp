@@ -18,7 +18,7 @@ constexpr extended minimum_of_gamma = 0xBB16C31AB5F1FC00p-63L;
 // From 0.875 to 512; `high` is the upper half of y as a double.
 extended on_interval(extended y, std::int32_t high) {
   if (high >= 0x40100000) {
-    const auto k = std::min((high >> 20) - 0x401, 6);
+    const auto k = (high >> 20) - 0x401;
     return product_at(lgamma_octaves[k], within_octave(y, k + 2));
   }
   if (high >= 0x40020000) return (y - 2.0L) * product_at(lgamma_to_4[0], y);

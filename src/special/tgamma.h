@@ -50,7 +50,7 @@ status gamma(T x, T& y) {
   if (a < two) {
     product = Lane::below_2(a < one_v<T> ? 1 + magnitude : magnitude);
   } else {
-    const int row = std::min(int(whole) / Lane::stretch, int(std::size(Lane::rows)) - 1);
+    const int row = int(whole) / Lane::stretch;
     const int steps = int(whole) % Lane::stretch - (row == 0 ? 2 : 0);
     product = product_at(Lane::rows[row], magnitude - n);
     for (int q = 1; q <= steps; ++q) walk *= magnitude - q;

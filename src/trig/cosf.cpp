@@ -17,7 +17,7 @@ struct cosf_form : single_guards<cosine_rare<float>, 64> {
   static V kernel(V x) {
     const V u = x + half_pi<float>;
     const V t = u * inverse_pi<float> + integer_shifter<float>;
-    const V m = (t - integer_shifter<float>)-0.5f;
+    const V n = t - integer_shifter<float>, m = n - 0.5f;
     const V r = less_multiples(x, m, Pi);
     const V signed_r = flipped(r, parity(t));
     const V z = r * r, v = z * signed_r;

@@ -64,7 +64,7 @@ struct two_remainders {
     cosine = less_multiples(a, m, Pi);
     sine = less_multiples(q, n, Pi, 2);
     sine_sign = parity(t);
-    cosine_sign = (side ^ sign_mask<T>)^sine_sign;
+    cosine_sign = side ^ sine_sign ^ sign_mask<T>;
   }
 };
 
