@@ -3,7 +3,7 @@
 
 #include <limits>
 
-#include "frame/frame.h"
+#include "numeric/fields.h"
 
 // form(rounding, direction) for each rounding that an operation's name can say.
 #define LANEMATH_FOR_ROUNDINGS(form) form(rte, nearest) form(rtn, down) form(rtp, up) form(rtz, zero)

@@ -8,25 +8,11 @@ namespace {
 
 constexpr std::int32_t INDEFINITE = std::numeric_limits<std::int32_t>::min();
 
+// A power of two's leading word.
 template <class T>
-struct to_int32_rows;
-template <>
-struct to_int32_rows<float> {
-  static constexpr float TWO_31 = 0x1p31f;
-  // Of the leading word:
-  static constexpr std::int32_t EXPONENT = 0x7F800000;
-  static constexpr std::int32_t EXPONENT_31 = 0x4F000000;
-  static constexpr std::int32_t TWO_32 = 0x4F800000;
-  static constexpr int above_fraction = 8;  // bits of sign and exponent, less one
-};
-template <>
-struct to_int32_rows<double> {
-  static constexpr double TWO_31 = 0x1p31;
-  static constexpr std::int32_t EXPONENT = 0x7FF00000;
-  static constexpr std::int32_t EXPONENT_31 = 0x41E00000;
-  static constexpr std::int32_t TWO_32 = 0x41F00000;
-  static constexpr int above_fraction = 11;
-};
+constexpr std::int32_t word_of(int exponent) {
+  return (format<T>::bias + exponent) << format<T>::top_shift;
+}
 
 template <direction D, class T>
 struct to_signed {
@@ -44,7 +30,7 @@ struct to_signed_saturated {
   template <class V>
   static auto kernel(V x) {
     const V r = round_to<D>(x);
-    const auto above = narrow_mask(r >= to_int32_rows<T>::TWO_31);
+    const auto above = narrow_mask(r >= power_of_two<T>(31));
     return (convert<std::int32_t>(r) ^ above) & narrow_mask(r == r);
   }
 };
@@ -57,14 +43,14 @@ struct to_unsigned {
   using signature = std::uint32_t(T);
   template <class V>
   static auto kernel(V x) {
-    using c = to_int32_rows<T>;
+    using f = format<T>;
     const V r = round_to<D>(x);
     const V a = Saturated ? r : magnitude(r);
     const auto word = top_word(a);
-    const auto top = (word & c::EXPONENT) == c::EXPONENT_31;
-    const auto fraction = top_word(bits(a) << c::above_fraction);
+    const auto top = (word & f::top_exponent) == word_of<T>(31);
+    const auto fraction = top_word(bits(a) << (31 - f::top_shift));
     auto y = select(top, fraction | INDEFINITE, convert<std::int32_t>(a));
-    if constexpr (Saturated) y = (y | (word >= c::TWO_32)) & ~(word >> 31);
+    if constexpr (Saturated) y = (y | (word >= word_of<T>(32))) & ~(word >> 31);
     return as<std::uint32_t>(y);
   }
 };

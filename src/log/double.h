@@ -25,7 +25,7 @@ inline constexpr double_log_rows log_table{
 
 template <class V>
 LANEMATH_INLINE V scaled_mantissa(V x) {
-  return from_bits((bits(x) & 0x000FFFFFFFFFFFFF) | 0x3F50000000000000);
+  return with_exponent(x, -10);
 }
 
 // Of integers from 512 to 1024, in their table.
@@ -82,7 +82,7 @@ LANEMATH_INLINE lanes<double, W> light_double_log(const lanes<double, W>& x) {
 // Of a float, in double.
 template <auto& c, auto& table, int W>
 LANEMATH_INLINE lanes<double, W> light_double_log(const lanes<float, W>& x) {
-  const auto g = from_bits((bits(x) & 0x007FFFFF) | 0x3A800000);
+  const auto g = scaled_mantissa(x);
   return light_double_log<c, table>(convert<double>(g), exponent_of_positive(x), integer_near_reciprocal(g));
 }
 

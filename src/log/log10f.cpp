@@ -15,13 +15,11 @@ namespace lanemath {
 namespace {
 
 struct log10f_rows {
-  std::int32_t SMALL;  // exponent of 2^-9
-  float R;             // scale of the reciprocal
-  float LH, LL;        // log10 of 2, high and low part
+  float R;       // scale of the reciprocal
+  float LH, LL;  // log10 of 2, high and low part
   float P3, P2, P1;
 };
 constexpr log10f_rows log10f_table{
-    .SMALL = 0x3B000000,
     .R = 0x3EDE0000_f32,
     .LH = 0x3E9A2100_f32,
     .LL = 0xB64AF600_f32,
@@ -41,7 +39,7 @@ struct log10f_standard : log10f_guards {
   static V kernel(V x) {
     constexpr auto& c = log10f_table;
     const V e = convert<float>(bits(x) >> 23);
-    const V g = from_bits((bits(x) & MANTISSA_F32) | c.SMALL);
+    const V g = with_exponent(x, -9);
     const V n = round_to<direction::nearest>(reciprocal_estimate(g) * c.R);
     const V gh = without_low_bits(g, 8), gl = g - gh;
     const V t = (gh * n - c.R) + gl * n;

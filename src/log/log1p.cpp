@@ -18,20 +18,17 @@ namespace {
 template <class T>
 struct log1p_rows {
   using pattern = int_of_size<sizeof(T)>;
-  T TINY;              // below, the sum keeps all its bits
-  pattern MASKH;       // else this upper part
-  pattern MANT, EXPF;  // mantissa and exponent field
-  pattern SMALL;       // exponent of the mantissa g
-  pattern EXPC;        // sum of the exponent fields of w and of the scale that makes g of it
-  T NEG1, BIG;         // the last ones that are not rare
-  T LN2H, LN2L;        // ln 2, high and low part
+  T TINY;         // below, the sum keeps all its bits
+  pattern MASKH;  // else this upper part
+  int SMALL;      // exponent of the mantissa g
+  pattern EXPC;   // sum of the exponent fields of w and of the scale that makes g of it
+  T NEG1, BIG;    // the last ones that are not rare
+  T LN2H, LN2L;   // ln 2, high and low part
 };
 constexpr log1p_rows<float> log1pf_table{
     .TINY = 0x39800000_f32,
     .MASKH = std::int32_t(0xFFFFFF00),
-    .MANT = MANTISSA_F32,
-    .EXPF = 0x7F800000,
-    .SMALL = 0x3B800000,
+    .SMALL = -8,
     .EXPC = 0x7B000000,
     .NEG1 = 0xBF7FFFFF_f32,
     .BIG = 0x7A800000_f32,
@@ -41,9 +38,7 @@ constexpr log1p_rows<float> log1pf_table{
 constexpr log1p_rows<double> log1p_table{
     .TINY = 0x3E00000000000000_f64,
     .MASKH = std::int64_t(0xFFFFFFFFFFFFFC00),
-    .MANT = 0x000FFFFFFFFFFFFF,
-    .EXPF = 0x7FF0000000000000,
-    .SMALL = 0x3F50000000000000,
+    .SMALL = -10,
     .EXPC = 0x7F40000000000000,
     .NEG1 = 0xBFEFFFFFFFFFFFFF_f64,
     .BIG = 0x7F3FFFFFFFFFF000_f64,
@@ -64,18 +59,19 @@ constexpr auto& rows_of() {
 template <class V>
 struct scaled_sum {
   using T = typename V::value_type;
+  using pattern = int_of_size<sizeof(T)>;
   lanes<float, V::width> near;
   V g, n, f;  // f is n times the scale
 
   LANEMATH_INLINE explicit scaled_sum(V w) {
     constexpr auto& c = rows_of<T>();
-    g = from_bits((bits(w) & c.MANT) | c.SMALL);
+    g = with_exponent(w, c.SMALL);
     near = integer_near_reciprocal(g);
     if constexpr (sizeof(T) == 4)
       n = near;
     else
       n = convert<double>(near);
-    f = n * from_bits(c.EXPC - (bits(w) & c.EXPF));
+    f = n * from_bits(c.EXPC - (bits(w) & pattern(format<T>::infinity)));
   }
 };
 

@@ -105,6 +105,13 @@ LANEMATH_INLINE lanes<std::int32_t, W> exponent_of_positive(const lanes<T, W>& x
   return (top_word(x) >> format<T>::top_shift) - format<T>::bias;
 }
 
+// The mantissa times 2^exponent.
+template <class T, int W>
+LANEMATH_INLINE lanes<T, W> with_exponent(const lanes<T, W>& x, int exponent) {
+  using I = typename format<T>::signed_pattern;
+  return from_bits((bits(x) & I(format<T>::fraction)) | I(pattern_of(power_of_two<T>(exponent))));
+}
+
 // The word with a pattern's lowest bits.
 template <class T, int W>
 LANEMATH_INLINE lanes<std::int32_t, W> low_word(const lanes<T, W>& x) {

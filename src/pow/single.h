@@ -40,7 +40,7 @@ LANEMATH_INLINE auto split_power(const lanes<std::int32_t, W>& b, const exponent
 
   // ln x = E ln 2 - ln C + ln(1 + p)
   const V E = convert<float>((b >> 23) - 127);
-  const V m = from_bits((b & 0x007FFFFF) | 0x3F800000);
+  const V m = with_exponent(from_bits(b), 0);
   const auto [A, B, C] = look_up(ln_65, ((b & 0x007F0000) + 0x00010000) >> 17);
   const V mh = without_low_bits(m, 14);
   const V ml = m - mh;
