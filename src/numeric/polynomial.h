@@ -1,8 +1,6 @@
 // Polynomials of lanes and of scalars.
 #pragma once
 
-#include <bit>
-
 #include "frame/frame.h"
 
 namespace lanemath {
