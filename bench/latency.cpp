@@ -13,7 +13,7 @@ template <class... Signature>
 std::optional<harness::function> latency_of(const operation& o, void* address) {
   std::optional<harness::function> found;
   const auto consider = [&]<class S>(std::type_identity<S>) {
-    using crossing = frame_detail::border<S>;
+    using crossing = border<S>;
     if (crossing::sig == o.sig) found = typed_calls<typename crossing::template function<1>>::latency(address);
   };
   (consider(std::type_identity<Signature>()), ...);

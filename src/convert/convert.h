@@ -3,7 +3,7 @@
 
 #include <limits>
 
-#include "frame/frame.h"
+#include "numeric/fields.h"
 
 // Exports an instance of `body`, which takes the operation's place in the catalogue.
 #define LANEMATH_CONVERSION(operation, body) LANEMATH_EXPORT(operation, body<::lanemath::index_of(#operation)>)

@@ -10,25 +10,16 @@
 namespace lanemath {
 namespace {
 
+// The powers of two that the fields of an integer are or-ed into, one field wide each.
 template <class T>
-struct from_integer_rows;
-template <>
-struct from_integer_rows<float> {
-  static constexpr std::uint32_t FIELD = 0x007FFFFF;
-  static constexpr float P0 = 0x4B000000_f32;  // 2^23, of the lowest field
-  static constexpr float P1 = 0x56800000_f32;  // 2^46
-  static constexpr float P2 = 0x62000000_f32;  // 2^69, of the highest
-  static constexpr int field_bits = 23;
-  // From the pattern of a power of two to that of half a unit of it.
-  static constexpr std::int32_t HALFULP = 0x0C000000;
+struct field_powers : format<T> {
+  using format<T>::fraction_bits;
+  static constexpr T P0 = power_of_two<T>(fraction_bits);      // of the lowest field
+  static constexpr T P1 = power_of_two<T>(2 * fraction_bits);  // of the next
 };
-template <>
-struct from_integer_rows<double> {
-  static constexpr std::uint64_t FIELD = 0x000FFFFFFFFFFFFF;
-  static constexpr double P0 = 0x4330000000000000_f64;  // 2^52
-  static constexpr double P1 = 0x4670000000000000_f64;  // 2^104
-  static constexpr int field_bits = 52;
-};
+constexpr float P2 = power_of_two<float>(3 * format<float>::fraction_bits);  // of the highest of three
+// From the pattern of a power of two to that of half a unit of it.
+constexpr std::int32_t HALFULP = (format<float>::fraction_bits + 1) << format<float>::fraction_bits;
 
 // P plus a field of P's lowest bits.
 template <class U, int W>
@@ -36,7 +27,7 @@ LANEMATH_INLINE auto placed(auto p, const lanes<U, W>& field) {
   return from_bits(field | std::bit_cast<U>(p));
 }
 template <class U, int W>
-LANEMATH_INLINE auto value_of(auto p, const lanes<U, W>& field) {
+LANEMATH_INLINE auto field_value(auto p, const lanes<U, W>& field) {
   return placed(p, field) - p;
 }
 
@@ -72,7 +63,7 @@ struct to_double : conversion<Index> {
     if constexpr (std::is_signed_v<typename V::value_type>)
       return convert<double>(x);
     else
-      return value_of(from_integer_rows<double>::P0, widen(x));
+      return field_value(field_powers<double>::P0, widen(x));
   }
 };
 
@@ -83,11 +74,11 @@ struct from_two_fields : conversion<Index> {
   template <class V>
   static auto kernel(V x) {
     using T = typename conversion<Index>::to;
-    using c = from_integer_rows<T>;
+    using c = field_powers<T>;
     constexpr direction D = conversion<Index>::rounding;
     const taken_apart<typename V::value_type, T, V::width> from(x);
-    const auto lo = value_of(c::P0, from.m & c::FIELD);
-    const auto hi = value_of(c::P1, from.m >> c::field_bits);
+    const auto lo = field_value(c::P0, from.m & c::fraction);
+    const auto hi = field_value(c::P1, from.m >> c::fraction_bits);
     const auto s = hi + lo;
     if constexpr (D == direction::nearest) {
       return with_bits(s, from.sign);
@@ -108,15 +99,15 @@ struct from_two_fields : conversion<Index> {
 // 64-bit integers to float: three fields.
 template <class V>
 struct three_fields {
-  using c = from_integer_rows<float>;
+  using c = field_powers<float>;
   using field = lanes<std::uint32_t, V::width>;
   field low;
   lanes<float, V::width> middle, high;
 
   LANEMATH_INLINE explicit three_fields(const V& m)
-      : low(as<std::uint32_t>(lower(m)) & c::FIELD),
-        middle(value_of(c::P1, as<std::uint32_t>(lower(m >> 23)) & c::FIELD)),
-        high(value_of(c::P2, as<std::uint32_t>(upper(m)) >> 14)) {}
+      : low(as<std::uint32_t>(lower(m)) & c::fraction),
+        middle(field_value(c::P1, as<std::uint32_t>(lower(m >> 23)) & c::fraction)),
+        high(field_value(P2, as<std::uint32_t>(upper(m)) >> 14)) {}
 };
 
 // The low field is left out of the first sum and added in the end. Where the first sum was rounded down on an exact
@@ -125,13 +116,13 @@ template <std::size_t Index>
 struct from_three_fields_to_nearest : conversion<Index> {
   template <class V>
   static auto kernel(V x) {
-    using c = from_integer_rows<float>;
+    using c = field_powers<float>;
     const taken_apart<typename V::value_type, float, V::width> from(x);
     const three_fields fields(from.m);
     const auto minus_low = c::P0 - placed(c::P0, fields.low);
     const auto s = fields.high + fields.middle;
     const auto error = fields.middle + (fields.high - s);
-    const auto half_unit = (bits(s) & ~std::int32_t(c::FIELD)) - c::HALFULP;
+    const auto half_unit = (bits(s) & ~std::int32_t(c::fraction)) - HALFULP;
     const auto tie = (bits(error) == half_unit) & (bits(minus_low) >> 31) & 1;
     return with_bits(with_bits(s, tie) - minus_low, from.sign);
   }
@@ -145,7 +136,7 @@ struct from_three_fields : conversion<Index> {
     constexpr direction D = conversion<Index>::rounding;
     const taken_apart<typename V::value_type, float, V::width> from(x);
     const three_fields fields(from.m);
-    const auto low = value_of(from_integer_rows<float>::P0, fields.low);
+    const auto low = field_value(field_powers<float>::P0, fields.low);
     const auto s1 = fields.middle + low;
     const auto error1 = low + (fields.middle - s1);
     const auto s2 = fields.high + s1;
@@ -158,7 +149,7 @@ struct from_three_fields : conversion<Index> {
       return from_bits(bits(s2) - (bits(0.0f - error) >> 31));
     } else {
       const auto signed_s = with_bits(s2, from.sign);
-      const auto signed_error = from_bits(bits(error) ^ from.sign);
+      const auto signed_error = flipped(error, from.sign);
       if constexpr (D == direction::down)
         return from_bits(bits(signed_s) - (from.step & (signed_error < 0.0f)));
       else

@@ -8,25 +8,11 @@ namespace {
 
 constexpr std::int32_t INDEFINITE = std::numeric_limits<std::int32_t>::min();
 
+// A power of two's leading word.
 template <class T>
-struct to_int32_rows;
-template <>
-struct to_int32_rows<float> {
-  static constexpr float TWO_31 = 0x1p31f;
-  // Of the leading word:
-  static constexpr std::int32_t EXPONENT = 0x7F800000;
-  static constexpr std::int32_t EXPONENT_31 = 0x4F000000;
-  static constexpr std::int32_t TWO_32 = 0x4F800000;
-  static constexpr int above_fraction = 8;  // bits of sign and exponent, less one
-};
-template <>
-struct to_int32_rows<double> {
-  static constexpr double TWO_31 = 0x1p31;
-  static constexpr std::int32_t EXPONENT = 0x7FF00000;
-  static constexpr std::int32_t EXPONENT_31 = 0x41E00000;
-  static constexpr std::int32_t TWO_32 = 0x41F00000;
-  static constexpr int above_fraction = 11;
-};
+constexpr std::int32_t word_of(int exponent) {
+  return (format<T>::bias + exponent) << format<T>::top_shift;
+}
 
 template <std::size_t Index>
 struct to_signed : conversion<Index> {
@@ -41,8 +27,9 @@ template <std::size_t Index>
 struct to_signed_saturated : conversion<Index> {
   template <class V>
   static auto kernel(V x) {
-    const V r = round_to<conversion<Index>::rounding>(x);
-    const auto above = narrow_mask(r >= to_int32_rows<typename conversion<Index>::from>::TWO_31);
+    using given = conversion<Index>;
+    const V r = round_to<given::rounding>(x);
+    const auto above = narrow_mask(r >= power_of_two<typename given::from>(31));
     return (convert<std::int32_t>(r) ^ above) & narrow_mask(r == r);
   }
 };
@@ -54,15 +41,16 @@ template <std::size_t Index>
 struct to_unsigned : conversion<Index> {
   template <class V>
   static auto kernel(V x) {
-    constexpr bool saturates = conversion<Index>::saturates;
-    using c = to_int32_rows<typename conversion<Index>::from>;
-    const V r = round_to<conversion<Index>::rounding>(x);
-    const V a = saturates ? r : magnitude(r);
+    using given = conversion<Index>;
+    using T = typename given::from;
+    using f = format<T>;
+    const V r = round_to<given::rounding>(x);
+    const V a = given::saturates ? r : magnitude(r);
     const auto word = top_word(a);
-    const auto top = (word & c::EXPONENT) == c::EXPONENT_31;
-    const auto fraction = top_word(bits(a) << c::above_fraction);
+    const auto top = (word & f::top_exponent) == word_of<T>(31);
+    const auto fraction = top_word(bits(a) << (31 - f::top_shift));
     auto y = select(top, fraction | INDEFINITE, convert<std::int32_t>(a));
-    if constexpr (saturates) y = (y | (word >= c::TWO_32)) & ~(word >> 31);
+    if constexpr (given::saturates) y = (y | (word >= word_of<T>(32))) & ~(word >> 31);
     return as<std::uint32_t>(y);
   }
 };

@@ -9,25 +9,6 @@
 namespace lanemath {
 namespace {
 
-template <class T>
-struct to_int64_rows;
-template <>
-struct to_int64_rows<float> {
-  static constexpr std::int32_t FRACTION = 0x007FFFFF;
-  static constexpr std::int32_t IMPLICIT = 0x00800000;
-  static constexpr std::int32_t SHIFT_BASE = 0x96;
-  static constexpr float INTEGRAL = 0x4B000000_f32;  // 2^23: nothing above has a fraction
-  static constexpr int fraction_bits = 23;
-};
-template <>
-struct to_int64_rows<double> {
-  static constexpr std::int64_t FRACTION = 0x000FFFFFFFFFFFFF;
-  static constexpr std::int64_t IMPLICIT = 0x0010000000000000;
-  static constexpr std::int64_t SHIFT_BASE = 0x433;
-  static constexpr double INTEGRAL = 0x4330000000000000_f64;  // 2^52
-  static constexpr int fraction_bits = 52;
-};
-
 template <std::size_t Index>
 struct to_int64 : conversion<Index> {
   static constexpr int groups_at_once = 2;
@@ -36,17 +17,20 @@ struct to_int64 : conversion<Index> {
     using given = conversion<Index>;
     using T = typename given::from;
     using I = typename given::to;
-    using c = to_int64_rows<T>;
+    using f = format<T>;
+    using pattern = typename f::signed_pattern;
     using wide = lanes<std::int64_t, V::width>;
     constexpr bool is_signed = std::is_signed_v<I>;
+    constexpr T INTEGRAL = power_of_two<T>(f::fraction_bits);  // nothing above has a fraction
     constexpr T ZERO = 0, LIMIT = is_signed ? 0x1p63 : 0x1p64;
 
     const V r = round_to<given::rounding>(x);
     // A negative lane gives its magnitude, or 0 by the last mask below.
     const V a = given::saturates && !is_signed ? r : magnitude(r);
-    const auto small = a < c::INTEGRAL;
-    auto m = select(small, bits(a + c::INTEGRAL) & c::FRACTION, (bits(a) & c::FRACTION) | c::IMPLICIT);
-    const auto k = ((bits(a) >> c::fraction_bits) - c::SHIFT_BASE) & ~small;
+    const auto small = a < INTEGRAL;
+    constexpr auto fraction = pattern(f::fraction);
+    auto m = select(small, bits(a + INTEGRAL) & fraction, (bits(a) & fraction) | pattern(f::implicit_bit));
+    const auto k = ((bits(a) >> f::fraction_bits) - (f::bias + f::fraction_bits)) & ~small;
     const auto negative = r < ZERO;
     if constexpr (is_signed) m = (m ^ negative) - negative;
     if constexpr (given::saturates) m = m & (is_signed ? r == r : r >= ZERO);

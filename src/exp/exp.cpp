@@ -4,7 +4,7 @@
 // the exponent field. _native: a table of 128 entries, a quadratic and an unsplit ln 2. The default form at width 2 has
 // a table of 64 mantissas, a polynomial of degree 5 in two halves, and settles every lane by itself. Rare lanes with a
 // table of high and low parts.
-#include "exp/exponential_double.h"
+#include "exp/exponential_rare.h"
 
 namespace lanemath {
 namespace {

@@ -3,7 +3,7 @@
 // Default: x = (n / 128) log10(2) + r; 2^(j/128) from a table, 10^r by a polynomial of degree 5, the power of two added
 // to the exponent field. _native: 2^(x log2(10)) by a polynomial of degree 6 over a whole binade. Rare lanes with a
 // table of high and low parts.
-#include "exp/exponential_double.h"
+#include "exp/exponential_rare.h"
 
 namespace lanemath {
 namespace {
@@ -31,16 +31,9 @@ constexpr exp10_rows exp10_table{
 };
 
 constexpr double LOG2T = 0x400A934F0979A371_f64;  // log2(10)
-constexpr light_exp2_rows exp10_native_table{
-    .S = 0x4338800000000000_f64,
-    .A0 = 0x3FF0000000261501_f64,
-    .A1 = 0x3FE62E430C7E9264_f64,
-    .A2 = 0x3FCEBFBDADCB0A4D_f64,
-    .A3 = 0x3FAC6AED4B94D44A_f64,
-    .A4 = 0x3F83B2DBBC1073AF_f64,
-    .A5 = 0x3F55F456A8C99BD5_f64,
-    .A6 = 0x3F241D33368291C7_f64,
-};
+constexpr double light_polynomial[] = {0x3F241D33368291C7_f64, 0x3F55F456A8C99BD5_f64, 0x3F83B2DBBC1073AF_f64,
+                                       0x3FAC6AED4B94D44A_f64, 0x3FCEBFBDADCB0A4D_f64, 0x3FE62E430C7E9264_f64,
+                                       0x3FF0000000261501_f64};
 
 constexpr std::int32_t RARE = 0x40733A70;  // upper half, about 307.65
 
@@ -71,7 +64,7 @@ struct exp10_standard : exp10_guards {
 struct exp10_native : exp10_guards {
   template <class V>
   static V kernel(V x) {
-    return light_exp2(x * LOG2T, exp10_native_table);
+    return exp2_by_polynomial(x * LOG2T, 0x4338800000000000_f64, light_polynomial);
   }
 };
 

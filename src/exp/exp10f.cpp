@@ -3,7 +3,7 @@
 // Default: x = (n / 128) log10(2) + r; 2^(j/128) from a table of high and low parts, 10^r by a quadratic, the
 // power of two added to the exponent field. Light form (_native, _half, _rm): 2^(x log2(10)) by a cubic over a
 // whole binade. Rare lanes in double.
-#include "exp/exponential_single.h"
+#include "exp/exponential_rare.h"
 
 namespace lanemath {
 namespace {
@@ -32,7 +32,7 @@ LANEMATH_RARE exp10f_rare(const float* px, float* py) {
   if (exp_of_non_finite(*px, *py)) return status::ordinary;
   const double x = *px;
   if (x > 0x4043441360000000_f64) {  // 38.53184
-    *py = float(overflowed());
+    *py = overflowed<float>();
     return status::overflow;
   }
   if (x < 0xC04693C6A0000000_f64) {  // -45.1545
@@ -65,7 +65,7 @@ struct exp10f_standard : exp10f_guards {
 struct exp10f_native : exp10f_guards {
   template <class V>
   static V kernel(V x) {
-    return light_exp2(x * LOG2T, light_exp2_table);
+    return exp2_by_polynomial(x * LOG2T, integer_shifter<float>, light_exp2_cubic);
   }
 };
 

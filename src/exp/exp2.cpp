@@ -4,7 +4,7 @@
 // added to the exponent field. _native: a polynomial of degree 6 over a whole binade. The default form at width 2 is
 // the default method with its polynomial in halves, the power of two by a multiplication, and a scalar way of its own
 // for large lanes. Rare lanes with a table of high and low parts; a result next to the denormals is rounded twice.
-#include "exp/exponential_double.h"
+#include "exp/exponential_rare.h"
 
 namespace lanemath {
 namespace {
@@ -23,16 +23,9 @@ constexpr exp2_rows exp2_table{
     .JMASK = 0x7F,
 };
 
-constexpr light_exp2_rows exp2_native_table{
-    .S = 0x4338000000000000_f64,
-    .A0 = 0x3FF0000000261500_f64,
-    .A1 = 0x3FE62E430C7E923C_f64,
-    .A2 = 0x3FCEBFBDADCB0BA8_f64,
-    .A3 = 0x3FAC6AED4B950AE1_f64,
-    .A4 = 0x3F83B2DBBC0FE08E_f64,
-    .A5 = 0x3F55F456A8ADF058_f64,
-    .A6 = 0x3F241D3336B2AE61_f64,
-};
+constexpr double light_polynomial[] = {0x3F241D3336B2AE61_f64, 0x3F55F456A8ADF058_f64, 0x3F83B2DBBC0FE08E_f64,
+                                       0x3FAC6AED4B950AE1_f64, 0x3FCEBFBDADCB0BA8_f64, 0x3FE62E430C7E923C_f64,
+                                       0x3FF0000000261500_f64};
 
 constexpr std::int32_t RARE = 0x408FEFFF;  // upper half, just under 1022
 
@@ -40,17 +33,17 @@ LANEMATH_RARE exp2_rare(const double* px, double* py) {
   if (exp_of_non_finite(*px, *py)) return status::ordinary;
   const double x = *px;
   if (x >= 1024.0) {
-    *py = overflowed();
+    *py = overflowed<double>();
     return status::overflow;
   }
   if (x <= -1075.0) {
-    *py = underflowed();
+    *py = underflowed<double>();
     return status::underflow;
   }
   const rare_power p = exp2_power(x);
   const double y = p.w + p.hi;
   if (x < -1022.0) {  // a denormal result: rounded once, by the last product
-    const double s = with_exponent_field(std::uint64_t(p.k + 1123) & 2047);
+    const double s = with_exponent_field<double>((p.k + 1123) & 2047);
     *py = (s * y) * 0x39B0000000000000_f64;  // 2^-100
     return status::underflow;
   }
@@ -77,7 +70,7 @@ struct exp2_standard : exp2_guards {
 struct exp2_native : exp2_guards {
   template <class V>
   static V kernel(V x) {
-    return light_exp2(x, exp2_native_table);
+    return exp2_by_polynomial(x, integer_shifter<double>, light_polynomial);
   }
 };
 
@@ -95,65 +88,56 @@ constexpr exp22_rows exp22_table{
     .G4 = 0x3F83B2AB0AC701B3_f64,
 };
 
-struct exp22 {
-  using signature = double(double);
-
-  template <class V>
-  static V kernel(V x) {
-    const auto [t, p] = reduced(x);
-    const V e = from_bits(((bits(t) + 0x1FF80) >> 7) << 52);
-    const V y = (look_up(exp2_128_double, lower(t) & 0x7F) * e) * p;
-    if (any(magnitude_above(x, 0x408FF000))) [[unlikely]]  // 1022 in the upper half
-      return each_lane(x);
-    return y;
-  }
-
- private:
-  using scalar = lanes<double, 1>;
-
-  template <class V>
-  struct reduction {
-    V t, p;
-  };
-  template <class V>
-  static reduction<V> reduced(V x) {
+template <class V>
+struct exp22_reduction {
+  V t, p;
+  explicit exp22_reduction(V x) {
     constexpr auto& c = exp22_table;
-    const V t = c.S2 + x;
+    t = c.S2 + x;
     const V f = (c.S2 - t) + x;
     const V s = f * f;
     const V a = (c.G4 * s + c.G2) * s;
     const V b = (c.G3 * s + c.G1) * f;
-    return {t, (b + a) + 1.0};
+    p = (b + a) + 1.0;
   }
+};
+
+// On the upper half of the pattern. Any NaN comes back as one and the same.
+LANEMATH_RARE exp22_lane(const double* px, double* py) {
+  using scalar = lanes<double, 1>;
+  const double x = *px;
+  const auto pattern = pattern_of(x);
+  const auto magnitudes = std::uint32_t(pattern >> 32);  // orders the negative values by magnitude
+  const auto h = std::int32_t(magnitudes);
+  if (h >= 0x40900000 || magnitudes >= 0xC090CC00) {  // 1024, -1075
+    *py = pattern << 1 > 0xFFE0000000000000 ? 0x7FFFFFFF00000000_f64
+          : h >= 0x40900000                 ? std::numeric_limits<double>::infinity()
+                                            : 0.0;
+    return status::ordinary;
+  }
+  double shift = 0.0, factor = 1.0;
+  if (magnitudes >= 0xC08FF000) {  // -1022
+    shift = 53.0;
+    factor = 0x3CA0000000000000_f64;  // 2^-53
+  }
+  if (h > 0x408FFFF7) {  // 1023.99
+    shift = -1.0;
+    factor = 2.0;
+  }
+  const auto [t, p] = exp22_reduction(scalar(x + shift));
+  const scalar e = from_bits(((bits(t) + 0x1FF80) & 0x3FF80) << 45);
+  *py = ((p * (look_up(exp2_128_double, lower(t) & 0x7F) * e)) * factor).g[0];
+  return status::ordinary;
+}
+
+struct exp22 : rare_above<double(double), exp22_lane, 0x408FF000> {  // 1022
+  static constexpr bool one_marks_all = true;
 
   template <class V>
-  [[gnu::noinline, gnu::cold]] static V each_lane(V x) {
-    for (auto& group : x.g)
-      for (int i = 0; i < 2; ++i) group[i] = lane(group[i]);
-    return x;
-  }
-
-  // One lane, on the upper half of its pattern. Any NaN comes back as one and the same.
-  static double lane(double x) {
-    const auto pattern = std::bit_cast<std::uint64_t>(x);
-    const auto magnitudes = std::uint32_t(pattern >> 32);  // orders the negative values by magnitude
-    const auto h = std::int32_t(magnitudes);
-    if (h >= 0x40900000 || magnitudes >= 0xC090CC00) {  // 1024, -1075
-      if (pattern << 1 > 0xFFE0000000000000) return 0x7FFFFFFF00000000_f64;
-      return h >= 0x40900000 ? std::numeric_limits<double>::infinity() : 0.0;
-    }
-    double shift = 0.0, factor = 1.0;
-    if (magnitudes >= 0xC08FF000) {  // -1022
-      shift = 53.0;
-      factor = 0x3CA0000000000000_f64;  // 2^-53
-    }
-    if (h > 0x408FFFF7) {  // 1023.99
-      shift = -1.0;
-      factor = 2.0;
-    }
-    const auto [t, p] = reduced(scalar(x + shift));
-    const scalar e = from_bits(((bits(t) + 0x1FF80) & 0x3FF80) << 45);
-    return ((p * (look_up(exp2_128_double, lower(t) & 0x7F) * e)) * factor).g[0];
+  static V kernel(V x) {
+    const auto [t, p] = exp22_reduction(x);
+    const V e = from_bits(((bits(t) + 0x1FF80) >> 7) << 52);
+    return (look_up(exp2_128_double, lower(t) & 0x7F) * e) * p;
   }
 };
 

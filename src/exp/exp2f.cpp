@@ -4,25 +4,13 @@
 // added to the exponent field. Light form (_native, _half): a cubic whose constant term is not 1. The default
 // form at width 1 works in double with a table of 256 entries; at width 4 with a table of 64 entries and a
 // monic quadratic. Rare lanes in double.
-#include "exp/exponential_single.h"
+#include "exp/exponential_rare.h"
 
 namespace lanemath {
 namespace {
 
-struct exp2f_rows {
-  float S;  // shifter, 1.5 * 2^23
-  float C0, C1, C2, C3, C4, C5, C6;
-};
-constexpr exp2f_rows exp2f_table{
-    .S = 0x4B400000_f32,
-    .C0 = 1.0f,
-    .C1 = 0x3F317218_f32,
-    .C2 = 0x3E75FDEF_f32,
-    .C3 = 0x3D6357CF_f32,
-    .C4 = 0x3C1D962C_f32,
-    .C5 = 0x3AAF7A51_f32,
-    .C6 = 0x39213C8C_f32,
-};
+constexpr float exp2f_polynomial[] = {
+    0x39213C8C_f32, 0x3AAF7A51_f32, 0x3C1D962C_f32, 0x3D6357CF_f32, 0x3E75FDEF_f32, 0x3F317218_f32, 1.0f};
 
 // Keeps the integer add to the exponent field away from the ends of the range.
 constexpr std::int32_t RARE = 0x42FC0000;  // 126
@@ -31,11 +19,11 @@ LANEMATH_RARE exp2f_rare(const float* px, float* py) {
   if (exp_of_non_finite(*px, *py)) return status::ordinary;
   const double x = *px;
   if (x >= 128.0) {
-    *py = float(overflowed());
+    *py = overflowed<float>();
     return status::overflow;
   }
   if (x <= -150.0) {
-    *py = float(underflowed());
+    *py = underflowed<float>();
     return status::underflow;
   }
   const rare_power p = exp2_power(x);
@@ -48,24 +36,14 @@ using exp2f_guards = rare_above<float(float), exp2f_rare, RARE>;
 struct exp2f_frame : exp2f_guards {
   template <class V>
   static V kernel(V x) {
-    constexpr auto& c = exp2f_table;
-    const V t = x + c.S;
-    const auto e = bits(t) << 23;
-    const V f = x - (t - c.S);
-    V p = c.C6 * f + c.C5;
-    p = p * f + c.C4;
-    p = p * f + c.C3;
-    p = p * f + c.C2;
-    p = p * f + c.C1;
-    p = f * p + c.C0;
-    return from_bits(bits(p) + e);
+    return exp2_by_polynomial(x, integer_shifter<float>, exp2f_polynomial);
   }
 };
 
 struct exp2f_native : exp2f_guards {
   template <class V>
   static V kernel(V x) {
-    return light_exp2(x, light_exp2_table);
+    return exp2_by_polynomial(x, integer_shifter<float>, light_exp2_cubic);
   }
 };
 
@@ -75,16 +53,16 @@ struct exp2f1 {
 
   static lanes<float, 1> kernel(lanes<float, 1> lane) {
     const float x = lane.g[0];
-    const auto pattern = std::bit_cast<std::uint32_t>(x);
+    const auto pattern = pattern_of(x);
     const auto a = pattern & 0x7FFFFFFF;
     if (a - 0x31800000 < 0x42FC0000 - 0x31800000) [[likely]]  // 2^-28 <= |x| < 126
       return in_range(x);
     if (a < 0x31800000) return x + 1.0f;
     if (a < 0x43200000) {  // below 160
       const float y = in_range(x);
-      return y == std::numeric_limits<float>::infinity() ? square(0x7F000000_f32) : y;
+      return is_finite(y) ? y : overflowed<float>();
     }
-    if (a < 0x7F800000) return square(pattern >> 31 ? 0x00800000_f32 : 0x7F000000_f32);
+    if (a < 0x7F800000) return pattern >> 31 ? underflowed<float>() : overflowed<float>();
     return pattern == 0xFF800000 ? 0.0f : x + x;
   }
 
@@ -93,16 +71,12 @@ struct exp2f1 {
     constexpr double shifter = 0x42B8000000000000_f64;  // 1.5 * 2^44
     const double xd = x;
     const double t = shifter + xd;
-    const auto i = std::int32_t(std::bit_cast<std::uint64_t>(t));
+    const auto i = std::int32_t(pattern_of(t));
     const double f = xd + (shifter - t);
     const auto power = std::uint64_t(std::int64_t(i >> 8)) << 52;
-    const double v = std::bit_cast<double>(std::bit_cast<std::uint64_t>(exp2_256[i & 0xFF]) + power);
+    const double v = std::bit_cast<double>(pattern_of(exp2_256[i & 0xFF]) + power);
     constexpr double E1 = 0x3FE62E42FEFA72C5_f64, E2 = 0x3FCEBFBDFF82C58E_f64;
     return float(v * ((E1 * f + 1.0) + (E2 * f) * f));
-  }
-  static float square(float v) {
-    v = opaque(v);
-    return v * v;
   }
 };
 
@@ -152,6 +126,8 @@ LANEMATH_RARE exp2f_lane(const float* px, float* py) {
 }
 
 struct exp2f4 : rare_above<float(float), exp2f_lane, 0x42F70000> {  // 123.5
+  static constexpr bool one_marks_all = true;
+
   template <class V>
   static V kernel(V x) {
     constexpr auto& c = exp2f4_table;
@@ -162,11 +138,6 @@ struct exp2f4 : rare_above<float(float), exp2f_lane, 0x42F70000> {  // 123.5
     const V g = (c.Q1 + f) * f + c.Q0;
     const V scale = from_bits(((bits(t) + 0x1FC0) >> 6) << 23);
     return (look_up(exp2_monic_64, j).hi * scale) * g;
-  }
-  // One marked lane sends all four to the scalar routine.
-  template <class V, class M>
-  static void fix_up(V, V&, M& rare) {
-    rare = M(-1);
   }
 };
 

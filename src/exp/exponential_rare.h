@@ -2,13 +2,25 @@
 // the one rounding of the result.
 #pragma once
 
-#include <cmath>
-#include <limits>
-
-#include "frame/frame.h"
+#include "numeric/constants.h"
+#include "numeric/exceptional.h"
+#include "numeric/polynomial.h"
 #include "tables/exp.h"
 
 namespace lanemath {
+
+// 2^y by one polynomial over a whole binade, no table: the light kernels. The shifter's sum has y rounded to an integer
+// in its low bits, which are added to the exponent field of the polynomial's.
+template <class V, class T, std::size_t N>
+LANEMATH_INLINE V exp2_by_polynomial(V y, T shifter, const T (&c)[N]) {
+  const V t = y + shifter;
+  const V f = y - (t - shifter);
+  return from_bits(bits(horner(f, c)) + (bits(t) << format<T>::fraction_bits));
+}
+
+// The cubic of exp2f and exp10f, fitted over the whole interval: the constant term is not 1, and so not even integers
+// give exact powers.
+inline constexpr float light_exp2_cubic[] = {0x3D61FBCC_f32, 0x3E786F13_f32, 0x3F31798D_f32, 0x3F7FFB49_f32};
 
 // Settles the lanes beyond the range of the results: infinite above one bound, zero below the other.
 template <class V, class M, class T>
@@ -23,23 +35,10 @@ void saturate(V x, V& y, M& rare, T overflow, T underflow) {
 // +0 at -infinity, x * x at +infinity and at a NaN, which makes it quiet. Whether x was one of them.
 template <class T>
 bool exp_of_non_finite(T x, T& y) {
-  constexpr T infinity = std::numeric_limits<T>::infinity();
-  if (std::fabs(x) < infinity) return false;
-  y = x == -infinity ? zero_v<T> : x * x;
+  if (is_finite(x)) return false;
+  y = x == -std::numeric_limits<T>::infinity() ? zero_v<T> : x * x;
   return true;
 }
-
-// Infinity and zero made by arithmetic, which follows the rounding direction in force.
-inline double overflowed() {
-  const double huge = opaque(std::numeric_limits<double>::max());
-  return huge * huge;
-}
-inline double underflowed() {
-  const double tiny = opaque(0x0010000000000001_f64);
-  return tiny * tiny;
-}
-
-inline double with_exponent_field(std::uint64_t field) { return std::bit_cast<double>(field << 52); }
 
 // An exponential as 2^k (hi + w).
 struct rare_power {
@@ -49,15 +48,15 @@ struct rare_power {
 
 // y 2^k. The largest results need an exponent that has no field.
 inline double scaled(double y, std::int32_t k) {
-  const auto field = std::uint64_t(k + 1023) & 2047;
-  if (field == 2047) return y * with_exponent_field(2046) * 2.0;
-  return y * with_exponent_field(field);
+  const int field = (k + 1023) & 2047;
+  if (field == 2047) return y * with_exponent_field<double>(2046) * 2.0;
+  return y * with_exponent_field<double>(field);
 }
 
 // A denormal result: at a scale raised by 2^60, cut to the bits that will stay before the one rounding.
 inline double scaled_to_denormal(const rare_power& p) {
-  const auto field = std::uint64_t(p.k + 1083) & 2047;
-  const double s = with_exponent_field(field);
+  const int field = (p.k + 1083) & 2047;
+  const double s = with_exponent_field<double>(field);
   const double unscale = 0x3C30000000000000_f64;  // 2^-60
   const double a = p.w * s, b = p.hi * s;
   const double v = a + b;
@@ -73,24 +72,19 @@ inline double scaled_to_denormal(const rare_power& p) {
 struct split_index {
   std::int32_t j, k;
   explicit split_index(double shifted) {
-    const auto n = std::int32_t(std::bit_cast<std::uint64_t>(shifted));
+    const auto n = std::int32_t(pattern_of(shifted));
     j = n & 63;
     k = n >> 6;
   }
 };
 
-inline constexpr double rare_shifter = 0x4338000000000000_f64;  // 1.5 * 2^52
-
 inline rare_power exp_power(double x) {
-  const double t = 0x40571547652B82FE_f64 * x + rare_shifter;  // x * 64 / ln 2
+  const double t = 0x40571547652B82FE_f64 * x + integer_shifter<double>;  // x * 64 / ln 2
   const split_index n(t);
-  const double m = t - rare_shifter;
+  const double m = t - integer_shifter<double>;
   const double r = (x - m * 0x3F862E42FEFA0000_f64) - m * 0x3D1CF79ABC9E3B3A_f64;  // ln 2 / 64 in two parts
-  double q = 0x3F56C16A1C2A3FFD_f64;
-  q = q * r + 0x3F8111123AAF20D3_f64;
-  q = q * r + 0x3FA5555555558FCC_f64;
-  q = q * r + 0x3FC55555555548F8_f64;
-  q = q * r + 0x3FE0000000000000_f64;
+  const double q = horner(r, {0x3F56C16A1C2A3FFD_f64, 0x3F8111123AAF20D3_f64, 0x3FA5555555558FCC_f64,
+                              0x3FC55555555548F8_f64, 0x3FE0000000000000_f64});
   const auto [hi, lo] = exp2_64[n.j];
   return {hi, (q * r * r + r + lo) * hi, n.k};
 }
@@ -101,27 +95,19 @@ inline rare_power exp2_power(double x) {
   const split_index n(t);
   const double f = x - (t - shifter);
   const auto [hi, lo] = exp2_64[n.j];
-  double q = 0x3F55D870C4D8440A_f64;
-  q = q * f + 0x3F83B2AD33F8B48B_f64;
-  q = q * f + 0x3FAC6B08D7076268_f64;
-  q = q * f + 0x3FCEBFBDFF82A23A_f64;
-  q = q * f + 0x3FE62E42FEFA39EF_f64;
-  q = q * f + lo;
+  const double q = horner(f, {0x3F55D870C4D8440A_f64, 0x3F83B2AD33F8B48B_f64, 0x3FAC6B08D7076268_f64,
+                              0x3FCEBFBDFF82A23A_f64, 0x3FE62E42FEFA39EF_f64, lo});
   return {hi, q * hi, n.k};
 }
 
 inline rare_power exp10_power(double x) {
-  const double t = 0x406A934F0979A371_f64 * x + rare_shifter;  // x * 64 log2(10)
+  const double t = 0x406A934F0979A371_f64 * x + integer_shifter<double>;  // x * 64 log2(10)
   const split_index n(t);
-  const double m = t - rare_shifter;
+  const double m = t - integer_shifter<double>;
   const double r = (x - m * 0x3F734413509F0000_f64) - m * 0x3D1E7FBCC47C4ACD_f64;  // log10(2) / 64 in two parts
   const auto [hi, lo] = exp2_64[n.j];
-  double q = 0x3FE1427C87C70A85_f64;
-  q = q * r + 0x3FF2BD77B840F0BF_f64;
-  q = q * r + 0x4000470591E2BC10_f64;
-  q = q * r + 0x40053524C73CD20A_f64;
-  q = q * r + 0x40026BB1BBB55515_f64;
-  q = q * r + lo;
+  const double q = horner(r, {0x3FE1427C87C70A85_f64, 0x3FF2BD77B840F0BF_f64, 0x4000470591E2BC10_f64,
+                              0x40053524C73CD20A_f64, 0x40026BB1BBB55515_f64, lo});
   return {hi, q * hi, n.k};
 }
 
@@ -145,16 +131,16 @@ template <class T, class F>
 status exp_rare_lane(const T* px, T* py, F power, const rare_bounds& bounds) {
   if (exp_of_non_finite(*px, *py)) return status::ordinary;
   const double x = *px;
-  if (std::fabs(x) < 0x1p-52) {
+  if (std::fabs(x) < 0x1p-52) {  // kept although no argument reaches it: the rare lanes are large
     *py = T(1.0 + x);
     return status::ordinary;
   }
   if (x > bounds.over) {
-    *py = T(overflowed());
+    *py = overflowed<T>();
     return status::overflow;
   }
   if (x < bounds.under) {
-    *py = T(underflowed());
+    *py = underflowed<T>();
     return status::underflow;
   }
   const rare_power p = power(x);

@@ -1,5 +1,5 @@
 // frexp, ilogb, logb: the exponent field taken out, for normal numbers by the kernel. Exact.
-#include "frame/fields.h"
+#include "numeric/exceptional.h"
 
 namespace lanemath {
 namespace {
@@ -10,14 +10,13 @@ constexpr typename format<T>::pattern half_field = pattern_of(half_v<T>);
 
 template <class T>
 LANEMATH_RARE frexp_rare(const T* x, T* significand, std::int32_t* exponent) {
-  using f = format<T>;
   const T v = quieted(*x);
   *significand = v;
   *exponent = 0;
-  if (magnitude_pattern(v) == 0 || exponent_field(v) == f::top_field) return status::ordinary;
-  const T lifted = v * f::lift;
-  *exponent = exponent_field(lifted) - (f::bias - 1 + f::lift_exponent);
-  *significand = value_of<T>((pattern_of(lifted) & ~f::infinity) | half_field<T>);
+  if (magnitude_pattern(v) == 0 || !is_finite(v)) return status::ordinary;
+  const unpacked<T> denormal(v);
+  *exponent = denormal.exponent + 1;
+  *significand = std::copysign(half_v<T> * denormal.mantissa(), v);
   return status::ordinary;
 }
 
@@ -44,22 +43,16 @@ lanes<std::int32_t, V::width> unbiased_exponent(V x) {
 }
 
 template <class T>
-int exponent_of_denormal(T x) {
-  using f = format<T>;
-  return exponent_field(x * f::lift) - (f::bias + f::lift_exponent);
-}
-
-template <class T>
 LANEMATH_RARE ilogb_rare(const T* x, std::int32_t* exponent) {
   if (magnitude_pattern(*x) == 0) {
     *exponent = std::numeric_limits<std::int32_t>::min();
     return status::domain;
   }
-  if (exponent_field(*x) == format<T>::top_field) {
+  if (!is_finite(*x)) {
     *exponent = std::numeric_limits<std::int32_t>::max();
     return status::domain;
   }
-  *exponent = exponent_of_denormal(*x);
+  *exponent = unpacked(*x).exponent;
   return status::ordinary;
 }
 
@@ -74,13 +67,13 @@ struct ilogb {
 template <class T>
 LANEMATH_RARE logb_rare(const T* x, T* exponent) {
   if (magnitude_pattern(*x) == 0) {
-    *exponent = opaque(-one_v<T>) / zero_v<T>;
+    *exponent = pole(-one_v<T>);
     return status::domain;
   }
-  if (exponent_field(*x) == format<T>::top_field)
+  if (!is_finite(*x))
     *exponent = value_of<T>(magnitude_pattern(*x));
   else
-    *exponent = T(exponent_of_denormal(*x));
+    *exponent = T(unpacked(*x).exponent);
   return status::ordinary;
 }
 

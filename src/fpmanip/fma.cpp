@@ -5,18 +5,15 @@
 // plain product and sum, in the direction of MXCSR.
 #include <utility>
 
-#include "frame/fields.h"
+#include "numeric/exceptional.h"
+#include "numeric/x87.h"
 
 namespace lanemath {
 namespace {
 
 enum class rounding : std::uint16_t { nearest = 0, down = 0x400, up = 0x800, zero = 0xC00 };
 
-LANEMATH_INLINE rounding x87_rounding() {
-  std::uint16_t control;
-  asm volatile("fnstcw %0" : "=m"(control));
-  return rounding(control & 0xC00);
-}
+LANEMATH_INLINE rounding x87_rounding() { return rounding(x87_control_word() & 0xC00); }
 
 // Arithmetic for its flags alone.
 template <class T>
@@ -35,8 +32,6 @@ struct exact_sum {
   static constexpr int wide_bits = 8 * sizeof(wide);
   static constexpr int point = wide_bits - 2;  // where the leading bit of an operand stands: a sum may carry above it
   static constexpr int below_fraction = point - f::fraction_bits;
-  static constexpr T far = std::bit_cast<T>(pattern(f::bias + (sizeof(T) == 4 ? 100 : 1000)) << f::fraction_bits);
-  static constexpr T near = std::bit_cast<T>(pattern(f::bias - (sizeof(T) == 4 ? 100 : 1000)) << f::fraction_bits);
 
   // A magnitude of significand / 2^point * 2^(exponent - bias).
   struct operand {
@@ -61,16 +56,8 @@ struct exact_sum {
   }
 
   static operand unpack(T x) {
-    pattern significand = magnitude_pattern(x) & f::fraction;
-    int exponent = exponent_field(x);
-    if (exponent == 0) {
-      const int up = leading_zeros(significand) - (wide_bits - 1 - f::fraction_bits);
-      significand <<= up;
-      exponent = 1 - up;
-    } else {
-      significand |= f::implicit_bit;
-    }
-    return {wide(significand), exponent, (pattern_of(x) & f::sign) != 0};
+    const unpacked<T> magnitude(x);
+    return {magnitude.significand, magnitude.exponent + f::bias, std::signbit(x)};
   }
 
   static operand product(const operand& x, const operand& y) {
@@ -84,12 +71,10 @@ struct exact_sum {
 
   static T signed_value(pattern magnitude, bool negative) { return value_of<T>(magnitude | (negative ? f::sign : 0)); }
 
-  // Infinity or the largest number, as the direction in force has it.
-  static T overflow(bool negative) { return opaque(signed_value(pattern_of(far), negative)) * far; }
-
   static T rounded(operand sum, rounding direction) {
     int field = sum.exponent;
-    if (field >= f::top_field) return overflow(sum.negative);
+    const T sign = signed_value(pattern_of(one_v<T>), sum.negative);
+    if (field >= f::top_field) return overflowed(sign);
     if (field <= 0) {
       sum.significand = shifted_right(sum.significand, 1 - field);
       field = 0;
@@ -100,19 +85,19 @@ struct exact_sum {
     constexpr wide half = wide(1) << (wide_bits - 1);
     if (field > 0) magnitude += pattern(field - 1) << f::fraction_bits;
     if (rest == 0) return signed_value(magnitude, sum.negative);
-    if constexpr (sizeof(T) == 8) raise_flags_of(one_v<T> + opaque(near));
+    if constexpr (sizeof(T) == 8) raise_flags_of(one_v<T> + opaque(std::numeric_limits<T>::min()));
 
     const bool away = direction == rounding::nearest ? rest > half || (rest == half && magnitude % 2 == 1)
                                                      : direction == (sum.negative ? rounding::down : rounding::up);
     const pattern before = magnitude;
     magnitude += away;
-    if (magnitude == f::infinity) return overflow(sum.negative);
+    if (magnitude == f::infinity) return overflowed(sign);
     // Upward and downward a result is tiny by what it would be with more exponents.
     const bool directed = direction == rounding::up || direction == rounding::down;
     const bool tiny = !directed ? magnitude < f::implicit_bit || (magnitude == f::implicit_bit && rest == half)
                       : away    ? before < f::fraction || (before == f::fraction && rest < half)
                                 : before < f::implicit_bit;
-    if (tiny) raise_flags_of(opaque(near) * near);
+    if (tiny) raise_flags_of(underflowed<T>());
     return signed_value(magnitude, sum.negative);
   }
 

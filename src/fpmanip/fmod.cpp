@@ -7,13 +7,13 @@
 namespace lanemath {
 namespace {
 
-// A multiple of the significand's last bit that no kernel sends, for |x| below 2^52.
+// For |x| below 2^52. Kept although no argument reaches it: beside this divisor the kernel serves all below 2^56.
 inline double fmod_by_2147483647(double x, double y) {
-  const double ax = value_of<double>(magnitude_pattern(x));
+  const double ax = std::fabs(x);
   const auto quotient = std::uint32_t(std::int64_t(ax * 0x3E00000000000000_f64));  // 2^-31
   double t = ax - double(quotient) * 0x41DFFFFFFFC00000_f64;
   if (t >= y) t -= y;
-  return with_sign_of(pattern_of(t), x);
+  return std::copysign(t, x);
 }
 
 template <class T>
@@ -21,10 +21,10 @@ LANEMATH_RARE fmod_rare(const T* px, const T* py, T* z) {
   using f = format<T>;
   const T x = *px, y = *py;
   const auto ax = magnitude_pattern(x), ay = magnitude_pattern(y), one = pattern_of(one_v<T>);
-  const T zero = with_sign_of(0, x);
+  const T zero = std::copysign(zero_v<T>, x);
   if (ay == one && ax < f::infinity) {
     const int exponent = exponent_field(x) - f::bias;
-    if (ax < one)
+    if (ax < one)  // these two are kept although no argument reaches them: the kernel serves small quotients
       *z = x;
     else if (ax == one || exponent >= f::fraction_bits)
       *z = zero;
@@ -53,11 +53,11 @@ LANEMATH_RARE fmod_rare(const T* px, const T* py, T* z) {
       *z = fmod_by_2147483647(x, y);
       return status::ordinary;
     }
-  *z = with_sign_of(pattern_of(long_division<T>(x, y).remainder), x);
+  *z = std::copysign(long_division<T>(x, y).remainder, x);
   return status::ordinary;
 }
 
-template <class T, std::uint32_t Base, std::uint32_t Top>
+template <class T, std::uint32_t Least, std::uint32_t Largest>
 struct fmod {
   using signature = T(T, T);
   static constexpr auto rare = fmod_rare<T>;
@@ -65,18 +65,17 @@ struct fmod {
   template <class V>
   static V kernel(V x, V y) {
     const auto s = sign_of(x);
-    const V yh = from_bits(bits(y) & divisor_split<T>::high_bits);
-    const V yl = y - yh;
+    const auto [yh, yl] = split_divisor(y);
     const V q = round_to<direction::zero>(x / y);
-    V t = magnitude(x) - from_bits(bits(yh) ^ s) * q - from_bits(bits(yl) ^ s) * q;
+    V t = magnitude(x) - flipped(yh, s) * q - flipped(yl, s) * q;
     t = t + where(t < V(zero_v<T>), magnitude(y));
     return with_bits(t, s);
   }
-  static auto rare_test(auto x, auto y) { return rare_division<T, Base, Top>(x, y); }
+  static auto rare_test(auto x, auto y) { return rare_division<T, Least, Largest>(x, y); }
 };
 
-using fmod_float = fmod<float, 0x8C000000, 0xF28FFFFF>;
-using fmod_double = fmod<double, 0x83300000, 0xFCBFFFFF>;
+using fmod_float = fmod<float, 0x0C000000, 0x7E8FFFFF>;
+using fmod_double = fmod<double, 0x03300000, 0x7FEFFFFF>;
 
 }  // namespace
 

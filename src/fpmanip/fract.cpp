@@ -1,7 +1,9 @@
 // fract: x - floor(x), kept below 1, and floor(x).
 //
 // One rounding, to the nearest number but where a tiny negative x gives the largest number below 1.
-#include "frame/fields.h"
+#include <cmath>
+
+#include "numeric/fields.h"
 
 namespace lanemath {
 namespace {
@@ -10,7 +12,7 @@ template <class T>
 LANEMATH_RARE fract_rare(const T* px, T* fraction, T* floor) {
   const T x = *px;
   *floor = x;
-  *fraction = is_infinite(x) ? with_sign_of(0, x) : x;
+  *fraction = is_infinite(x) ? std::copysign(zero_v<T>, x) : x;
   return status::ordinary;
 }
 

@@ -1,5 +1,5 @@
 // ldexp: x times 2^n, rounded once and only where the result is denormal.
-#include "frame/fields.h"
+#include "numeric/exceptional.h"
 
 namespace lanemath {
 namespace {
@@ -7,33 +7,20 @@ namespace {
 // Beyond this every n has one result, and no sum with an exponent field can wrap.
 constexpr std::int32_t farthest = 65536;
 
-// A product beyond the range, by a multiplication that follows the direction in force.
-template <class T>
-T beyond(T x, int exponent) {
-  const T scale = value_of<T>(typename format<T>::pattern(format<T>::bias + exponent) << format<T>::fraction_bits);
-  return opaque(with_sign_of(pattern_of(scale), x)) * scale;
-}
-
 template <class T>
 LANEMATH_RARE ldexp_rare(const T* px, const std::int32_t* pn, T* y) {
   using f = format<T>;
-  constexpr int far = sizeof(T) == 4 ? 100 : 1000;
-  T x = *px;
-  if (magnitude_pattern(x) == 0 || exponent_field(x) == f::top_field) {
+  constexpr int up = std::numeric_limits<T>::digits + 1;  // makes a denormal result normal
+  const T x = *px;
+  if (magnitude_pattern(x) == 0 || !is_finite(x)) {
     *y = sizeof(T) == 4 ? x : quieted(x);
     return status::ordinary;
   }
-  int e = std::clamp(*pn, -farthest, farthest);
-  if (exponent_field(x) == 0) {
-    x = x * f::lift;
-    e -= f::lift_exponent;
-  }
-  e += exponent_field(x);
-  const auto with_field = [x](int field) {
-    return value_of<T>((pattern_of(x) & ~f::infinity) | typename f::pattern(field) << f::fraction_bits);
-  };
+  const unpacked<T> a(x);
+  const int e = std::clamp(*pn, -farthest, farthest) + a.exponent + f::bias;
+  const auto with_field = [&](int field) { return std::copysign(a.with_field(field), x); };
   if (e >= f::top_field) {
-    *y = beyond(x, far);
+    *y = overflowed(x);
     return status::overflow;
   }
   if (e > 0) {
@@ -41,10 +28,10 @@ LANEMATH_RARE ldexp_rare(const T* px, const std::int32_t* pn, T* y) {
     return status::ordinary;
   }
   if (e >= 1 - std::numeric_limits<T>::digits) {
-    *y = with_field(e + f::lift_exponent) * f::lower;
+    *y = with_field(e + up) * power_of_two<T>(-up);
     if (magnitude_pattern(*y) != 0) return status::ordinary;
   }
-  *y = beyond(x, -far);
+  *y = underflowed(x);
   return status::underflow;
 }
 

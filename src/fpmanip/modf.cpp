@@ -1,23 +1,26 @@
 // modf: x - trunc(x) with the sign of x, and trunc(x). Exact.
-#include "frame/fields.h"
+#include <cmath>
+
+#include "numeric/fields.h"
 
 namespace lanemath {
 namespace {
 
-// In double for both precisions. The kernel sends infinities and NaNs alone.
+// In double for both precisions. What serves finite numbers is kept although no argument reaches it: the kernel sends
+// infinities and NaNs alone.
 status modf_in_double(double x, double& fraction, double& integral) {
   const int exponent = exponent_field(x) - format<double>::bias;
   if (is_nan(x)) {
     fraction = integral = x + x;
   } else if (exponent < 0) {
     fraction = x;
-    integral = with_sign_of(0, x);
+    integral = std::copysign(0.0, x);
   } else if (exponent >= format<double>::fraction_bits) {
-    fraction = with_sign_of(0, x);
+    fraction = std::copysign(0.0, x);
     integral = x;
   } else {
     integral = value_of<double>(pattern_of(x) & ~(format<double>::fraction >> exponent));
-    fraction = with_sign_of(magnitude_pattern(x - integral), x);
+    fraction = std::copysign(x - integral, x);
   }
   return status::ordinary;
 }

@@ -1,5 +1,5 @@
 // nan: a quiet NaN whose payload is the low bits of an integer. Its high bits reach the sign.
-#include "frame/fields.h"
+#include "numeric/fields.h"
 
 namespace lanemath {
 namespace {

@@ -1,5 +1,5 @@
 // nextafter: the pattern of x one up or one down. Exact.
-#include "frame/fields.h"
+#include "numeric/exceptional.h"
 
 namespace lanemath {
 namespace {
@@ -17,7 +17,7 @@ LANEMATH_RARE nextafter_rare(const T* px, const T* py, T* z) {
     return status::ordinary;
   }
   if (magnitude_pattern(x) == 0) {
-    *z = with_sign_of(1, y);
+    *z = std::copysign(std::numeric_limits<T>::denorm_min(), y);
     return status::underflow;
   }
   const bool same_sign = ((pattern_of(x) ^ pattern_of(y)) & f::sign) == 0;

@@ -46,9 +46,10 @@ LANEMATH_INLINE divided<T> divide(T x, T y) {
   const long_division<T> division(x, y);
   std::uint32_t quotient = division.quotient;
   T r = division.remainder;
-  if (division.exact) {
-    r = zero_v<T>;
-  } else if (const double twice = 2.0 * double(r); twice > double(abs_y)) {
+  const double twice = 2.0 * double(r);
+  if (magnitude_pattern(r) == 0) {
+    // Exact.
+  } else if (twice > double(abs_y)) {
     r -= abs_y;
     ++quotient;
   } else if (twice == double(abs_y) && quotient % 2 == 1) {
@@ -73,15 +74,14 @@ LANEMATH_RARE remquo_rare(const T* x, const T* y, T* r, std::int32_t* quotient) 
   return sizeof(T) == 4 ? result.met : status::ordinary;
 }
 
-template <class T, std::uint32_t Base, std::uint32_t Top>
+template <class T, std::uint32_t Least, std::uint32_t Largest>
 struct remquo {
   using signature = through_pointer<T, std::int32_t>(T, T);
   static constexpr auto rare = remquo_rare<T>;
 
   template <class V>
   static two_results<V, lanes<std::int32_t, V::width>> kernel(V x, V y) {
-    const V yh = from_bits(bits(y) & divisor_split<T>::high_bits);
-    const V yl = y - yh;
+    const auto [yh, yl] = split_divisor(y);
     const V q = round_to<direction::current_quietly>(x / y);
     const V t = x - yh * q - yl * q;
     const V ay = magnitude(y);
@@ -92,7 +92,7 @@ struct remquo {
     const auto quotient = convert<std::int32_t>(q) + (narrow_mask(too_much) & step);
     return {with_bits(r, bits(where(r == V(zero_v<T>), x)) & sign_mask<T>), quotient};
   }
-  static auto rare_test(auto x, auto y) { return rare_division<T, Base, Top>(x, y); }
+  static auto rare_test(auto x, auto y) { return rare_division<T, Least, Largest>(x, y); }
 };
 
 // The same without the quotient.
@@ -103,8 +103,8 @@ struct remainder_of : Remquo {
   static auto kernel(auto x, auto y) { return Remquo::kernel(x, y).first; }
 };
 
-using remquo_float = remquo<float, 0x8C000000, 0xED7FFFFF>;
-using remquo_double = remquo<double, 0x83300000, 0xFB1FFFFF>;
+using remquo_float = remquo<float, 0x0C000000, 0x797FFFFF>;
+using remquo_double = remquo<double, 0x03300000, 0x7E4FFFFF>;
 using remainder_float = remainder_of<remquo_float, float>;
 using remainder_double = remainder_of<remquo_double, double>;
 

@@ -3,7 +3,7 @@
 // Exact but for the one rounding of fdim's subtraction. Ties of zeros are settled by the order of operands: fmax and
 // fmin give the second, maxmag and minmag the first. A NaN loses to a number, except in fdim; of two NaNs the second
 // is the result, signalling or not.
-#include "frame/fields.h"
+#include "numeric/fields.h"
 
 namespace lanemath {
 namespace {

@@ -12,8 +12,9 @@
 // Where the rare test looks at what the kernel computes on the way, marked_kernel stands in place of kernel and
 // rare_test and returns both, made by `marked`.
 //
-// A kernel-only operation has no rare_test; an always-scalar one says `always_scalar = true` instead. With
-// two results the signature's result is through_pointer<T, U> or pair_of<T, U>, kernel returns two_results,
+// A kernel-only operation has no rare_test; an always-scalar one says `always_scalar = true` instead. Where one
+// marked lane sends all of them to the scalar routine, `one_marks_all = true` stands in place of fix_up. With two
+// results the signature's result is through_pointer<T, U> or pair_of<T, U>, kernel returns two_results,
 // and fix_up and the rare routine take the second result after the first.
 //
 // A rare routine takes pointers to one lane of each argument, then of each result, which holds the kernel's
@@ -78,13 +79,15 @@ constexpr lane lane_of() {
   if constexpr (std::is_same_v<T, std::uint64_t>) return lane::u64;
 }
 
+}  // namespace frame_detail
+
 // A signature taken apart: the lane types, and how the arguments and the result cross the border.
 template <class Signature>
 struct border;
 
 template <class T, class... A>
 struct border<T(A...)> {
-  static constexpr signature sig{lane_of<T>(), {lane_of<A>()...}};
+  static constexpr signature sig{frame_detail::lane_of<T>(), {frame_detail::lane_of<A>()...}};
   static constexpr std::size_t widest_lane = std::max({sizeof(T), sizeof(A)...});
   template <int W>
   using result = abi<T, W>;
@@ -100,7 +103,8 @@ struct border<T(A...)> {
 
 template <class T, class U, class... A>
 struct border<through_pointer<T, U>(A...)> {
-  static constexpr signature sig{lane_of<T>(), {lane_of<A>()...}, lane_of<U>(), delivery::pointer};
+  static constexpr signature sig{
+      frame_detail::lane_of<T>(), {frame_detail::lane_of<A>()...}, frame_detail::lane_of<U>(), delivery::pointer};
   static constexpr std::size_t widest_lane = std::max({sizeof(T), sizeof(U), sizeof(A)...});
   template <int W>
   using result = abi<T, W>;
@@ -118,7 +122,8 @@ struct border<through_pointer<T, U>(A...)> {
 
 template <class T, class U, class... A>
 struct border<pair_of<T, U>(A...)> {
-  static constexpr signature sig{lane_of<T>(), {lane_of<A>()...}, lane_of<U>(), delivery::pair};
+  static constexpr signature sig{
+      frame_detail::lane_of<T>(), {frame_detail::lane_of<A>()...}, frame_detail::lane_of<U>(), delivery::pair};
   static constexpr std::size_t widest_lane = std::max({sizeof(T), sizeof(U), sizeof(A)...});
   template <int W>
   using result = abi_pair<T, U, W>;
@@ -131,6 +136,38 @@ struct border<pair_of<T, U>(A...)> {
     return {to_abi<T, W>(y.first), to_abi<U, W>(y.second)};
   }
 };
+
+// f over pieces of C lanes each, in straight line; the results put together again.
+template <int C, int W, class F, class... X>
+LANEMATH_INLINE auto by_pieces(F f, const X&... x) {
+  if constexpr (C >= W) {
+    return f(x...);
+  } else {
+    const auto piece_at = [&](int first) LANEMATH_LAMBDA { return f(part<C>(x, first)...); };
+    // Not a loop: a compiler leaves one a loop where the pieces are large.
+    const auto for_each_piece = [&]<int... I>(std::integer_sequence<int, I...>, auto put) LANEMATH_LAMBDA {
+      (put(I * C, piece_at(I * C)), ...);
+    };
+    constexpr std::make_integer_sequence<int, W / C> pieces;
+    using piece = decltype(piece_at(0));
+    if constexpr (requires { piece::width; }) {
+      lanes<typename piece::value_type, W> all;
+      for_each_piece(pieces, [&](int first, const auto& y) LANEMATH_LAMBDA { put_part(all, first, y); });
+      return all;
+    } else {
+      two_results<lanes<typename decltype(piece::first)::value_type, W>,
+                  lanes<typename decltype(piece::second)::value_type, W>>
+          all;
+      for_each_piece(pieces, [&](int first, const auto& y) LANEMATH_LAMBDA {
+        put_part(all.first, first, y.first);
+        put_part(all.second, first, y.second);
+      });
+      return all;
+    }
+  }
+}
+
+namespace frame_detail {
 
 // The rare routine on every marked lane, in ascending order.
 template <auto Routine, class... Pointers>
@@ -162,36 +199,6 @@ LANEMATH_INLINE void mend(unsigned mask, Y& y, X... x) {
   }
 }
 
-// f over pieces of C lanes each, in straight line; the results put together again.
-template <int C, int W, class F, class... X>
-LANEMATH_INLINE auto in_pieces(F f, const X&... x) {
-  if constexpr (C >= W) {
-    return f(x...);
-  } else {
-    const auto piece_at = [&](int first) LANEMATH_LAMBDA { return f(part<C>(x, first)...); };
-    // Not a loop: where the pieces are large, compilers would not unroll it.
-    const auto for_each_piece = [&]<int... I>(std::integer_sequence<int, I...>, auto put) LANEMATH_LAMBDA {
-      (put(I * C, piece_at(I * C)), ...);
-    };
-    constexpr std::make_integer_sequence<int, W / C> pieces;
-    using piece = decltype(piece_at(0));
-    if constexpr (requires { piece::width; }) {
-      lanes<typename piece::value_type, W> all;
-      for_each_piece(pieces, [&](int first, const auto& y) LANEMATH_LAMBDA { put_part(all, first, y); });
-      return all;
-    } else {
-      two_results<lanes<typename decltype(piece::first)::value_type, W>,
-                  lanes<typename decltype(piece::second)::value_type, W>>
-          all;
-      for_each_piece(pieces, [&](int first, const auto& y) LANEMATH_LAMBDA {
-        put_part(all.first, first, y.first);
-        put_part(all.second, first, y.second);
-      });
-      return all;
-    }
-  }
-}
-
 // How many groups can be computed side by side before the registers spill.
 template <class Op>
 constexpr int groups_at_once() {
@@ -205,7 +212,9 @@ constexpr int groups_at_once() {
 template <class Op, class Y, class M, class... X>
 LANEMATH_INLINE void settle(M rare, Y& y, const X&... x) {
   if (any(rare)) [[unlikely]] {
-    if constexpr (requires { Op::fix_up(x..., y, rare); })
+    if constexpr (requires { Op::one_marks_all; })
+      rare = M(-1);
+    else if constexpr (requires { Op::fix_up(x..., y, rare); })
       Op::fix_up(x..., y, rare);
     else if constexpr (requires { Op::fix_up(x..., y.first, y.second, rare); })
       Op::fix_up(x..., y.first, y.second, rare);
@@ -215,7 +224,7 @@ LANEMATH_INLINE void settle(M rare, Y& y, const X&... x) {
 
 template <class Op, int W, int Piece, class... X>
 LANEMATH_INLINE auto evaluate_marked(const X&... x) {
-  auto marked = in_pieces<Piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::marked_kernel(v...); }, x...);
+  auto marked = by_pieces<Piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::marked_kernel(v...); }, x...);
   settle<Op>(marked.second, marked.first, x...);
   return marked.first;
 }
@@ -225,12 +234,12 @@ struct kernel_of {
 };
 // The result's type is written out: with a deduced one Clang 14 returns a copy.
 template <class Op, int W, int Piece, class... X>
-LANEMATH_INLINE auto evaluate_tested(const X&... x) -> decltype(in_pieces<Piece, W>(kernel_of<Op>(), x...)) {
-  decltype(in_pieces<Piece, W>(kernel_of<Op>(), x...)) y = in_pieces<Piece, W>(kernel_of<Op>(), x...);
+LANEMATH_INLINE auto evaluate_tested(const X&... x) -> decltype(by_pieces<Piece, W>(kernel_of<Op>(), x...)) {
+  decltype(by_pieces<Piece, W>(kernel_of<Op>(), x...)) y = by_pieces<Piece, W>(kernel_of<Op>(), x...);
   if constexpr (requires { Op::always_scalar; })
     mend<Op>((1u << W) - 1, y, x...);
   else if constexpr (requires { Op::rare_test(x...); })
-    settle<Op>(in_pieces<Piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::rare_test(v...); }, x...), y,
+    settle<Op>(by_pieces<Piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::rare_test(v...); }, x...), y,
                x...);
   return y;
 }

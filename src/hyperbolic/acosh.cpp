@@ -33,11 +33,11 @@ struct acosh_form {
   LANEMATH_INLINE static V kernel(V x) {
     const V d = x - one_v<T>;
     const V p = d * (x + one_v<T>);
-    const V ph = cut(p, inverse_rows_of<T>().RADICAND);
+    const V ph = without_low_bits(p, inverse_rows_of<T>().RADICAND);
     const rough_root<V> root(ph, p - ph, Polish);
     const V h = root.high + root.low;
     const V v = d + (h * root.correction + h);
-    return log_of_sum_or_double<Log>(one_plus<V>(v), x);
+    return log_of_sum_or_double<Log>(sum_with_one<V>(v), x);
   }
 };
 using acoshf_standard = acosh_form<float, acoshf_rare, polish_single, logarithm<float>>;

@@ -52,12 +52,12 @@ inline constexpr double half_exp_overflow = sizeof(T) == 4 ? 89.4159927368164 : 
 template <class T>
 status cosh_rare_lane(const T* px, T* py) {
   const double x = *px, a = std::fabs(x);
-  if (!(a < std::numeric_limits<double>::infinity())) {
+  if (!is_finite(x)) {
     *py = T(x * x);
     return status::ordinary;
   }
   if (a >= half_exp_overflow<T>) {
-    *py = T(overflowed());
+    *py = overflowed<T>();
     return status::overflow;
   }
   *py = T(half_exp(a));
@@ -67,12 +67,12 @@ status cosh_rare_lane(const T* px, T* py) {
 template <class T>
 status sinh_rare_lane(const T* px, T* py) {
   const double x = *px, a = std::fabs(x);
-  if (!(a < std::numeric_limits<double>::infinity())) {
+  if (!is_finite(x)) {
     *py = T(x + x);
     return status::ordinary;
   }
   if (a >= half_exp_overflow<T>) {
-    *py = T(opaque(std::numeric_limits<double>::max()) * x);
+    *py = overflowed(*px);
     return status::overflow;
   }
   *py = T(std::copysign(half_exp(a), x));

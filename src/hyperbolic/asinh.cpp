@@ -31,33 +31,31 @@ struct asinh_form : rare_above<T(T), Routine, Largest> {
     constexpr auto& c = inverse_rows_of<T>();
     constexpr T one = one_v<T>, half = half_v<T>;
     const V a = magnitude(x);
-    const V xh = cut(x, c.X);
+    const V xh = without_low_bits(x, c.X);
     const V hh = xh * xh;
     const V ll = (x + xh) * (x - xh);
     const V q = hh + ll;
 
     const V g = hh + one;
     const V lost = ((one - g) + hh) + ll;
-    const V gh = cut(g, c.RADICAND);
+    const V gh = without_low_bits(g, c.RADICAND);
     const rough_root<V> root(gh, (g - gh) + lost, polish<T>());
     const V W = root.correction * (root.high + root.low) + root.low;
     const V rise = root.high - one;
-    const V T1 = W + rise;
-    const V T1e = (rise - T1) + W;
+    const auto [T1, T1e] = fast_sum(rise, W);
 
     const V hq = half * q;
     const V h2 = hq * hq;
     const V cc = ((hq * h2) - h2) * half;
-    const V T2 = hq + cc;
-    const V T2e = (hq - T2) + cc;
+    const auto [T2, T2e] = fast_sum(hq, cc);
 
     const auto small = a <= c.SMALL;
     const V t = select(small, T2, T1);
     const V te = select(small, T2e, T1e);
     const V v = a + t;
     const V ve = ((a - v) + t) + te;
-    const V y = log_of_sum_or_double<Log>(one_plus<V>(v, ve), a);
-    return from_bits(bits(y) ^ sign_of(x));
+    const V y = log_of_sum_or_double<Log>(sum_with_one<V>(v, ve), a);
+    return flipped(y, sign_of(x));
   }
 };
 using asinhf_standard = asinh_form<float, asinhf_rare, 0x7F7FFFFF, logarithm<float>>;

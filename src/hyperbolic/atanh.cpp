@@ -39,15 +39,14 @@ struct atanh_form : rare_above<T(T), Routine, Below> {
     const V a = magnitude(x);
     const V d = one - a;
     const V n = a + a;
-    const V dh = cut(d, c.QUOTIENT), nh = cut(n, c.QUOTIENT);
+    const V dh = without_low_bits(d, c.QUOTIENT), nh = without_low_bits(n, c.QUOTIENT);
     const V dl = (d - dh) + ((one - d) - a), nl = n - nh;
-    const V y = cut(estimated_inverse(dh), c.INVERSE);
+    const V y = without_low_bits(reciprocal_estimate(dh), c.INVERSE);
     const V q = nh * y, ql = nl * y;
     const V m = missing_part((one - dh * y) - dl * y);
     const V lo = m * q + (ql + m * ql);
-    const V v = lo + q;
-    const V ve = lo + (q - v);
-    const one_plus<V> sum(v, ve);
+    const auto [v, ve] = fast_sum(q, lo);
+    const sum_with_one<V> sum(v, ve);
     const V result = Log::of(sum.w, sum.err) * from_bits(sign_of(x) ^ bits(V(half_v<T>)));
     return select(a < c.TINY, x * x + x, result);  // +0 at -0
   }

@@ -9,40 +9,41 @@
 #include "log/logarithm_double.h"
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"
+#include "numeric/estimates.h"
 
 namespace lanemath {
 
 template <class T>
 struct inverse_rows {
-  using pattern = int_of_size<sizeof(T)>;
   T BIG, SCALE;
-  pattern RADICAND;  // upper part of what a root is taken of,
-  pattern ROOT;      // of the root's estimate,
-  pattern X;         // of asinh's argument,
-  pattern QUOTIENT;  // of atanh's numerator and denominator,
-  pattern INVERSE;   // and of the denominator's inverse
-  T SMALL;           // up to here asinh's root is a series
-  T TINY;            // below, atanh is x
+  // How many low bits are cut off:
+  int RADICAND;  // of what a root is taken of,
+  int ROOT;      // of the root's estimate,
+  int X;         // of asinh's argument,
+  int QUOTIENT;  // of atanh's numerator and denominator,
+  int INVERSE;   // and of the denominator's inverse
+  T SMALL;       // up to here asinh's root is a series
+  T TINY;        // below, atanh is x
 };
 inline constexpr inverse_rows<float> inverse_single{
     .BIG = 0x4E800000_f32,
     .SCALE = 0x30800000_f32,
-    .RADICAND = std::int32_t(0xFFFF0000),
-    .ROOT = std::int32_t(0xFFFF0000),
-    .X = std::int32_t(0xFFFFE000),
-    .QUOTIENT = std::int32_t(0xFFFFF000),
-    .INVERSE = std::int32_t(0xFFFFF000),
+    .RADICAND = 16,
+    .ROOT = 16,
+    .X = 13,
+    .QUOTIENT = 12,
+    .INVERSE = 12,
     .SMALL = 0x3D800000_f32,
     .TINY = 0x0C000000_f32,
 };
 inline constexpr inverse_rows<double> inverse_double{
     .BIG = 0x41D0000000000000_f64,
     .SCALE = 0x3E10000000000000_f64,
-    .RADICAND = std::int64_t(0xFFFFFFFFFF000000),
-    .ROOT = std::int64_t(0xFFFFFE0000000000),
-    .X = std::int64_t(0xFFFFFFFFF8000000),
-    .QUOTIENT = std::int64_t(0xFFFFFFFFFFFFF000),
-    .INVERSE = std::int64_t(0xFFFFFE0000000000),
+    .RADICAND = 24,
+    .ROOT = 41,
+    .X = 27,
+    .QUOTIENT = 12,
+    .INVERSE = 41,
     .SMALL = 0x3F60000000000000_f64,
     .TINY = 0x0350000000000000_f64,
 };
@@ -60,35 +61,13 @@ inline constexpr float light_polish_single[] = {0.5f};
 inline constexpr double acosh_polish[] = {0.2734375, 0.3125, 0.375, 0.5};
 inline constexpr double asinh_polish[] = {0.24609375, 0.2734375, 0.3125, 0.375, 0.5};
 
-template <class V>
-LANEMATH_INLINE V cut(V x, typename inverse_rows<typename V::value_type>::pattern mask) {
-  return from_bits(bits(x) & mask);
-}
-
-template <int W>
-LANEMATH_INLINE lanes<float, W> estimated_inverse(const lanes<float, W>& x) {
-  return reciprocal_estimate(x);
-}
-template <int W>
-LANEMATH_INLINE lanes<double, W> estimated_inverse(const lanes<double, W>& x) {
-  return convert<double>(reciprocal_estimate(convert<float>(x)));
-}
-template <int W>
-LANEMATH_INLINE lanes<float, W> estimated_inverse_root(const lanes<float, W>& x) {
-  return reciprocal_root_estimate(x);
-}
-template <int W>
-LANEMATH_INLINE lanes<double, W> estimated_inverse_root(const lanes<double, W>& x) {
-  return convert<double>(reciprocal_root_estimate(convert<float>(x)));
-}
-
 // The square root of hi + lo, hi cut short: nearly high + low, off by the factor 1 + correction.
 template <class V>
 struct rough_root {
   V high, low, correction;
   template <class T, std::size_t N>
   LANEMATH_INLINE rough_root(V hi, V lo, const T (&polish)[N]) {
-    const V y = cut(estimated_inverse_root(hi), inverse_rows_of<T>().ROOT);
+    const V y = without_low_bits(reciprocal_root_estimate(hi), inverse_rows_of<T>().ROOT);
     high = hi * y;
     low = lo * y;
     const V e = (one_v<T> - high * y) - low * y;
@@ -99,19 +78,16 @@ struct rough_root {
 // 1 + v = w + err. In double precision w is cut short unless v is tiny, so that its product with a small integer is
 // exact.
 template <class V>
-struct one_plus {
-  using T = typename V::value_type;
+struct sum_with_one {
   V w, err;
-  LANEMATH_INLINE explicit one_plus(V v) {
-    const V larger = maximum(V(one_v<T>), v), smaller = minimum(V(one_v<T>), v);
-    w = larger + smaller;
-    if constexpr (sizeof(T) == 8) w = cut(w, (v < 0x3E00000000000000_f64) | std::int64_t(0xFFFFFFFFFFFFFC00));
-    err = (larger - w) + smaller;
+  LANEMATH_INLINE explicit sum_with_one(V v) {
+    const one_plus<V> sum(v);
+    w = sum.w();
+    if constexpr (sizeof(typename V::value_type) == 8)
+      w = from_bits(bits(w) & ((v < 0x3E00000000000000_f64) | std::int64_t(0xFFFFFFFFFFFFFC00)));
+    err = sum.lost_by(w);
   }
-  LANEMATH_INLINE one_plus(V v, V low) : one_plus(v) { err = err + low; }
-
- private:
-  LANEMATH_INLINE static V cut(V x, decltype(bits(V())) mask) { return from_bits(bits(x) & mask); }
+  LANEMATH_INLINE sum_with_one(V v, V low) : sum_with_one(v) { err = err + low; }
 };
 
 // The logarithm of m + err. `scaled` marks lanes to which 31 ln 2 is added.
@@ -142,7 +118,7 @@ struct double_logarithm {
     V y = c.P3 * z + c.P2;
     if constexpr (!Light) y = (c.P5 * z + c.P4) * s + y;
     y = y * s + lo;
-    const auto k = (upper(m) >> 20) - 1022 + (near > 724.0f);  // the mask is -1
+    const auto k = exponent_beside(exponent_of_positive(m), near);
     const V exponent = (convert<double>(k) + ... + where(scaled, V(31.0)));
     return ((z + y) + look_up(ln_of_integers, index_of_integer(near))) + exponent * c.LOG2;
   }
@@ -158,7 +134,7 @@ using light_logarithm =
 
 // The logarithm of 1 + v + low; of 2 x where x is big.
 template <class Log, class V>
-LANEMATH_INLINE V log_of_sum_or_double(const one_plus<V>& sum, V x) {
+LANEMATH_INLINE V log_of_sum_or_double(const sum_with_one<V>& sum, V x) {
   constexpr auto& c = inverse_rows_of<typename V::value_type>();
   const auto big = x >= c.BIG;
   return Log::of(select(big, x * c.SCALE, sum.w), where(~big, sum.err), big);

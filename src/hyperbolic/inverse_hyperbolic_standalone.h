@@ -6,6 +6,8 @@
 #include <cmath>
 
 #include "log/logarithm.h"
+#include "numeric/estimates.h"
+#include "numeric/split.h"
 #include "tables/hyperbolic.h"
 
 namespace lanemath {
@@ -14,7 +16,6 @@ template <class T>
 struct quotient_log_rows;
 template <>
 struct quotient_log_rows<float> {
-  static constexpr int MANTISSA_BITS = 23;
   static constexpr std::int32_t SPLIT = 0x004AFB10;  // carries into the exponent from sqrt(2) on
   static constexpr float A[] = {0x3E98F06F_f32, 0x3F2AAABD_f32}, B[] = {0x3ECCAF68_f32};
   static constexpr float LN2H = 0x3F310000_f32, LN2L = 0x3AE42FF0_f32;
@@ -22,7 +23,6 @@ struct quotient_log_rows<float> {
 };
 template <>
 struct quotient_log_rows<double> {
-  static constexpr int MANTISSA_BITS = 52;
   static constexpr std::int64_t SPLIT = 0x00095F6200000000;
   static constexpr double A[] = {0x3FC2F112DF3E5244_f64, 0x3FC7466496CB03DE_f64, 0x3FD2492494229359_f64,
                                  0x3FE5555555555593_f64};
@@ -35,16 +35,15 @@ template <class V>
 struct quotient_log {
   using T = typename V::value_type;
   using rows = quotient_log_rows<T>;
-  static constexpr auto ONE = std::bit_cast<int_of_size<sizeof(T)>>(one_v<T>);
+  using f = format<T>;
+  static constexpr auto ONE = std::bit_cast<typename f::signed_pattern>(one_v<T>);
   V z, E;
 
   LANEMATH_INLINE explicit quotient_log(V v) {
-    constexpr auto exponent_unit = decltype(ONE)(1) << rows::MANTISSA_BITS;
-    constexpr int field = rows::MANTISSA_BITS % 32, bias = std::numeric_limits<T>::max_exponent - 1;
-    const auto m = bits(v) & (exponent_unit - 1);
-    const auto carry = (m + rows::SPLIT) & exponent_unit;
+    const auto m = bits(v) & typename f::signed_pattern(f::fraction);
+    const auto carry = (m + rows::SPLIT) & typename f::signed_pattern(f::implicit_bit);
     z = from_bits(m | (carry ^ ONE));
-    E = convert<T>((top_word(v) >> field) - bias + (top_word(carry) >> field));
+    E = convert<T>(exponent_of_positive(v) + (top_word(carry) >> f::top_shift));
   }
 
   LANEMATH_INLINE V value() const {
@@ -83,12 +82,8 @@ template <class T, auto Lane, std::int32_t Low>
 struct standalone_guards {
   using signature = T(T);
   static constexpr auto rare = Lane;
-  static constexpr std::int32_t INFINITE = sizeof(T) == 4 ? 0x7F800000 : 0x7FF00000;
-  static auto out_of_range(auto top) { return ~((top > Low) & (top < INFINITE)); }
-  template <class V, class M>
-  static void fix_up(V, V&, M& rare) {
-    rare = M(-1);
-  }
+  static constexpr bool one_marks_all = true;
+  static auto out_of_range(auto top) { return ~((top > Low) & (top < format<T>::top_exponent)); }
 };
 template <class T, auto Lane, std::int32_t Low>
 struct standalone_acosh : standalone_guards<T, Lane, Low> {
@@ -109,25 +104,22 @@ struct standalone_asinh : standalone_guards<T, Lane, Low> {
 
 // The scalar routines.
 
-inline double scalar_square_root(double x) { return square_root(lanes<double, 1>(x)).g[0]; }
-
 // ln v of a positive normal number, to 5e-13, near 1 to 6e-11.
 inline double log_by_cubics(double v) {
-  const auto pattern = std::bit_cast<std::uint64_t>(v);
-  const double u = std::bit_cast<double>((pattern & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
-  const double e = double(std::int32_t(pattern >> 52) - 1023);
-  const auto& [c3, c1, c2, c0] = log_cubics[(pattern >> 44) & 255];
+  const unpacked<double> parts(v);
+  const double u = parts.mantissa(), e = parts.exponent;
+  const auto& [c3, c1, c2, c0] = log_cubics[(parts.significand >> 44) & 255];
   return u * u * (c3 * u + c2) + (c1 * u + c0) + e * quotient_log_rows<double>::LN2;
 }
 
 // ln(1 + v), v >= 0, exact to the last places wherever v is small.
 inline double log_of_one_plus(double v) {
   using scalar = lanes<double, 1>;
-  const double w = 1.0 + v;
-  const double lost = v < 1.0 ? (1.0 - w) + v : (v - w) + 1.0;
-  const quotient_log<scalar> log((scalar(w)));
-  const scalar scale = from_bits(bits(log.z) - bits(scalar(w)) + log.ONE);  // of w to z
-  const scalar f = (log.z - 1.0) + scalar(lost) * scale;
+  const one_plus<scalar> sum((scalar(v)));
+  const scalar w = sum.w();
+  const quotient_log<scalar> log(w);
+  const scalar scale = from_bits(bits(log.z) - bits(w) + log.ONE);  // of w to z
+  const scalar f = (log.z - 1.0) + sum.lost_by(w) * scale;
   return log.value(f, f / (f + 2.0)).g[0];
 }
 

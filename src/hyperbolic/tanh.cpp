@@ -1,7 +1,7 @@
 // tanh x, both precisions: one polynomial an interval of |x|, and no division. Intervals are equal parts of powers of
 // two, so that exponent and leading bits of x number them. Single precision: a cubic in |x|, in double. Double
-// precision: degree 10 in |x| less the interval's centre; the error is largest in the first interval, which alone has no
-// constant term.
+// precision: degree 10 in |x| less the interval's centre; the error is largest in the first interval, which alone has
+// no constant term.
 #include <cmath>
 
 #include "frame/frame.h"

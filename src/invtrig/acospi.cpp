@@ -28,7 +28,7 @@ struct arc_cosine {
   static V kernel(V x) {
     const auto r = reduce_for_cosine<Variant>(x);
     V p = fitted(pi_scaled_rows<T, Variant>::c, r.w);
-    if constexpr (!(sizeof(T) == 4 && Variant == variant::native)) p = r.w * p + over_pi<T>;
+    if constexpr (!(sizeof(T) == 4 && Variant == variant::native)) p = r.w * p + inverse_pi<T>;
     return ordered_product(p, r.base) + angle_at_end(x, r, one_v<T>, half_v<T>);
   }
   static auto rare_test(auto x) { return one_v<T> <= magnitude(x); }

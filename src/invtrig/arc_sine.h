@@ -132,7 +132,7 @@ LANEMATH_INLINE reduced<T, W> reduce_for_cosine(const lanes<T, W>& x) {
     const auto r = square_root(h);
     twice_root = r + r;
   }
-  return {w, from_bits(bits(select(big, twice_root, n)) ^ sign_of(x)), big};
+  return {w, flipped(select(big, twice_root, n), sign_of(x)), big};
 }
 
 // What the cosine's product is added to: the angle at x = 0, -1 or 1.

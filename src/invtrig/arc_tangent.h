@@ -2,6 +2,8 @@
 #pragma once
 
 #include "invtrig/angles.h"
+#include "numeric/estimates.h"
+#include "numeric/fields.h"
 
 namespace lanemath {
 
@@ -105,14 +107,10 @@ LANEMATH_INLINE lanes<float, W> reciprocal(const lanes<float, W>& x) {
   const auto y0 = reciprocal_estimate(x);
   return y0 * (2.0f - x * y0);
 }
-// The same for x > 0 in double: the estimate of the leading bits as a float in [1, 2), its exponent set by integers.
+// The same for x > 0 in double.
 template <int W>
 LANEMATH_INLINE lanes<double, W> reciprocal(const lanes<double, W>& x) {
-  const auto top = upper(x);
-  const auto leading = as<float>(((top << 3) & 0x007FFFFF) | 0x3F800000);
-  const auto estimate = bits(reciprocal_estimate(leading)) >> 3;
-  const auto y0_top = (estimate - 0x07F00000) + (0x7FE00000 - (top & std::int32_t(0xFFF00000)));
-  const auto y0 = from_bits(widen(y0_top) << 32);
+  const auto y0 = full_range_reciprocal_estimate(x);
   const auto d = y0 * x - 1.0;
   return y0 + (d * d - d) * y0;
 }
@@ -141,9 +139,10 @@ struct by_corrected_estimate {
 // Whether the reciprocals lose range: all but 2^-125 <= a < 2^123 in float, 2^-1020 <= a < 2^993 in double.
 template <class T, int W>
 LANEMATH_INLINE auto beyond_reciprocals(const lanes<T, W>& a) {
-  constexpr auto from = std::int32_t(sizeof(T) == 4 ? 0x81000000 : 0x80300000);
-  constexpr auto length = std::int32_t(sizeof(T) == 4 ? 0xFC000000 : 0xFDD00000);
-  return (top_word(a) - from) > length - 1;
+  if constexpr (sizeof(T) == 4)
+    return outside(bits(a), 0x01000000, 0x7CFFFFFF);
+  else
+    return outside(upper(a), 0x00300000, 0x7DFFFFFF);
 }
 
 // The angle of the point (x, y): from the quotient of the smaller magnitude by the larger one; what is beyond an

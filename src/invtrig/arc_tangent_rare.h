@@ -2,8 +2,9 @@
 // cannot reach.
 #pragma once
 
-#include "frame/double_pair.h"
 #include "invtrig/angles.h"
+#include "numeric/double_pair.h"
+#include "numeric/exceptional.h"
 #include "tables/invtrig.h"
 
 namespace lanemath {
@@ -11,7 +12,7 @@ namespace lanemath {
 // v times 2^k, |v| in [2^-4, 4) and hi it rounded. Rounded once, also to a denormal: where what is cut from hi is just
 // half a step, lo decides.
 inline double scaled(const double_pair& v, int k) {
-  const double exact = v.hi * power_of_two(std::max(k, -1080) + 64);
+  const double exact = v.hi * power_of_two<double>(std::max(k, -1080) + 64);
   const double result = exact * 0x3BF0000000000000_f64;        // 2^-64
   const double cut = exact - result * 0x43F0000000000000_f64;  // 2^64
   constexpr double half_step = 0x00C0000000000000_f64;         // 2^-1011, half the smallest denormal at this scale
@@ -19,29 +20,6 @@ inline double scaled(const double_pair& v, int k) {
   if (cut == half_step && v.lo > 0) return result + step;
   if (cut == -half_step && v.lo < 0) return result - step;
   return result;
-}
-
-// A positive finite number as a value in [1, 2) and an exponent.
-struct parts {
-  double significand;
-  int exponent;
-
-  explicit parts(double v) {
-    int bias = 1023;
-    if (v < 0x0010000000000000_f64) {  // denormal
-      v *= 0x4350000000000000_f64;     // 2^54
-      bias += 54;
-    }
-    const auto pattern = std::bit_cast<std::uint64_t>(v);
-    exponent = int(pattern >> 52 & 2047) - bias;
-    significand = std::bit_cast<double>((pattern & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
-  }
-};
-
-template <class T>
-T with_sign_of(T value, T sign) {
-  using I = int_of_size<sizeof(T)>;
-  return std::bit_cast<T>(I((std::bit_cast<I>(value) & ~sign_mask<T>) | (std::bit_cast<I>(sign) & sign_mask<T>)));
 }
 
 // A part of half a turn, in radians or divided by pi.
@@ -66,19 +44,15 @@ template <class Points>
 double_pair arc_tangent(const double_pair& q) {
   double_pair base = 0.0, r = q;
   if (q.hi >= 0.125) {
-    const auto top = std::uint32_t(std::bit_cast<std::uint64_t>(q.hi) >> 32);
+    const auto top = std::uint32_t(pattern_of(q.hi) >> 32);
     const auto index = std::min((top + Points::rounding - 0x3FC00000) >> 19, 113u);
-    const double_pair c = std::bit_cast<double>(std::uint64_t(Points::first + (index << 19)) << 32);
+    const double_pair c = value_of<double>(std::uint64_t(Points::first + (index << 19)) << 32);
     base = {Points::table[index].hi, Points::table[index].lo};
     r = (q + -c) / (double_pair(1.0) + q * c);
   }
   const double s = r.hi * r.hi;
-  double p = -0.06313688776899645 * s + 0.07683539769703819;
-  p = p * s - 0.0909079559611586;
-  p = p * s + 0.11111110301985087;
-  p = p * s - 0.1428571428262597;
-  p = p * s + 0.19999999999994408;
-  p = p * s - 0x3FD5555555555555_f64;  // 1/3
+  const double p = horner(s, {-0.06313688776899645, 0.07683539769703819, -0.0909079559611586, 0.11111110301985087,
+                              -0.1428571428262597, 0.19999999999994408, 0xBFD5555555555555_f64});
   return base + double_pair(r.hi, r.lo + r.hi * s * p);
 }
 
@@ -87,7 +61,7 @@ template <class T, bool Scaled>
 T rounded(double_pair angle, int k = 0) {
   if constexpr (sizeof(T) == 4) {
     const double v = angle.hi + angle.lo;
-    return float(Scaled ? v * over_pi<double> : v);
+    return float(Scaled ? v * inverse_pi<double> : v);
   } else {
     if (Scaled) angle = angle * double_pair(0.31830988824367523, -2.0598845603958264e-9);  // 1 / pi
     return scaled(angle, k);
@@ -98,12 +72,12 @@ T rounded(double_pair angle, int k = 0) {
 template <class T, bool Scaled>
 T tiny_arc_tangent(double num, double den) {
   if constexpr (sizeof(T) == 8 && Scaled) {
-    const parts n(num), d(den);
-    return rounded<T, Scaled>(double_pair(n.significand) / d.significand, n.exponent - d.exponent);
+    const unpacked<double> n(num), d(den);
+    return rounded<T, Scaled>(double_pair(n.mantissa()) / d.mantissa(), n.exponent - d.exponent);
   } else {
     const double q = num / den;
     const double v = q < double(std::numeric_limits<T>::min()) ? double(T(q * q)) + q : q * (1.0 + q);
-    return T(Scaled ? v * over_pi<double> : v);
+    return T(Scaled ? v * inverse_pi<double> : v);
   }
 }
 
@@ -114,15 +88,15 @@ LANEMATH_RARE arc_tangent_rare(const T* px, T* py) {
     *py = x + x;
     return status::ordinary;
   }
-  const double a = with_sign_of(x, zero_v<T>);
+  const double a = std::fabs(x);
   T y;
   if (a >= 0x4350000000000000_f64)  // 2^54
     y = half_turns<T, Scaled>(0.5);
   else if (a < 0x3CA0000000000000_f64)  // 2^-53
     y = a == 0.0 ? zero_v<T> : tiny_arc_tangent<T, Scaled>(a, 1.0);
-  else
+  else  // kept although no argument reaches it: the kernels serve these
     y = rounded<T, Scaled>(arc_tangent<at_middles>(a));
-  *py = with_sign_of(y, x);
+  *py = std::copysign(y, x);
   return status::ordinary;
 }
 
@@ -131,8 +105,8 @@ LANEMATH_RARE arc_tangent_rare(const T* px, T* py) {
 template <class T, bool Scaled>
 bool special_angle(T y, T x, T& angle) {
   const T infinity = std::numeric_limits<T>::infinity();
-  const T ay = with_sign_of(y, zero_v<T>), ax = with_sign_of(x, zero_v<T>);
-  const bool left = std::bit_cast<int_of_size<sizeof(T)>>(x) < 0;
+  const T ay = std::fabs(y), ax = std::fabs(x);
+  const bool left = std::signbit(x);
   if (y != y || x != x) {
     const T nan = y != y ? y : x;
     angle = nan + nan;
@@ -150,28 +124,26 @@ bool special_angle(T y, T x, T& angle) {
 
 template <class T, bool Scaled>
 T finite_angle(double ay, double x) {
-  const double ax = with_sign_of(x, 0.0);
-  const auto field = [](double v) { return int(std::bit_cast<std::uint64_t>(v) >> 52); };
-  const int apart = field(ay) - field(ax);
+  const double ax = std::fabs(x);
+  const int apart = exponent_field(ay) - exponent_field(ax);
   constexpr double_pair quarter_turn(half_pi<double>, 0x3C91A62633145C07_f64);
   constexpr double_pair half_turn(pi<double>, 0x3CA1A62633145C07_f64);
   if (apart < -53) return x < 0.0 ? half_turns<T, Scaled>(1.0) : tiny_arc_tangent<T, Scaled>(ay, ax);
   if (apart >= 74) return half_turns<T, Scaled>(0.5);
   if (apart >= 54) return rounded<T, Scaled>(double_pair::fast_sum(quarter_turn.hi, quarter_turn.lo - x / ay));
-  const parts n(ay), d(ax);
-  const double scale = power_of_two(n.exponent - d.exponent);
-  const auto quotient = double_pair(n.significand * scale) / d.significand;
+  const unpacked<double> n(ay), d(ax);
+  const double scale = power_of_two<double>(n.exponent - d.exponent);
+  const auto quotient = double_pair(n.mantissa() * scale) / d.mantissa();
   const auto angle = arc_tangent<at_halves>(quotient);
   return rounded<T, Scaled>(x < 0.0 ? half_turn + -angle : angle);
 }
 
 template <class T, bool Scaled>
 LANEMATH_RARE arc_tangent2_rare(const T* py, const T* px, T* result) {
-  const T one = opaque(one_v<T>);
-  const T y = *py * one, x = *px * one;
+  const T y = quieted(*py), x = quieted(*px);
   T angle;
-  if (!special_angle<T, Scaled>(y, x, angle)) angle = finite_angle<T, Scaled>(with_sign_of(y, zero_v<T>), x);
-  *result = with_sign_of(angle, y);
+  if (!special_angle<T, Scaled>(y, x, angle)) angle = finite_angle<T, Scaled>(std::fabs(y), x);
+  *result = std::copysign(angle, y);
   return status::ordinary;
 }
 

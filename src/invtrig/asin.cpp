@@ -19,7 +19,7 @@ struct arc_sine {
     V q = fitted(radian_rows<T, Variant>::c, w);
     if constexpr (!(sizeof(T) == 4 && Variant == variant::native)) q = w * q;
     const V v = ordered_sum(base, q * base) + where(big, V(half_pi<T>));
-    return from_bits(bits(v) ^ sign_of(x));
+    return flipped(v, sign_of(x));
   }
   // Where (1 - |x|) / 2 is negative.
   static auto rare_test(auto x) { return bits(half_v<T> - half_v<T> * magnitude(x)) < 0; }

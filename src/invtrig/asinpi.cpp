@@ -31,12 +31,12 @@ struct arc_sine {
     const V quarter_turn = where(big, V(half_v<T>));
     V v;
     if constexpr (Variant == variant::standard)
-      v = ordered_product(base, w * p) + (over_pi<T> * base + quarter_turn);
+      v = ordered_product(base, w * p) + (inverse_pi<T> * base + quarter_turn);
     else if constexpr (sizeof(T) == 4)
       v = ordered_product(p, base) + quarter_turn;
     else
-      v = ordered_product(w * p + over_pi<T>, base) + quarter_turn;
-    return from_bits(bits(v) ^ sign_of(x));
+      v = ordered_product(w * p + inverse_pi<T>, base) + quarter_turn;
+    return flipped(v, sign_of(x));
   }
   static auto rare_test(auto x) { return one_v<T> <= magnitude(x); }
 };

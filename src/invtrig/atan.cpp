@@ -13,7 +13,7 @@ namespace {
 // pi/2 with the sign of x where the reciprocal is taken.
 template <class M, class V>
 V offset(M outside, V x) {
-  return from_bits(bits(where(outside, V(half_pi<typename V::value_type>))) ^ sign_of(x));
+  return flipped(where(outside, V(half_pi<typename V::value_type>)), sign_of(x));
 }
 template <class V>
 V negated(V x) {
@@ -51,7 +51,7 @@ struct atan_frame {
     V p = (0x3FB2E9B9F5C4FE97_f64 * u + 0xBFB74257C46790CC_f64) * q +
           (0x3FBC71BFEFF916A0_f64 * u + 0xBFC249248EEF04DA_f64);
     p = p * q + (0x3FC999999998741E_f64 * u + 0xBFD555555555554D_f64);
-    return from_bits(bits((p * (u * t) + t) + base) ^ sign_of(x));
+    return flipped((p * (u * t) + t) + base, sign_of(x));
   }
 };
 
@@ -65,7 +65,7 @@ struct one_division {
     const V a = magnitude(x);
     const V t = minimum(a, V(one_v<T>)) / maximum(V(one_v<T>), a);
     const auto above = ~(a <= one_v<T>);
-    const V v = from_bits(bits(t) ^ sign_of(x) ^ (above & sign_mask<T>));
+    const V v = flipped(t, sign_of(x) ^ (above & sign_mask<T>));
     return ordered_product(Factor::at(t), v) + offset(above, x);
   }
 };

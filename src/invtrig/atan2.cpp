@@ -21,26 +21,19 @@ using atan2f_native = radians_of<float, light_factor<light_rows<float>>, by_esti
 using atan2_standard = radians_of<double, four_chain_factor, by_division>;
 using atan2_native = radians_of<double, light_factor<light_rows<double>>, by_estimate>;
 
-// One marked lane sends all of them to the scalar routine.
-struct one_marks_all {
-  template <class V, class M>
-  static void fix_up(V, V, V&, M& rare) {
-    rare = M(-1);
-  }
-};
-
 // The default form in double at width 2. The scalar routine has the kernel's bits.
 
 LANEMATH_RARE atan22_lane(const double* py, const double* px, double* result) {
   using scalar = lanes<double, 1>;
   double angle;
-  *result = special_angle<double, false>(*py, *px, angle) ? with_sign_of(angle, *py)
+  *result = special_angle<double, false>(*py, *px, angle) ? std::copysign(angle, *py)
                                                           : atan2_standard::kernel(scalar(*py), scalar(*px)).g[0];
   return status::ordinary;
 }
 
-struct atan22 : atan2_standard, one_marks_all {
+struct atan22 : atan2_standard {
   static constexpr auto rare = atan22_lane;
+  static constexpr bool one_marks_all = true;
 
   template <class V>
   static auto rare_test(V y, V x) {
@@ -63,29 +56,27 @@ LANEMATH_RARE atan2f4_lane(const float* py, const float* px, float* result) {
   }
   float angle;
   if (special_angle<float, false>(y, x, angle)) {
-    *result = with_sign_of(angle, y);
+    *result = std::copysign(angle, y);
     return status::ordinary;
   }
-  const float ay = with_sign_of(y, 0.0f), ax = with_sign_of(x, 0.0f);
+  const float ay = std::fabs(y), ax = std::fabs(x);
   const bool swap = ay > ax;
   const double t = swap ? -ax / ay : ay / ax;
   const double u = t * t, z = u * u;
-  double e = 0x3F6758A6ECE26A15_f64 * z + 0x3FA5DBA9B6416141_f64;
-  e = e * z + 0x3FBB3DA47DC4BC7A_f64;
-  e = e * z + 0x3FC9972E7842A425_f64;
-  e = e * z + 0x3FEFFFFFF7D2397A_f64;
-  double o = 0xBF90744B79FA4C68_f64 * z + 0xBFB33603B7747C3C_f64;
-  o = o * z + 0xBFC22E400E7F97E8_f64;
-  o = (o * z + 0xBFD5554A6DBB1614_f64) * u;
+  const double e = horner(z, {0x3F6758A6ECE26A15_f64, 0x3FA5DBA9B6416141_f64, 0x3FBB3DA47DC4BC7A_f64,
+                              0x3FC9972E7842A425_f64, 0x3FEFFFFFF7D2397A_f64});
+  const double o =
+      horner(z, {0xBF90744B79FA4C68_f64, 0xBFB33603B7747C3C_f64, 0xBFC22E400E7F97E8_f64, 0xBFD5554A6DBB1614_f64}) * u;
   double v = t * (e + o) + (swap ? half_pi<double> : 0.0);
   if (x < 0.0f) v = pi<double> - v;
   *result = float(y < 0.0f ? -v : v);
   return status::ordinary;
 }
 
-struct atan2f4 : one_marks_all {
+struct atan2f4 {
   using signature = float(float, float);
   static constexpr auto rare = atan2f4_lane;
+  static constexpr bool one_marks_all = true;
 
   template <class V>
   static V kernel(V y, V x) {

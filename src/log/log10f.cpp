@@ -6,21 +6,18 @@
 // degree 5. Rare lanes: zeros, denormals, negative values, infinities and NaNs.
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"
+#include "numeric/split.h"
 
 namespace lanemath {
 namespace {
 
 struct log10f_rows {
-  std::int32_t SMALL;   // exponent of 2^-9
-  float R;              // scale of the reciprocal
-  std::int32_t HIMASK;  // upper 16 bits of the significand
-  float LH, LL;         // log10 of 2, high and low part
+  float R;       // scale of the reciprocal
+  float LH, LL;  // log10 of 2, high and low part
   float P3, P2, P1;
 };
 constexpr log10f_rows log10f_table{
-    .SMALL = 0x3B000000,
     .R = 0x3EDE0000_f32,
-    .HIMASK = std::int32_t(0xFFFFFF00),
     .LH = 0x3E9A2100_f32,
     .LL = 0xB64AF600_f32,
     .P3 = 0x3FE35103_f32,
@@ -39,9 +36,9 @@ struct log10f_standard : log10f_guards {
   static V kernel(V x) {
     constexpr auto& c = log10f_table;
     const V e = convert<float>(bits(x) >> 23);
-    const V g = from_bits((bits(x) & MANTISSA_F32) | c.SMALL);
+    const V g = with_exponent(x, -9);
     const V n = round_to<direction::nearest>(reciprocal_estimate(g) * c.R);
-    const V gh = from_bits(bits(g) & c.HIMASK), gl = g - gh;
+    const V gh = without_low_bits(g, 8), gl = g - gh;
     const V t = (gh * n - c.R) + gl * n;
     const auto [hi, lo] = look_up(log10f_of_integers, (bits(n) >> 16) - 0x42DE);  // 111
     const V h = c.LH * e + hi;

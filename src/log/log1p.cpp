@@ -14,20 +14,17 @@ namespace {
 template <class T>
 struct log1p_rows {
   using pattern = int_of_size<sizeof(T)>;
-  T TINY;              // below, the sum keeps all its bits
-  pattern MASKH;       // else this upper part
-  pattern MANT, EXPF;  // mantissa and exponent field
-  pattern SMALL;       // exponent of the mantissa g
-  pattern EXPC;        // sum of the exponent fields of w and of the scale that makes g of it
-  T NEG1, BIG;         // the last ones that are not rare
-  T LN2H, LN2L;        // ln 2, high and low part
+  T TINY;         // below, the sum keeps all its bits
+  pattern MASKH;  // else this upper part
+  int SMALL;      // exponent of the mantissa g
+  pattern EXPC;   // sum of the exponent fields of w and of the scale that makes g of it
+  T NEG1, BIG;    // the last ones that are not rare
+  T LN2H, LN2L;   // ln 2, high and low part
 };
 constexpr log1p_rows<float> log1pf_table{
     .TINY = 0x39800000_f32,
     .MASKH = std::int32_t(0xFFFFFF00),
-    .MANT = MANTISSA_F32,
-    .EXPF = 0x7F800000,
-    .SMALL = 0x3B800000,
+    .SMALL = -8,
     .EXPC = 0x7B000000,
     .NEG1 = 0xBF7FFFFF_f32,
     .BIG = 0x7A800000_f32,
@@ -37,9 +34,7 @@ constexpr log1p_rows<float> log1pf_table{
 constexpr log1p_rows<double> log1p_table{
     .TINY = 0x3E00000000000000_f64,
     .MASKH = std::int64_t(0xFFFFFFFFFFFFFC00),
-    .MANT = 0x000FFFFFFFFFFFFF,
-    .EXPF = 0x7FF0000000000000,
-    .SMALL = 0x3F50000000000000,
+    .SMALL = -10,
     .EXPC = 0x7F40000000000000,
     .NEG1 = 0xBFEFFFFFFFFFFFFF_f64,
     .BIG = 0x7F3FFFFFFFFFF000_f64,
@@ -56,32 +51,23 @@ constexpr auto& rows_of() {
     return log1p_table;
 }
 
-// 1 + x = w + l exactly.
-template <class V>
-struct exact_sum {
-  static constexpr auto ONE = one_v<typename V::value_type>;
-  V larger, smaller;
-  LANEMATH_INLINE explicit exact_sum(V x) : larger(maximum(V(ONE), x)), smaller(minimum(V(ONE), x)) {}
-  LANEMATH_INLINE V w() const { return larger + smaller; }
-  LANEMATH_INLINE V lost_by(V w) const { return (larger - w) + smaller; }
-};
-
 // w = g / scale, with n an integer near 1 / g.
 template <class V>
 struct scaled_sum {
   using T = typename V::value_type;
+  using pattern = int_of_size<sizeof(T)>;
   lanes<float, V::width> near;
   V g, n, f;  // f is n times the scale
 
   LANEMATH_INLINE explicit scaled_sum(V w) {
     constexpr auto& c = rows_of<T>();
-    g = from_bits((bits(w) & c.MANT) | c.SMALL);
+    g = with_exponent(w, c.SMALL);
     near = integer_near_reciprocal(g);
     if constexpr (sizeof(T) == 4)
       n = near;
     else
       n = convert<double>(near);
-    f = n * from_bits(c.EXPC - (bits(w) & c.EXPF));
+    f = n * from_bits(c.EXPC - (bits(w) & pattern(format<T>::infinity)));
   }
 };
 
@@ -102,11 +88,11 @@ struct log1p_standard : log1p_guards<T, Routine> {
   template <class V>
   static V kernel(V x) {
     constexpr auto& c = rows_of<T>();
-    const exact_sum<V> sum(x);
+    const one_plus<V> sum(x);
     const V w = from_bits(bits(sum.w()) & ((magnitude(x) < c.TINY) | c.MASKH));
     const V l = sum.lost_by(w);
     const scaled_sum<V> a(w);
-    const V t1 = a.g * a.n - sum.ONE;
+    const V t1 = a.g * a.n - sum.one;
     const V t2 = l * a.f;
     const V z = t1 + t2;
     const V d = t2 - (z - t1);
@@ -142,11 +128,11 @@ struct log1pf_native {
   using signature = float(float);
   static constexpr auto rare = log1pf_rare;
   // Marks a sum that is no positive normal number or is above 2^127.
-  static auto rare_test(auto x) { return bits(x + 1.0f) + 0x01000000 < 0x01800000; }
+  static auto rare_test(auto x) { return outside(bits(x + 1.0f), 0x00800000, 0x7EFFFFFF); }
 
   template <class V>
   static V kernel(V x) {
-    const exact_sum<V> sum(x);
+    const one_plus<V> sum(x);
     const V w = sum.w();
     const V l = sum.lost_by(w);
     const centred_mantissa<V> a(w);
@@ -159,13 +145,13 @@ struct log1pf_native {
 struct log1p_native : log1p_guards<double, log1p_rare> {
   template <class V>
   static V kernel(V x) {
-    const exact_sum<V> sum(x);
+    const one_plus<V> sum(x);
     const V w = sum.w();
     const V l = sum.lost_by(w);
     const scaled_sum<V> a(w);
     const V z = (a.g * a.n - 1.0) + l * a.f;
     const V y = z + (log_table.P3 * z + log_table.P2) * (z * z);
-    return with_bits(with_exponent_term<log_table, ln_of_integers>(y, w, a.near), sign_of(x));
+    return with_bits(with_exponent_term<log_table, ln_of_integers>(y, exponent_of_positive(w), a.near), sign_of(x));
   }
 };
 

@@ -2,7 +2,6 @@
 //
 // The default form at width 2 is another: m in [1, 2) is compared with the nearest 128th, whose reciprocal and
 // logarithm stand in a table, and it settles every special lane itself.
-#include "log/logarithm_double.h"
 #include "log/log2_rare.h"
 #include "log/logarithm_double.h"
 
@@ -54,16 +53,16 @@ struct log22 {
  private:
   LANEMATH_INLINE static V of_normal(V x) {
     constexpr double to_128ths = 0x42C0000000000000_f64;  // 2^45
-    const auto m = (bits(x) & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000;
-    const V mh = (from_bits(m | 0x000003FF000003FF) + to_128ths) - to_128ths;  // halfway goes up
+    const V m = with_exponent(x, 0);
+    const V mh = (from_bits(bits(m) | 0x000003FF000003FF) + to_128ths) - to_128ths;  // halfway goes up
     const auto j = ((upper(x) >> 12 & 0xFF) + 1) >> 1;
-    const V k = convert<double>((upper(x) >> 20) - 1023);
+    const V k = convert<double>(exponent_of_positive(x));
     V a, b, r;
     for (int i = 0; i < 2; ++i) {
       const auto& [hi, lo, reciprocal] = log2_of_128ths[j.g[0][i]];
       a.g[0][i] = hi, b.g[0][i] = lo, r.g[0][i] = reciprocal;
     }
-    const V z = (from_bits(m) - mh) * r;
+    const V z = (m - mh) * r;
     const V A = k + a;
     const V s = z * z;
     const V u = ((0xBFCEC7316E9F33A2_f64 * s + 0xBFD715476521ED82_f64) * s + 0xBFE71547652B82FF_f64) * s;

@@ -1,9 +1,10 @@
 // The rare routine of log2. Away from 1: reciprocals c of the middles of 256 intervals, -log2 c from a table in two
-// parts, and a polynomial; the sum's large terms are exact. Near 1: polynomials in x - 1, the nearer the shorter. It is
-// complete, though the kernels leave it only what is no positive normal number.
+// parts, and a polynomial; the sum's large terms are exact. Near 1: polynomials in x - 1, the nearer the shorter; these
+// are kept although no argument reaches them, since the kernels leave it only what is no positive normal number.
 #pragma once
 
 #include "log/logarithm_rare.h"
+#include "numeric/split.h"
 
 namespace lanemath {
 
@@ -11,20 +12,14 @@ namespace log_detail {
 
 constexpr double L0 = 1.4426946640014648;  // 1 / ln 2 in few bits: the upper part of every first-order term
 
-inline double without_lower_half(double x) { return std::bit_cast<double>(pattern_of(x) & 0xFFFFFFFF00000000); }
-
-// The upper bits of v: a split that leaves 20 of them.
-inline double upper_part(double v) { return 4294967297.0 * v - 4294967296.0 * v; }
+// Rounded to 20 bits. Not the difference that makes a high part elsewhere: its last bits are others.
+inline double in_20_bits(double v) { return 4294967297.0 * v - 4294967296.0 * v; }
 
 inline double log2_away_from_one(double x) {
-  int e = exponent_field(x) - 1023;
-  if (e == -1023) {
-    x = x * 0x4360000000000000_f64;  // 2^55
-    e = exponent_field(x) - 1078;
-  }
-  const auto i = pattern_of(x) >> 44 & 255;
-  const double m = std::bit_cast<double>((pattern_of(x) & 0x000FFFFFFFFFFFFF) | pattern_of(1.0));
-  const double mh = without_lower_half(m);
+  const unpacked<double> parts(x);
+  const auto i = parts.significand >> 44 & 255;
+  const double m = parts.mantissa();
+  const double mh = without_low_bits(m, 32);
   const double c = double(log2_centres[i]);
   const auto [hi, lo] = log2_of_centres[i];
   const double u = (m - mh) * c;
@@ -33,7 +28,7 @@ inline double log2_away_from_one(double x) {
   const double s = z * z;
   const double w = a * L0;
   const double t = (4294967296.0 + w) - 4294967296.0;
-  const double A = (double(e) + hi) + t;
+  const double A = (double(parts.exponent) + hi) + t;
   const double B = u * L0 +
                    (((-0.24045091916380087 * s - 0.36067376021722414) * s - 0.7213475204444817) * s +
                     ((0.2885405044652136 * s + 0.48089834696027206) * s + 3.7688749856434016e-07) * z) +
@@ -47,24 +42,24 @@ inline double log2_around_one(double x) {
   const double q =
       (((-0.1418420613067279 * s - 0.18033829516556898) * s - 0.24044917320997325) * s - 0.36067376022226) * s +
       (((0.16037852845437842 * s + 0.20609927446192183) * s + 0.2885390081793663) * s + 0.4808983469629877) * d;
-  const double dh = upper_part(d), qh = upper_part(q);
+  const double dh = in_20_bits(d), qh = in_20_bits(q);
   const double dl = d - dh;
   const double v1 = qh - 0.7213473320007324;
   const double r = dl * v1 + ((q - qh) - 1.8844374928144417e-07) * d;
   const double p = v1 * dh;
   const double a = r + p;
-  const double ah = upper_part(a);
+  const double ah = in_20_bits(a);
   const double b = ah + L0;
   const double c2 = r + (p - ah) + 3.7688749856361023e-07;
   const double t = c2 + b;
-  const double th = upper_part(t);
+  const double th = in_20_bits(t);
   return th * dh + (dl * th + d * (c2 + (b - th)));
 }
 
 inline double log2_close_to_one(double x) {
   const double d = x - 1.0;
   const double s = d * d;
-  const double dh = without_lower_half(d);
+  const double dh = without_low_bits(d, 32);
   return dh * L0 + (((-0.36067376024675457 * s - 0.7213475204444817) * s +
                      (0.48089834698398176 * s + 3.768874985636096e-07) * d) +
                     (d - dh) * L0);
@@ -81,7 +76,7 @@ inline double log2_closest_to_one(double x) {
 [[gnu::noinline]] inline status log2_rare(const double* px, double* py) {
   const double x = *px;
   if (const auto status = log_detail::of_special(x, *py)) return *status;
-  const auto pattern = std::bit_cast<std::uint64_t>(x);
+  const auto pattern = pattern_of(x);
   const auto h = std::uint32_t(pattern >> 32), l = std::uint32_t(pattern);
   if (h - 0x3FEF8000 >= 53248)  // 0.984375 and a little above 1.0195
     *py = log_detail::log2_away_from_one(x);

@@ -1,26 +1,21 @@
 // What the logarithms of both precisions share.
 #pragma once
 
-#include "frame/polynomial.h"
+#include "numeric/fields.h"
+#include "numeric/polynomial.h"
 
 namespace lanemath {
 
 // Even the widest form is faster in one piece, some of its values on the stack, than with its chains one after another.
 inline constexpr int most_groups = 8;
 
-// What an operation inherits whose rare lanes are those that are no positive normal number. Adding the exponent 1 to
-// the pattern brings all of them below twice that: infinities and NaNs wrap to negative ones.
+// What an operation inherits whose rare lanes are those that are no positive normal number.
 template <class T, auto Routine>
 struct rare_unless_normal {
   using signature = T(T);
   static constexpr int groups_at_once = most_groups;
   static constexpr auto rare = Routine;
-  static auto rare_test(auto x) {
-    if constexpr (sizeof(T) == 4)
-      return bits(x) + 0x00800000 < 0x01000000;
-    else
-      return upper(x) + 0x00100000 < 0x00200000;
-  }
+  static auto rare_test(auto x) { return not_positive_normal(x); }
 };
 
 // The integer nearest to the processor's estimate of 1 / g, g in a binade. Which integer that is differs between

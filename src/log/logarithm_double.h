@@ -4,6 +4,7 @@
 #pragma once
 
 #include "log/logarithm.h"
+#include "numeric/split.h"
 #include "tables/log.h"
 
 namespace lanemath {
@@ -24,7 +25,7 @@ inline constexpr double_log_rows log_table{
 
 template <class V>
 LANEMATH_INLINE V scaled_mantissa(V x) {
-  return from_bits((bits(x) & 0x000FFFFFFFFFFFFF) | 0x3F50000000000000);
+  return with_exponent(x, -10);
 }
 
 // Of integers from 512 to 1024, in their table.
@@ -42,10 +43,16 @@ LANEMATH_INLINE V times(V x, double factor) {
     return x * factor;
 }
 
-// y + log(2^q / n) + k log 2, given the number and its n.
-template <auto& c, auto& table, class V, class N>
-LANEMATH_INLINE V with_exponent_term(V y, V x, N n) {
-  const auto k = (upper(x) >> 20) - 1022 + (n > 724.0f);  // the mask is -1
+// k, one less where the table's q is 10: the mask is -1.
+template <class E, class N>
+LANEMATH_INLINE E exponent_beside(E exponent, N n) {
+  return exponent + 1 + (n > 724.0f);
+}
+
+// y + log(2^q / n) + k log 2, given the exponent of the number and its n.
+template <auto& c, auto& table, class V, class E, class N>
+LANEMATH_INLINE V with_exponent_term(V y, E exponent, N n) {
+  const auto k = exponent_beside(exponent, n);
   return (y + look_up(table, index_of_integer(n))) + times<c.LOG2 == 1.0>(convert<double>(k), c.LOG2);
 }
 
@@ -54,20 +61,29 @@ LANEMATH_INLINE V double_log(V x) {
   const V g = scaled_mantissa(x);
   const auto near = integer_near_reciprocal(g);
   const V n = convert<double>(near);
-  const V gh = from_bits(bits(g) & std::int64_t(0xFFFFFFFFFC000000)), gl = g - gh;
+  const V gh = without_low_bits(g, 26), gl = g - gh;
   const V z = (gh * n - 1.0) + gl * n;
   const V s = z * z;
   const V y = s * ((c.P5 * z + c.P4) * s + (c.P3 * z + c.P2)) + times<c.P1 == 1.0>(z, c.P1);
-  return with_exponent_term<c, table>(y, x, near);
+  return with_exponent_term<c, table>(y, exponent_of_positive(x), near);
 }
 
-template <auto& c, auto& table, class V>
-LANEMATH_INLINE V light_double_log(V x) {
-  const V g = scaled_mantissa(x);
-  const auto near = integer_near_reciprocal(g);
+template <auto& c, auto& table, class V, class E, class N>
+LANEMATH_INLINE V light_double_log(V g, E exponent, N near) {
   const V z = g * convert<double>(near) - 1.0;
   const V y = (c.P3 * z + c.P2) * (z * z) + times<c.P1 == 1.0>(z, c.P1);
-  return with_exponent_term<c, table>(y, x, near);
+  return with_exponent_term<c, table>(y, exponent, near);
+}
+template <auto& c, auto& table, int W>
+LANEMATH_INLINE lanes<double, W> light_double_log(const lanes<double, W>& x) {
+  const auto g = scaled_mantissa(x);
+  return light_double_log<c, table>(g, exponent_of_positive(x), integer_near_reciprocal(g));
+}
+// Of a float, in double.
+template <auto& c, auto& table, int W>
+LANEMATH_INLINE lanes<double, W> light_double_log(const lanes<float, W>& x) {
+  const auto g = scaled_mantissa(x);
+  return light_double_log<c, table>(convert<double>(g), exponent_of_positive(x), integer_near_reciprocal(g));
 }
 
 }  // namespace lanemath

@@ -1,15 +1,15 @@
 // The rare routines of the logarithms. They are complete, though the kernels leave them only what is no positive normal
-// number. Near 1, log2f_rare and log10f_rare cancel down to 14 good bits; the others are good everywhere.
+// number, and large sums 1 + x: what serves the others, above all the ways near 1, is kept although no argument reaches
+// it. Near 1, log2f_rare and log10f_rare cancel down to 14 good bits; the others are good everywhere.
 //
 // x = 2^k m with m in [1, 2); c is a reciprocal of m with so few bits that its product with g, the upper part of m, is
 // exact. What c m is off 1 goes into a polynomial, -log c comes from a table in two parts.
 #pragma once
 
-#include <cmath>
 #include <optional>
 
-#include "frame/fields.h"
 #include "log/logarithm.h"
+#include "numeric/exceptional.h"
 #include "tables/log.h"
 
 namespace lanemath {

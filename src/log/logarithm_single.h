@@ -5,8 +5,6 @@
 
 namespace lanemath {
 
-inline constexpr std::int32_t MANTISSA_F32 = 0x007FFFFF;
-
 // x = 2^k (1 + r) with 1 + r from 2/3 to 4/3, so that near 1 nothing cancels.
 template <class V>
 struct centred_mantissa {
@@ -18,7 +16,7 @@ struct centred_mantissa {
   LANEMATH_INLINE explicit centred_mantissa(V x) {
     const auto a = bits(x) - TWOTHIRDS;
     k = a >> 23;
-    r = from_bits((a & MANTISSA_F32) + TWOTHIRDS) - 1.0f;
+    r = from_bits((a & std::int32_t(format<float>::fraction)) + TWOTHIRDS) - 1.0f;
   }
 };
 

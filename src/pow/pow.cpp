@@ -12,8 +12,7 @@ namespace {
 
 LANEMATH_RARE pow_rare(const double* px, const double* py, double* pz) {
   using namespace powers;
-  return power_lane(*px, *py, *pz,
-                    [&](double x, double sign) { return finite_power(x, powers::exponent_of(*py), sign); });
+  return power_lane(*px, *py, *pz, [&](double x, double sign) { return finite_power(x, *py, sign); });
 }
 
 }  // namespace

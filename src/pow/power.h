@@ -1,7 +1,7 @@
 // What the powers share: how they tell their rare lanes, and what they do with the exponent.
 #pragma once
 
-#include "frame/frame.h"
+#include "numeric/split.h"
 
 namespace lanemath {
 
@@ -17,17 +17,25 @@ template <class V>
 struct exponent_parts {
   V value, hi, lo;
 };
+template <class V>
+LANEMATH_INLINE exponent_parts<V> exponent_of(V y) {
+  const auto [hi, lo] = split(y);
+  return {y, hi, lo};
+}
+// The reciprocal of y as an exponent.
+template <class T, int W>
+LANEMATH_INLINE exponent_parts<lanes<T, W>> reciprocal_exponent(const lanes<T, W>& y) {
+  constexpr T one = one_v<T>;
+  const auto value = one / y;
+  const auto hi = high_part(value);
+  const auto d = one - y * hi;
+  return {value, hi, d * (d + one) * hi};
+}
 
-// Patterns of floats outside the least normal up to just below the largest: zeros, denormals, infinities, NaNs, any
-// with the sign set, and the largest float.
+// Patterns of floats that the kernels do not serve: those of no positive normal number, and of the largest one.
 template <int W>
 LANEMATH_INLINE auto beyond_plain(const lanes<std::int32_t, W>& pattern) {
-  return pattern - std::int32_t(0x80800000) > std::int32_t(0xFEFFFFFE);
-}
-// The same of doubles by their upper words, the largest double being plain.
-template <int W>
-LANEMATH_INLINE auto beyond_plain_upper(const lanes<std::int32_t, W>& word) {
-  return word + 0x00100000 < 0x00200000;
+  return outside(pattern, 0x00800000, 0x7F7FFFFE);
 }
 
 constexpr std::int32_t LARGEST = 0x7F7FFFFF;  // infinities and NaNs are above, and doubles from 2^1017

@@ -1,18 +1,16 @@
 // The default double kernel of the powers: log2 x in two parts, the product with the exponent exact in its high part.
 #pragma once
 
+#include "numeric/polynomial.h"
 #include "pow/power.h"
 #include "tables/pow.h"
 
 namespace lanemath {
 
-template <class V>
-LANEMATH_INLINE V short_part(const V& v) {
-  return from_bits(bits(v) & std::int64_t(0xFFFFFFFFF8000000));
-}
-template <class V>
-LANEMATH_INLINE exponent_parts<V> exponent_of(const V& y) {
-  const V hi = short_part(y);
+// Cut, not rounded.
+template <int W>
+LANEMATH_INLINE exponent_parts<lanes<double, W>> cut_exponent(const lanes<double, W>& y) {
+  const auto hi = without_low_bits(y, 27);
   return {y, hi, y - hi};
 }
 
@@ -25,14 +23,14 @@ LANEMATH_INLINE auto double_power(const lanes<double, W>& x, const exponent_part
   constexpr double scale = 0x3FF7154740000000_f64;  // of the reciprocals, near 1 / ln 2
 
   const auto i = ((upper(x) & 0x000FFE00) + 0x00000200) >> 10;
-  const V m = from_bits((bits(x) & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
+  const V m = with_exponent(x, 0);
   // The exponent, one more for mantissas of the table's upper half.
   const auto biased = as<std::int64_t>(as<std::uint64_t>(bits(x) + 0x0008020000000000) >> 52);
   const V K = from_bits(biased | 0x4330000000000000) - 0x43300000000003FF_f64;
 
   const V R = look_up(scaled_reciprocal_1024, i);
   const auto [log_hi, log_lo] = look_up(log2_1024, i);
-  const V mh = short_part(m);
+  const V mh = without_low_bits(m, 27);
   const V ml = m - mh;
   const V z = m * R;
   const V low = ml * R + (mh * R - z);
@@ -43,16 +41,13 @@ LANEMATH_INLINE auto double_power(const lanes<double, W>& x, const exponent_part
   const V s = s0 + low;
   const V H = S + low;
   const V e = ((S - H) + low) + c1 + log_lo;
-  V p = s * 0xBF9B4EA0E9419F52_f64 + 0x3FA7A334DDFC9F86_f64;
-  p = p * s + 0xBFB550472A8BB463_f64;
-  p = p * s + 0x3FC47FD462B3B816_f64;
-  p = p * s + 0xBFD62E4346694107_f64;
-  p = p * s + 0x3E79C3A6966457EE_f64;
-  p = p * s;
+  const V p = horner(s, {0xBF9B4EA0E9419F52_f64, 0x3FA7A334DDFC9F86_f64, 0xBFB550472A8BB463_f64, 0x3FC47FD462B3B816_f64,
+                         0xBFD62E4346694107_f64, 0x3E79C3A6966457EE_f64}) *
+              s;
   const V L_low = p + e;
   const V L = H + L_low;
 
-  const V Lh = short_part(L);
+  const V Lh = without_low_bits(L, 27);
   const V Ll = L - Lh;
   const V t = L_low - (L - H);
   const V P = y.hi * Lh;
@@ -63,10 +58,8 @@ LANEMATH_INLINE auto double_power(const lanes<double, W>& x, const exponent_part
   const V v = (P - (G - shifter)) + rest;
   const V power = look_up(exp2_pair_128, lower(G) & 127).hi;
   const V g = from_bits(((bits(G) << 45) + 0x3FF0000000000000) & std::int64_t(0xFFF0000000000000)) * power;
-  V q = v * 0x3F55D87FE78A6731_f64 + 0x3F83B2AB6FBA4E77_f64;
-  q = q * v + 0x3FAC6B08D704A0BF_f64;
-  q = q * v + 0x3FCEBFBDFF82C58E_f64;
-  q = q * v + 0x3FE62E42FEFA39EF_f64;
+  const V q = horner(v, {0x3F55D87FE78A6731_f64, 0x3F83B2AB6FBA4E77_f64, 0x3FAC6B08D704A0BF_f64, 0x3FCEBFBDFF82C58E_f64,
+                         0x3FE62E42FEFA39EF_f64});
   return marked(g + q * (v * g), magnitude_above(P, RANGE));
 }
 
@@ -75,8 +68,8 @@ template <auto Routine>
 struct double_pow : power<double(double, double), Routine> {
   template <class V>
   LANEMATH_INLINE static auto marked_kernel(V x, V y) {
-    const auto [z, rare] = double_power(x, exponent_of(y));
-    return marked(z, rare | beyond_plain_upper(upper(x)) | magnitude_above(y, LARGEST));
+    const auto [z, rare] = double_power(x, cut_exponent(y));
+    return marked(z, rare | not_positive_normal(x) | magnitude_above(y, LARGEST));
   }
 };
 

@@ -3,15 +3,13 @@
 // series, one rounding at the result's own last place.
 #pragma once
 
-#include "frame/double_pair.h"
+#include "numeric/double_pair.h"
 #include "pow/power_rare.h"
 #include "tables/pow.h"
 
 namespace lanemath::powers {
 
-inline double_pair exponent_of(double y) { return {y, 0}; }
-inline double_pair reciprocal_exponent(std::int32_t n, double) {
-  const double y = n;
+inline double_pair reciprocal_pair(double y) {
   const double value = 1.0 / y;
   const auto back = double_pair::product(value, y);
   return {value, ((1.0 - back.hi) - back.lo) / y};
@@ -47,13 +45,12 @@ inline double_pair log2_of(double magnitude) {
 
 // (p.hi + p.lo) 2^n of a pair near 1 to 2, rounded once, denormals included.
 inline double scaled(double_pair p, int n, double sign) {
-  constexpr double tiny = 0x1p-1022, huge = 0x1p1023;
   const auto by_exponent = [](double v, int k) { return value_of<double>(pattern_of(v) + (std::uint64_t(k) << 52)); };
 
   const int f = exponent_field(p.hi) + n - 1023;
-  if (f > 1023) return square(huge) * sign;
+  if (f > 1023) return overflowed<double>() * sign;
   if (f >= -1022) return by_exponent(p.hi, n) * sign;
-  if (f < -1084) return square(tiny) * sign;
+  if (f < -1084) return underflowed<double>() * sign;
   // Rounds at the place of the smallest denormal: the sum stays in the binade of the shifter.
   const double shifter = by_exponent(1.0, -1022 - n);
   const double sum = shifter + p.hi;
@@ -62,10 +59,11 @@ inline double scaled(double_pair p, int n, double sign) {
 }
 
 inline double finite_power(double x, double_pair y, double sign) {
-  const auto log = log2_of(without_sign(x));
+  const auto log = log2_of(std::fabs(x));
   // |y log2 x| of 2^11 and more, or too small to tell the result from 1.
   const int size = exponent_field(y.hi) + exponent_field(log.hi);
-  if (size >= 2057) return square(has_sign(y.hi) != has_sign(log.hi) ? 0x1p-1022 : 0x1p1023) * sign;
+  if (size >= 2057)
+    return (std::signbit(y.hi) != std::signbit(log.hi) ? underflowed<double>() : overflowed<double>()) * sign;
   if (size < 1986) return (1.0 + opaque(0x1p-1022)) * sign;
 
   const auto exponent = log * y;

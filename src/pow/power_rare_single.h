@@ -2,38 +2,15 @@
 // stages of short reciprocals and a cubic, 2^v by a table of 128 pairs and a cubic.
 #pragma once
 
-#include "pow/power.h"
 #include "pow/power_rare.h"
+#include "pow/power_single.h"
 #include "tables/pow.h"
 
 namespace lanemath::powers {
 
-// A value in two parts of 12 bits.
-struct split_float {
-  float hi, lo;
-  explicit split_float(float v) {
-    const float scaled = v * 4097.0f;
-    hi = scaled - (scaled - v);
-    lo = v - hi;
-  }
-};
-
-inline exponent_parts<float> exponent_of(float y) {
-  const split_float parts(y);
-  return {y, parts.hi, parts.lo};
-}
-// What a float cannot hold of n goes to the low part.
-inline exponent_parts<float> exponent_of(std::int32_t n) {
-  const float y = float(n);
-  const split_float parts(y);
-  return {y, parts.hi, parts.lo + float(std::int64_t(n) - std::int64_t(y))};
-}
-inline exponent_parts<float> reciprocal_exponent(std::int32_t n, float) {
-  const float y = float(n);
-  const float value = 1.0f / y;
-  const float hi = split_float(value).hi;
-  const float d = 1.0f - y * hi;
-  return {value, hi, d * (1.0f + d) * hi};
+// As the kernels have it.
+inline exponent_parts<float> of_one(const exponent_parts<lanes<float, 1>>& y) {
+  return {y.value.g[0], y.hi.g[0], y.lo.g[0]};
 }
 
 // How the last sums go together: each operation has its own order.
@@ -42,9 +19,7 @@ enum class denormal_sum { scaled_then_signed, scaled_with_sign, each_scaled_with
 
 template <product_sum Product, denormal_sum Denormal>
 float finite_power(float x, const exponent_parts<float>& y, float sign) {
-  constexpr float tiny = 0x00800000_f32, huge = 0x7F000000_f32;
-
-  float ax = without_sign(x);
+  float ax = std::fabs(x);
   int adjustment = 0;
   if (exponent_field(x) == 0) {
     ax *= 0x5F800000_f32;  // 2^64
@@ -73,14 +48,15 @@ float finite_power(float x, const exponent_parts<float>& y, float sign) {
   float C = ((((c1 + c2) + c3) + lo1) + lo2) + lo3;
 
   const float s0 = z3 - 0x3FB88000_f32;
-  const split_float m(M), r(R);
+  const auto m = split(M), r = split(R);
   const float d = (((m.hi * r.hi - z3) + r.hi * m.lo) + m.hi * r.lo) + m.lo * r.lo;
   const float H = s0 + S3;
   const float c4 = (S3 - H) + s0;
 
   const int size = exponent_field(y.value) + exponent_field(H);
-  if (size >= 265) return square(has_sign(y.value) != has_sign(H) ? tiny : huge) * sign;
-  if (size < 193) return (1.0f + opaque(tiny)) * sign;
+  if (size >= 265)
+    return (std::signbit(y.value) != std::signbit(H) ? underflowed<float>() : overflowed<float>()) * sign;
+  if (size < 193) return (1.0f + opaque(std::numeric_limits<float>::min())) * sign;
 
   const float s = s0 + d;
   C = C + (d + c4);
@@ -89,7 +65,7 @@ float finite_power(float x, const exponent_parts<float>& y, float sign) {
   const float a = (H - A) + pol;
   const float B = A + C;
   const float b_low = (A - B) + C;
-  const split_float log(B);
+  const auto log = split(B);
 
   constexpr float shifter = 0x47C00000_f32;  // 98304: leaves 7 fraction bits
   const float p = y.hi * log.hi;
@@ -109,22 +85,22 @@ float finite_power(float x, const exponent_parts<float>& y, float sign) {
   const float E = v + power_hi;
 
   const int f = exponent_field(E) + n - 127;
-  if (f >= 128) return square(huge) * sign;
+  if (f >= 128) return overflowed<float>() * sign;
   if (f >= -126) return value_of<float>((pattern_of(E) & 0x007FFFFF) | std::uint32_t(f + 127) << 23) * sign;
-  if (f < -159) return square(tiny) * sign;
+  if (f < -159) return underflowed<float>() * sign;
   constexpr float down = 0x1F800000_f32;  // 2^-64
-  const float scale = value_of<float>((std::uint32_t(n + 191) & 255) << 23);
-  if (f < -136) return (E * scale) * (sign * down) + square(tiny);
+  const float scale = with_exponent_field<float>((n + 191) & 255);
+  if (f < -136) return (E * scale) * (sign * down) + underflowed<float>();
   const float low = (power_hi - E) + v;
-  const split_float whole(E);
+  const auto whole = split(E);
   const float high_sum = whole.hi * scale;
   const float low_sum = (low + whole.lo) * scale;
   if constexpr (Denormal == denormal_sum::scaled_then_signed)
-    return ((high_sum + low_sum) * down + square(tiny)) * sign;
+    return ((high_sum + low_sum) * down + underflowed<float>()) * sign;
   else if constexpr (Denormal == denormal_sum::scaled_with_sign)
-    return (sign * down) * (high_sum + low_sum) + square(tiny);
+    return (sign * down) * (high_sum + low_sum) + underflowed<float>();
   else
-    return (high_sum * (sign * down) + low_sum * (sign * down)) + square(tiny);
+    return (high_sum * (sign * down) + low_sum * (sign * down)) + underflowed<float>();
 }
 
 }  // namespace lanemath::powers

@@ -1,16 +1,20 @@
 // The float kernels of the powers: in pairs of floats, and the short one.
 #pragma once
 
+#include "log/logarithm_single.h"
+#include "numeric/constants.h"
 #include "pow/power.h"
 #include "tables/pow.h"
 
 namespace lanemath {
 
-// The upper 12 bits.
-template <class V>
-LANEMATH_INLINE V high_part(const V& v) {
-  const V scaled = v * 0x45800800_f32;  // 4097
-  return scaled - (scaled - v);
+// Of an integer: what a float cannot hold of it goes to the low part.
+template <int W>
+LANEMATH_INLINE exponent_parts<lanes<float, W>> exponent_of(const lanes<std::int32_t, W>& n) {
+  const auto y = convert<float>(n);
+  auto parts = exponent_of(y);
+  parts.lo = parts.lo + convert<float>(n - convert<std::int32_t>(y));
+  return parts;
 }
 
 // e^r over a binade, in pairs.
@@ -26,8 +30,7 @@ inline constexpr split_exp_rows split_exp_table{
     .c5 = 0x3C07D9FE_f32,
 };
 
-inline constexpr float LN2_HI = 0x3F317200_f32, LN2_LO = 0x35BFBE8E_f32, LOG2E = 0x3FB8AA3B_f32,
-                       SHIFTER = 0x4B400000_f32;  // 1.5 * 2^23
+inline constexpr float LN2_HI = 0x3F317200_f32, LN2_LO = 0x35BFBE8E_f32, LOG2E = 0x3FB8AA3B_f32;
 
 // e^(y ln x) from the pattern of x, with the logarithm in two parts. Marked: beyond |y ln x| of the pattern `bound`.
 template <int W>
@@ -37,9 +40,9 @@ LANEMATH_INLINE auto split_power(const lanes<std::int32_t, W>& b, const exponent
 
   // ln x = E ln 2 - ln C + ln(1 + p)
   const V E = convert<float>((b >> 23) - 127);
-  const V m = from_bits((b & 0x007FFFFF) | 0x3F800000);
+  const V m = with_exponent(from_bits(b), 0);
   const auto [A, B, C] = look_up(ln_65, ((b & 0x007F0000) + 0x00010000) >> 17);
-  const V mh = from_bits(bits(m) & 0x7FFFC000);
+  const V mh = without_low_bits(m, 14);
   const V ml = m - mh;
   const V t = mh * C - 1.0f;
   const V a = A + t;
@@ -54,14 +57,14 @@ LANEMATH_INLINE auto split_power(const lanes<std::int32_t, W>& b, const exponent
   Lo = Lo + from_bits(bits(u) & ~near_one);
 
   const V S = H + Lo;
-  const V scaled = S * 0x45800800_f32;
+  const V scaled = S * half_splitter<V>();
   const V Lh = (S + scaled) - scaled;
   const V Ll = Lo + (H - Lh);
 
   const V P = Lh * y.hi;
   const V R = y.hi * Ll + (Lh * y.lo + Ll * y.lo);
-  const V N = P * LOG2E + SHIFTER;
-  const V n = N - SHIFTER;
+  const V N = P * LOG2E + integer_shifter<float>;
+  const V n = N - integer_shifter<float>;
   const V r = ((P - n * LN2_HI) - n * LN2_LO) + R;
   const V e = ((((r * c.c5 + c.c4) * r + c.c3) * r + c.c2) * r + c.c1) * r + c.c0;
   return marked(from_bits(bits(e) + (bits(N) << 23)), magnitude_above(P, bound));
@@ -92,10 +95,8 @@ template <int W>
 LANEMATH_INLINE auto short_power(const lanes<std::int32_t, W>& b, const lanes<float, W>& y, const short_exp_rows& c) {
   using V = lanes<float, W>;
 
-  // m lies in [2/3, 4/3).
-  const auto d = b - 0x3F2AAAAB;
-  const V K = convert<float>(d >> 23);
-  const V z = from_bits((d & 0x007FFFFF) + 0x3F2AAAAB) - 1.0f;
+  const centred_mantissa<V> x(from_bits(b));
+  const V K = convert<float>(x.k), z = x.r;
   const V q =
       ((((z * 0x3E2B350C_f32 + 0xBE424B46_f32) * z + 0x3E4B62C0_f32) * z + 0xBE7F0F0F_f32) * z + 0x3EAAAD03_f32) * z +
       0xBF000000_f32;
@@ -103,8 +104,8 @@ LANEMATH_INLINE auto short_power(const lanes<std::int32_t, W>& b, const lanes<fl
   const V L = K * LN2_HI + (K * LN2_LO + p);
 
   const V s = L * y;
-  const V N = s * LOG2E + SHIFTER;
-  const V n = N - SHIFTER;
+  const V N = s * LOG2E + integer_shifter<float>;
+  const V n = N - integer_shifter<float>;
   const V r = s - n * 0x3F317218_f32;
   const V e = ((r * c.c3 + c.c2) * r + c.c1) * r + c.c0;
   return marked(from_bits(bits(e) + (bits(N) << 23)), magnitude_above(s, SHORT_RANGE));

@@ -22,7 +22,7 @@ LANEMATH_RARE powf_rare(const float* px, const float* py, float* pz) {
 struct powf_standard : power<float(float, float), powf_rare> {
   template <class V>
   LANEMATH_INLINE static auto marked_kernel(V x, V y) {
-    const auto s = widened_product(taken_apart(x), convert<double>(y));
+    const auto s = widened_product(x, convert<double>(y));
     return marked(convert<float>(widened_exp(s)),
                   beyond_plain(bits(x)) | magnitude_above(y, LARGEST) | magnitude_above(s, RARE));
   }

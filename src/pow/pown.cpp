@@ -9,8 +9,7 @@ namespace {
 
 LANEMATH_RARE pown_rare(const double* px, const std::int32_t* pn, double* pz) {
   using namespace powers;
-  return power_lane(*px, *pn, *pz,
-                    [&](double x, double sign) { return finite_power(x, powers::exponent_of(double(*pn)), sign); });
+  return power_lane(*px, *pn, *pz, [&](double x, double sign) { return finite_power(x, double(*pn), sign); });
 }
 
 using pown_power = power<double(double, std::int32_t), pown_rare>;
@@ -19,8 +18,8 @@ struct pown_standard : pown_power {
   template <class V, class N>
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const V ax = magnitude(x);
-    const auto [z, rare] = double_power(ax, exponent_of(convert<double>(n)));
-    return marked(with_sign(z, odd_sign(upper(x), n)), rare | beyond_plain_upper(upper(ax)));
+    const auto [z, rare] = double_power(ax, cut_exponent(convert<double>(n)));
+    return marked(with_sign(z, odd_sign(upper(x), n)), rare | not_positive_normal(ax));
   }
 };
 
@@ -28,9 +27,9 @@ struct pown_native : pown_power {
   template <class V, class N>
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const V ax = magnitude(x);
-    const V s = widened_product(taken_apart(ax), convert<double>(n));
+    const V s = widened_product(ax, convert<double>(n));
     return marked(with_sign(widened_exp(s), odd_sign(upper(x), n)),
-                  magnitude_above(s, WIDENED_RANGE) | beyond_plain_upper(upper(ax)));
+                  magnitude_above(s, WIDENED_RANGE) | not_positive_normal(ax));
   }
 };
 

@@ -24,7 +24,8 @@ constexpr std::int32_t RARE = 0x42AE9A00;  // 87.30078
 LANEMATH_RARE pownf_rare(const float* px, const std::int32_t* pn, float* pz) {
   using namespace powers;
   return power_lane(*px, *pn, *pz, [&](float x, float sign) {
-    return finite_power<product_sum::high_only, denormal_sum::scaled_with_sign>(x, exponent_of(*pn), sign);
+    return finite_power<product_sum::high_only, denormal_sum::scaled_with_sign>(
+        x, of_one(exponent_of(lanes<std::int32_t, 1>(*pn))), sign);
   });
 }
 
@@ -34,10 +35,7 @@ struct pownf_standard : pownf_power {
   template <class V, class N>
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const auto b = bits(magnitude(x));
-    const V y = convert<float>(n);
-    const V hi = high_part(y);
-    const V lo = (y - hi) + convert<float>(n - convert<std::int32_t>(y));
-    const auto [z, rare] = split_power(b, {y, hi, lo}, pownf_table, RARE);
+    const auto [z, rare] = split_power(b, exponent_of(n), pownf_table, RARE);
     return marked(with_sign(z, odd_sign(bits(x), n)), rare | beyond_plain(b));
   }
 };

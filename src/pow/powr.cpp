@@ -8,7 +8,7 @@ namespace {
 
 LANEMATH_RARE powr_rare(const double* px, const double* py, double* pz) {
   using namespace powers;
-  return powr_lane(*px, *py, *pz, [&](double x) { return finite_power(x, powers::exponent_of(*py), 1.0); });
+  return powr_lane(*px, *py, *pz, [&](double x) { return finite_power(x, *py, 1.0); });
 }
 
 }  // namespace

@@ -20,8 +20,7 @@ LANEMATH_RARE powrf_rare(const float* px, const float* py, float* pz) {
 struct powrf_standard : power<float(float, float), powrf_rare> {
   template <class V>
   LANEMATH_INLINE static auto marked_kernel(V x, V y) {
-    const V hi = high_part(y);
-    const auto [z, rare] = split_power(bits(x), {y, hi, y - hi}, split_exp_table, RARE);
+    const auto [z, rare] = split_power(bits(x), exponent_of(y), split_exp_table, RARE);
     return marked(z, rare | beyond_plain(bits(x)) | magnitude_above(y, LARGEST));
   }
 };

@@ -9,7 +9,7 @@ namespace {
 
 LANEMATH_RARE rootn_rare(const double* px, const std::int32_t* pn, double* pz) {
   using namespace powers;
-  return rootn_lane(*px, *pn, *pz, [&](double x) { return finite_power(x, reciprocal_exponent(*pn, x), 1.0); });
+  return rootn_lane(*px, *pn, *pz, [&](double x) { return finite_power(x, reciprocal_pair(*pn), 1.0); });
 }
 
 using rootn_power = power<double(double, std::int32_t), rootn_rare>;
@@ -18,15 +18,10 @@ struct rootn_standard : rootn_power {
   template <class V, class N>
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const V ax = magnitude(x);
-    const V y = convert<double>(n);
-    const V value = 1.0 / y;
-    const V scaled = value * 0x41A0000002000000_f64;  // 2^27 + 1
-    const V hi = scaled - (scaled - value);
-    const V d = 1.0 - y * hi;
-    const V lo = d * (d + 1.0) * hi;
-    const auto [z, rare] = double_power(ax, {value, hi, lo});
-    return marked(with_sign(z, odd_sign(upper(x), n)), rare | beyond_plain_upper(upper(ax)) |
-                                                           magnitude_above(value, LARGEST) |
+    const auto y = reciprocal_exponent(convert<double>(n));
+    const auto [z, rare] = double_power(ax, y);
+    return marked(with_sign(z, odd_sign(upper(x), n)), rare | not_positive_normal(ax) |
+                                                           magnitude_above(y.value, LARGEST) |
                                                            even_root_of_negative(upper(x), n));
   }
 };
@@ -36,9 +31,9 @@ struct rootn_native : rootn_power {
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const V ax = magnitude(x);
     const V y = 1.0 / convert<double>(n);
-    const V s = widened_product(taken_apart(ax), y);
+    const V s = widened_product(ax, y);
     return marked(with_sign(widened_exp(s), odd_sign(upper(x), n)),
-                  magnitude_above(s, WIDENED_RANGE) | beyond_plain_upper(upper(ax)) | magnitude_above(y, LARGEST) |
+                  magnitude_above(s, WIDENED_RANGE) | not_positive_normal(ax) | magnitude_above(y, LARGEST) |
                       even_root_of_negative(upper(x), n));
   }
 };

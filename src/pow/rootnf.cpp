@@ -13,8 +13,8 @@ constexpr std::int32_t RARE = 0x42AE9A00;  // 87.30078
 LANEMATH_RARE rootnf_rare(const float* px, const std::int32_t* pn, float* pz) {
   using namespace powers;
   return rootn_lane(*px, *pn, *pz, [&](float x) {
-    return finite_power<product_sum::high_only, denormal_sum::each_scaled_with_sign>(x, reciprocal_exponent(*pn, x),
-                                                                                     1.0f);
+    return finite_power<product_sum::high_only, denormal_sum::each_scaled_with_sign>(
+        x, of_one(reciprocal_exponent(lanes<float, 1>(float(*pn)))), 1.0f);
   });
 }
 
@@ -24,12 +24,7 @@ struct rootnf_standard : rootnf_power {
   template <class V, class N>
   LANEMATH_INLINE static auto marked_kernel(V x, N n) {
     const auto b = bits(magnitude(x));
-    const V y = convert<float>(n);
-    const V value = 1.0f / y;
-    const V hi = high_part(value);
-    const V d = 1.0f - y * hi;
-    const V lo = d * (d + 1.0f) * hi;
-    const auto [z, rare] = split_power(b, {value, hi, lo}, split_exp_table, RARE);
+    const auto [z, rare] = split_power(b, reciprocal_exponent(convert<float>(n)), split_exp_table, RARE);
     return marked(with_sign(z, odd_sign(bits(x), n)), rare | beyond_plain(b) | even_root_of_negative(bits(x), n));
   }
 };

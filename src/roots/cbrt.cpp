@@ -5,7 +5,8 @@
 // series of (1 + r)^(1/3) or (1 + r)^(-1/3). The quotient becomes a power of two, which also carries the sign. In
 // single precision the entries have a low part; the light forms do without it and keep one term of four. In double the
 // light forms keep five terms of seven. Zeros, denormals, infinities and NaNs are rare.
-#include "roots/roots.h"
+#include "numeric/exceptional.h"
+#include "numeric/polynomial.h"
 #include "tables/roots.h"
 
 namespace lanemath {
@@ -69,37 +70,24 @@ LANEMATH_INLINE reduced<V> reduce(V x) {
     return {r, from_upper(scale_word), index};
 }
 
-// ((1 + r)^Power/3 - 1) / r, from the highest degree down.
-template <class T, std::size_t Terms>
-struct series {
-  T c[Terms];
-
-  template <std::size_t Kept = Terms>
-  LANEMATH_INLINE auto operator()(auto r) const {
-    auto p = decltype(r)(c[Terms - Kept]);
-    for (std::size_t i = Terms - Kept + 1; i < Terms; ++i) p = p * r + c[i];
-    return p;
-  }
-};
-
-// What differs between the two functions.
+// What differs between the two functions: the coefficients of ((1 + r)^Power/3 - 1) / r and the table.
 template <int Power>
 struct rows;
 template <>
 struct rows<root> {
-  static constexpr series<float, 4> single{{0xBD288F47_f32, 0x3D7CD6EA_f32, 0xBDE38E39_f32, 0x3EAAAAAB_f32}};
-  static constexpr series<double, 7> wide{{0x3F93750AD588F115_f64, 0xBF98090D6221A247_f64, 0x3F9EE7113506AC12_f64,
-                                           0xBFA511E8D2B3183B_f64, 0x3FAF9ADD3C0CA458_f64, 0xBFBC71C71C71C71C_f64,
-                                           0x3FD5555555555555_f64}};
+  static constexpr float single[] = {0xBD288F47_f32, 0x3D7CD6EA_f32, 0xBDE38E39_f32, 0x3EAAAAAB_f32};
+  static constexpr double wide[] = {0x3F93750AD588F115_f64, 0xBF98090D6221A247_f64, 0x3F9EE7113506AC12_f64,
+                                    0xBFA511E8D2B3183B_f64, 0x3FAF9ADD3C0CA458_f64, 0xBFBC71C71C71C71C_f64,
+                                    0x3FD5555555555555_f64};
   static constexpr auto& table_f32 = cbrt_f32;
   static constexpr auto& table_f64 = cbrt_f64;
 };
 template <>
 struct rows<inverse> {
-  static constexpr series<float, 4> single{{0x3E137D5E_f32, 0xBE30FCD7_f32, 0x3E638E39_f32, 0xBEAAAAAB_f32}};
-  static constexpr series<double, 8> wide{{0x3FB791D4F50A7B47_f64, 0xBFB9B33CA7A65562_f64, 0x3FBC67C9DD3D11BB_f64,
-                                           0xBFBFF4C33F90EF5F_f64, 0x3FC26FABB85D0196_f64, 0xBFC61F9ADD3C0CA3_f64,
-                                           0x3FCC71C71C71C71C_f64, 0xBFD5555555555555_f64}};
+  static constexpr float single[] = {0x3E137D5E_f32, 0xBE30FCD7_f32, 0x3E638E39_f32, 0xBEAAAAAB_f32};
+  static constexpr double wide[] = {0x3FB791D4F50A7B47_f64, 0xBFB9B33CA7A65562_f64, 0x3FBC67C9DD3D11BB_f64,
+                                    0xBFBFF4C33F90EF5F_f64, 0x3FC26FABB85D0196_f64, 0xBFC61F9ADD3C0CA3_f64,
+                                    0x3FCC71C71C71C71C_f64, 0xBFD5555555555555_f64};
   static constexpr auto& table_f32 = rcbrt_f32;
   static constexpr auto& table_f64 = rcbrt_f64;
 };
@@ -109,17 +97,13 @@ LANEMATH_INLINE lanes<float, W> evaluate(const lanes<float, W>& x) {
   const auto [r, scale, index] = reduce<Power>(x);
   const auto entry = look_up(rows<Power>::table_f32, index);
   const auto hi = entry.hi * scale, lo = entry.lo * scale;
-  return hi + (rows<Power>::single(r) * (r * hi) + lo);
+  return hi + (horner(r, rows<Power>::single) * (r * hi) + lo);
 }
-template <int Power, std::size_t Terms, int W>
-LANEMATH_INLINE lanes<double, W> evaluate_terms(const lanes<double, W>& x) {
+template <int Power, std::size_t Skipped = 0, int W>
+LANEMATH_INLINE lanes<double, W> evaluate(const lanes<double, W>& x) {
   const auto [r, scale, index] = reduce<Power>(x);
   const auto h = look_up(rows<Power>::table_f64, index) * scale;
-  return h + rows<Power>::wide.template operator()<Terms>(r) * (r * h);
-}
-template <int Power, int W>
-LANEMATH_INLINE lanes<double, W> evaluate(const lanes<double, W>& x) {
-  return evaluate_terms<Power, std::size(rows<Power>::wide.c)>(x);
+  return h + horner<Skipped>(r, rows<Power>::wide) * (r * h);
 }
 // The same of one number.
 template <int Power, class T>
@@ -132,7 +116,7 @@ template <class T>
 LANEMATH_RARE cbrt_rare(const T* px, T* py) {
   const T x = *px * opaque(one_v<T>);
   constexpr T scale = 0x1p126, unscale = 0x1p-42;
-  if (is_nan(x) || is_infinite(x))
+  if (!is_finite(x))
     *py = x + x;
   else if (x == 0)
     *py = x;
@@ -179,7 +163,7 @@ struct single_native : guards<Power, float> {
   static V kernel(V x) {
     const auto [r, scale, index] = reduce<Power>(x);
     const V h = look_up(rows<Power>::table_f32, index).hi * scale;
-    return h + rows<Power>::single.template operator()<1>(r) * (r * h);
+    return h + horner<3>(r, rows<Power>::single) * (r * h);
   }
 };
 
@@ -187,7 +171,7 @@ template <int Power>
 struct double_native : guards<Power, double> {
   template <class V>
   static V kernel(V x) {
-    return evaluate_terms<Power, 5>(x);
+    return evaluate<Power, std::size(rows<Power>::wide) - 5>(x);
   }
 };
 

@@ -5,8 +5,8 @@
 // binomial series, of which the light form keeps two terms of four. Sums that come near the ends of the range go to
 // scalar routines, which round correctly. hypotf_native is the estimate times the sum, with no test: a sum that
 // overflows or is infinite gives a NaN, a denormal one +infinity.
-#include <cmath>
-
+#include "numeric/estimates.h"
+#include "numeric/polynomial.h"
 #include "roots/roots.h"
 
 namespace lanemath {
@@ -15,9 +15,8 @@ namespace {
 // Infinities and NaNs, of which at least one argument is one. An infinity wins.
 template <class T>
 bool hypot_of_non_finite(T x, T y, T& z) {
-  const auto finite = [](T v) { return magnitude_pattern(v) < format<T>::infinity; };
-  if (finite(x) && finite(y)) return false;
-  if (finite(x) || (is_nan(x) && is_infinite(y)))
+  if (is_finite(x) && is_finite(y)) return false;
+  if (is_finite(x) || (is_nan(x) && is_infinite(y)))
     z = y * y;
   else if (is_nan(x) && is_nan(y))
     z = ordered_product(lanes<T, 1>(x), lanes<T, 1>(y)).g[0];
@@ -27,20 +26,20 @@ bool hypot_of_non_finite(T x, T y, T& z) {
 }
 
 // a^2 + b^2 for a >= b, in two parts. The squares of the split halves are exact.
-two_part<double> square(double x) {
+two_part<double> exact_square(double x) {
   const double high = x * x;
   return {high, -residual_of_square(high, x)};
 }
 two_part<double> sum_of_squares(double a, double b) {
-  const auto [ah, al] = square(a);
-  const auto [bh, bl] = square(b);
+  const auto [ah, al] = exact_square(a);
+  const auto [bh, bl] = exact_square(b);
   const double hi = ah + bh;
   return {hi, (bh - (hi - ah)) + (al + bl)};
 }
 
 // The root's nearest double, and the residual that is left.
 two_part<double> root_of(const two_part<double>& s) {
-  const double y = square_root(lanes<double, 1>(s.hi)).g[0];
+  const double y = scalar_square_root(s.hi);
   return {y, residual_of_square(s.hi, y) + s.lo};
 }
 
@@ -63,7 +62,7 @@ LANEMATH_RARE hypot_rare(const double* px, const double* py, double* pz) {
   if (hypot_of_non_finite(*px, *py, *pz)) return status::ordinary;
   const double x = std::fabs(*px), y = std::fabs(*py);
   const double a = x < y ? y : x, b = x < y ? x : y;
-  const auto field = std::uint64_t(exponent_field(a));
+  const int field = exponent_field(a);
   if (field == 0) {
     using wide = unsigned __int128;
     const wide m = pattern_of(a), n = pattern_of(b), sum = m * m + n * n;
@@ -74,8 +73,7 @@ LANEMATH_RARE hypot_rare(const double* px, const double* py, double* pz) {
     *pz = value_of<double>(std::uint64_t(root));
     return status::ordinary;
   }
-  const double down = value_of<double>((2047 - field) << 52);
-  const double up = value_of<double>(field << 52);
+  const double down = with_exponent_field<double>(2047 - field), up = with_exponent_field<double>(field);
   const auto [root, rest] = root_of(sum_of_squares(a * down, b * down));
   *pz = ((root + rest / (root + root)) * 0.5) * up;
   return status::ordinary;
@@ -122,11 +120,9 @@ struct hypot_of_doubles {
   template <class V>
   static V kernel(V x, V y) {
     const V s = y * y + x * x;
-    const V y0 = convert<double>(reciprocal_root_estimate(convert<float>(s)));
+    const V y0 = reciprocal_root_estimate(s);
     const V d = y0 * y0 * s - 1.0;
-    V c = series[4 - Terms];
-    for (std::size_t i = 5 - Terms; i < 4; ++i) c = c * d + series[i];
-    return y0 * s + ((d * c) * y0) * s;
+    return y0 * s + ((d * horner<4 - Terms>(d, series)) * y0) * s;
   }
 };
 

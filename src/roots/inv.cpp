@@ -4,6 +4,7 @@
 // it is. Light form in double: the estimate for the significand, moved into a double's layout with the exponent taken
 // out by integer arithmetic, then one step of third order. It has no test: infinities,
 // denormals and denormal results get what that arithmetic gives; zeros and NaNs come out right.
+#include "numeric/estimates.h"
 #include "roots/reciprocal.h"
 
 namespace lanemath {
@@ -49,10 +50,7 @@ struct inv_native {
 
   template <class V>
   static V kernel(V x) {
-    const auto h = upper(x);
-    const auto m = from_bits(((h << 3) & 0x007FFFFF) | 0x3F800000);
-    const auto r = reciprocal_estimate(m);
-    const V y = from_upper((bits(r) >> 3) + 0x77F00000 - (h & std::int32_t(0xFFF00000)));
+    const V y = full_range_reciprocal_estimate(x);
     const V t = 1.0 - x * y;
     const V u = t + t * t;
     return y + u * y;

@@ -1,7 +1,7 @@
 // What division and reciprocal share.
 #pragma once
 
-#include "roots/roots.h"
+#include "frame/frame.h"
 
 namespace lanemath {
 

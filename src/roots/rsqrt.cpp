@@ -5,6 +5,7 @@
 // is that of a float made of the significand and the exponent's parity, its power of two is made by integer arithmetic,
 // and the default form computes the residual with x in two parts. Rare lanes in double, from a table of seeds, the
 // result as a high and a low part.
+#include "numeric/polynomial.h"
 #include "roots/roots.h"
 #include "tables/roots.h"
 
@@ -13,7 +14,7 @@ namespace {
 
 template <class T>
 LANEMATH_RARE rsqrt_rare(const T* px, T* py) {
-  double x = *px;
+  const double x = *px;
   if (is_nan(x)) {
     *py = T(x / x);
     return status::ordinary;
@@ -31,13 +32,9 @@ LANEMATH_RARE rsqrt_rare(const T* px, T* py) {
     return status::ordinary;
   }
 
-  int correction = 0;
-  if (x < std::numeric_limits<double>::min()) {
-    x *= 0x43B0000000000000_f64;  // 2^60
-    correction = -30;
-  }
-  const auto [k, m] = binary_parts(x);
-  const int odd = k & 1;
+  const unpacked<double> parts(x);
+  const double m = parts.mantissa();
+  const int odd = parts.exponent & 1;
   const double t = odd ? m + m : m;
   const auto [th, tl] = split(t, 0x1p27);
   const auto nearest = pattern_of(m + 0x42E0000000000020_f64) & 63;  // in steps of 1/32
@@ -48,18 +45,14 @@ LANEMATH_RARE rsqrt_rare(const T* px, T* py) {
   const double e = a - b;
   const auto [ah, al] = split(a, 0x1p27);
   const double w = (0.5 * s) * ah;
-  double p = 0x3FC91A80BFBF8B2A_f64;
-  p = p * e + 0x3FCAD28A9E3226DF_f64;
-  p = p * e + 0x3FCCE000C07A3B3E_f64;
-  p = p * e + 0x3FCF7FFFEC1426E4_f64;
-  p = p * e + 0x3FD17FFFFFFE2A26_f64;
-  p = p * e + 0x3FD400000000138B_f64;
-  p = p * e + 0x3FD8000000000001_f64;
-  p = p * e * e;
+  const double p =
+      horner(e, {0x3FC91A80BFBF8B2A_f64, 0x3FCAD28A9E3226DF_f64, 0x3FCCE000C07A3B3E_f64, 0x3FCF7FFFEC1426E4_f64,
+                 0x3FD17FFFFFFE2A26_f64, 0x3FD400000000138B_f64, 0x3FD8000000000001_f64}) *
+      e * e;
   const double v = (p - (b - al) * 0.5) * s;
   const double g = s + w;
   const double d = (s - g) + w;
-  *py = T(((v + d) + g) * power_of_two(-(correction + (k >> 1))));
+  *py = T(((v + d) + g) * power_of_two<double>(-(parts.exponent >> 1)));
   return status::ordinary;
 }
 
@@ -72,7 +65,7 @@ struct rsqrtf_guards {
 struct rsqrtf_standard : rsqrtf_guards {
   template <class V>
   static V kernel(V x) {
-    const V y = from_bits(bits(reciprocal_root_estimate(x)) & std::int32_t(0xFFFF8000));
+    const V y = without_low_bits(reciprocal_root_estimate(x), 15);
     const V e = (y * y) * x - 1.0f;
     const V p = (0xBEA00000_f32 * e + 0x3EC00000_f32) * e + 0xBF000000_f32;
     return y + (e * p) * y;
@@ -113,8 +106,7 @@ struct rsqrt_standard : rsqrt_guards<0x03500000> {
   template <class V>
   static V kernel(V x) {
     const V y = estimate(x);
-    const V xh = from_bits(bits(x) & std::int64_t(0xFFFFFFFFF8000000));
-    const V xl = x - xh;
+    const V xh = without_low_bits(x, 27), xl = x - xh;
     const V s = y * y;
     const V e = (1.0 - xh * s) - s * xl;
     const V p = ((0x3FD1800032338CBB_f64 * e + 0x3FD40000B13001D9_f64) * e + 0x3FD80000000000F6_f64) * e +

@@ -5,6 +5,7 @@
 // either sign +infinity; in double the estimate is that of x narrowed to float, so that what lies beyond a float's
 // range gives 0 or an infinity. _half hands such lanes to a scalar routine: a seed from a table, three rounds of a
 // coupled iteration for root and half of the reciprocal root, and a last step by the exact residual, in double.
+#include "numeric/estimates.h"
 #include "roots/roots.h"
 #include "tables/roots.h"
 
@@ -22,13 +23,10 @@ LANEMATH_RARE sqrtf_rare(const float* px, float* py) {
     return status::ordinary;
   }
 
-  const bool denormal = exponent_field(x) == 0;
-  double scaled = x;
-  if (denormal) scaled *= 0x4C70000000000000_f64;  // 2^200
-  const auto [k, m] = binary_parts(scaled);
-  const int odd = k & 1;
-  const double v = m * (odd ? 2.0 : 1.0);
-  const double s = root_seed[(pattern_of(m) >> 44 & 255) + 256 * odd];
+  const unpacked<double> a(x);
+  const int odd = a.exponent & 1;
+  const double v = a.mantissa() * (odd ? 2.0 : 1.0);
+  const double s = root_seed[(a.significand >> 44 & 255) + 256 * odd];
 
   double g = 0.5 * s, y = s * v;
   for (int round = 0; round < 3; ++round) {
@@ -36,7 +34,7 @@ LANEMATH_RARE sqrtf_rare(const float* px, float* py) {
     y = y + t * y;
     g = g + t * g;
   }
-  *py = float((y + g * residual_of_square(v, y)) * power_of_two((k >> 1) - (denormal ? 100 : 0)));
+  *py = float((y + g * residual_of_square(v, y)) * power_of_two<double>(a.exponent >> 1));
   return status::ordinary;
 }
 
@@ -67,7 +65,7 @@ struct sqrt_native {
   template <class V>
   static V kernel(V x) {
     // Narrowing may cut a NaN's low bits: x's own are kept.
-    return ordered_product(x, convert<double>(reciprocal_root_estimate(convert<float>(x))));
+    return ordered_product(x, reciprocal_root_estimate(x));
   }
 };
 

@@ -3,6 +3,7 @@
 // Value and slope at the nearest point m of a grid of 1/128, and an expansion in d = |x| - m. From the last point on
 // the result is 1. _native: one term (erff) or three (erf) fewer. There are no rare lanes: a NaN gets through as the
 // second operand of a minimum.
+#include "numeric/fields.h"
 #include "special/erf_grid.h"
 
 namespace lanemath::special {
@@ -87,7 +88,7 @@ struct erf_op {
     const V e = where(b > c.tiny, d);
     const V z = e * e;
     const V w = at.m * d;
-    const V v = from_bits(bits(minimum(d, a)) ^ s);
+    const V v = flipped(minimum(d, a), s);
     const V p = Native ? erf_native_correction(w, z) : erf_correction(w, z);
     const V u = at.D * v;
     return (u + p * u) + with_bits(at.E, s);

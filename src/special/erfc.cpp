@@ -6,6 +6,8 @@
 // grid of half as many points and a shorter expansion.
 //
 // Rare lanes: where the result rounds to zero, and NaNs.
+#include "numeric/exceptional.h"
+#include "numeric/polynomial.h"
 #include "special/erf_grid.h"
 
 namespace lanemath::special {
@@ -53,40 +55,29 @@ struct erfc_parts {
   LANEMATH_INLINE V result(V drop) const { return ((at.E - drop) + k) * f; }
 };
 
-LANEMATH_RARE erfcf_rare(const float* px, float* py) {
-  const float x = *px;
-  if (!(x < std::numeric_limits<float>::infinity())) {
-    *py = x != x ? x * x : 0.0f;
+template <class T>
+LANEMATH_RARE erfc_rare(const T* px, T* py) {
+  const T x = *px;
+  if (!(x < std::numeric_limits<T>::infinity())) {
+    *py = x != x ? x * x : zero_v<T>;
     return status::ordinary;
   }
-  if (double(x) < 0x40241BBF700DC3FB_f64) {  // one float
-    *py = std::numeric_limits<float>::denorm_min();
+  if (sizeof(T) == 4 && double(x) < 0x40241BBF700DC3FB_f64) {  // one float
+    *py = std::numeric_limits<T>::denorm_min();
     return status::ordinary;
   }
-  const double tiny = opaque(std::numeric_limits<double>::min());
-  *py = float(tiny * tiny);
-  return status::underflow;
-}
-
-LANEMATH_RARE erfc_rare(const double* px, double* py) {
-  const double x = *px;
-  if (!(x < std::numeric_limits<double>::infinity())) {
-    *py = x != x ? x * x : 0.0;
-    return status::ordinary;
-  }
-  const double tiny = opaque(std::numeric_limits<double>::min());
-  *py = tiny * tiny;
+  *py = underflowed<T>();
   return status::underflow;
 }
 
 struct erfcf_guard {
   using signature = float(float);
-  static constexpr auto rare = erfcf_rare;
+  static constexpr auto rare = erfc_rare<float>;
   static auto rare_test(auto x) { return ~(x < erfcf_bound); }
 };
 struct erfc_guard {
   using signature = double(double);
-  static constexpr auto rare = erfc_rare;
+  static constexpr auto rare = erfc_rare<double>;
   static auto rare_test(auto x) { return ~(x < erfc_bound); }
 };
 
@@ -120,22 +111,15 @@ struct erfc_standard : erfc_guard {
   static V kernel(V x) {
     const erfc_parts<V> part(x, erfc_grid, 0x403B3E0000000000_f64, 0x42C0000000000000_f64);  // 27.2421875, 2^45
     const V w = part.w, z = part.z;
-    V P = 0xBF2282C89A04C65F_f64 * w + 0x3F472360BAC04E70_f64;
-    P = P * w + 0xBF6A019F4F234617_f64;
-    P = P * w + 0x3F8A019F5AEED25F_f64;
-    P = P * w + 0xBFA6C16C16D06420_f64;
-    P = P * w + 0x3FC11111111AB082_f64;
-    P = P * w + 0xBFD555555555548A_f64;
-    P = P * w + 0x3FE55555555554CF_f64;
-    V Q = 0xBF8441DF86900A46_f64 * w + 0x3FA117ABF1FEA28C_f64;
-    Q = Q * w + 0xBFB8618412BC79EC_f64;
-    Q = Q * w + 0x3FCC71C4B73B20B6_f64;
-    Q = Q * w + 0xBFD9999999F3D838_f64;
-    Q = Q * w + 0x3FE0000000379730_f64;
-    V R = 0xBFB56433674BA5C2_f64 * w + 0x3FC256E8E6045CDF_f64;
-    R = R * w + 0xBFC5554E249FF4A7_f64;
-    R = R * w + 0x3FB9998F9D0729DA_f64;
-    R = R * z + 0xBFD5555555554ADD_f64;
+    const V P =
+        horner(w, {0xBF2282C89A04C65F_f64, 0x3F472360BAC04E70_f64, 0xBF6A019F4F234617_f64, 0x3F8A019F5AEED25F_f64,
+                   0xBFA6C16C16D06420_f64, 0x3FC11111111AB082_f64, 0xBFD555555555548A_f64, 0x3FE55555555554CF_f64});
+    const V Q = horner(w, {0xBF8441DF86900A46_f64, 0x3FA117ABF1FEA28C_f64, 0xBFB8618412BC79EC_f64,
+                           0x3FCC71C4B73B20B6_f64, 0xBFD9999999F3D838_f64, 0x3FE0000000379730_f64});
+    const V R =
+        horner(w, {0xBFB56433674BA5C2_f64, 0x3FC256E8E6045CDF_f64, 0xBFC5554E249FF4A7_f64, 0x3FB9998F9D0729DA_f64}) *
+            z +
+        0xBFD5555555554ADD_f64;
     const V u = z * (Q * w + R) - w;
     const V p = P * (w * w) + u;
     const V v = part.d * part.at.D;
@@ -148,14 +132,10 @@ struct erfc_native : erfc_guard {
   static V kernel(V x) {
     const erfc_parts<V> part(x, erfc_native_grid, 0x403B3C0000000000_f64, 0x42D0000000000000_f64);  // 27.234375, 2^46
     const V w = part.w, z = part.z;
-    V P = 0xBF6A1FDD30652EA1_f64 * w + 0x3F8A1F05F5094FB6_f64;
-    P = P * w + 0xBFA6C15C3DA087D4_f64;
-    P = P * w + 0x3FC111066671A484_f64;
-    P = P * w + 0xBFD555555ADC4EA0_f64;
-    P = P * w + 0x3FE555555933BC54_f64;
-    V Q = 0x3FCCBC5887DF9127_f64 * w + 0xBFD9E0A0FBE743D2_f64;
-    Q = Q * w + 0x3FDFFF6F976A22C5_f64;
-    Q = Q * w + 0xBFD554EE2F28F34D_f64;
+    const V P = horner(w, {0xBF6A1FDD30652EA1_f64, 0x3F8A1F05F5094FB6_f64, 0xBFA6C15C3DA087D4_f64,
+                           0x3FC111066671A484_f64, 0xBFD555555ADC4EA0_f64, 0x3FE555555933BC54_f64});
+    const V Q =
+        horner(w, {0x3FCCBC5887DF9127_f64, 0xBFD9E0A0FBE743D2_f64, 0x3FDFFF6F976A22C5_f64, 0xBFD554EE2F28F34D_f64});
     const V p = P * (w * w) + (w * 0xBFEFFFFFFFFEB794_f64 + Q * z);
     const V v = part.d * part.at.D;
     return part.result(v + p * v);

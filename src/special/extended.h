@@ -4,7 +4,9 @@
 #include <cstring>
 #include <iterator>
 
-#include "frame/polynomial.h"
+#include "numeric/constants.h"
+#include "numeric/polynomial.h"
+#include "numeric/x87.h"
 
 namespace lanemath::special {
 
@@ -19,7 +21,7 @@ struct quadratics {
 };
 
 template <class T, int Factors>
-T value_of(const quadratics<T, Factors>& c, T x) {
+T product_at(const quadratics<T, Factors>& c, T x) {
   const T s = x * x;
   T product = c.scale;
   for (int i = 0; i < Factors; ++i) product = product * (s + c.a[i] * x + c.b[i]);
@@ -40,22 +42,20 @@ X even_and_odd(const C (&c)[Size], X x) {
 // Runs a routine with the precision control of x87 at its full 64 bits. The control word is left as it was found.
 template <auto Routine, class... Pointers>
 status at_full_precision(Pointers... lanes_of) {
-  std::uint16_t found;
-  asm volatile("fnstcw %0" : "=m"(found)::"memory");
+  const std::uint16_t found = x87_control_word();
   constexpr std::uint16_t precision = 0x300;
   if ((found & precision) == precision) return Routine(lanes_of...);
-  const std::uint16_t full = found | precision;
-  asm volatile("fldcw %0" ::"m"(full) : "memory");
+  set_x87_control_word(found | precision);
   const auto status = Routine(lanes_of...);
-  asm volatile("fldcw %0" ::"m"(found) : "memory");
+  set_x87_control_word(found);
   return status;
 }
 
 // The nearest integer where |x| is below 2^22 or 2^51, by a rounding constant in the lane's own precision.
 template <class T>
 T nearest_integer(T x) {
-  constexpr T shifter = sizeof(T) == 4 ? T(0x1.8p23) : T(0x1.8p52);
-  return (x + shifter) - shifter;
+  const T shifted = x + integer_shifter<T>;
+  return shifted - integer_shifter<T>;
 }
 
 }  // namespace lanemath::special

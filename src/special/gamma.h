@@ -1,44 +1,18 @@
 // What the gamma functions share. None has a vector kernel: every lane goes through a scalar routine.
 #pragma once
 
-#include <cmath>
-
-#include "frame/fields.h"
+#include "numeric/exceptional.h"
 #include "special/log_extended.h"
 
 namespace lanemath::special {
 
 inline constexpr extended half_log_2_pi = 0xEB3F8E4325F5A535p-64L;
 
-inline std::int32_t upper_half(double x) { return std::int32_t(std::bit_cast<std::uint64_t>(x) >> 32); }
+inline std::int32_t upper_half(double x) { return std::int32_t(pattern_of(x) >> 32); }
 
-template <class T>
-bool finite(T x) {
-  return std::fabs(x) < std::numeric_limits<T>::infinity();
-}
 // (y - 2^k) / 2^k
 inline extended within_octave(extended y, std::int32_t k) {
-  const auto power = [](std::int32_t exponent) { return std::bit_cast<double>(std::uint64_t(1023 + exponent) << 52); };
-  return (y - power(k)) * power(-k);
-}
-
-// What arithmetic makes of a pole, an overflow and an underflow.
-template <class T>
-T pole(T sign = one_v<T>) {
-  return opaque(sign) / zero_v<T>;
-}
-// 2^100 or 2^1000, and their reciprocals, whose squares are beyond the range.
-template <class T>
-inline constexpr T far_up = sizeof(T) == 4 ? T(0x1p100) : T(0x1p1000);
-template <class T>
-inline constexpr T far_down = sizeof(T) == 4 ? T(0x1p-100) : T(0x1p-1000);
-template <class T>
-T overflowed(T sign_from) {
-  return opaque(std::copysign(far_up<T>, sign_from)) * far_up<T>;
-}
-template <class T>
-T underflowed(T sign_from) {
-  return opaque(std::copysign(far_down<T>, sign_from)) * far_down<T>;
+  return (y - power_of_two<double>(k)) * power_of_two<double>(-k);
 }
 
 // From here on every number is a whole one.
@@ -61,7 +35,7 @@ struct integer_part {
 template <class Lane, class T>
 status log_gamma(T x, T& y, std::int32_t& sign) {
   sign = 1;
-  if (!finite(x)) {
+  if (!is_finite(x)) {
     y = x * x;
     return status::ordinary;
   }

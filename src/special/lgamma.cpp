@@ -4,6 +4,7 @@
 // interval's or an octave's polynomial upward of 0.875, Stirling's formula from 512 on, walked up below, reflected
 // below -17, and expansions about the 26 zeros between -15 and -2. From 2.25 on the polynomials are products of
 // quadratics.
+#include "numeric/split.h"
 #include "special/gamma.h"
 
 namespace lanemath::special {
@@ -15,10 +16,10 @@ constexpr extended minimum_of_gamma = 0xBB16C31AB5F1FC00p-63L;
 // From 0.875 to 512; `high` is the upper half of y as a double.
 extended on_interval(extended y, std::int32_t high) {
   if (high >= 0x40100000) {
-    const auto k = std::min((high >> 20) - 0x401, 6);
-    return value_of(lgamma_octaves[k], within_octave(y, k + 2));
+    const auto k = (high >> 20) - 0x401;
+    return product_at(lgamma_octaves[k], within_octave(y, k + 2));
   }
-  if (high >= 0x40020000) return (y - 2.0L) * value_of(lgamma_to_4[0], y);
+  if (high >= 0x40020000) return (y - 2.0L) * product_at(lgamma_to_4[0], y);
   if (high >= 0x3FFC0000) return (y - 2.0L) * horner(y - 2.0L, lgamma_at_2);
   if (high >= 0x3FF40000) return horner(y - minimum_of_gamma, lgamma_at_minimum);
   return (y - 1.0L) * horner(y - 1.0L, lgamma_at_1);
@@ -32,27 +33,13 @@ extended walked_up(double x) {
   return lgamma_of(y) - log_extended(std::fabs(product));
 }
 
-// A product of two factors and what its rounding has lost.
-struct exact_product {
-  extended high, low;
-  exact_product(extended a, extended b) : high(a * b) {
-    const extended a_top = top(a), a_rest = a - a_top, b_top = top(b), b_rest = b - b_top;
-    low = ((a_top * b_top - high) + a_top * b_rest + a_rest * b_top) + a_rest * b_rest;
-  }
-  // The upper half of the significand.
-  static extended top(extended v) {
-    const extended scaled = v * 0x100000001p0L;
-    return scaled - (scaled - v);
-  }
-};
-
 // Where the zeros are so near to the integers that the walk's product next to 1 must be known to more than its bits.
 extended walked_up_exactly(double x) {
   extended y = x, product = 1.0L, lost = 0.0L;
   for (; y < 1.0L; y += 1.0L) {
-    const exact_product next(product, y);
-    lost = lost * y + next.low;
-    product = next.high;
+    const auto [high, low] = exact_product(product, y);
+    lost = lost * y + low;
+    product = high;
   }
   return lgamma_of(y) - lost / product - log_extended(std::fabs(product));
 }
@@ -76,7 +63,7 @@ extended on_negative_axis(double x) {
     const double from_3 = -x - 3.0;
     double n = nearest_integer(from_3);
     if (n < from_3) n += 1.0;
-    const auto j = std::clamp(std::int32_t(n), 0, 12);
+    const auto j = std::int32_t(n);
     for (const auto& row : {&lgamma_far_roots[j], &lgamma_near_roots[j]})
       if (row->low < x && x < row->high) {
         const extended from_root = extended(x) - row->root;

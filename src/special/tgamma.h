@@ -11,7 +11,7 @@ template <class Lane, class T>
 status gamma(T x, T& y) {
   using real = typename Lane::real;
   constexpr T two = 2;
-  if (!finite(x)) {
+  if (!is_finite(x)) {
     const bool minus_infinity = x < zero_v<T>;
     y = minus_infinity ? default_nan<T>() : x + x;
     return minus_infinity ? status::domain : status::ordinary;
@@ -50,9 +50,9 @@ status gamma(T x, T& y) {
   if (a < two) {
     product = Lane::below_2(a < one_v<T> ? 1 + magnitude : magnitude);
   } else {
-    const int row = std::min(int(whole) / Lane::stretch, int(std::size(Lane::rows)) - 1);
+    const int row = int(whole) / Lane::stretch;
     const int steps = int(whole) % Lane::stretch - (row == 0 ? 2 : 0);
-    product = value_of(Lane::rows[row], magnitude - n);
+    product = product_at(Lane::rows[row], magnitude - n);
     for (int q = 1; q <= steps; ++q) walk *= magnitude - q;
   }
   if (!negative) {

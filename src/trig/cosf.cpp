@@ -5,32 +5,25 @@
 namespace lanemath {
 namespace {
 
-constexpr float cosf_c[] = {0xBE2AAAA6_f32, 0x3C088766_f32, 0xB94FB7FF_f32, 0x362EDEF8_f32};
-constexpr float cosf_native_c[] = {0x3F7FF87C_f32, 0xBE29E73F_f32, 0x3BF84524_f32};
-constexpr float HALF_PI = 0x3FC90FDB_f32;
-
-LANEMATH_RARE cosf_rare(const float* px, float* py) {
-  if ((~std::bit_cast<std::uint32_t>(*px) & 0x7F800000) == 0) return single_of_non_finite(*px, *py);
-  *py = float(scalar_sine_cosine(*px).cosine);
-  return status::ordinary;
-}
+constexpr float cosf_c[] = {0x362EDEF8_f32, 0xB94FB7FF_f32, 0x3C088766_f32, 0xBE2AAAA6_f32};
+constexpr float cosf_native_c[] = {0x3BF84524_f32, 0xBE29E73F_f32, 0x3F7FF87C_f32};
 
 template <auto& Pi, auto& C>
-struct cosf_form : single_guards<cosf_rare, 64> {
+struct cosf_form : single_guards<cosine_rare<float>, 64> {
   template <class V>
   static V kernel(V x) {
-    const V u = x + HALF_PI;
-    const V t = u * INVERSE_PI_SINGLE + SHIFTER_SINGLE;
-    const V m = (t - SHIFTER_SINGLE) - 0.5f;
+    const V u = x + half_pi<float>;
+    const V t = u * inverse_pi<float> + integer_shifter<float>;
+    const V n = t - integer_shifter<float>, m = n - 0.5f;
     const V r = less_multiples(x, m, Pi);
     const V signed_r = flipped(r, parity(t));
     const V z = r * r, v = z * signed_r;
     V y;
     if constexpr (std::size(C) == 4)
-      y = signed_r + polynomial(z, C) * v;
+      y = signed_r + horner(z, C) * v;
     else
-      y = (C[2] * z + C[1]) * v + C[0] * signed_r;
-    return select(u == HALF_PI, V(1.0f), y);
+      y = (C[0] * z + C[1]) * v + C[2] * signed_r;
+    return select(u == half_pi<float>, V(1.0f), y);
   }
 };
 

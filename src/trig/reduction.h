@@ -6,7 +6,7 @@
 // floating numbers and multiplied by 2 pi in two parts. No branch, no loop over the bits.
 #pragma once
 
-#include "frame/frame.h"
+#include "numeric/split.h"
 #include "tables/trig.h"
 
 namespace lanemath {
@@ -61,7 +61,7 @@ struct reduction_rows<float> {
   // Fields of the fraction behind the first one, each as a significand of the power of two beside it.
   static constexpr std::uint32_t MID = 0x34000000, LOW = 0x28800000;
   static constexpr int low_bits = 18;
-  static constexpr std::uint32_t SPLIT = 0xFFFFF000;
+  static constexpr int below_half = 12;
   static constexpr float A = 0x40C91000_f32, B = 0xB795777A_f32;  // 2 pi in two parts
   static constexpr float FULL = 0x40C90FDB_f32;
 };
@@ -73,7 +73,7 @@ struct reduction_rows<double> {
   static constexpr std::int32_t STEPS = 0x1FF;
   static constexpr std::uint64_t MID = 0x3CB0000000000000, LOW = 0x3970000000000000;
   static constexpr int low_bits = 24;
-  static constexpr std::uint64_t SPLIT = 0xFFFFFFFFF8000000;
+  static constexpr int below_half = 27;
   static constexpr double A = 0x401921FB54000000_f64, B = 0x3E310B4611A62633_f64;
   static constexpr double FULL = 0x401921FB54442D18_f64;
 };
@@ -100,11 +100,7 @@ LANEMATH_INLINE reduced_angle<T, W> reduce_to_step(const lanes<T, W>& x, T shift
   const auto [high, low] = fraction_of_turn(x);
   const V t = number((high >> above_mid) | c::ONE | g);
   const V shifted = t + shifter;
-  lanes<std::int32_t, W> j;
-  if constexpr (sizeof(T) == 4)
-    j = bits(shifted) & c::STEPS;
-  else
-    j = lower(shifted) & c::STEPS;
+  const auto j = low_word(shifted) & c::STEPS;
   const V d = t - (shifted - shifter);
 
   // A field in the significand of a power of two, less that power, is the field as a number.
@@ -112,12 +108,10 @@ LANEMATH_INLINE reduced_angle<T, W> reduce_to_step(const lanes<T, W>& x, T shift
   const words low_field = (low & ones(c::low_bits)) << (c::significand - c::low_bits);
   const V mid = number(mid_field | (g ^ c::MID)) - number(g ^ c::MID);
   const V least = number(low_field | (g ^ c::LOW)) - number(g ^ c::LOW);
-  const V s = d + mid;
-  V rest = mid + (d - s);
-  rest = rest + least;
+  const auto [s, lost] = fast_sum(d, mid);
+  const V rest = lost + least;
 
-  const V sh = number(as<word>(s) & c::SPLIT);
-  const V sl = s - sh;
+  const V sh = without_low_bits(s, c::below_half), sl = s - sh;
   const V p = c::A * sh;
   V q = c::A * sl + sh * c::B;
   const V u = c::FULL * rest + sl * c::B;

@@ -8,26 +8,17 @@
 namespace lanemath {
 namespace {
 
-constexpr double sin_c[] = {0xBFC55555555554A8_f64, 0x3F8111111110A573_f64, 0xBF2A01A019A659DD_f64,
-                            0x3EC71DE3806ADD1A_f64, 0xBE5AE6355AAA4A53_f64, 0x3DE60E6BEE01D83E_f64,
-                            0xBD69F1517E9F65F0_f64};
-
-LANEMATH_RARE sin_rare(const double* px, double* py) {
-  if (exponent_field(*px) == 0x7FF) return double_of_non_finite(*px, *py);
-  *py = scalar_sine_cosine(*px).sine;
-  return status::ordinary;
-}
+constexpr double sin_c[] = {0xBD69F1517E9F65F0_f64, 0x3DE60E6BEE01D83E_f64, 0xBE5AE6355AAA4A53_f64,
+                            0x3EC71DE3806ADD1A_f64, 0xBF2A01A019A659DD_f64, 0x3F8111111110A573_f64,
+                            0xBFC55555555554A8_f64};
 
 template <auto& Pi, auto& C>
 struct sin_form {
   using signature = double(double);
-  static constexpr auto rare = sin_rare;
+  static constexpr auto rare = sine_rare<double>;
   template <class V>
   static V kernel(V x) {
-    const V a = magnitude(x);
-    const V t = a * INVERSE_PI_DOUBLE + SHIFTER_DOUBLE;
-    const V r = less_multiples(a, t - SHIFTER_DOUBLE, Pi);
-    return flipped(odd_sine(r, flipped(r, parity(t)), C), sign_of(x));
+    return sine<Pi, C>(x);
   }
   static auto rare_test(auto x) { return ~(magnitude(x) <= 0x1p24); }
 };

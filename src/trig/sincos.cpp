@@ -5,40 +5,19 @@
 namespace lanemath {
 namespace {
 
-constexpr double sincos_c[] = {0xBFC55555555554A7_f64, 0x3F8111111110A4A6_f64, 0xBF2A01A019A5B86D_f64,
-                               0x3EC71DE38030FEA0_f64, 0xBE5AE63546002231_f64, 0x3DE60E6857A2F220_f64,
-                               0xBD69F0D60811AAC8_f64};
-
-LANEMATH_RARE sincos_rare(const double* px, double* psine, double* pcosine) {
-  if (exponent_field(*px) == 0x7FF) {
-    const auto status = double_of_non_finite(*px, *psine);
-    *pcosine = *psine;
-    return status;
-  }
-  const auto both = scalar_sine_cosine(*px);
-  *psine = both.sine;
-  *pcosine = both.cosine;
-  return status::ordinary;
-}
+constexpr double sincos_c[] = {0xBD69F0D60811AAC8_f64, 0x3DE60E6857A2F220_f64, 0xBE5AE63546002231_f64,
+                               0x3EC71DE38030FEA0_f64, 0xBF2A01A019A5B86D_f64, 0x3F8111111110A4A6_f64,
+                               0xBFC55555555554A7_f64};
 
 template <auto& Pi, auto& C>
 struct sincos_form {
   using signature = through_pointer<double, double>(double);
-  static constexpr auto rare = sincos_rare;
+  static constexpr auto rare = sine_cosine_rare<double>;
   template <class V>
   LANEMATH_INLINE static two_results<V, V> kernel(V x) {
-    const V a = magnitude(x);
-    const V t = a * INVERSE_PI_DOUBLE + SHIFTER_DOUBLE;
-    const V n = t - SHIFTER_DOUBLE;
-    const V q = less_multiples(a, n, Pi, 0, 2);
-    const auto side = sign_of(q);
-    const V m = n + from_bits(bits(V(0.5)) | side);
-    const V rc = less_multiples(a, m, Pi);
-    const V rs = less_multiples(q, n, Pi, 2);
-    const auto odd = parity(t);
-    const auto cosine_sign = (side ^ std::numeric_limits<std::int64_t>::min()) ^ odd;
-    const V sine = flipped(odd_sine(rs, rs, C), odd ^ sign_of(x));
-    const V cosine = flipped(odd_sine(rc, rc, C), cosine_sign);
+    const two_remainders<Pi, V> r(magnitude(x));
+    const V sine = flipped(odd_sine(r.sine, r.sine, C), r.sine_sign ^ sign_of(x));
+    const V cosine = flipped(odd_sine(r.cosine, r.cosine, C), r.cosine_sign);
     return {sine, select(x == 0.0, V(1.0), cosine)};
   }
   static auto rare_test(auto x) { return ~(magnitude(x) <= 0x1p23); }
@@ -54,10 +33,7 @@ struct sincos_standard : sincos_form<pi_double, sincos_c> {
       using V = std::decay_t<decltype(r)>;
       return two_results<V, V>{flipped(at.sine(j), sign_of(v)), at.sine((j + 128) & 0x1FF)};
     };
-    const auto y = frame_detail::in_pieces<2, W>(stage, x);
-    sine = select(rare, y.first, sine);
-    cosine = select(rare, y.second, cosine);
-    rare = rare & ~(magnitude(x) <= std::numeric_limits<double>::max());
+    large_stage(stage, x, sine, cosine, rare);
   }
 };
 struct sincosreg_standard : sincos_standard {

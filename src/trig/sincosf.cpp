@@ -5,37 +5,16 @@
 namespace lanemath {
 namespace {
 
-constexpr float sincosf_c[] = {0xBE2AAAA7_f32, 0x3C08876A_f32, 0xB94FB7FF_f32, 0x362EDEF8_f32};
-constexpr float sincosf_native_c[] = {0x3F7FF87C_f32, 0xBE29E72F_f32, 0x3BF84524_f32};
-
-LANEMATH_RARE sincosf_rare(const float* px, float* psine, float* pcosine) {
-  if ((~std::bit_cast<std::uint32_t>(*px) & 0x7F800000) == 0) {
-    const auto status = single_of_non_finite(*px, *psine);
-    *pcosine = *psine;
-    return status;
-  }
-  const auto both = scalar_sine_cosine(*px);
-  *psine = float(both.sine);
-  *pcosine = float(both.cosine);
-  return status::ordinary;
-}
+constexpr float sincosf_c[] = {0x362EDEF8_f32, 0xB94FB7FF_f32, 0x3C08876A_f32, 0xBE2AAAA7_f32};
+constexpr float sincosf_native_c[] = {0x3BF84524_f32, 0xBE29E72F_f32, 0x3F7FF87C_f32};
 
 template <auto& Pi, auto& C>
-struct sincosf_form : rare_above<through_pointer<float, float>(float), sincosf_rare, LARGE_SINGLE> {
+struct sincosf_form : rare_above<through_pointer<float, float>(float), sine_cosine_rare<float>, LARGE_SINGLE> {
   template <class V>
   LANEMATH_INLINE static two_results<V, V> kernel(V x) {
-    const V a = magnitude(x);
-    const V t = a * INVERSE_PI_SINGLE + SHIFTER_SINGLE;
-    const V n = t - SHIFTER_SINGLE;
-    const V q = less_multiples(a, n, Pi, 0, 2);
-    const auto side = sign_of(q);
-    const V m = n + from_bits(bits(V(0.5f)) | side);
-    const V rc = less_multiples(a, m, Pi);
-    const V rs = less_multiples(q, n, Pi, 2);
-    const auto odd = parity(t);
-    const auto cosine_sign = (side ^ std::numeric_limits<std::int32_t>::min()) ^ odd;
-    const V sine = odd_sine(rs, flipped(rs, odd), C);
-    const V cosine = odd_sine(rc, flipped(rc, cosine_sign), C);
+    const two_remainders<Pi, V> r(magnitude(x));
+    const V sine = odd_sine(r.sine, flipped(r.sine, r.sine_sign), C);
+    const V cosine = odd_sine(r.cosine, flipped(r.cosine, r.cosine_sign), C);
     return {flipped(sine, sign_of(x)), select(x == 0.0f, V(1.0f), cosine)};
   }
   template <int W, class M>
@@ -46,10 +25,7 @@ struct sincosf_form : rare_above<through_pointer<float, float>(float), sincosf_r
       using V = std::decay_t<decltype(r)>;
       return two_results<V, V>{flipped(at.template sine<true>(j), sign_of(v)), at.template sine<true>((j + 64) & 0xFF)};
     };
-    const auto y = frame_detail::in_pieces<4, W>(stage, x);
-    sine = select(rare, y.first, sine);
-    cosine = select(rare, y.second, cosine);
-    rare = not_finite(x);
+    large_stage(stage, x, sine, cosine, rare);
   }
 };
 

@@ -1,27 +1,16 @@
 // What the sine and cosine of double precision share.
 #pragma once
 
-#include <iterator>
-
 #include "trig/sine_rare.h"
 #include "trig/trigonometric.h"
 
 namespace lanemath {
 
-constexpr double INVERSE_PI_DOUBLE = 0x3FD45F306DC9C883_f64;
-constexpr double SHIFTER_DOUBLE = 0x4338000000000000_f64;  // 1.5 * 2^52
-
 inline constexpr double pi_double[] = {0x400921FB40000000_f64, 0x3E84442D00000000_f64, 0x3D08469880000000_f64,
                                        0x3B88CC51701B839A_f64};
 inline constexpr double light_pi_double[] = {0x400921FB40000000_f64, 0x3E84442D00000000_f64, 0x3D08469898CC5170_f64};
-inline constexpr double light_c_double[] = {0xBFC55554AD3EAF1F_f64, 0x3F8110EA968A0185_f64, 0xBF29F67D9395D587_f64,
-                                            0x3EC5D4567512BBD5_f64};
-
-template <class V, std::size_t Size>
-LANEMATH_INLINE V odd_sine(const V& r, const V& signed_r, const double (&c)[Size]) {
-  const V z = r * r;
-  return signed_r + (z * polynomial(z, c)) * signed_r;
-}
+inline constexpr double light_c_double[] = {0x3EC5D4567512BBD5_f64, 0xBF29F67D9395D587_f64, 0x3F8110EA968A0185_f64,
+                                            0xBFC55554AD3EAF1F_f64};
 
 // What the large stage computes from the remainder alone, and the sine of a step and the remainder.
 template <class V>
@@ -38,8 +27,8 @@ struct large_double {
   LANEMATH_INLINE V sine(const lanes<std::int32_t, W>& j) const {
     const auto [a, d, b, c] = look_up_row(sincos_512, j);
     const V m1 = r * d, m2 = r * a, G0 = a + d;
-    const V h1 = b + m1, e1 = m1 + (b - h1);
-    const V h2 = h1 + m2, e2 = m2 + (h1 - h2);
+    const auto [h1, e1] = fast_sum(b, m1);
+    const auto [h2, e2] = fast_sum(h1, m2);
     const V e = e2 + e1;
     const V t2 = S * G0 + e;
     const V G = G0 - r * b;
@@ -47,12 +36,6 @@ struct large_double {
     return h2 + (t3 + t4);
   }
 };
-
-inline status double_of_non_finite(double x, double& y) {
-  const bool infinite = (pattern_of(x) & 0x7FFFFFFFFFFFFFFF) == 0x7FF0000000000000;
-  y = infinite ? x * 0.0 : x * x;
-  return infinite ? status::domain : status::ordinary;
-}
 
 // The large stage of an operation with one result; `quarter` steps more make a cosine of the sine.
 template <int Quarter>
@@ -67,8 +50,7 @@ struct double_large_stage {
       else
         return sine;
     };
-    y = select(rare, frame_detail::in_pieces<2, W>(stage, x), y);
-    rare = rare & ~(magnitude(x) <= std::numeric_limits<double>::max());
+    large_stage(stage, x, y, rare);
   }
 };
 

@@ -1,8 +1,13 @@
 // Sine and cosine of one finite double of any size, for the rare routines: the argument is reduced to hi + lo and a
 // count of quadrants, in tiers by size, and 64 steps in a turn with a table and two polynomials do the rest.
+//
+// What serves finite floats, and doubles up to 2^23, is kept although no argument reaches it: but for the light forms
+// of double precision, whose kernels end there, the kernels leave infinities and NaNs only.
 #pragma once
 
-#include "frame/frame.h"
+#include "numeric/constants.h"
+#include "numeric/exceptional.h"
+#include "numeric/split.h"
 #include "tables/trig.h"
 
 namespace lanemath {
@@ -11,9 +16,6 @@ struct quadrant_and_rest {
   double hi, lo;
   std::int32_t quadrant;
 };
-
-inline std::uint64_t pattern_of(double x) { return std::bit_cast<std::uint64_t>(x); }
-inline std::int32_t exponent_field(double x) { return std::int32_t(pattern_of(x) >> 52 & 0x7FF); }
 
 // 2^17 <= a < 2^30: the nearest even multiple of pi/4, from a product with 4 / pi.
 inline quadrant_and_rest reduce_middle(double a, double sign) {
@@ -47,50 +49,56 @@ inline quadrant_and_rest reduce_middle(double a, double sign) {
 // 2^30 and above: products with nine slices of 4 / pi, the whole turns taken off on the way.
 inline quadrant_and_rest reduce_large(double a, double sign) {
   const std::int32_t e = exponent_field(a);
-  const double y = std::bit_cast<double>((pattern_of(a) & 0x000FFFFFFFFFFFFF) | std::uint64_t(e - 200) << 52);
-  const double yh = std::bit_cast<double>(pattern_of(y) & ~std::uint64_t(0x7FFFFFF)), yl = y - yh;
+  const double y = value_of<double>((pattern_of(a) & 0x000FFFFFFFFFFFFF) | std::uint64_t(e - 200) << 52);
+  const double yh = without_low_bits(y, 27), yl = y - yh;
   const std::int32_t k = ((e - 1052) * 83886) >> 21;
   const double* T = four_over_pi_slices + k;
 
-  const double a0 = T[0] * yl, a1 = yh * T[1];
-  const double s = a0 + a1, c0 = a1 + (a0 - s);
-  const double turns = std::bit_cast<double>(pattern_of(s + c0) & ~std::uint64_t(0) << ((1090 - e + 25 * k) & 63));
+  const auto [s, c0] = fast_sum(T[0] * yl, yh * T[1]);
+  const double turns = value_of<double>(pattern_of(s + c0) & ~std::uint64_t(0) << ((1090 - e + 25 * k) & 63));
   const double u = s - turns;
-  const double b = T[1] * yl, v1 = u + b, c1 = b + (u - v1) + c0;
-  const double b_next = yh * T[2], v2 = v1 + b_next, c2 = b_next + (v1 - v2) + c1;
+  const auto [v1, lost_1] = fast_sum(u, T[1] * yl);
+  const auto [v2, lost_2] = fast_sum(v1, yh * T[2]);
+  const double c2 = lost_2 + (lost_1 + c0);
   const double d = T[2] * yl, f = yh * T[3];
   const double G = v2 + c2 + d + f;
   const int m = (51 - exponent_field(G)) & 63;
   const std::uint64_t W = pattern_of(G) >> m;
-  const double n = std::bit_cast<double>(W << m);
+  const double n = value_of<double>(W << m);
   const auto q = std::int32_t(std::uint32_t(W + 1) >> 1);
   const double g0 = v2 - n, g1 = g0 + c2;
   const double rest = g1 + (W & 1 ? -1.0 : 0.0);
 
   const double e0 = (g0 - g1 + c2);
-  const double h1 = rest + d, e1 = d + (rest - h1) + e0;
-  const double h2 = h1 + f, e2 = f + (h1 - h2) + e1;
-  const double p3 = T[3] * yl, h3 = h2 + p3, e3 = p3 + (h2 - h3) + e2;
-  const double p4 = yh * T[4], h4 = h3 + p4, e4 = p4 + (h3 - h4) + e3;
-  const double p5 = T[4] * yl, h5 = h4 + p5, p6 = yh * T[5], h6 = h5 + p6;
-  const double e5 = p6 + (h5 - h6) + (p5 + (h4 - h5) + e4);
-  const double p7 = T[5] * yl + yh * T[6], h7 = h6 + p7, e6 = p7 + (h6 - h7) + e5;
-  const double p8 = T[6] * yl + yh * T[7], h8 = h7 + p8, e7 = p8 + (h7 - h8) + e6;
+  double sum = rest, lost = e0;
+  const auto add = [&](double summand) {
+    const auto next = fast_sum(sum, summand);
+    sum = next.hi;
+    lost = next.lo + lost;
+  };
+  add(d);
+  add(f);
+  add(T[3] * yl);
+  add(yh * T[4]);
+  add(T[4] * yl);
+  add(yh * T[5]);
+  add(T[5] * yl + yh * T[6]);
+  add(T[6] * yl + yh * T[7]);
   const double p9 = T[7] * yl + yh * T[8];
 
-  const double h = h8 + p9, v = h * 0x4198000000000000_f64;
-  const double H = (h + v) - v, L = p9 + (h8 - H) + e7;
+  const double h = sum + p9, v = h * 0x4198000000000000_f64;
+  const double H = (h + v) - v, L = p9 + (sum - H) + lost;
   const double A = 0x3FE921FB40000000_f64, B = 0x3E64442D18469899_f64;  // pi/4
   const double t = A * L + (L + H) * B, P = H * A;
-  const double hi = P + t, lo = P - hi + t;
+  const auto [hi, lo] = fast_sum(P, t);
   return {hi * sign, lo * sign, sign < 0 ? std::int32_t(0u - std::uint32_t(q)) : q};
 }
 
 inline quadrant_and_rest reduce_scalar(double x) {
   const std::int32_t e = exponent_field(x);
   if (e < 1040) return {x, 0.0, 0};
-  const double a = std::bit_cast<double>(pattern_of(x) & 0x7FFFFFFFFFFFFFFF);
-  const double sign = pattern_of(x) >> 63 ? -1.0 : 1.0;
+  const double a = std::fabs(x);
+  const double sign = std::copysign(1.0, x);
   return e <= 1052 ? reduce_middle(a, sign) : reduce_large(a, sign);
 }
 
@@ -101,14 +109,13 @@ struct sine_and_cosine {
 // Of finite x.
 inline sine_and_cosine scalar_sine_cosine(double x) {
   if (exponent_field(x) < 771) {
-    const double a = std::bit_cast<double>(pattern_of(x) & 0x7FFFFFFFFFFFFFFF);
+    const double a = std::fabs(x);
     const double sine = x == 0 ? x : (0x4360000000000000_f64 * x - x) * 0x3C80000000000000_f64;
     return {sine, 1.0 - a};
   }
   const auto [hi, lo, q] = reduce_scalar(x);
-  constexpr double shifter = 0x4338000000000000_f64;
-  const double t = hi * 0x40245F306DC9C883_f64 + shifter;  // 32 / pi
-  const double n = t - shifter;
+  const double t = hi * 0x40245F306DC9C883_f64 + integer_shifter<double>;  // 32 / pi
+  const double n = t - integer_shifter<double>;
   const double r1 = hi - n * 0x3FB921FB54400000_f64, pm = n * 0x3D90B4611A600000_f64, r = r1 - pm;
   const std::uint32_t j = std::uint32_t(pattern_of(t)) + 16 * std::uint32_t(q);
   const double rr = r1 - r - pm - n * 0x3B63198A2E037073_f64 + lo;
@@ -126,6 +133,39 @@ inline sine_and_cosine scalar_sine_cosine(double x) {
     return h2 + (rr * (G0 - r * b) + c + (b - h1 + m1) + e2 + S * G0 + C * b);
   };
   return {at(j), at(j + 16)};
+}
+
+template <class T>
+status sine_of_non_finite(T x, T& y) {
+  y = is_infinite(x) ? default_nan<T>() : x * x;
+  return is_infinite(x) ? status::domain : status::ordinary;
+}
+
+// The rare routines.
+template <class T>
+LANEMATH_RARE sine_rare(const T* px, T* py) {
+  if (!is_finite(*px)) return sine_of_non_finite(*px, *py);
+  *py = T(scalar_sine_cosine(*px).sine);
+  return status::ordinary;
+}
+template <class T>
+LANEMATH_RARE cosine_rare(const T* px, T* py) {
+  if (!is_finite(*px)) return sine_of_non_finite(*px, *py);
+  *py = T(scalar_sine_cosine(*px).cosine);
+  return status::ordinary;
+}
+template <class T>
+LANEMATH_RARE sine_cosine_rare(const T* px, T* psine, T* pcosine) {
+  const T x = *px;
+  if (!is_finite(x)) {
+    const auto status = sine_of_non_finite(x, *psine);
+    *pcosine = *psine;
+    return status;
+  }
+  const auto both = scalar_sine_cosine(x);
+  *psine = T(both.sine);
+  *pcosine = T(both.cosine);
+  return status::ordinary;
 }
 
 }  // namespace lanemath

@@ -7,25 +7,9 @@
 namespace lanemath {
 
 constexpr std::int32_t LARGE_SINGLE = 0x461C4000;  // 10000: the short reduction ends here
-constexpr float INVERSE_PI_SINGLE = 0x3EA2F983_f32;
-constexpr float SHIFTER_SINGLE = 0x4B400000_f32;  // 1.5 * 2^23
 
 inline constexpr float light_pi_single[] = {0x40490000_f32, 0x3A7DA000_f32, 0x34222169_f32};
 inline constexpr float pi_single[] = {0x40490000_f32, 0x3A7DA000_f32, 0x34222000_f32, 0x2CB4611A_f32};
-
-// Sine by an odd polynomial of the remainder.
-template <class V>
-LANEMATH_INLINE V odd_sine(const V& r, const V& signed_r, const float (&c)[4]) {
-  const V z = r * r;
-  return signed_r + (z * polynomial(z, c)) * signed_r;
-}
-// The light one: its first coefficient is only near 1.
-template <class V>
-LANEMATH_INLINE V odd_sine(const V& r, const V& signed_r, const float (&c)[3]) {
-  const V z = r * r;
-  const V p = c[2] * z + c[1];
-  return signed_r * (z * p) + c[0] * signed_r;
-}
 
 // What the large stage computes from the remainder alone.
 template <class V>
@@ -43,8 +27,8 @@ struct large_single {
   LANEMATH_INLINE V sine(const lanes<std::int32_t, W>& j) const {
     const auto [a, b, c, d] = look_up_row(sincos_256, j);
     const V m1 = r * d, m2 = r * a;
-    const V h1 = b + m1, e1 = m1 + (b - h1);
-    const V h2 = h1 + m2, e2 = m2 + (h1 - h2);
+    const auto [h1, e1] = fast_sum(b, m1);
+    const auto [h2, e2] = fast_sum(h1, m2);
     const V e = e2 + e1;
     const V G = (a + d) - r * b;
     const V t1 = rl * G + c;
@@ -56,12 +40,6 @@ struct large_single {
   }
 };
 
-inline status single_of_non_finite(float x, float& y) {
-  const bool infinite = (std::bit_cast<std::uint32_t>(x) & 0x7FFFFFFF) == 0x7F800000;
-  y = infinite ? float(double(x) * 0.0) : x * x;
-  return infinite ? status::domain : status::ordinary;
-}
-
 // Guards of an operation with one result: `quarter` steps more make a cosine of the sine.
 template <auto Routine, int Quarter>
 struct single_guards : rare_above<float(float), Routine, LARGE_SINGLE> {
@@ -71,8 +49,7 @@ struct single_guards : rare_above<float(float), Routine, LARGE_SINGLE> {
       const auto [j, r, rl] = reduce_to_step(v);
       return large_single(r, rl).template sine<false>((j + Quarter) & 0xFF);
     };
-    y = select(rare, frame_detail::in_pieces<4, W>(stage, x), y);
-    rare = not_finite(x);
+    large_stage(stage, x, y, rare);
   }
 };
 

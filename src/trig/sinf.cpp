@@ -7,23 +7,14 @@
 namespace lanemath {
 namespace {
 
-constexpr float sinf_c[] = {0xBE2AAAA6_f32, 0x3C088766_f32, 0xB94FB7FF_f32, 0x362EDEF8_f32};
-constexpr float sinf_native_c[] = {0x3F7FF87C_f32, 0xBE29E72F_f32, 0x3BF84524_f32};
-
-LANEMATH_RARE sinf_rare(const float* px, float* py) {
-  if ((~std::bit_cast<std::uint32_t>(*px) & 0x7F800000) == 0) return single_of_non_finite(*px, *py);
-  *py = float(scalar_sine_cosine(*px).sine);
-  return status::ordinary;
-}
+constexpr float sinf_c[] = {0x362EDEF8_f32, 0xB94FB7FF_f32, 0x3C088766_f32, 0xBE2AAAA6_f32};
+constexpr float sinf_native_c[] = {0x3BF84524_f32, 0xBE29E72F_f32, 0x3F7FF87C_f32};
 
 template <auto& Pi, auto& C>
-struct sinf_form : single_guards<sinf_rare, 0> {
+struct sinf_form : single_guards<sine_rare<float>, 0> {
   template <class V>
   static V kernel(V x) {
-    const V a = magnitude(x);
-    const V t = a * INVERSE_PI_SINGLE + SHIFTER_SINGLE;
-    const V r = less_multiples(a, t - SHIFTER_SINGLE, Pi);
-    return flipped(odd_sine(r, flipped(r, parity(t)), C), sign_of(x));
+    return sine<Pi, C>(x);
   }
 };
 

@@ -5,6 +5,7 @@
 // Light forms: one polynomial up to 1/2.
 #include <iterator>
 
+#include "numeric/split.h"
 #include "trig/pi_scaled.h"
 
 namespace lanemath {
@@ -17,30 +18,21 @@ struct of_pi<float> {
   static constexpr auto& steps = of_pi_f32;
   static constexpr float SHIFTER = 0x48400000_f32;  // 1.5 * 2^17: rounds to 1/64
   static constexpr float WHOLE_TURNS = 0x4BC00000_f32;
-  // (sin(pi d) / (pi d) - 1) / d^2 and (cos(pi d) - 1) / d^2 in powers of d^2
+  // (sin(pi d) / (pi d) - 1) / d^2 and (cos(pi d) - 1) / d^2 in d^2, highest power first
   static constexpr float sine[] = {0xBFD28C63_f32};
   static constexpr float cosine[] = {0xC09DE8E3_f32};
-  static constexpr float light[] = {0x40490A49_f32, 0xC0A4AA6F_f32, 0x4014E7A0_f32};
+  static constexpr float light[] = {0x4014E7A0_f32, 0xC0A4AA6F_f32, 0x40490A49_f32};
 };
 template <>
 struct of_pi<double> {
   static constexpr auto& steps = of_pi_f64;
   static constexpr double SHIFTER = 0x42B8000000000000_f64;  // 1.5 * 2^44: rounds to 1/256
   static constexpr double WHOLE_TURNS = 0x4348000000000000_f64;
-  static constexpr double sine[] = {0xBFFA51A6625301B8_f64, 0x3FE9F9C9B97D9A28_f64};
-  static constexpr double cosine[] = {0xC013BD3CC9BE3B30_f64, 0x40103C1DB2490898_f64};
-  static constexpr double light[] = {0x400921FB52068F99_f64, 0xC014ABBC166DBC5B_f64, 0x4004668AF4E909D3_f64,
-                                     0xBFE324CCAC0255A8_f64, 0x3FB3DAFF5DA18B33_f64};
+  static constexpr double sine[] = {0x3FE9F9C9B97D9A28_f64, 0xBFFA51A6625301B8_f64};
+  static constexpr double cosine[] = {0x40103C1DB2490898_f64, 0xC013BD3CC9BE3B30_f64};
+  static constexpr double light[] = {0x3FB3DAFF5DA18B33_f64, 0xBFE324CCAC0255A8_f64, 0x4004668AF4E909D3_f64,
+                                     0xC014ABBC166DBC5B_f64, 0x400921FB52068F99_f64};
 };
-
-template <int W>
-LANEMATH_INLINE lanes<std::int32_t, W> low_word(const lanes<float, W>& x) {
-  return bits(x);
-}
-template <int W>
-LANEMATH_INLINE lanes<std::int32_t, W> low_word(const lanes<double, W>& x) {
-  return lower(x);
-}
 
 // The sine of pi x or, a quarter of a turn later, the cosine; x is not negative. A large one's sum is a multiple of 2
 // still, whatever it rounds to: d is 0 then.
@@ -55,15 +47,14 @@ LANEMATH_INLINE V sine_of_pi(const V& x) {
   const auto [value, value_low, slope, slope_rest] = look_up_row(c::steps, j);
   const V z = d * d;
   const V linear = d * slope;
-  const V sum = value + linear;
-  const V lost = linear + (value - sum);
-  const V above_linear = (slope + slope_rest) * (z * polynomial(z, c::sine));
-  const V even = value * (z * polynomial(z, c::cosine));
+  const auto [sum, lost] = fast_sum(value, linear);
+  const V above_linear = (slope + slope_rest) * (z * horner(z, c::sine));
+  const V even = value * (z * horner(z, c::cosine));
   return sum + ((lost + value_low) + (d * (slope_rest + above_linear) + even));
 }
 template <class V>
 LANEMATH_INLINE V light_sine(const V& m) {
-  return m * polynomial(m * m, of_pi<typename V::value_type>::light);
+  return m * horner(m * m, of_pi<typename V::value_type>::light);
 }
 
 template <class T, bool Light>

@@ -13,9 +13,9 @@ namespace {
 
 constexpr double INVERSE_HALF_PI = 0x3FE45F306DC9C883_f64;
 constexpr double QUARTERS = 0x4318000000000000_f64;  // 1.5 * 2^50: rounds to quarters of a turn
-constexpr double half_pi[] = {0x3FF921FB54400000_f64, 0x3DD0B4611A600000_f64, 0x3BA3198A2E000000_f64,
-                              0x397B839A252049C1_f64};
-constexpr double light_half_pi[] = {0x3FF921FB54400000_f64, 0x3DD0B4611A600000_f64, 0x3BA3198A2E037073_f64};
+constexpr double half_pi_parts[] = {0x3FF921FB54400000_f64, 0x3DD0B4611A600000_f64, 0x3BA3198A2E000000_f64,
+                                    0x397B839A252049C1_f64};
+constexpr double light_half_pi_parts[] = {0x3FF921FB54400000_f64, 0x3DD0B4611A600000_f64, 0x3BA3198A2E037073_f64};
 static constexpr double tan_c[] = {0x3FD555555555555D_f64, 0x3FC11111111106E2_f64, 0x3FABA1BA1BAB1E0A_f64,
                                    0x3F9664F485FD9A82_f64, 0x3F8226E3A2CF6F57_f64, 0x3F6D6D2F51DFBAFE_f64,
                                    0x3F57DB0D37AAE162_f64, 0x3F434C3515A83EC1_f64, 0x3F2FEC8A5AD4E168_f64,
@@ -25,12 +25,12 @@ static constexpr double tan_native_c[] = {0x3FEFFFFFFF5EC8D8_f64, 0x3FD5555658CA
                                           0x3FABAF33FBAB3E01_f64, 0x3F95BF38D597438C_f64, 0x3F8663ACAB9AA667_f64,
                                           0xBEF07C6F5466C5FD_f64, 0x3F721CEDAD17CBDD_f64};
 
-LANEMATH_RARE tan_rare(const double* px, double* py) { return double_of_non_finite(*px, *py); }
+LANEMATH_RARE tan_rare(const double* px, double* py) { return sine_of_non_finite(*px, *py); }
 
 // a - b, and what the rounding took: exact, since a is a multiple of the last place of b whenever it is the smaller
 // one.
 template <class V>
-LANEMATH_INLINE two_results<V, V> difference(const V& a, const V& b) {
+LANEMATH_INLINE two_part<V> difference(const V& a, const V& b) {
   const V d = a - b;
   return {d, (a - d) - b};
 }
@@ -46,10 +46,10 @@ struct accurate {
   // The remainder in two parts, and which quadrants are odd.
   template <class V>
   static auto reduce(const V& a) {
-    const V t = a * INVERSE_HALF_PI + SHIFTER_DOUBLE, n = t - SHIFTER_DOUBLE;
-    const auto [first, e1] = difference(a - n * half_pi[0], n * half_pi[1]);
-    const auto [second, e2] = difference(first, n * half_pi[2]);
-    const V low = (e1 + e2) - n * half_pi[3];
+    const V t = a * INVERSE_HALF_PI + integer_shifter<double>, n = t - integer_shifter<double>;
+    const auto [first, e1] = difference(a - n * half_pi_parts[0], n * half_pi_parts[1]);
+    const auto [second, e2] = difference(first, n * half_pi_parts[2]);
+    const V low = (e1 + e2) - n * half_pi_parts[3];
     const V r = second + low;
     return std::tuple(r, (second - r) + low, odd_ones(bits(t)));
   }
@@ -65,8 +65,8 @@ struct accurate {
 struct light {
   template <class V>
   static auto reduce(const V& a) {
-    const V t = a * INVERSE_HALF_PI + SHIFTER_DOUBLE;
-    return std::tuple(less_multiples(a, t - SHIFTER_DOUBLE, light_half_pi), V(0.0), odd_ones(bits(t)));
+    const V t = a * INVERSE_HALF_PI + integer_shifter<double>;
+    return std::tuple(less_multiples(a, t - integer_shifter<double>, light_half_pi_parts), V(0.0), odd_ones(bits(t)));
   }
   template <class V, class M>
   static V tangent(const V& r, const V&, const M& odd) {
@@ -86,7 +86,7 @@ struct tan_form {
       const auto [r, rl, odd] = Form::reduce(magnitude(v));
       return flipped(Form::tangent(r, rl, odd), sign_of(v));
     };
-    return frame_detail::in_pieces<2, W>(group, x);
+    return by_pieces<2, W>(group, x);
   }
   static auto rare_test(auto x) { return ~(magnitude(x) <= 0x1p20); }
   template <int W, class M>
@@ -95,8 +95,7 @@ struct tan_form {
       const auto [j, r, rl] = reduce_to_step(magnitude(v), QUARTERS);
       return flipped(Form::tangent(r, rl, odd_ones(widen(j))), sign_of(v));
     };
-    y = select(rare, frame_detail::in_pieces<2, W>(stage, x), y);
-    rare = rare & ~(magnitude(x) <= std::numeric_limits<double>::max());
+    large_stage(stage, x, y, rare);
   }
 };
 

@@ -11,27 +11,27 @@ namespace {
 
 constexpr std::int32_t LARGE = 0x46010000;  // 8256
 constexpr float INVERSE_HALF_PI = 0x3F22F983_f32;
-constexpr float half_pi[] = {0x3FC90000_f32, 0x39FDA000_f32, 0x33A22000_f32, 0x2C34611A_f32};
-constexpr float light_half_pi[] = {0x3FC90000_f32, 0x39FDA000_f32, 0x33A22169_f32};
+constexpr float half_pi_parts[] = {0x3FC90000_f32, 0x39FDA000_f32, 0x33A22000_f32, 0x2C34611A_f32};
+constexpr float light_half_pi_parts[] = {0x3FC90000_f32, 0x39FDA000_f32, 0x33A22169_f32};
 constexpr float N0 = 0x3F7FFFFC_f32, N1 = 0xBDC433B4_f32;
 constexpr float D0 = 0x3F7FFFFC_f32, D1 = 0xBEDBB7AB_f32, D2 = 0x3C1F336B_f32;
 
-LANEMATH_RARE tanf_rare(const float* px, float* py) { return single_of_non_finite(*px, *py); }
+LANEMATH_RARE tanf_rare(const float* px, float* py) { return sine_of_non_finite(*px, *py); }
 
 struct accurate_stage {
   template <class V, class Row>
   static V tangent(const V& r, const Row& row) {
     const auto& [c0, c1, c2, c3, c4, c5, c6, c7, c8, c9, unused, unused_too] = row;
     const V D = c0 - r, e1 = (c0 - D) - r;
-    const V dh = upper_part(D), dl = e1 + ((D - dh) + c1);
-    const V y = upper_part(reciprocal_estimate(dh));
+    const V dh = without_low_bits(D, 12), dl = e1 + ((D - dh) + c1);
+    const V y = without_low_bits(reciprocal_estimate(dh), 12);
     const V e = 1.0f - dh * y;
     const V Y = (y + y * e) * (e * e + 1.0f);
     const V u = dl * Y;
     const V w = (u * u) - (u - e);
     const V qh = y * c2, ql = c2 * (Y * w);
-    const V sl = c5 * r, s = c3 + sl, es = sl + (c3 - s);
-    const V h = s + qh, eh = s + (qh - h);
+    const auto [s, es] = fast_sum(c3, c5 * r);
+    const auto [h, eh] = fast_sum(qh, s);
     const V p = r * ((r * r) * (c9 * r + c8) + (c7 * r + c6));
     return h + (p + (c4 + ((es + ql) + eh)));
   }
@@ -55,8 +55,8 @@ struct tanf_form : rare_above<float(float), tanf_rare, LARGE> {
   template <class V>
   static V kernel(V x) {
     const V a = magnitude(x);
-    const V t = a * INVERSE_HALF_PI + SHIFTER_SINGLE;
-    const V r = less_multiples(a, t - SHIFTER_SINGLE, Pieces);
+    const V t = a * INVERSE_HALF_PI + integer_shifter<float>;
+    const V r = less_multiples(a, t - integer_shifter<float>, Pieces);
     const V z = r * r;
     const V n = r * (N1 * z + N0);
     const V d = (D2 * z + D1) * z + D0;
@@ -71,15 +71,14 @@ struct tanf_form : rare_above<float(float), tanf_rare, LARGE> {
       const auto [j, r, rl] = reduce_to_step(v);
       return Stage::tangent(r + rl, look_up_row(tangent_128, j & 0x7F));
     };
-    y = select(rare, frame_detail::in_pieces<4, W>(stage, x), y);
-    rare = not_finite(x);
+    large_stage(stage, x, y, rare);
   }
 };
 
 }  // namespace
 
-using tanf_standard = tanf_form<half_pi, accurate_stage>;
-using tanf_native = tanf_form<light_half_pi, light_stage>;
+using tanf_standard = tanf_form<half_pi_parts, accurate_stage>;
+using tanf_native = tanf_form<light_half_pi_parts, light_stage>;
 LANEMATH_EXPORT(tanf, tanf_standard)
 LANEMATH_EXPORT(tanf, tanf_native, _native)
 LANEMATH_SAME(tanf, _native, _half)

@@ -3,6 +3,7 @@
 
 #include <bit>
 
+#include "numeric/split.h"
 #include "trig/trigonometric.h"
 
 namespace lanemath {
@@ -25,21 +26,14 @@ LANEMATH_INLINE V polynomial_by_halves(const V& z, const T (&c)[Size]) {
   return terms<0, Size>({z, square, fourth, fourth * fourth}, c);
 }
 
-template <class V>
-LANEMATH_INLINE V upper_part(const V& x) {
-  if constexpr (sizeof(typename V::value_type) == 4)
-    return from_bits(bits(x) & std::int32_t(0xFFFFF000));
-  else
-    return from_bits(bits(x) & ~std::int64_t(0x7FFFFFF));
-}
-
 // 1 / (high + low), |low| far below |high|: the quotient's upper part and a correction.
 template <class V>
 LANEMATH_INLINE V reciprocal(const V& high, const V& low) {
   using T = typename V::value_type;
   const V t = high + low, below = (high - t) + low;
   const V y = one_v<T> / t;
-  const V yh = upper_part(y), th = upper_part(t);
+  constexpr int half = sizeof(T) == 4 ? 12 : 27;
+  const V yh = without_low_bits(y, half), th = without_low_bits(t, half);
   const V rest = (one_v<T> - yh * th) - yh * ((t - th) + below);
   return yh + y * rest;
 }

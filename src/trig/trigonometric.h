@@ -4,6 +4,9 @@
 #include <cstddef>
 #include <limits>
 
+#include "numeric/constants.h"
+#include "numeric/fields.h"
+#include "numeric/polynomial.h"
 #include "trig/reduction.h"
 
 namespace lanemath {
@@ -12,10 +15,6 @@ namespace lanemath {
 template <class T, int W>
 LANEMATH_INLINE auto parity(const lanes<T, W>& shifted) {
   return bits(shifted) << int(8 * sizeof(T) - 1);
-}
-template <class T, int W>
-LANEMATH_INLINE lanes<T, W> flipped(const lanes<T, W>& x, const lanes<int_of_size<sizeof(T)>, W>& signs) {
-  return from_bits(bits(x) ^ signs);
 }
 
 // a less n times pi, which comes in pieces of few bits.
@@ -26,24 +25,61 @@ LANEMATH_INLINE V less_multiples(V a, const V& n, const T (&pieces)[Size], std::
   return a;
 }
 
-// c[0] + c[1] z + ..., from the highest coefficient down.
+// Sine by an odd polynomial of the remainder.
 template <class V, class T, std::size_t Size>
-LANEMATH_INLINE V polynomial(const V& z, const T (&c)[Size]) {
-  V p(c[Size - 1]);
-  for (std::size_t i = Size - 1; i-- > 0;) p = p * z + c[i];
-  return p;
+LANEMATH_INLINE V odd_sine(const V& r, const V& signed_r, const T (&c)[Size]) {
+  const V z = r * r;
+  return signed_r + (z * horner(z, c)) * signed_r;
+}
+// The light one of single precision: its last coefficient is only near 1.
+template <class V>
+LANEMATH_INLINE V odd_sine(const V& r, const V& signed_r, const float (&c)[3]) {
+  const V z = r * r;
+  const V p = c[0] * z + c[1];
+  return signed_r * (z * p) + c[2] * signed_r;
 }
 
-// Infinities and NaNs.
-template <class T, int W>
-LANEMATH_INLINE auto not_finite(const lanes<T, W>& x) {
-  constexpr std::int32_t field = sizeof(T) == 4 ? 0x7F800000 : 0x7FF00000;
-  lanes<std::int32_t, W> pattern;
-  if constexpr (sizeof(T) == 4)
-    pattern = bits(x);
-  else
-    pattern = upper(x);
-  return (pattern & field) == field;
+template <auto& Pi, auto& C, class V>
+LANEMATH_INLINE V sine(const V& x) {
+  using T = typename V::value_type;
+  const V a = magnitude(x);
+  const V t = a * inverse_pi<T> + integer_shifter<T>;
+  const V r = less_multiples(a, t - integer_shifter<T>, Pi);
+  return flipped(odd_sine(r, flipped(r, parity(t)), C), sign_of(x));
+}
+
+// One multiple of pi for sine and cosine of a magnitude: the remainders, and their signs.
+template <auto& Pi, class V>
+struct two_remainders {
+  using T = typename V::value_type;
+  V sine, cosine;
+  lanes<int_of_size<sizeof(T)>, V::width> sine_sign, cosine_sign;
+
+  LANEMATH_INLINE explicit two_remainders(const V& a) {
+    const V t = a * inverse_pi<T> + integer_shifter<T>;
+    const V n = t - integer_shifter<T>;
+    const V q = less_multiples(a, n, Pi, 0, 2);
+    const auto side = sign_of(q);
+    const V m = n + from_bits(bits(V(half_v<T>)) | side);
+    cosine = less_multiples(a, m, Pi);
+    sine = less_multiples(q, n, Pi, 2);
+    sine_sign = parity(t);
+    cosine_sign = side ^ sine_sign ^ sign_mask<T>;
+  }
+};
+
+// The large-argument stage, a group at a time: its results go into the marked lanes. Infinities and NaNs stay marked.
+template <class F, class T, int W, class M>
+LANEMATH_INLINE void large_stage(F stage, const lanes<T, W>& x, lanes<T, W>& y, M& rare) {
+  y = select(rare, by_pieces<16 / int(sizeof(T)), W>(stage, x), y);
+  rare = ~(magnitude(x) <= std::numeric_limits<T>::max());
+}
+template <class F, class T, int W, class M>
+LANEMATH_INLINE void large_stage(F stage, const lanes<T, W>& x, lanes<T, W>& sine, lanes<T, W>& cosine, M& rare) {
+  const auto y = by_pieces<16 / int(sizeof(T)), W>(stage, x);
+  sine = select(rare, y.first, sine);
+  cosine = select(rare, y.second, cosine);
+  rare = ~(magnitude(x) <= std::numeric_limits<T>::max());
 }
 
 }  // namespace lanemath

@@ -1,19 +1,9 @@
 // A number as the unevaluated sum of two doubles, for scalar routines.
 #pragma once
 
-#include "frame/frame.h"
+#include "numeric/split.h"
 
 namespace lanemath {
-
-// 2^k, k an exponent of a normal number.
-inline double power_of_two(int k) { return std::bit_cast<double>(std::uint64_t(1023 + k) << 52); }
-
-// A number's upper bits and the rest; by 2^27 + 1 both have so few bits that products of such parts are exact.
-inline two_part<double> split(double x, double by = 0x41A0000002000000_f64) {
-  const double scaled = by * x;
-  const double hi = scaled - (scaled - x);
-  return {hi, x - hi};
-}
 
 struct double_pair {
   double hi, lo;
@@ -21,20 +11,12 @@ struct double_pair {
   constexpr double_pair(double high, double low = 0.0) : hi(high), lo(low) {}
   constexpr double_pair(const two_part<double>& v) : hi(v.hi), lo(v.lo) {}
   // Of a larger and a smaller number.
-  static double_pair fast_sum(double large, double small) {
-    const double s = large + small;
-    return {s, small - (s - large)};
-  }
+  static double_pair fast_sum(double large, double small) { return lanemath::fast_sum(large, small); }
   static double_pair sum(double a, double b) {
     const double s = a + b, t = s - a;
     return {s, (a - (s - t)) + (b - t)};
   }
-  static double_pair product(double a, double b) {
-    const auto [ah, al] = split(a);
-    const auto [bh, bl] = split(b);
-    const double p = a * b;
-    return {p, ((ah * bh - p) + ah * bl + al * bh) + al * bl};
-  }
+  static double_pair product(double a, double b) { return exact_product(a, b); }
 
   friend double_pair operator+(const double_pair& a, const double_pair& b) {
     const auto s = sum(a.hi, b.hi);
