@@ -307,10 +307,11 @@ def asin(g):
 
 
 def rise(m, d):
-    """Of erf from m to m + d, divided by its slope at m. About d = 0 only."""
-    if d.c[0][0] or d.piece.at_zero is False:
-        raise TooWide
-    return integral(d.c[0], slope(d) * exp(-d * (d + 2 * m)))
+    """Of erf from m to m + d, divided by its slope at m."""
+    m = mpf(m.numerator) / m.denominator
+    scale = mp.exp(m * m) * mp.sqrt(mp.pi) / 2
+    first = monotone(lambda v: (mp.erfc(m) - mp.erfc(m + v)) * scale, d.c[0]) if any(d.c[0]) else (0, 0)
+    return integral(first, slope(d) * exp(-d * (d + 2 * m)))
 
 
 def lgamma(g):
