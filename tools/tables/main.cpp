@@ -47,8 +47,18 @@ int main(int argc, char** argv) try {
   }
   const auto fits = read_fits(argv[2]);
   const auto& [write, include, space] = found->second;
-  table_writer out(stdout, fits, include, space);
-  write(out);
+  // Whole or not at all.
+  char* text;
+  std::size_t size;
+  std::FILE* memory = open_memstream(&text, &size);
+  if (!memory) throw std::runtime_error("no memory");
+  {
+    table_writer out(memory, fits, include, space);
+    write(out);
+  }
+  std::fclose(memory);
+  if (std::fwrite(text, 1, size, stdout) != size || std::fflush(stdout) != 0)
+    throw std::runtime_error("the header cannot be written");
 } catch (const std::exception& error) {
   fmt::print(stderr, "lanemath-tables: {}\n", error.what());
   return 1;
