@@ -1,7 +1,7 @@
 // The natural logarithm in x87 precision, for the gamma functions.
 #pragma once
 
-#include "special/gamma_fits.h"
+#include "tables/gamma.h"
 
 namespace lanemath::special {
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Fitted data of the gamma functions: minimax polynomials of relative error, some as products of quadratics.
 
-    tools/fits/gamma.py | clang-format > src/special/gamma_fits.h      (under a minute; needs python3-mpmath)
+    tools/fits/gamma.py > tools/fits/gamma.fit      (under a minute; needs python3-mpmath)
 
 The error of each fit goes to standard error, in bits.
 """
@@ -46,7 +46,8 @@ def polynomial(f, low, high, degree, centre=0, name=""):
         if largest < level * mpf("1.02") or len(peaks) < degree + 2:
             break
         chosen = peaks
-    print(f"{name} [{mp.nstr(low, 6)}, {mp.nstr(high, 6)}] degree {degree}: 2^{float(mp.log(largest, 2)):.1f}", file=sys.stderr)
+    print(f"{name} [{mp.nstr(low, 6)}, {mp.nstr(high, 6)}] degree {degree}: 2^{float(mp.log(largest, 2)):.1f}",
+          file=sys.stderr)
     return [c[k] / half**k for k in range(degree + 1)]
 
 
@@ -68,68 +69,65 @@ def literal(v, bits):
         return "0"
     mantissa, exponent = mp.frexp(abs(v))
     whole = int(mp.nint(mp.ldexp(mantissa, bits)))
-    return f"{'-' if v < 0 else ''}0x{whole:X}p{exponent - bits}" + ("L" if bits == 64 else "")
+    return f"{'-' if v < 0 else ''}0x{whole:X}p{exponent - bits}"
 
 
-def numbers(values, bits):
-    return "{" + ", ".join(literal(v, bits) for v in values) + "}"
+def row(values, bits):
+    return " ".join(literal(v, bits) for v in values)
 
 
-def table(meaning, declaration, rows):
-    body = ",\n    ".join(rows)
-    print(f"\n// {meaning}\ninline constexpr {declaration} = {{\n    {body},\n}};")
+def table(name, rows):
+    print(name, *rows, sep="\n")
 
 
-def row_of(scale, pairs, bits):
-    return f"{{{literal(scale, bits)}, {numbers([a for a, _ in pairs], bits)}, {numbers([b for _, b in pairs], bits)}}}"
+def factored_row(scale, pairs, bits):
+    return row([scale] + [a for a, _ in pairs] + [b for _, b in pairs], bits)
 
 
-def polynomial_table(meaning, name, c, bits=64):
-    kind = "extended" if bits == 64 else "double"
-    table(meaning + ", highest power first", f"{kind} {name}[]", [literal(v, bits) for v in reversed(c)])
+def polynomial_table(name, c):
+    """One row, highest power first."""
+    table(name, [row(reversed(c), 64)])
 
-
-print("""// Made by tools/fits/gamma.py.
-#pragma once
-
-#include "special/extended.h"
-
-namespace lanemath::special {""")
 
 # lgamma, single precision
 
-table("log-gamma at 2^(k+2) (1 + u), in u, highest power first", "double lgammaf_octaves[11][11]",
-      [numbers(reversed(polynomial(lambda u: lgamma(2**k * (1 + u)), 0, 1, 10, name="lgammaf octave")), 53)
+# At 2^(k+2) (1 + u), in u, highest power first.
+table("lgammaf_octaves",
+      [row(reversed(polynomial(lambda u: lgamma(2**k * (1 + u)), 0, 1, 10, name="lgammaf octave")), 53)
        for k in range(2, 13)])
 
 
 def expansion(root):
-    return numbers([mp.psi(2, root) / 6, mp.psi(1, root) / 2, mp.psi(0, root), lgamma(root)], 53)
+    return [mp.psi(2, root) / 6, mp.psi(1, root) / 2, mp.psi(0, root), lgamma(root)]
 
 
+# A row of the zeros next to -3 - j, and one of those next to -2 - j, j = 0 and 1: each zero's window by low end, middle
+# and high end, and a cubic about the middle.
 windows = [[("-2.7476876467274125", "-2.7476826467274127", "-2.747677646727413"),
             ("-3.955314284858597", "-3.955294284858598", "-3.955256462097168")],
            [("-2.4570297382208004", "-2.4570247382208006", "-2.4570197382208008"),
             ("-3.1435858883499797", "-3.14358088834998", "-3.14357588834998")]]
-print("\n// Where log-gamma is zero: a window, and a cubic about its middle, highest power first.")
-print("struct lgammaf_root {\n  double low, root, high;\n  double c[4];\n};")
-table("Row j of the first and of the second table: between -3 - j and -2 - j", "lgammaf_root lgammaf_roots[2][2]",
-      ["{" + ", ".join("{%s, %s, %s, %s}" % (low, root, high, expansion(mpf(float(root)))) for low, root, high in rows)
-       + "}" for rows in windows])
+table("lgammaf_roots",
+      [" ".join(row([float(low), float(root), float(high)] + expansion(mpf(float(root))), 53)
+                for low, root, high in rows) for rows in windows])
 
 # lgamma, double precision
 
 centre = mpf(0xBB16C31AB5F1FC00) / mpf(2)**63
-polynomial_table("log-gamma / (x - 1) between 0.875 and 1.25, in x - 1", "lgamma_at_1",
+# log-gamma / (x - 1) between 0.875 and 1.25, in x - 1.
+polynomial_table("lgamma_at_1",
                  polynomial(lambda x: lgamma(x) / (x - 1), mpf("0.875"), mpf("1.25"), 18, 1, "lgamma at 1"))
-polynomial_table("log-gamma between 1.25 and 1.75, in the distance from its minimum", "lgamma_at_minimum",
-                 polynomial(lgamma, mpf("1.25"), mpf("1.75"), 20, centre, "lgamma at its minimum"))
-polynomial_table("log-gamma / (x - 2) between 1.75 and 2.25, in x - 2", "lgamma_at_2",
+# log-gamma between 1.25 and 1.75, in the distance from its minimum.
+polynomial_table("lgamma_at_minimum", polynomial(lgamma, mpf("1.25"), mpf("1.75"), 20, centre, "lgamma at its minimum"))
+# log-gamma / (x - 2) between 1.75 and 2.25, in x - 2.
+polynomial_table("lgamma_at_2",
                  polynomial(lambda x: lgamma(x) / (x - 2), mpf("1.75"), mpf("2.25"), 16, 2, "lgamma at 2"))
-table("log-gamma / (x - 2) between 2.25 and 4, in x", "quadratics<extended, 11> lgamma_to_4[1]",
-      [row_of(*quadratics(polynomial(lambda x: lgamma(x) / (x - 2), mpf("2.25"), 4, 22, 0, "lgamma to 4")), 64)])
-table("log-gamma at 2^(k+2) (1 + u), in u", "quadratics<extended, 11> lgamma_octaves[7]",
-      [row_of(*quadratics(polynomial(lambda u: lgamma(2**k * (1 + u)), 0, 1, 22, 0, "lgamma octave")), 64)
+# log-gamma / (x - 2) between 2.25 and 4, in x: scale, a and b of the factors.
+table("lgamma_to_4",
+      [factored_row(*quadratics(polynomial(lambda x: lgamma(x) / (x - 2), mpf("2.25"), 4, 22, 0, "lgamma to 4")), 64)])
+# log-gamma at 2^(k+2) (1 + u), in u: scale, a and b of the factors.
+table("lgamma_octaves",
+      [factored_row(*quadratics(polynomial(lambda u: lgamma(2**k * (1 + u)), 0, 1, 22, 0, "lgamma octave")), 64)
        for k in range(2, 9)])
 
 
@@ -143,21 +141,18 @@ def root_row(guess, degree):
     at_root = lgamma(root)
     c = [at_root] + polynomial(lambda x: (lgamma(x) - at_root) / (x - root), root - half, root + half, degree - 1, root,
                                f"lgamma root {mp.nstr(root, 6)}")
-    window = ", ".join(literal(x, 53) for x in (root - half, root, root + half))
-    return f"{{{window}, {degree}, {numbers(c[::-1], 64)}}}"
+    return row((root - half, root, root + half), 53) + " " + row(c[::-1], 64)
 
 
-print("\n// Where log-gamma is zero: a window, and a polynomial about its middle, highest power first.")
-print("struct lgamma_root {\n  double low, root, high;\n  int degree;\n  extended c[20];\n};")
+# Where log-gamma is zero: the window's low end, middle and high end, a polynomial about the middle, highest
+# power first. Row j: between -3 - j and -2 - j, the zero next to -3 - j, and the one next to -2 - j.
 far = [("-2.7476826467274127", 19), ("-3.955294284858598", 13)]
 near = [("-2.4570247382208006", 15), ("-3.14358088834998", 13)]
 for n in range(4, 15):
     far.append((-(n + 1) + 1 / mp.factorial(n + 1), 13))
     near.append((-n - 1 / mp.factorial(n), 13))
-table("Row j: between -3 - j and -2 - j, the zero next to -3 - j", "lgamma_root lgamma_far_roots[13]",
-      [root_row(*row) for row in far])
-table("Row j: between -3 - j and -2 - j, the zero next to -2 - j", "lgamma_root lgamma_near_roots[13]",
-      [root_row(*row) for row in near])
+table("lgamma_far_roots", [root_row(*where) for where in far])
+table("lgamma_near_roots", [root_row(*where) for where in near])
 
 
 def sine(s):
@@ -166,34 +161,20 @@ def sine(s):
 
 
 tiny = mpf(2)**-40
-polynomial_table("log(sin(pi t) / (pi t)) / t^2 for t up to 1/2, in t^2", "lgamma_reflection",
-                 polynomial(lambda s: mp.log(sine(s)) / s, tiny, mpf("0.25"), 15, 0, "reflection"))
+# log(sin(pi t) / (pi t)) / t^2 for t up to 1/2, in t^2.
+polynomial_table("lgamma_reflection", polynomial(lambda s: mp.log(sine(s)) / s, tiny, mpf("0.25"), 15, 0, "reflection"))
+
 
 # Logarithm
-
-reciprocals = [int(mp.nint(mpf(2)**18 / (513 + 2 * i))) for i in range(256)]
-table("Reciprocals of the middles of 256 stretches of [1, 2)", "float log_reciprocals[256]",
-      [f"0x{r:X}p-9f" for r in reciprocals])
-
-
-def split(v):
-    high = mp.nint(v * mpf(2)**50) / mpf(2)**50
-    return f"{{{literal(high, 64)}, {literal(v - high, 64)}}}"
-
-
-table("Minus their logarithms, in two parts", "two_part<extended> log_values[256]",
-      [split(-mp.log(mpf(r) / 512)) for r in reciprocals])
-table("ln 2 in two parts", "two_part<extended> log_2[1]", [split(mp.log(2))])
-
-
 def log_rest(f):
     """(log(1 + f) - f + f f / 2) / f^3"""
     return (mp.log(1 + f) - f + f * f / 2) / f**3
 
 
-polynomial_table("(log(1 + f) - f + f^2 / 2) / f^3 for f up to 1/256", "log_after_table",
-                 polynomial(log_rest, -mpf(2)**-7.9, mpf(2)**-7.9, 6, 0, "log after table"))
-polynomial_table("The same for f up to 1/64", "log_at_1", polynomial(log_rest, -mpf(1) / 63, mpf(1) / 63, 10, 0, "log at 1"))
+# (log(1 + f) - f + f^2 / 2) / f^3 for f up to 1/256.
+polynomial_table("log_after_table", polynomial(log_rest, -mpf(2)**-7.9, mpf(2)**-7.9, 6, 0, "log after table"))
+# The same for f up to 1/64.
+polynomial_table("log_at_1", polynomial(log_rest, -mpf(1) / 63, mpf(1) / 63, 10, 0, "log at 1"))
 
 # gamma, single precision
 
@@ -204,27 +185,26 @@ def gamma_rows(starts, degree, bits, last_scale):
     rows = []
     for start in starts:
         size = mp.gamma(start + mpf("0.5"))
-        scale, pairs = quadratics(polynomial(lambda g: mp.gamma(start + g) / size, 0, 1, degree, 0, f"gamma at {start}"))
-        rows.append(row_of(scale * size * (last_scale if start == starts[-1] else 1), pairs, bits))
+        c = polynomial(lambda g: mp.gamma(start + g) / size, 0, 1, degree, 0, f"gamma at {start}")
+        scale, pairs = quadratics(c)
+        rows.append(factored_row(scale * size * (last_scale if start == starts[-1] else 1), pairs, bits))
     return rows
 
 
-table("gamma(a) for a = 2 + g, then for a = 8 k + g, in g; the last row scaled down", "quadratics<double, 6> tgammaf_rows[6]",
-      gamma_rows([2] + [8 * k for k in range(1, 6)], 12, 53, gamma_shrink))
+# gamma(a) for a = 2 + g, then for a = 8 k + g, in g; the last row scaled down: scale, a and b of the factors.
+table("tgammaf_rows", gamma_rows([2] + [8 * k for k in range(1, 6)], 12, 53, gamma_shrink))
 
 # gamma, double precision
 
 gamma_shrink = mpf(0xBA5D5869211696FF) * mpf(2)**(0x3BEC - 16383 - 63)
-table("gamma(a) for a = 2 + g, then for a = 16 k + g, in g; the last row scaled down", "quadratics<extended, 11> tgamma_rows[12]",
-      gamma_rows([2] + [16 * k for k in range(1, 12)], 22, 64, gamma_shrink))
+# gamma(a) for a = 2 + g, then for a = 16 k + g, in g; the last row scaled down: scale, a and b of the factors.
+table("tgamma_rows", gamma_rows([2] + [16 * k for k in range(1, 12)], 22, 64, gamma_shrink))
 centre = mpf(float("1.46163214496836236"))
-polynomial_table("gamma between 1 and 1.25, in y - 1", "tgamma_from_1",
-                 polynomial(mp.gamma, 1, mpf("1.25"), 15, 1, "gamma from 1"))
-polynomial_table("gamma between 1.25 and 1.5, in the distance from its minimum", "tgamma_at_minimum",
-                 polynomial(mp.gamma, mpf("1.25"), mpf("1.5"), 15, centre, "gamma at its minimum"))
-polynomial_table("gamma between 1.5 and 2, in y - 1", "tgamma_to_2",
-                 polynomial(mp.gamma, mpf("1.5"), 2, 17, 1, "gamma to 2"))
-polynomial_table("(sin(pi t) / (pi t) - 1) / t^2 for t up to 1/2, in t^2", "tgamma_sine",
-                 polynomial(lambda s: (sine(s) - 1) / s, tiny, mpf("0.25"), 8, 0, "sine"))
-
-print("\n}  // namespace lanemath::special")
+# gamma between 1 and 1.25, in y - 1.
+polynomial_table("tgamma_from_1", polynomial(mp.gamma, 1, mpf("1.25"), 15, 1, "gamma from 1"))
+# gamma between 1.25 and 1.5, in the distance from its minimum.
+polynomial_table("tgamma_at_minimum", polynomial(mp.gamma, mpf("1.25"), mpf("1.5"), 15, centre, "gamma at its minimum"))
+# gamma between 1.5 and 2, in y - 1.
+polynomial_table("tgamma_to_2", polynomial(mp.gamma, mpf("1.5"), 2, 17, 1, "gamma to 2"))
+# (sin(pi t) / (pi t) - 1) / t^2 for t up to 1/2, in t^2.
+polynomial_table("tgamma_sine", polynomial(lambda s: (sine(s) - 1) / s, tiny, mpf("0.25"), 8, 0, "sine"))

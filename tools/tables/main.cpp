@@ -1,4 +1,5 @@
-// Writes the lookup tables of one family of operations as a C++ header, to standard output.
+// Writes the lookup tables of one family of operations as a C++ header, to standard output: those that a rule makes,
+// and those that were fitted, from the .fit files of a folder.
 #include <cstdio>
 #include <map>
 #include <string>
@@ -13,20 +14,52 @@ void write_invtrig_tables(table_writer&);
 void write_hyperbolic_tables(table_writer&);
 void write_roots_tables(table_writer&);
 void write_special_tables(table_writer&);
+void write_gamma_tables(table_writer&);
 
-int main(int argc, char** argv) {
-  const std::map<std::string, void (*)(table_writer&)> families{
-      {"exp", write_exp_tables},     {"log", write_log_tables},         {"pow", write_pow_tables},
-      {"trig", write_trig_tables},   {"invtrig", write_invtrig_tables}, {"hyperbolic", write_hyperbolic_tables},
-      {"roots", write_roots_tables}, {"special", write_special_tables},
-  };
-  const auto family = argc == 2 ? families.find(argv[1]) : families.end();
-  if (family == families.end()) {
-    fmt::print(stderr, "usage: {} FAMILY\nfamilies:", argv[0]);
-    for (const auto& [name, write] : families) fmt::print(stderr, " {}", name);
+namespace {
+
+struct family {
+  void (*write)(table_writer&);
+  std::string_view include = "frame/look_up.h", space = "lanemath";
+};
+
+const std::map<std::string, family> families{
+    {"exp", {write_exp_tables}},
+    {"log", {write_log_tables}},
+    {"pow", {write_pow_tables}},
+    {"trig", {write_trig_tables}},
+    {"invtrig", {write_invtrig_tables}},
+    {"hyperbolic", {write_hyperbolic_tables}},
+    {"roots", {write_roots_tables}},
+    {"special", {write_special_tables}},
+    {"gamma", {write_gamma_tables, "special/gamma_rows.h", "lanemath::special"}},
+};
+
+}  // namespace
+
+int main(int argc, char** argv) try {
+  const auto found = argc == 3 ? families.find(argv[1]) : families.end();
+  if (found == families.end()) {
+    fmt::print(stderr, "usage: {} FAMILY FOLDER-OF-FITS\nfamilies:", argv[0]);
+    for (const auto& [name, of] : families) fmt::print(stderr, " {}", name);
     fmt::print(stderr, "\n");
     return 2;
   }
-  table_writer out(stdout);
-  family->second(out);
+  const auto fits = read_fits(argv[2]);
+  const auto& [write, include, space] = found->second;
+  // Whole or not at all.
+  char* text;
+  std::size_t size;
+  std::FILE* memory = open_memstream(&text, &size);
+  if (!memory) throw std::runtime_error("no memory");
+  {
+    table_writer out(memory, fits, include, space);
+    write(out);
+  }
+  std::fclose(memory);
+  if (std::fwrite(text, 1, size, stdout) != size || std::fflush(stdout) != 0)
+    throw std::runtime_error("the header cannot be written");
+} catch (const std::exception& error) {
+  fmt::print(stderr, "lanemath-tables: {}\n", error.what());
+  return 1;
 }

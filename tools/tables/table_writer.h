@@ -1,4 +1,4 @@
-// What the table generator is written with: a real number of many bits, and a writer of C++ tables.
+// What the table generator is written with: a real number of many bits, fitted tables, and a writer of C++ tables.
 #pragma once
 
 #include <fmt/format.h>
@@ -7,10 +7,18 @@
 #include <array>
 #include <cstdint>
 #include <cstdio>
+#include <filesystem>
+#include <map>
+#include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
+#include <vector>
+
+// x87's format.
+using extended = long double;
 
 // A number of 512 bits: far more than any table needs, so that rounding it once is rounding the exact value.
 struct real {
@@ -29,6 +37,8 @@ struct real {
   T nearest() const {
     if constexpr (std::is_same_v<T, float>)
       return mpfr_get_flt(v, MPFR_RNDN);
+    else if constexpr (std::is_same_v<T, extended>)
+      return mpfr_get_ld(v, MPFR_RNDN);
     else
       return mpfr_get_d(v, MPFR_RNDN);
   }
@@ -72,15 +82,28 @@ std::pair<T, T> split(const real& x, int bits, function rounding = mpfr_rint_rou
   return {hi, (x - real(hi)).nearest<T>()};
 }
 
+// A fitted table: rows of numbers, not all of one length in some tables.
+using fitted_rows = std::vector<std::vector<real>>;
+using fitted_tables = std::map<std::string, fitted_rows, std::less<>>;
+
+// Those of all .fit files of a folder: a line with a name, then a row a line.
+fitted_tables read_fits(const std::filesystem::path& folder);
+
 // Writes tables as C++ arrays, their entries as hexadecimal floating literals.
 class table_writer {
  public:
-  explicit table_writer(std::FILE* to) : to_(to) {
-    fmt::print(to_,
-               "// Made by the table generator.\n#pragma once\n\n#include \"frame/look_up.h\"\n\n"
-               "namespace lanemath {{\n");
+  table_writer(std::FILE* to, const fitted_tables& fits, std::string_view include, std::string_view space)
+      : to_(to), fits_(fits), space_(space) {
+    fmt::print(to_, "// Made by the table generator.\n#pragma once\n\n#include \"{}\"\n\nnamespace {} {{\n", include,
+               space);
   }
-  ~table_writer() { fmt::print(to_, "\n}}  // namespace lanemath\n"); }
+  ~table_writer() { fmt::print(to_, "\n}}  // namespace {}\n", space_); }
+
+  const fitted_rows& fit(std::string_view name) const {
+    const auto found = fits_.find(name);
+    if (found == fits_.end()) throw std::runtime_error(fmt::format("no fitted table {}", name));
+    return found->second;
+  }
 
   // entry(j) is a value.
   template <class T, class F>
@@ -106,6 +129,45 @@ class table_writer {
       return fmt::format("{{{}}}", text);
     });
   }
+  // A fitted table as it is.
+  template <class T, std::size_t Columns>
+  void fitted(std::string_view name, std::string_view meaning) {
+    fitted(name, meaning, type<T>(), fmt::format("[{}]", Columns), Columns,
+           [](std::span<const real> row) { return numbers<T>(row); });
+  }
+  // One with rows of any shape; text(row) gives the row's initialiser, `dimension` is that of a row.
+  template <class F>
+  void fitted(std::string_view name, std::string_view meaning, std::string_view of, std::string_view dimension,
+              std::size_t columns, F text) {
+    const auto& rows = fit(name);
+    for (const auto& row : rows)
+      if (columns != 0 && row.size() != columns)
+        throw std::runtime_error(fmt::format("{}: a row of {} numbers, not {}", name, row.size(), columns));
+    table(fmt::format("{}[{}]{}", name, rows.size(), dimension), meaning, of, int(rows.size()),
+          [&](int j) { return text(std::span(rows[j])); });
+  }
+  // A fitted table of one row as an array.
+  template <class T>
+  void polynomial(std::string_view name, std::string_view meaning) {
+    const auto& rows = fit(name);
+    if (rows.size() != 1) throw std::runtime_error(fmt::format("{}: {} rows, not one", name, rows.size()));
+    values<T>(name, meaning, int(rows[0].size()), [&](int j) { return rows[0][j].template nearest<T>(); });
+  }
+  template <class T>
+  static std::string literal(T value) {
+    constexpr std::string_view suffix = std::is_same_v<T, float> ? "f" : std::is_same_v<T, extended> ? "L" : "";
+    if constexpr (std::is_integral_v<T>)
+      return fmt::format("{:#x}", value);
+    else
+      return fmt::format("{:a}{}", value, suffix);
+  }
+  // An initialiser of an array.
+  template <class T>
+  static std::string numbers(std::span<const real> row) {
+    std::string text;
+    for (const auto& value : row) text += (text.empty() ? "" : ", ") + literal(value.nearest<T>());
+    return fmt::format("{{{}}}", text);
+  }
   // entry(j) is a tuple of three.
   template <class T, class F>
   void triples(std::string_view name, std::string_view meaning, int size, F entry) {
@@ -129,15 +191,9 @@ class table_writer {
   static constexpr std::string_view type() {
     if constexpr (std::is_same_v<T, float>) return "float";
     if constexpr (std::is_same_v<T, double>) return "double";
+    if constexpr (std::is_same_v<T, extended>) return "extended";
     if constexpr (std::is_same_v<T, std::uint32_t>) return "std::uint32_t";
     if constexpr (std::is_same_v<T, std::uint64_t>) return "std::uint64_t";
-  }
-  template <class T>
-  static std::string literal(T value) {
-    if constexpr (std::is_integral_v<T>)
-      return fmt::format("{:#x}", value);
-    else
-      return fmt::format("{:a}{}", value, std::is_same_v<T, float> ? "f" : "");
   }
   template <class F>
   void table(std::string_view declarator, std::string_view meaning, std::string_view of, int size, F entry) {
@@ -147,4 +203,6 @@ class table_writer {
   }
 
   std::FILE* to_;
+  const fitted_tables& fits_;
+  std::string_view space_;
 };

@@ -2,7 +2,6 @@
 // the sine and cosine of evenly spaced angles.
 #include <gmp.h>
 
-#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <iterator>
@@ -93,14 +92,9 @@ std::array<T, 4> step_of_pi(int j) {
   return {high, (value - real(high)).template nearest<T>(), head, (slope - real(head)).template nearest<T>()};
 }
 
-// Columns c3 to c9 of the tangent's expansions, by step.
-constexpr float tangent_fit[128][7] = {
-#include "../fits/tangent.inc"
-};
-
 // The tangent's expansion about step j of 128 in half a turn; next to the pole that of what is left of it when the
-// pole's term is taken off.
-std::array<float, 12> tangent_step(int j) {
+// pole's term is taken off. `fit` is c3 to c9.
+std::array<float, 12> tangent_step(int j, const std::vector<real>& fit) {
   real pi;
   mpfr_const_pi(pi.v, MPFR_RNDN);
   const real theta = pi * real(j < 64 ? j : j - 128) / real(128);
@@ -108,7 +102,7 @@ std::array<float, 12> tangent_step(int j) {
   std::array<float, 12> row{pole.nearest<float>()};
   row[1] = (pole - real(row[0])).nearest<float>();
   row[2] = j >= 32 && j <= 95;
-  std::copy(std::begin(tangent_fit[j]), std::end(tangent_fit[j]), row.begin() + 3);
+  for (int i = 0; i < 7; ++i) row[3 + i] = fit.at(i).nearest<float>();
   return row;
 }
 
@@ -167,5 +161,5 @@ void write_trig_tables(table_writer& out) {
       "tangent_128",
       "By step j of 128 in half a turn: distance to the pole and its low part, 1 next to the pole, value and its low "
       "part, a power of two near the slope and the rest, terms of degree 2, 3, 4; two columns that nothing reads",
-      128, tangent_step);
+      128, [&](int j) { return tangent_step(j, out.fit("tangent_expansions").at(j)); });
 }

@@ -1,0 +1,22 @@
+// The rows of the gamma functions' fitted tables.
+#pragma once
+
+#include "frame/lanes.h"
+#include "special/extended.h"
+
+namespace lanemath::special {
+
+// Where log-gamma is zero: a window, and a cubic about its middle, highest power first.
+struct lgammaf_root {
+  double low, root, high;
+  double c[4];
+};
+
+// The same with a polynomial.
+struct lgamma_root {
+  double low, root, high;
+  int degree;
+  extended c[20];
+};
+
+}  // namespace lanemath::special
