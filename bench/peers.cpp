@@ -11,7 +11,7 @@
 namespace lanemath::bench {
 namespace {
 
-enum class accuracy : std::uint8_t { full, light };
+enum class accuracy : std::uint8_t { full, reduced };
 
 struct row {
   std::string_view operation;
@@ -41,66 +41,66 @@ peer peer_of(std::string_view name, F* f) {
   SLEEF_FUNCTION(#operation, accuracy, Sleef_##stem##d2_##bound), \
       SLEEF_FUNCTION(#operation "f", accuracy, Sleef_##stem##f4_##bound)
 #define SLEEF(operation, stem, bound) SLEEF_BOTH(operation, accuracy::full, stem, bound)
-#define SLEEF_LIGHT(operation, stem, bound) SLEEF_BOTH(operation, accuracy::light, stem, bound)
+#define SLEEF_REDUCED(operation, stem, bound) SLEEF_BOTH(operation, accuracy::reduced, stem, bound)
 
 const row sleef_rows[] = {
     SLEEF(exp, exp, u10sse4),
     SLEEF(exp2, exp2, u10sse4),
-    SLEEF_LIGHT(exp2, exp2, u35sse4),
+    SLEEF_REDUCED(exp2, exp2, u35sse4),
     SLEEF(exp10, exp10, u10sse4),
-    SLEEF_LIGHT(exp10, exp10, u35sse4),
+    SLEEF_REDUCED(exp10, exp10, u35sse4),
     SLEEF(expm1, expm1, u10sse4),
 
     SLEEF(log, log, u10sse4),
-    SLEEF_LIGHT(log, log, u35sse4),
+    SLEEF_REDUCED(log, log, u35sse4),
     SLEEF(log2, log2, u10sse4),
-    SLEEF_LIGHT(log2, log2, u35sse4),
+    SLEEF_REDUCED(log2, log2, u35sse4),
     SLEEF(log10, log10, u10sse4),
     SLEEF(log1p, log1p, u10sse4),
 
     SLEEF(pow, pow, u10sse4),
-    SLEEF_FUNCTION("powf", accuracy::light, Sleef_fastpowf4_u3500sse4),
+    SLEEF_FUNCTION("powf", accuracy::reduced, Sleef_fastpowf4_u3500sse4),
     SLEEF(powr, pow, u10sse4),
-    SLEEF_FUNCTION("powrf", accuracy::light, Sleef_fastpowf4_u3500sse4),
+    SLEEF_FUNCTION("powrf", accuracy::reduced, Sleef_fastpowf4_u3500sse4),
 
     SLEEF(sin, sin, u10sse4),
-    SLEEF_LIGHT(sin, sin, u35sse4),
+    SLEEF_REDUCED(sin, sin, u35sse4),
     SLEEF(cos, cos, u10sse4),
-    SLEEF_LIGHT(cos, cos, u35sse4),
+    SLEEF_REDUCED(cos, cos, u35sse4),
     SLEEF(sincos, sincos, u10sse4),
-    SLEEF_LIGHT(sincos, sincos, u35sse4),
+    SLEEF_REDUCED(sincos, sincos, u35sse4),
     SLEEF(sincosreg, sincos, u10sse4),
-    SLEEF_LIGHT(sincosreg, sincos, u35sse4),
+    SLEEF_REDUCED(sincosreg, sincos, u35sse4),
     SLEEF(tan, tan, u10sse4),
-    SLEEF_LIGHT(tan, tan, u35sse4),
+    SLEEF_REDUCED(tan, tan, u35sse4),
     SLEEF(sinpi, sinpi, u05sse4),
     SLEEF(cospi, cospi, u05sse4),
 
     SLEEF(asin, asin, u10sse4),
-    SLEEF_LIGHT(asin, asin, u35sse4),
+    SLEEF_REDUCED(asin, asin, u35sse4),
     SLEEF(acos, acos, u10sse4),
-    SLEEF_LIGHT(acos, acos, u35sse4),
+    SLEEF_REDUCED(acos, acos, u35sse4),
     SLEEF(atan, atan, u10sse4),
-    SLEEF_LIGHT(atan, atan, u35sse4),
+    SLEEF_REDUCED(atan, atan, u35sse4),
     SLEEF(atan2, atan2, u10sse4),
-    SLEEF_LIGHT(atan2, atan2, u35sse4),
+    SLEEF_REDUCED(atan2, atan2, u35sse4),
 
     SLEEF(sinh, sinh, u10sse4),
-    SLEEF_LIGHT(sinh, sinh, u35sse4),
+    SLEEF_REDUCED(sinh, sinh, u35sse4),
     SLEEF(cosh, cosh, u10sse4),
-    SLEEF_LIGHT(cosh, cosh, u35sse4),
+    SLEEF_REDUCED(cosh, cosh, u35sse4),
     SLEEF(tanh, tanh, u10sse4),
-    SLEEF_LIGHT(tanh, tanh, u35sse4),
+    SLEEF_REDUCED(tanh, tanh, u35sse4),
     SLEEF(asinh, asinh, u10sse4),
     SLEEF(acosh, acosh, u10sse4),
     SLEEF(atanh, atanh, u10sse4),
 
     SLEEF(sqrt, sqrt, u05sse4),
-    SLEEF_LIGHT(sqrt, sqrt, u35sse4),
+    SLEEF_REDUCED(sqrt, sqrt, u35sse4),
     SLEEF(cbrt, cbrt, u10sse4),
-    SLEEF_LIGHT(cbrt, cbrt, u35sse4),
+    SLEEF_REDUCED(cbrt, cbrt, u35sse4),
     SLEEF(hypot, hypot, u05sse4),
-    SLEEF_LIGHT(hypot, hypot, u35sse4),
+    SLEEF_REDUCED(hypot, hypot, u35sse4),
 
     SLEEF(erf, erf, u10sse4),
     SLEEF(erfc, erfc, u15sse4),
@@ -225,8 +225,8 @@ std::optional<peer> find(const row (&rows)[Size], std::string_view operation, ac
 }  // namespace
 
 std::optional<peer> sleef(const operation& o, variant v) {
-  const bool light = v == variant::native || v == variant::half;
-  if (const auto found = find(sleef_rows, o.name(), light ? accuracy::light : accuracy::full)) return found;
+  const bool reduced = v == variant::native || v == variant::half;
+  if (const auto found = find(sleef_rows, o.name(), reduced ? accuracy::reduced : accuracy::full)) return found;
   return find(sleef_rows, o.name(), accuracy::full);
 }
 

@@ -16,7 +16,7 @@ struct peer {
   std::optional<harness::function> latency;  // of scalar functions
 };
 
-// SLEEF's 128-bit function: of its lighter class (mostly 3.5 ulp) for the _native and _half variants where it has one.
+// SLEEF's 128-bit function: of its less accurate class (mostly 3.5 ulp) for the _native and _half variants where it has one.
 std::optional<peer> sleef(const operation& o, variant v);
 
 // The C library's scalar function.

@@ -84,7 +84,7 @@ struct exp_native : exp_guards {
 
 // The default form at width 2.
 
-struct exp_at_2_rows {
+struct exp_width_2_rows {
   double K;       // 64 / ln 2
   double S;       // shifter, 1.5 * 2^52
   double L1, L2;  // ln 2 / 64, high and low part
@@ -92,7 +92,7 @@ struct exp_at_2_rows {
   double DOWN_200, UP_200;  // 2^-200, 2^200
   double TINY, HUGE_ONE;    // whose squares are beyond the range
 };
-constexpr exp_at_2_rows exp_at_2_table{
+constexpr exp_width_2_rows exp_width_2_table{
     .K = 0x40571547652B82FE_f64,
     .S = 0x4338000000000000_f64,
     .L1 = 0x3F862E42FEE00000_f64,
@@ -107,12 +107,12 @@ constexpr exp_at_2_rows exp_at_2_table{
     .HUGE_ONE = 0x7FE0000000000000_f64,
 };
 
-struct exp_at_2 {
+struct exp_width_2 {
   using signature = double(double);
 
   template <class V>
   static V kernel(V x) {
-    constexpr auto& c = exp_at_2_table;
+    constexpr auto& c = exp_width_2_table;
     const V y = x * c.K;
     const V t = c.S + y;
     const V m = round_to<direction::nearest>(y);
@@ -148,7 +148,7 @@ struct exp_at_2 {
 }  // namespace
 
 LANEMATH_EXPORT_BUT(2, exp, exp_standard)
-LANEMATH_EXPORT_AT(2, exp, exp_at_2)
+LANEMATH_EXPORT_AT(2, exp, exp_width_2)
 LANEMATH_EXPORT(exp, exp_native, _native)
 
 }  // namespace lanemath

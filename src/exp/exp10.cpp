@@ -31,9 +31,9 @@ constexpr exp10_rows exp10_table{
 };
 
 constexpr double LOG2T = 0x400A934F0979A371_f64;  // log2(10)
-constexpr double light_polynomial[] = {0x3F241D33368291C7_f64, 0x3F55F456A8C99BD5_f64, 0x3F83B2DBBC1073AF_f64,
-                                       0x3FAC6AED4B94D44A_f64, 0x3FCEBFBDADCB0A4D_f64, 0x3FE62E430C7E9264_f64,
-                                       0x3FF0000000261501_f64};
+constexpr double native_polynomial[] = {0x3F241D33368291C7_f64, 0x3F55F456A8C99BD5_f64, 0x3F83B2DBBC1073AF_f64,
+                                        0x3FAC6AED4B94D44A_f64, 0x3FCEBFBDADCB0A4D_f64, 0x3FE62E430C7E9264_f64,
+                                        0x3FF0000000261501_f64};
 
 constexpr std::int32_t RARE = 0x40733A70;  // upper half, about 307.65
 
@@ -64,7 +64,7 @@ struct exp10_standard : exp10_guards {
 struct exp10_native : exp10_guards {
   template <class V>
   static V kernel(V x) {
-    return exp2_by_polynomial(x * LOG2T, 0x4338800000000000_f64, light_polynomial);
+    return exp2_by_polynomial(x * LOG2T, 0x4338800000000000_f64, native_polynomial);
   }
 };
 

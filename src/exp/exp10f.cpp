@@ -1,7 +1,7 @@
 // 10^x, single precision.
 //
 // Default: x = (n / 128) log10(2) + r; 2^(j/128) from a table of high and low parts, 10^r by a quadratic, the
-// power of two added to the exponent field. Light form (_native, _half, _rm): 2^(x log2(10)) by a cubic over a
+// power of two added to the exponent field. The native form (_half, _rm too): 2^(x log2(10)) by a cubic over a
 // whole binade. Rare lanes in double.
 #include "exp/exponential_rare.h"
 
@@ -65,7 +65,7 @@ struct exp10f_standard : exp10f_guards {
 struct exp10f_native : exp10f_guards {
   template <class V>
   static V kernel(V x) {
-    return exp2_by_polynomial(x * LOG2T, integer_shifter<float>, light_exp2_cubic);
+    return exp2_by_polynomial(x * LOG2T, integer_shifter<float>, native_exp2_cubic);
   }
 };
 

@@ -23,9 +23,9 @@ constexpr exp2_rows exp2_table{
     .JMASK = 0x7F,
 };
 
-constexpr double light_polynomial[] = {0x3F241D3336B2AE61_f64, 0x3F55F456A8ADF058_f64, 0x3F83B2DBBC0FE08E_f64,
-                                       0x3FAC6AED4B950AE1_f64, 0x3FCEBFBDADCB0BA8_f64, 0x3FE62E430C7E923C_f64,
-                                       0x3FF0000000261500_f64};
+constexpr double native_polynomial[] = {0x3F241D3336B2AE61_f64, 0x3F55F456A8ADF058_f64, 0x3F83B2DBBC0FE08E_f64,
+                                        0x3FAC6AED4B950AE1_f64, 0x3FCEBFBDADCB0BA8_f64, 0x3FE62E430C7E923C_f64,
+                                        0x3FF0000000261500_f64};
 
 constexpr std::int32_t RARE = 0x408FEFFF;  // upper half, just under 1022
 
@@ -70,17 +70,17 @@ struct exp2_standard : exp2_guards {
 struct exp2_native : exp2_guards {
   template <class V>
   static V kernel(V x) {
-    return exp2_by_polynomial(x, integer_shifter<double>, light_polynomial);
+    return exp2_by_polynomial(x, integer_shifter<double>, native_polynomial);
   }
 };
 
 // The default form at width 2.
 
-struct exp22_rows {
+struct exp2_width_2_rows {
   double S2;  // shifter that leaves 7 fraction bits
   double G1, G2, G3, G4;
 };
-constexpr exp22_rows exp22_table{
+constexpr exp2_width_2_rows exp2_width_2_table{
     .S2 = 0x42C8000000000000_f64,
     .G1 = 0x3FE62E42FEFA3685_f64,
     .G2 = 0x3FCEBFBDFF82D099_f64,
@@ -89,10 +89,10 @@ constexpr exp22_rows exp22_table{
 };
 
 template <class V>
-struct exp22_reduction {
+struct exp2_width_2_reduction {
   V t, p;
-  explicit exp22_reduction(V x) {
-    constexpr auto& c = exp22_table;
+  explicit exp2_width_2_reduction(V x) {
+    constexpr auto& c = exp2_width_2_table;
     t = c.S2 + x;
     const V f = (c.S2 - t) + x;
     const V s = f * f;
@@ -103,7 +103,7 @@ struct exp22_reduction {
 };
 
 // On the upper half of the pattern. Any NaN comes back as one and the same.
-LANEMATH_RARE exp22_lane(const double* px, double* py) {
+LANEMATH_RARE exp2_width_2_lane(const double* px, double* py) {
   using scalar = lanes<double, 1>;
   const double x = *px;
   const auto pattern = pattern_of(x);
@@ -124,18 +124,18 @@ LANEMATH_RARE exp22_lane(const double* px, double* py) {
     shift = -1.0;
     factor = 2.0;
   }
-  const auto [t, p] = exp22_reduction(scalar(x + shift));
+  const auto [t, p] = exp2_width_2_reduction(scalar(x + shift));
   const scalar e = from_bits(((bits(t) + 0x1FF80) & 0x3FF80) << 45);
   *py = ((p * (look_up(exp2_128_double, lower(t) & 0x7F) * e)) * factor).g[0];
   return status::ordinary;
 }
 
-struct exp22 : rare_above<double(double), exp22_lane, 0x408FF000> {  // 1022
+struct exp2_width_2 : rare_above<double(double), exp2_width_2_lane, 0x408FF000> {  // 1022
   static constexpr bool one_marks_all = true;
 
   template <class V>
   static V kernel(V x) {
-    const auto [t, p] = exp22_reduction(x);
+    const auto [t, p] = exp2_width_2_reduction(x);
     const V e = from_bits(((bits(t) + 0x1FF80) >> 7) << 52);
     return (look_up(exp2_128_double, lower(t) & 0x7F) * e) * p;
   }
@@ -144,7 +144,7 @@ struct exp22 : rare_above<double(double), exp22_lane, 0x408FF000> {  // 1022
 }  // namespace
 
 LANEMATH_EXPORT_BUT(2, exp2, exp2_standard)
-LANEMATH_EXPORT_AT(2, exp2, exp22)
+LANEMATH_EXPORT_AT(2, exp2, exp2_width_2)
 LANEMATH_EXPORT(exp2, exp2_native, _native)
 
 }  // namespace lanemath

@@ -1,7 +1,7 @@
 // 2^x, single precision.
 //
 // Frame kernel (_rm, and the default at widths 2, 3, 8 and 16): x = n + f, 2^f by a polynomial of degree 6, n
-// added to the exponent field. Light form (_native, _half): a cubic whose constant term is not 1. The default
+// added to the exponent field. The native form (_half too): a cubic whose constant term is not 1. The default
 // form at width 1 works in double with a table of 256 entries; at width 4 with a table of 64 entries and a
 // monic quadratic. Rare lanes in double.
 #include "exp/exponential_rare.h"
@@ -33,7 +33,7 @@ LANEMATH_RARE exp2f_rare(const float* px, float* py) {
 
 using exp2f_guards = rare_above<float(float), exp2f_rare, RARE>;
 
-struct exp2f_frame : exp2f_guards {
+struct exp2f_standard : exp2f_guards {
   template <class V>
   static V kernel(V x) {
     return exp2_by_polynomial(x, integer_shifter<float>, exp2f_polynomial);
@@ -43,12 +43,12 @@ struct exp2f_frame : exp2f_guards {
 struct exp2f_native : exp2f_guards {
   template <class V>
   static V kernel(V x) {
-    return exp2_by_polynomial(x, integer_shifter<float>, light_exp2_cubic);
+    return exp2_by_polynomial(x, integer_shifter<float>, native_exp2_cubic);
   }
 };
 
 // The default form at width 1.
-struct exp2f1 {
+struct exp2f_width_1 {
   using signature = float(float);
 
   static lanes<float, 1> kernel(lanes<float, 1> lane) {
@@ -82,11 +82,11 @@ struct exp2f1 {
 
 // The default form at width 4.
 
-struct exp2f4_rows {
+struct exp2f_width_4_rows {
   float S2;      // shifter that leaves 6 fraction bits, 1.5 * 2^17
   float Q1, Q0;  // monic quadratic
 };
-constexpr exp2f4_rows exp2f4_table{.S2 = 0x48400000_f32, .Q1 = 0x4038AA68_f32, .Q0 = 0x40853526_f32};
+constexpr exp2f_width_4_rows exp2f_width_4_table{.S2 = 0x48400000_f32, .Q1 = 0x4038AA68_f32, .Q0 = 0x40853526_f32};
 
 template <class V>
 V flush_denormals(V x) {
@@ -96,7 +96,7 @@ V flush_denormals(V x) {
 // One lane, on bit patterns: a NaN comes back as it is.
 LANEMATH_RARE exp2f_lane(const float* px, float* py) {
   using scalar = lanes<float, 1>;
-  constexpr auto& c = exp2f4_table;
+  constexpr auto& c = exp2f_width_4_table;
   const scalar x = flush_denormals(scalar(*px));
   const auto pattern = std::bit_cast<std::int32_t>(x.g[0]);
   const auto magnitudes = std::uint32_t(pattern);           // orders the negative values by magnitude
@@ -125,12 +125,12 @@ LANEMATH_RARE exp2f_lane(const float* px, float* py) {
   return status::ordinary;
 }
 
-struct exp2f4 : rare_above<float(float), exp2f_lane, 0x42F70000> {  // 123.5
+struct exp2f_width_4 : rare_above<float(float), exp2f_lane, 0x42F70000> {  // 123.5
   static constexpr bool one_marks_all = true;
 
   template <class V>
   static V kernel(V x) {
-    constexpr auto& c = exp2f4_table;
+    constexpr auto& c = exp2f_width_4_table;
     const V d = flush_denormals(x);
     const V t = c.S2 + x;
     const V f = (c.S2 - t) + d;
@@ -143,14 +143,14 @@ struct exp2f4 : rare_above<float(float), exp2f_lane, 0x42F70000> {  // 123.5
 
 }  // namespace
 
-LANEMATH_EXPORT(exp2f, exp2f_frame, _rm)
+LANEMATH_EXPORT(exp2f, exp2f_standard, _rm)
 LANEMATH_EXPORT(exp2f, exp2f_native, _native)
 LANEMATH_SAME(exp2f, _native, _half)
 
-LANEMATH_EXPORT_AT(1, exp2f, exp2f1)
+LANEMATH_EXPORT_AT(1, exp2f, exp2f_width_1)
 LANEMATH_SAME_AT(2, exp2f, _rm, )
 LANEMATH_SAME_AT(3, exp2f, _rm, )
-LANEMATH_EXPORT_AT(4, exp2f, exp2f4)
+LANEMATH_EXPORT_AT(4, exp2f, exp2f_width_4)
 LANEMATH_SAME_AT(8, exp2f, _rm, )
 LANEMATH_SAME_AT(16, exp2f, _rm, )
 

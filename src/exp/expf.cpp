@@ -1,7 +1,7 @@
 // e^x, single precision.
 //
 // Default: x = (n / 128) ln 2 + r; 2^(j/128) from a table of high and low parts, e^r by a quadratic, the power
-// of two by a multiplication. Light form (_native, _half): a cubic over a whole binade. _rm: ln 2 in two parts
+// of two by a multiplication. The native form (_half too): a cubic over a whole binade. _rm: ln 2 in two parts
 // and a quintic, no table. Rare lanes in double.
 #include "exp/exponential_rare.h"
 
@@ -30,7 +30,7 @@ constexpr expf_rows expf_table{
 
 constexpr float LOG2E = 0x3FB8AA3B_f32;  // 1 / ln 2
 
-constexpr float light_polynomial[] = {0x3D63582B_f32, 0x3E77D66A_f32, 0x3F317422_f32, 1.0f};
+constexpr float native_polynomial[] = {0x3D63582B_f32, 0x3E77D66A_f32, 0x3F317422_f32, 1.0f};
 
 struct expf_rm_rows {
   float S;     // shifter
@@ -82,7 +82,7 @@ struct expf_standard : expf_guards {
 struct expf_native : expf_guards {
   template <class V>
   static V kernel(V x) {
-    return exp2_by_polynomial(x * LOG2E, integer_shifter<float>, light_polynomial);
+    return exp2_by_polynomial(x * LOG2E, integer_shifter<float>, native_polynomial);
   }
 };
 

@@ -71,7 +71,7 @@ struct expm1_native : expm1_guards {
     const V r = x - c.L * n;
     const expm1_power<V> power(n, c.at);
     const V p = r + (c.C3 * r + c.C2) * (r * r);
-    return light_expm1_sum(x, power.times(look_up(expm1_native_128, power.j)), p);
+    return native_expm1_sum(x, power.times(look_up(expm1_native_128, power.j)), p);
   }
 };
 

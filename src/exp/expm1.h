@@ -47,7 +47,7 @@ V expm1_sum(V x, V v, V u, V p) {
 }
 // From the power of two in one part.
 template <class V>
-V light_expm1_sum(V x, V v, V p) {
+V native_expm1_sum(V x, V v, V p) {
   return with_bits(v * p + (v + minus_one<V>), sign_of(x));
 }
 

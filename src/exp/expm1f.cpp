@@ -67,7 +67,7 @@ struct expm1f_native : expm1f_guards {
     const V r = x - c.L * n;
     const expm1_power<V> power(n, c.at);
     const V p = r + (r * r) * c.C2;
-    return light_expm1_sum(x, power.times(look_up(expm1f_native_32, power.j)), p);
+    return native_expm1_sum(x, power.times(look_up(expm1f_native_32, power.j)), p);
   }
 };
 

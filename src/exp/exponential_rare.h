@@ -9,8 +9,8 @@
 
 namespace lanemath {
 
-// 2^y by one polynomial over a whole binade, no table: the light kernels. The shifter's sum has y rounded to an integer
-// in its low bits, which are added to the exponent field of the polynomial's.
+// 2^y by one polynomial over a whole binade, no table: the native kernels. The shifter's sum has y rounded to an
+// integer in its low bits, which are added to the exponent field of the polynomial's.
 template <class V, class T, std::size_t N>
 LANEMATH_INLINE V exp2_by_polynomial(V y, T shifter, const T (&c)[N]) {
   const V t = y + shifter;
@@ -20,7 +20,7 @@ LANEMATH_INLINE V exp2_by_polynomial(V y, T shifter, const T (&c)[N]) {
 
 // The cubic of exp2f and exp10f, fitted over the whole interval: the constant term is not 1, and so not even integers
 // give exact powers.
-inline constexpr float light_exp2_cubic[] = {0x3D61FBCC_f32, 0x3E786F13_f32, 0x3F31798D_f32, 0x3F7FFB49_f32};
+inline constexpr float native_exp2_cubic[] = {0x3D61FBCC_f32, 0x3E786F13_f32, 0x3F31798D_f32, 0x3F7FFB49_f32};
 
 // Settles the lanes beyond the range of the results: infinite above one bound, zero below the other.
 template <class V, class M, class T>

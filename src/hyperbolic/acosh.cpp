@@ -41,9 +41,9 @@ struct acosh_form {
   }
 };
 using acoshf_standard = acosh_form<float, acoshf_rare, polish_single, logarithm<float>>;
-using acoshf_native = acosh_form<float, acoshf_rare, light_polish_single, light_logarithm<float>>;
+using acoshf_native = acosh_form<float, acoshf_rare, native_polish_single, native_logarithm<float>>;
 using acosh_standard = acosh_form<double, acosh_rare, acosh_polish, logarithm<double>>;
-using acosh_native = acosh_form<double, acosh_rare, acosh_polish, light_logarithm<double>>;
+using acosh_native = acosh_form<double, acosh_rare, acosh_polish, native_logarithm<double>>;
 
 // Moves patterns, so that a NaN comes back as it is.
 LANEMATH_RARE acoshf_lane(const float* px, float* py) {
@@ -76,18 +76,18 @@ LANEMATH_RARE acosh_lane(const double* px, double* py) {
   return status::ordinary;
 }
 
-using acoshf4 = standalone_acosh<float, acoshf_lane, 0x3FC00000>;
-using acosh2 = standalone_acosh<double, acosh_lane, IN_RANGE>;
+using acoshf_width_4 = standalone_acosh<float, acoshf_lane, 0x3FC00000>;
+using acosh_width_2 = standalone_acosh<double, acosh_lane, IN_RANGE>;
 
 }  // namespace
 
 LANEMATH_EXPORT_BUT(4, acoshf, acoshf_standard)
-LANEMATH_EXPORT_AT(4, acoshf, acoshf4)
+LANEMATH_EXPORT_AT(4, acoshf, acoshf_width_4)
 LANEMATH_EXPORT_BUT(4, acoshf, acoshf_native, _native)
 LANEMATH_SAME_AT(4, acoshf, , _native)
 
 LANEMATH_EXPORT_BUT(2, acosh, acosh_standard)
-LANEMATH_EXPORT_AT(2, acosh, acosh2)
+LANEMATH_EXPORT_AT(2, acosh, acosh_width_2)
 LANEMATH_EXPORT_BUT(2, acosh, acosh_native, _native)
 LANEMATH_SAME_AT(2, acosh, , _native)
 

@@ -59,9 +59,9 @@ struct asinh_form : rare_above<T(T), Routine, Largest> {
   }
 };
 using asinhf_standard = asinh_form<float, asinhf_rare, 0x7F7FFFFF, logarithm<float>>;
-using asinhf_native = asinh_form<float, asinhf_rare, 0x7F7FFFFF, light_logarithm<float>>;
+using asinhf_native = asinh_form<float, asinhf_rare, 0x7F7FFFFF, native_logarithm<float>>;
 using asinh_standard = asinh_form<double, asinh_rare, 0x7FEFFFFF, logarithm<double>>;
-using asinh_native = asinh_form<double, asinh_rare, 0x7FEFFFFF, light_logarithm<double>>;
+using asinh_native = asinh_form<double, asinh_rare, 0x7FEFFFFF, native_logarithm<double>>;
 
 // Moves patterns, so that a NaN comes back as it is; so do numbers below 2^-28.
 LANEMATH_RARE asinhf_lane(const float* px, float* py) {
@@ -90,18 +90,18 @@ LANEMATH_RARE asinh_lane(const double* px, double* py) {
   return status::ordinary;
 }
 
-using asinhf4 = standalone_asinh<float, asinhf_lane, 0x3F800000>;
-using asinh2 = standalone_asinh<double, asinh_lane, 0x3FF00000>;
+using asinhf_width_4 = standalone_asinh<float, asinhf_lane, 0x3F800000>;
+using asinh_width_2 = standalone_asinh<double, asinh_lane, 0x3FF00000>;
 
 }  // namespace
 
 LANEMATH_EXPORT_BUT(4, asinhf, asinhf_standard)
-LANEMATH_EXPORT_AT(4, asinhf, asinhf4)
+LANEMATH_EXPORT_AT(4, asinhf, asinhf_width_4)
 LANEMATH_EXPORT_BUT(4, asinhf, asinhf_native, _native)
 LANEMATH_SAME_AT(4, asinhf, , _native)
 
 LANEMATH_EXPORT_BUT(2, asinh, asinh_standard)
-LANEMATH_EXPORT_AT(2, asinh, asinh2)
+LANEMATH_EXPORT_AT(2, asinh, asinh_width_2)
 LANEMATH_EXPORT_BUT(2, asinh, asinh_native, _native)
 LANEMATH_SAME_AT(2, asinh, , _native)
 

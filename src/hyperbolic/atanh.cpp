@@ -52,9 +52,9 @@ struct atanh_form : rare_above<T(T), Routine, Below> {
   }
 };
 using atanhf_standard = atanh_form<float, atanhf_rare, 0x3F7FFFFF, logarithm<float>>;
-using atanhf_native = atanh_form<float, atanhf_rare, 0x3F7FFFFF, light_logarithm<float>>;
+using atanhf_native = atanh_form<float, atanhf_rare, 0x3F7FFFFF, native_logarithm<float>>;
 using atanh_standard = atanh_form<double, atanh_rare, 0x3FEFFFFF, logarithm<double>>;
-using atanh_native = atanh_form<double, atanh_rare, 0x3FEFFFFF, light_logarithm<double>>;
+using atanh_native = atanh_form<double, atanh_rare, 0x3FEFFFFF, native_logarithm<double>>;
 
 }  // namespace
 

@@ -57,7 +57,7 @@ constexpr auto& inverse_rows_of() {
 
 // 1 / sqrt(1 - e) - 1 = e / 2 + 3/8 e^2 + ..., divided by e.
 inline constexpr float polish_single[] = {0.3125f, 0.375f, 0.5f};
-inline constexpr float light_polish_single[] = {0.5f};
+inline constexpr float native_polish_single[] = {0.5f};
 inline constexpr double acosh_polish[] = {0.2734375, 0.3125, 0.375, 0.5};
 inline constexpr double asinh_polish[] = {0.24609375, 0.2734375, 0.3125, 0.375, 0.5};
 
@@ -102,7 +102,7 @@ struct single_logarithm {
     return convert<float>(k) * LN2_F32 + y;
   }
 };
-template <bool Light>
+template <bool Native>
 struct double_logarithm {
   template <class V, class... M>
   LANEMATH_INLINE static V of(V m, V err, M... scaled) {
@@ -116,7 +116,7 @@ struct double_logarithm {
     const V lo = e - (z - z0);
     const V s = z * z;
     V y = c.P3 * z + c.P2;
-    if constexpr (!Light) y = (c.P5 * z + c.P4) * s + y;
+    if constexpr (!Native) y = (c.P5 * z + c.P4) * s + y;
     y = y * s + lo;
     const auto k = exponent_beside(exponent_of_positive(m), near);
     const V exponent = (convert<double>(k) + ... + where(scaled, V(31.0)));
@@ -129,8 +129,8 @@ inline constexpr float inverse_polynomial[] = {0x3E0D84ED_f32, 0xBE1AD9E3_f32, 0
 template <class T>
 using logarithm = std::conditional_t<sizeof(T) == 4, single_logarithm<inverse_polynomial>, double_logarithm<false>>;
 template <class T>
-using light_logarithm =
-    std::conditional_t<sizeof(T) == 4, single_logarithm<light_ln_polynomial>, double_logarithm<true>>;
+using native_logarithm =
+    std::conditional_t<sizeof(T) == 4, single_logarithm<native_ln_polynomial>, double_logarithm<true>>;
 
 // The logarithm of 1 + v + low; of 2 x where x is big.
 template <class Log, class V>

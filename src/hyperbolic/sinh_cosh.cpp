@@ -25,7 +25,7 @@ LANEMATH_RARE cosh_rare(const double* x, double* y) { return cosh_rare_lane(x, y
 
 constexpr std::int32_t BOUND = 0x40861D99;  // 707.7
 
-struct sinh_form : rare_above<double(double), sinh_rare, BOUND> {
+struct sinh_standard : rare_above<double(double), sinh_rare, BOUND> {
   template <class V>
   LANEMATH_INLINE static V kernel(V x) {
     const ln2_multiple<V> a(magnitude(x), sinh_reduction);
@@ -39,7 +39,7 @@ struct sinh_form : rare_above<double(double), sinh_rare, BOUND> {
   }
 };
 
-struct cosh_form : rare_above<double(double), cosh_rare, BOUND> {
+struct cosh_standard : rare_above<double(double), cosh_rare, BOUND> {
   template <class V>
   LANEMATH_INLINE static V kernel(V x) {
     constexpr std::int64_t exponents = 0x7FF0000000000000, exponent_unit = 0x0010000000000000;
@@ -56,9 +56,9 @@ struct cosh_form : rare_above<double(double), cosh_rare, BOUND> {
 
 }  // namespace
 
-LANEMATH_EXPORT(sinh, sinh_form)
+LANEMATH_EXPORT(sinh, sinh_standard)
 LANEMATH_SAME(sinh, , _native)
-LANEMATH_EXPORT(cosh, cosh_form)
+LANEMATH_EXPORT(cosh, cosh_standard)
 LANEMATH_SAME(cosh, , _native)
 
 }  // namespace lanemath

@@ -16,10 +16,10 @@ constexpr addition_rows sinhf_table{
     .C1 = 0x3E2AAA57_f32, .C2 = 0x3C091461_f32, .E1 = half_v<float>, .E2 = 0x3D2AAA72_f32, .E3 = 0x3AB6A8A3_f32};
 
 // sinh r = D0 r + D1 r^3, cosh r = 1 + F0 r^2 + F1 r^4
-struct light_addition_rows {
+struct native_addition_rows {
   float D0, D1, F0, F1;
 };
-constexpr light_addition_rows sinhf_native_table{
+constexpr native_addition_rows sinhf_native_table{
     .D0 = 0x3F7FFBC9_f32, .D1 = 0x3E2CCD2E_f32, .F0 = 0x3EFFFB2F_f32, .F1 = 0x3D2CA395_f32};
 
 template <class V>
@@ -37,7 +37,7 @@ LANEMATH_INLINE V added(V same, V other, const ln2_multiple<V>& a) {
   return added(same, other, sinh_r, ((c.E3 * a.r2 + c.E2) * a.r2 + c.E1) * a.r2);
 }
 template <class V>
-LANEMATH_INLINE V lightly_added(V same, V other, const ln2_multiple<V>& a) {
+LANEMATH_INLINE V native_added(V same, V other, const ln2_multiple<V>& a) {
   constexpr auto& c = sinhf_native_table;
   return same + a.r * ((c.D1 * a.r2 + c.D0) * other + (c.F1 * a.r2 + c.F0) * same * a.r);
 }
@@ -49,25 +49,25 @@ constexpr std::int32_t BOUND = 0x42AEAC4E;  // 87.33653; the cosine leaves this 
 using sinhf_guards = rare_above<float(float), sinhf_rare, BOUND>;
 using coshf_guards = rare_above<float(float), coshf_rare, BOUND - 1>;
 
-template <bool Light>
+template <bool Native>
 struct sinhf_form : sinhf_guards {
   template <class V>
   LANEMATH_INLINE static V kernel(V x) {
     const ln2_multiple<V> a(magnitude(x), reduction);
     const auto [s, c] = at_multiple(a);
-    return with_bits(Light ? lightly_added(s, c, a) : added(s, c, a), sign_of(x));
+    return with_bits(Native ? native_added(s, c, a) : added(s, c, a), sign_of(x));
   }
 };
 using sinhf_standard = sinhf_form<false>;
 using sinhf_native = sinhf_form<true>;
 
-template <bool Light>
+template <bool Native>
 struct coshf_form : coshf_guards {
   template <class V>
   LANEMATH_INLINE static V kernel(V x) {
     const ln2_multiple<V> a(magnitude(x), reduction);
     const auto [s, c] = at_multiple(a);
-    return Light ? lightly_added(c, s, a) : added(c, s, a);
+    return Native ? native_added(c, s, a) : added(c, s, a);
   }
 };
 using coshf_standard = coshf_form<false>;

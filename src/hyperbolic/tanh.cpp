@@ -30,7 +30,7 @@ LANEMATH_RARE tanhf_rare(const float* x, float* y) { return tanh_rare_lane(x, y)
 LANEMATH_RARE tanh_rare(const double* x, double* y) { return tanh_rare_lane(x, y); }
 
 // Marks the largest powers of two, infinities and NaNs.
-struct tanhf_form : rare_above<float(float), tanhf_rare, 0x7F07FFFF> {
+struct tanhf_standard : rare_above<float(float), tanhf_rare, 0x7F07FFFF> {
   template <class V>
   LANEMATH_INLINE static V kernel(V x) {
     const auto [c0, c1, c2, c3] = look_up_row(tanhf_cubics, interval(x, 0x3CF80000, 0x41200000, 19));
@@ -39,7 +39,7 @@ struct tanhf_form : rare_above<float(float), tanhf_rare, 0x7F07FFFF> {
   }
 };
 
-struct tanh_form : rare_above<double(double), tanh_rare, 0x7FE1FFFF> {
+struct tanh_standard : rare_above<double(double), tanh_rare, 0x7FE1FFFF> {
   template <class V>
   LANEMATH_INLINE static V kernel(V x) {
     const auto row = look_up_row(tanh_polynomials, interval(x, 0x3FBE0000, 0x40340000, 17));
@@ -52,9 +52,9 @@ struct tanh_form : rare_above<double(double), tanh_rare, 0x7FE1FFFF> {
 
 }  // namespace
 
-LANEMATH_EXPORT(tanhf, tanhf_form)
+LANEMATH_EXPORT(tanhf, tanhf_standard)
 LANEMATH_SAME(tanhf, , _native)
-LANEMATH_EXPORT(tanh, tanh_form)
+LANEMATH_EXPORT(tanh, tanh_standard)
 LANEMATH_SAME(tanh, , _native)
 
 }  // namespace lanemath

@@ -1,7 +1,7 @@
 // Arc cosine of x in radians, both precisions.
 //
 // Below 1/2 in magnitude pi/2 - x - x Q(x²), above it 2 sqrt(h) (1 + Q(h)) with h = (1 - |x|) / 2, or pi less that.
-// Light form (_native): a shorter polynomial; in double the root from a float estimate. Beyond 1 a NaN.
+// The native form: a shorter polynomial; in double the root from a float estimate. Beyond 1 a NaN.
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {

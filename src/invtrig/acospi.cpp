@@ -1,6 +1,6 @@
 // Arc cosine of x divided by pi, both precisions.
 //
-// As the arc cosine, with the polynomial of the arc sine divided by pi; 1/pi is added to it. Light form (_native): a
+// As the arc cosine, with the polynomial of the arc sine divided by pi; 1/pi is added to it. The native form: a
 // shorter polynomial; in double the root from a float estimate. At 1 and -1 exact, beyond a NaN.
 #include "invtrig/arc_sine.h"
 

@@ -6,7 +6,7 @@
 
 namespace lanemath {
 
-// Polynomial coefficients, from the constant term up: of the results in radians and of those divided by pi. The light
+// Polynomial coefficients, from the constant term up: of the results in radians and of those divided by pi. The native
 // float forms have the whole factor of the base in theirs, the others what is beyond its linear term.
 template <class T, variant V>
 struct radian_rows;
@@ -89,7 +89,7 @@ LANEMATH_INLINE estimated_root<lanes<double, W>> estimate_root(const lanes<doubl
   return {b, ordered_product(correction, ordered_product(t, b))};
 }
 
-// The light double forms have no square root.
+// The native double forms have no square root.
 template <class T, variant V>
 inline constexpr bool estimates_root = sizeof(T) == 8 && V == variant::native;
 

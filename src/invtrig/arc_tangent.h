@@ -13,8 +13,9 @@ struct split_rows {
 };
 inline constexpr split_rows atanf_table{.even = {0x3B322CC0_f32, 0x3D2BC384_f32, 0x3DD96474_f32, 0x3E4CB79F_f32},
                                         .odd = {0xBC7F2631_f32, 0xBD987629_f32, 0xBE1161F8_f32, 0xBEAAAA49_f32}};
-inline constexpr split_rows atanf4_table{.even = {0x3B3AC537_f32, 0x3D2EDD4E_f32, 0x3DD9ED24_f32, 0x3E4CB974_f32},
-                                         .odd = {0xBC83A25C_f32, 0xBD99B01E_f32, 0xBE117200_f32, 0xBEAAAA53_f32}};
+inline constexpr split_rows atanf_width_4_table{
+    .even = {0x3B3AC537_f32, 0x3D2EDD4E_f32, 0x3DD9ED24_f32, 0x3E4CB974_f32},
+    .odd = {0xBC83A25C_f32, 0xBD99B01E_f32, 0xBE117200_f32, 0xBEAAAA53_f32}};
 
 template <const split_rows& C>
 struct split_factor {
@@ -42,9 +43,9 @@ struct four_chain_factor {
   }
 };
 
-// The light factors: u times a chain in q = u², and a second chain in q.
+// The native factors: u times a chain in q = u², and a second chain in q.
 template <class Rows>
-struct light_factor {
+struct native_factor {
   template <class V>
   static V at(V t) {
     const V u = t * t, q = u * u;
@@ -52,28 +53,28 @@ struct light_factor {
   }
 };
 template <class T>
-struct light_rows;
+struct native_rows;
 template <>
-struct light_rows<float> {
+struct native_rows<float> {
   static constexpr float by_u[] = {0xBD324820_f32, 0xBEA6A8A3_f32};
   static constexpr float second[] = {0x3E1E481B_f32, 0x3F7FF145_f32};
 };
 template <>
-struct light_rows<double> {
+struct native_rows<double> {
   static constexpr double by_u[] = {0xBF5C95B5AB286A02_f64, 0xBF9F791909CB44C4_f64, 0xBFB56FCD7489159A_f64,
                                     0xBFC2414862594647_f64, 0xBFD55553391CE4C9_f64};
   static constexpr double second[] = {0x3F85E36A8CED7474_f64, 0x3FAD6EE2DACE07AF_f64, 0x3FBC0236E7018BA7_f64,
                                       0x3FC999069C08617C_f64, 0x3FEFFFFFFEB5A845_f64};
 };
 template <class T>
-struct light_pi_rows;
+struct native_pi_rows;
 template <>
-struct light_pi_rows<float> {
+struct native_pi_rows<float> {
   static constexpr float by_u[] = {0xBC62FED0_f32, 0xBDD4324D_f32};
   static constexpr float second[] = {0x3D4987CD_f32, 0x3EA2F023_f32};
 };
 template <>
-struct light_pi_rows<double> {
+struct native_pi_rows<double> {
   static constexpr double by_u[] = {0xBF42329940F01541_f64, 0xBF84094ECA14A044_f64, 0xBF9B4B49880FA760_f64,
                                     0xBFA73E3559D3A6F6_f64, 0xBFBB299337E33714_f64};
   static constexpr double second[] = {0x3F6BDE7DB93E8B55_f64, 0x3F92BCDB8589EE51_f64, 0x3FA1D4B346C946CD_f64,

@@ -1,7 +1,7 @@
 // Arc sine of x in radians, both precisions.
 //
 // Below 1/2 in magnitude x + x Q(x²), above it pi/2 - 2 sqrt(h) (1 + Q(h)) with h = (1 - |x|) / 2: no table, no branch.
-// Light form (_native): a shorter polynomial; in double the root from a float estimate. Beyond 1 a NaN.
+// The native form: a shorter polynomial; in double the root from a float estimate. Beyond 1 a NaN.
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {

@@ -1,6 +1,6 @@
 // Arc sine of x divided by pi, both precisions.
 //
-// As the arc sine, with a polynomial of its own; 1/pi is applied in the outer sum. Light form (_native): a shorter
+// As the arc sine, with a polynomial of its own; 1/pi is applied in the outer sum. The native form: a shorter
 // polynomial that has 1/pi in it; in double the root from a float estimate. At 1 and -1 exact, beyond a NaN.
 #include "invtrig/arc_sine.h"
 

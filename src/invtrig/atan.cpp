@@ -2,7 +2,7 @@
 //
 // Float: t = x or -1/x, a polynomial on [-1, 1], pi/2 added outside; at width 4 by one division of the smaller of |x|
 // and 1 by the larger, with coefficients of its own. Double: atan(c) from a table of quarters below 7.875 and
-// atan((|x| - c) / (1 + |x| c)) by a short polynomial; at width 2 a long polynomial and no table. Light form (_native):
+// atan((|x| - c) / (1 + |x| c)) by a short polynomial; at width 2 a long polynomial and no table. The native form:
 // an estimated reciprocal, which fails at infinity alone.
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"
@@ -21,7 +21,7 @@ V negated(V x) {
   return from_bits(bits(x) ^ sign_mask<T>);
 }
 
-struct atanf_frame {
+struct atanf_standard {
   using signature = float(float);
 
   template <class V>
@@ -34,7 +34,7 @@ struct atanf_frame {
   }
 };
 
-struct atan_frame {
+struct atan_standard {
   using signature = double(double);
 
   template <class V>
@@ -69,8 +69,8 @@ struct one_division {
     return ordered_product(Factor::at(t), v) + offset(above, x);
   }
 };
-using atanf4 = one_division<float, split_factor<atanf4_table>>;
-using atan2_doubles = one_division<double, four_chain_factor>;
+using atanf_width_4 = one_division<float, split_factor<atanf_width_4_table>>;
+using atan_width_2 = one_division<double, four_chain_factor>;
 
 template <int W>
 lanes<float, W> signed_reciprocal(const lanes<float, W>& x) {
@@ -85,7 +85,7 @@ lanes<double, W> signed_reciprocal(const lanes<double, W>& x) {
 }
 
 template <class T>
-struct atan_light {
+struct atan_native {
   using signature = T(T);
   static constexpr auto rare = arc_tangent_rare<T, false>;
 
@@ -93,19 +93,19 @@ struct atan_light {
   static V kernel(V x) {
     const auto small = magnitude(x) <= one_v<T>;
     const V t = select(small, x, negated(signed_reciprocal(x)));
-    return t * light_factor<light_rows<T>>::at(t) + offset(~small, x);
+    return t * native_factor<native_rows<T>>::at(t) + offset(~small, x);
   }
   static auto rare_test(auto x) { return magnitude(x) == std::numeric_limits<T>::infinity(); }
 };
 
 }  // namespace
 
-LANEMATH_EXPORT_BUT(4, atanf, atanf_frame)
-LANEMATH_EXPORT_AT(4, atanf, atanf4)
-LANEMATH_EXPORT(atanf, atan_light<float>, _native)
+LANEMATH_EXPORT_BUT(4, atanf, atanf_standard)
+LANEMATH_EXPORT_AT(4, atanf, atanf_width_4)
+LANEMATH_EXPORT(atanf, atan_native<float>, _native)
 
-LANEMATH_EXPORT_BUT(2, atan, atan_frame)
-LANEMATH_EXPORT_AT(2, atan, atan2_doubles)
-LANEMATH_EXPORT(atan, atan_light<double>, _native)
+LANEMATH_EXPORT_BUT(2, atan, atan_standard)
+LANEMATH_EXPORT_AT(2, atan, atan_width_2)
+LANEMATH_EXPORT(atan, atan_native<double>, _native)
 
 }  // namespace lanemath

@@ -1,6 +1,6 @@
 // The angle of the point (x, y) in radians, both precisions.
 //
-// The smaller magnitude over the larger one, a polynomial on [-1, 1], the quadrant by sums. Light form (_native): an
+// The smaller magnitude over the larger one, a polynomial on [-1, 1], the quadrant by sums. The native form: an
 // estimated reciprocal and a shorter polynomial. The default float form at width 4 has coefficients and a last step of
 // its own, and one lane with x zero, or x or y infinite or a NaN, sends all four to a scalar routine in double; the
 // default double form at width 2 has the frame's kernel, and leaves it only for such lanes.
@@ -17,13 +17,13 @@ struct radians_of : quadrants<T, Factor, Quotient, false> {
 };
 
 using atan2f_standard = radians_of<float, split_factor<atanf_table>, by_division>;
-using atan2f_native = radians_of<float, light_factor<light_rows<float>>, by_estimate>;
+using atan2f_native = radians_of<float, native_factor<native_rows<float>>, by_estimate>;
 using atan2_standard = radians_of<double, four_chain_factor, by_division>;
-using atan2_native = radians_of<double, light_factor<light_rows<double>>, by_estimate>;
+using atan2_native = radians_of<double, native_factor<native_rows<double>>, by_estimate>;
 
 // The default form in double at width 2. The scalar routine has the kernel's bits.
 
-LANEMATH_RARE atan22_lane(const double* py, const double* px, double* result) {
+LANEMATH_RARE atan2_width_2_lane(const double* py, const double* px, double* result) {
   using scalar = lanes<double, 1>;
   double angle;
   *result = special_angle<double, false>(*py, *px, angle) ? std::copysign(angle, *py)
@@ -31,8 +31,8 @@ LANEMATH_RARE atan22_lane(const double* py, const double* px, double* result) {
   return status::ordinary;
 }
 
-struct atan22 : atan2_standard {
-  static constexpr auto rare = atan22_lane;
+struct atan2_width_2 : atan2_standard {
+  static constexpr auto rare = atan2_width_2_lane;
   static constexpr bool one_marks_all = true;
 
   template <class V>
@@ -47,7 +47,7 @@ struct atan22 : atan2_standard {
 
 // The default form in float at width 4. The scalar routine's bits are its own.
 
-LANEMATH_RARE atan2f4_lane(const float* py, const float* px, float* result) {
+LANEMATH_RARE atan2f_width_4_lane(const float* py, const float* px, float* result) {
   const float y = *py, x = *px;
   if (y != y || x != x) {
     const float nan = x != x ? x : y;
@@ -73,9 +73,9 @@ LANEMATH_RARE atan2f4_lane(const float* py, const float* px, float* result) {
   return status::ordinary;
 }
 
-struct atan2f4 {
+struct atan2f_width_4 {
   using signature = float(float, float);
-  static constexpr auto rare = atan2f4_lane;
+  static constexpr auto rare = atan2f_width_4_lane;
   static constexpr bool one_marks_all = true;
 
   template <class V>
@@ -84,7 +84,7 @@ struct atan2f4 {
     const auto swap = ax < ay;
     const V ratio = select(swap, ax, ay) / select(swap, ay, ax);
     const V t = with_bits(ratio, swap & sign_mask<float>);
-    const V r = split_factor<atanf4_table>::at(t);
+    const V r = split_factor<atanf_width_4_table>::at(t);
     const V sx = with_bits(V(1.0f), sign_of(x)), sy = with_bits(V(1.0f), sign_of(y));
     return ((t * r + where(swap, V(half_pi<float>))) * sx + where(x < 0.0f, V(pi<float>))) * sy;
   }
@@ -99,11 +99,11 @@ struct atan2f4 {
 }  // namespace
 
 LANEMATH_EXPORT_BUT(4, atan2f, atan2f_standard)
-LANEMATH_EXPORT_AT(4, atan2f, atan2f4)
+LANEMATH_EXPORT_AT(4, atan2f, atan2f_width_4)
 LANEMATH_EXPORT(atan2f, atan2f_native, _native)
 
 LANEMATH_EXPORT_BUT(2, atan2, atan2_standard)
-LANEMATH_EXPORT_AT(2, atan2, atan22)
+LANEMATH_EXPORT_AT(2, atan2, atan2_width_2)
 LANEMATH_EXPORT(atan2, atan2_native, _native)
 
 }  // namespace lanemath

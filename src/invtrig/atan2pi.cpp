@@ -1,7 +1,7 @@
 // The angle of the point (x, y) divided by pi, both precisions.
 //
 // As the angle in radians, with the polynomials of the arc tangent divided by pi and an estimated reciprocal, corrected
-// once, in the default double form twice. Light form (_native): a shorter polynomial.
+// once, in the default double form twice. The native form: a shorter polynomial.
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"
 
@@ -14,9 +14,9 @@ struct half_turns_of : quadrants<T, Factor, Quotient, true> {
 };
 
 using atan2pif_standard = half_turns_of<float, pi_factor<float>, by_estimate>;
-using atan2pif_native = half_turns_of<float, light_factor<light_pi_rows<float>>, by_estimate>;
+using atan2pif_native = half_turns_of<float, native_factor<native_pi_rows<float>>, by_estimate>;
 using atan2pi_standard = half_turns_of<double, pi_factor<double>, by_corrected_estimate>;
-using atan2pi_native = half_turns_of<double, light_factor<light_pi_rows<double>>, by_estimate>;
+using atan2pi_native = half_turns_of<double, native_factor<native_pi_rows<double>>, by_estimate>;
 
 }  // namespace
 

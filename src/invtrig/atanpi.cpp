@@ -1,7 +1,7 @@
 // Arc tangent of x divided by pi, both precisions.
 //
 // t = |x|, or -1 by |x| above 1, where 0.5 is added; a polynomial on [-1, 1] with 1/pi in it. The reciprocal is an
-// estimate with a correction but for the default double form, which divides. Light form (_native): a shorter
+// estimate with a correction but for the default double form, which divides. The native form: a shorter
 // polynomial.
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"
@@ -27,9 +27,9 @@ struct half_turns_of {
 };
 
 using atanpif_standard = half_turns_of<float, pi_factor<float>, by_estimate>;
-using atanpif_native = half_turns_of<float, light_factor<light_pi_rows<float>>, by_estimate>;
+using atanpif_native = half_turns_of<float, native_factor<native_pi_rows<float>>, by_estimate>;
 using atanpi_standard = half_turns_of<double, pi_factor<double>, by_inverse>;
-using atanpi_native = half_turns_of<double, light_factor<light_pi_rows<double>>, by_estimate>;
+using atanpi_native = half_turns_of<double, native_factor<native_pi_rows<double>>, by_estimate>;
 
 }  // namespace
 

@@ -17,7 +17,7 @@ struct log_standard : log_guards {
 struct log_native : log_guards {
   template <class V>
   static V kernel(V x) {
-    return light_double_log<log_table, ln_of_integers>(x);
+    return native_double_log<log_table, ln_of_integers>(x);
   }
 };
 

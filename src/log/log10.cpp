@@ -26,7 +26,7 @@ struct log10_standard : log10_guards {
 struct log10_native : log10_guards {
   template <class V>
   static V kernel(V x) {
-    return light_double_log<log10_table, log10_of_integers>(x);
+    return native_double_log<log10_table, log10_of_integers>(x);
   }
 };
 

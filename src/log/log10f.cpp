@@ -2,7 +2,7 @@
 //
 // Default: the mantissa g in [2^-9, 2^-8), n an integer near R / g with R = 111/256 near log10 e, t = g n - R almost
 // exactly; log10 x from the raw biased exponent, a table of log10(R / n) that has the bias taken off, and a cubic in t,
-// whose first term is t. Light form (_native, _half): x = 2^k (1 + r), 1 + r from 2/3 to 4/3, and a polynomial of
+// whose first term is t. The native form (_half too): x = 2^k (1 + r), 1 + r from 2/3 to 4/3, and a polynomial of
 // degree 5. Rare lanes: zeros, denormals, negative values, infinities and NaNs.
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"

@@ -3,7 +3,7 @@
 // The sum w = 1 + x and what it lost, l = 1 + x - w, by the larger and the smaller of the two. Default: w is cut short
 // unless x is tiny, so that the mantissa g of w times n, an integer near 1 / g, is exact; ln(1 + x) from the raw biased
 // exponent, a table of -ln n that has the bias taken off, and a short polynomial in z = (w + l) n 2^j - 1. _native: the
-// light logarithm of w with l added to its residual. The sign of x is put on the result, for -0.
+// native logarithm of w with l added to its residual. The sign of x is put on the result, for -0.
 #include "log/logarithm_double.h"
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"
@@ -84,7 +84,7 @@ struct log1p_guards {
 };
 
 template <class T, auto Routine>
-struct log1p_standard : log1p_guards<T, Routine> {
+struct log1p_form : log1p_guards<T, Routine> {
   template <class V>
   static V kernel(V x) {
     constexpr auto& c = rows_of<T>();
@@ -121,8 +121,8 @@ struct log1p_standard : log1p_guards<T, Routine> {
       return look_up(log1p_of_integers, index_of_integer(n));
   }
 };
-using log1pf_standard = log1p_standard<float, log1pf_rare>;
-using log1p_double = log1p_standard<double, log1p_rare>;
+using log1pf_standard = log1p_form<float, log1pf_rare>;
+using log1p_standard = log1p_form<double, log1p_rare>;
 
 struct log1pf_native {
   using signature = float(float);
@@ -137,7 +137,7 @@ struct log1pf_native {
     const V l = sum.lost_by(w);
     const centred_mantissa<V> a(w);
     const V c = from_bits(0x3F800000 - (a.k << 23));  // 2^-k
-    const V y = ln_of_one_plus(a.r + l * c, light_ln_polynomial);
+    const V y = ln_of_one_plus(a.r + l * c, native_ln_polynomial);
     return with_bits(convert<float>(a.k) * LN2_F32 + y, sign_of(x));
   }
 };
@@ -159,7 +159,7 @@ struct log1p_native : log1p_guards<double, log1p_rare> {
 
 LANEMATH_EXPORT(log1pf, log1pf_standard)
 LANEMATH_EXPORT(log1pf, log1pf_native, _native)
-LANEMATH_EXPORT(log1p, log1p_double)
+LANEMATH_EXPORT(log1p, log1p_standard)
 LANEMATH_EXPORT(log1p, log1p_native, _native)
 
 }  // namespace lanemath

@@ -29,12 +29,12 @@ struct log2_standard : log2_guards {
 struct log2_native : log2_guards {
   template <class V>
   static V kernel(V x) {
-    return light_double_log<log2_table, log2_of_integers>(x);
+    return native_double_log<log2_table, log2_of_integers>(x);
   }
 };
 
 // The default form at width 2.
-struct log22 {
+struct log2_width_2 {
   using signature = double(double);
   using V = lanes<double, 2>;
 
@@ -74,7 +74,7 @@ struct log22 {
 }  // namespace
 
 LANEMATH_EXPORT_BUT(2, log2, log2_standard)
-LANEMATH_EXPORT_AT(2, log2, log22)
+LANEMATH_EXPORT_AT(2, log2, log2_width_2)
 LANEMATH_EXPORT(log2, log2_native, _native)
 
 }  // namespace lanemath

@@ -69,21 +69,21 @@ LANEMATH_INLINE V double_log(V x) {
 }
 
 template <auto& c, auto& table, class V, class E, class N>
-LANEMATH_INLINE V light_double_log(V g, E exponent, N near) {
+LANEMATH_INLINE V native_double_log(V g, E exponent, N near) {
   const V z = g * convert<double>(near) - 1.0;
   const V y = (c.P3 * z + c.P2) * (z * z) + times<c.P1 == 1.0>(z, c.P1);
   return with_exponent_term<c, table>(y, exponent, near);
 }
 template <auto& c, auto& table, int W>
-LANEMATH_INLINE lanes<double, W> light_double_log(const lanes<double, W>& x) {
+LANEMATH_INLINE lanes<double, W> native_double_log(const lanes<double, W>& x) {
   const auto g = scaled_mantissa(x);
-  return light_double_log<c, table>(g, exponent_of_positive(x), integer_near_reciprocal(g));
+  return native_double_log<c, table>(g, exponent_of_positive(x), integer_near_reciprocal(g));
 }
 // Of a float, in double.
 template <auto& c, auto& table, int W>
-LANEMATH_INLINE lanes<double, W> light_double_log(const lanes<float, W>& x) {
+LANEMATH_INLINE lanes<double, W> native_double_log(const lanes<float, W>& x) {
   const auto g = scaled_mantissa(x);
-  return light_double_log<c, table>(convert<double>(g), exponent_of_positive(x), integer_near_reciprocal(g));
+  return native_double_log<c, table>(convert<double>(g), exponent_of_positive(x), integer_near_reciprocal(g));
 }
 
 }  // namespace lanemath

@@ -37,15 +37,15 @@ struct logf_standard : logf_guards {
 };
 
 template <auto& Polynomial>
-struct light_logf : logf_guards {
+struct native_logf : logf_guards {
   template <class V>
   static V kernel(V x) {
     const centred_mantissa<V> a(x);
     return convert<float>(a.k) * LN2_F32 + ln_of_one_plus(a.r, Polynomial);
   }
 };
-using logf_half = light_logf<logf_half_polynomial>;
-using logf_native = light_logf<light_ln_polynomial>;
+using logf_half = native_logf<logf_half_polynomial>;
+using logf_native = native_logf<native_ln_polynomial>;
 
 }  // namespace
 

@@ -111,7 +111,7 @@ LANEMATH_INLINE auto short_power(const lanes<std::int32_t, W>& b, const lanes<fl
   return marked(from_bits(bits(e) + (bits(N) << 23)), magnitude_above(s, SHORT_RANGE));
 }
 
-// The light form of powf and of powrf: they differ in the rare routine.
+// The native form of powf and of powrf: they differ in the rare routine.
 template <auto Routine>
 struct short_powf : power<float(float, float), Routine> {
   template <class V>

@@ -1,4 +1,4 @@
-// The kernel that computes in double with a table of every reciprocal: the default of powf, and the light forms of
+// The kernel that computes in double with a table of every reciprocal: the default of powf, and the native forms of
 // the double-precision powers.
 #pragma once
 
@@ -12,7 +12,7 @@ namespace lanemath {
 // y ln x of a positive x
 template <class V, int W>
 LANEMATH_INLINE lanes<double, W> widened_product(const V& x, const lanes<double, W>& y) {
-  return light_double_log<log_table, ln_of_integers>(x) * y;
+  return native_double_log<log_table, ln_of_integers>(x) * y;
 }
 
 // e^s
@@ -30,7 +30,7 @@ LANEMATH_INLINE lanes<double, W> widened_exp(const lanes<double, W>& s) {
 
 inline constexpr std::int32_t WIDENED_RANGE = 0x4086232A;  // 708.39, for results in double
 
-// The light form of pow and of powr: they differ in the rare routine.
+// The native form of pow and of powr: they differ in the rare routine.
 template <auto Routine>
 struct widened_pow : power<double(double, double), Routine> {
   template <class V>

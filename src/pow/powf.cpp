@@ -1,8 +1,8 @@
 // x^y, single precision.
 //
 // Default: y ln x in double, by a table of logarithms for every integer reciprocal and a cubic; e^s by a table of 2048
-// entries and a chord; one rounding to float, which makes infinities and denormals as well. Light form (_native, _rm):
-// polynomials in single floats. Rare lanes in pairs of floats.
+// entries and a chord; one rounding to float, which makes infinities and denormals as well. The native form (_native,
+// _rm): polynomials in single floats. Rare lanes in pairs of floats.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"
 #include "pow/power_widened.h"

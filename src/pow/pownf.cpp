@@ -1,7 +1,7 @@
 // x^n for an integer n, single precision.
 //
 // Default: the kernel of powrf on the magnitude of x, with the bits of n that a float cannot hold in the exponent's
-// low part. Light form (_native): polynomials in single floats. Neither has 1 as its constant term, so that x^0 and
+// low part. The native form: polynomials in single floats. Neither has 1 as its constant term, so that x^0 and
 // 1^n are next to 1 and not 1. Where a result next to the normals is below them the exponent has no room. Rare lanes in
 // pairs of floats.
 #include "pow/power_rare_single.h"

@@ -1,6 +1,6 @@
 // The n-th root of x, x^(1/n), single precision.
 //
-// Default: the kernel of powrf on the magnitude of x, with 1/n in two parts. Light form (_native): that of pownf, with
+// Default: the kernel of powrf on the magnitude of x, with 1/n in two parts. The native form: that of pownf, with
 // 1/n. Rare lanes in pairs of floats.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"

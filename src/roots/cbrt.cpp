@@ -3,8 +3,8 @@
 // The exponent is divided by 3 with a multiplication. Its remainder m and the top five bits of the significand choose a
 // table entry, the root of c 2^m for c the middle of a cell; what the distance r from the middle adds is the binomial
 // series of (1 + r)^(1/3) or (1 + r)^(-1/3). The quotient becomes a power of two, which also carries the sign. In
-// single precision the entries have a low part; the light forms do without it and keep one term of four. In double the
-// light forms keep five terms of seven. Zeros, denormals, infinities and NaNs are rare.
+// single precision the entries have a low part; the native forms do without it and keep one term of four. In double the
+// native forms keep five terms of seven. Zeros, denormals, infinities and NaNs are rare.
 #include "numeric/exceptional.h"
 #include "numeric/polynomial.h"
 #include "tables/roots.h"

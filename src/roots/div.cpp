@@ -1,6 +1,6 @@
 // x / y.
 //
-// Default: the processor's division, correctly rounded. The light form in single precision is one multiplication by
+// Default: the processor's division, correctly rounded. The native form in single precision is one multiplication by
 // the reciprocal's estimate of about 12 bits, nothing after it; divisors whose reciprocal is no normal float are rare.
 #include "roots/reciprocal.h"
 
@@ -29,7 +29,7 @@ struct watched_divide : divide<double> {
   static auto rare_test(auto, auto y) { return zero_without(y, Ignored); }
 };
 
-struct divf_light {
+struct divf_native {
   using signature = float(float, float);
   static constexpr auto rare = div_rare<float>;
   static auto rare_test(auto, auto y) { return reciprocal_beyond(y, 0x7DFFFFFF); }
@@ -43,7 +43,7 @@ struct divf_light {
 }  // namespace
 
 LANEMATH_EXPORT(divf, divide<float>)
-LANEMATH_EXPORT(divf, divf_light, _native)
+LANEMATH_EXPORT(divf, divf_native, _native)
 LANEMATH_SAME(divf, _native, _half)
 LANEMATH_SAME(divf, _native, _rm)
 LANEMATH_EXPORT(div, watched_divide<0x800FFFFFFFFFFFFF>)

@@ -2,7 +2,7 @@
 //
 // The squares are added as they are; the estimate of the sum's reciprocal root, of about 12 bits, is refined: in single
 // precision by one coupled step for root and half of the reciprocal root and the residual of the root, in double by the
-// binomial series, of which the light form keeps two terms of four. Sums that come near the ends of the range go to
+// binomial series, of which the native form keeps two terms of four. Sums that come near the ends of the range go to
 // scalar routines, which round correctly. hypotf_native is the estimate times the sum, with no test: a sum that
 // overflows or is infinite gives a NaN, a denormal one +infinity.
 #include "numeric/estimates.h"

@@ -1,9 +1,9 @@
 // 1 / x.
 //
-// Default: the processor's division, correctly rounded. Light form in single precision: the reciprocal's estimate as
-// it is. Light form in double: the estimate for the significand, moved into a double's layout with the exponent taken
-// out by integer arithmetic, then one step of third order. It has no test: infinities,
-// denormals and denormal results get what that arithmetic gives; zeros and NaNs come out right.
+// Default: the processor's division, correctly rounded. The native form in single precision: the reciprocal's estimate
+// as it is. The native form in double: the estimate for the significand, moved into a double's layout with the exponent
+// taken out by integer arithmetic, then one step of third order. It has no test: infinities, denormals and denormal
+// results get what that arithmetic gives; zeros and NaNs come out right.
 #include "numeric/estimates.h"
 #include "roots/reciprocal.h"
 
@@ -33,7 +33,7 @@ struct inv_standard : invert<double> {
   static auto rare_test(auto x) { return zero_without(x, 0x800FFFFFFFFFFFFF); }
 };
 
-struct invf_light {
+struct invf_native {
   using signature = float(float);
   static constexpr auto rare = inv_rare<float>;
   // Lower than the bound of a divisor: the estimates of these must not be denormals.
@@ -60,7 +60,7 @@ struct inv_native {
 }  // namespace
 
 LANEMATH_EXPORT(invf, invert<float>)
-LANEMATH_EXPORT(invf, invf_light, _native)
+LANEMATH_EXPORT(invf, invf_native, _native)
 LANEMATH_SAME(invf, _native, _half)
 LANEMATH_SAME(invf, _native, _rm)
 LANEMATH_EXPORT(inv, inv_standard)

@@ -1,7 +1,7 @@
 // 1 / square root.
 //
 // Single precision: the processor's estimate y, then e = y^2 x - 1 and the series of 1 / sqrt(1 + e). The default form
-// cuts y to few bits, so that y^2 is exact; the light form (_native, _half) makes one Newton step. Double: the estimate
+// cuts y to few bits, so that y^2 is exact; the native form (_half too) makes one Newton step. Double: the estimate
 // is that of a float made of the significand and the exponent's parity, its power of two is made by integer arithmetic,
 // and the default form computes the residual with x in two parts. Rare lanes in double, from a table of seeds, the
 // result as a high and a low part.

@@ -1,7 +1,7 @@
 // Square root.
 //
-// Default: the processor's, correctly rounded. Light forms: x times the estimate of the reciprocal root, of about 12
-// bits, nothing after it. _native has no test: in single precision zero and +infinity give a NaN, and denormals of
+// Default: the processor's, correctly rounded. The native forms: x times the estimate of the reciprocal root, of about
+// 12 bits, nothing after it. _native has no test: in single precision zero and +infinity give a NaN, and denormals of
 // either sign +infinity; in double the estimate is that of x narrowed to float, so that what lies beyond a float's
 // range gives 0 or an infinity. _half hands such lanes to a scalar routine: a seed from a table, three rounds of a
 // coupled iteration for root and half of the reciprocal root, and a last step by the exact residual, in double.

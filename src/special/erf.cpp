@@ -74,7 +74,7 @@ V erf_native_correction(V w, V z) {
 }
 
 template <bool Native>
-struct erf_op {
+struct erf_form {
   using signature = double(double);
 
   template <class V>
@@ -95,11 +95,14 @@ struct erf_op {
   }
 };
 
+using erf_standard = erf_form<false>;
+using erf_native = erf_form<true>;
+
 }  // namespace
 
 LANEMATH_EXPORT(erff, erff_standard)
 LANEMATH_EXPORT(erff, erff_native, _native)
-LANEMATH_EXPORT(erf, erf_op<false>)
-LANEMATH_EXPORT(erf, erf_op<true>, _native)
+LANEMATH_EXPORT(erf, erf_standard)
+LANEMATH_EXPORT(erf, erf_native, _native)
 
 }  // namespace lanemath::special

@@ -30,7 +30,7 @@ struct cosf_form : single_guards<cosine_rare<float>, 64> {
 }  // namespace
 
 using cosf_standard = cosf_form<pi_single, cosf_c>;
-using cosf_native = cosf_form<light_pi_single, cosf_native_c>;
+using cosf_native = cosf_form<native_pi_single, cosf_native_c>;
 LANEMATH_EXPORT(cosf, cosf_standard)
 LANEMATH_EXPORT(cosf, cosf_native, _native)
 LANEMATH_SAME(cosf, _native, _half)

@@ -1,8 +1,8 @@
 // sin x, double precision.
 //
-// x = N pi + r, pi in four pieces, and an odd polynomial of degree 15; the light form has three pieces and degree 9.
-// Above 2^24 the default form reduces by a window of 1 / (2 pi), 512 steps in a turn and a table; the light form leaves
-// those lanes to the rare routine.
+// x = N pi + r, pi in four pieces, and an odd polynomial of degree 15; the native form has three pieces and degree 9.
+// Above 2^24 the default form reduces by a window of 1 / (2 pi), 512 steps in a turn and a table; the native form
+// leaves those lanes to the rare routine.
 #include "trig/sine_double.h"
 
 namespace lanemath {
@@ -24,7 +24,7 @@ struct sin_form {
 };
 
 struct sin_standard : sin_form<pi_double, sin_c>, double_large_stage<0> {};
-struct sin_native : sin_form<light_pi_double, light_c_double> {};
+struct sin_native : sin_form<native_pi_double, native_c_double> {};
 
 }  // namespace
 

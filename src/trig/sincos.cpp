@@ -23,7 +23,7 @@ struct sincos_form {
   static auto rare_test(auto x) { return ~(magnitude(x) <= 0x1p23); }
 };
 
-struct sincos_native : sincos_form<light_pi_double, light_c_double> {};
+struct sincos_native : sincos_form<native_pi_double, native_c_double> {};
 struct sincos_standard : sincos_form<pi_double, sincos_c> {
   template <int W, class M>
   static void fix_up(lanes<double, W> x, lanes<double, W>& sine, lanes<double, W>& cosine, M& rare) {

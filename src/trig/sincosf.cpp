@@ -30,7 +30,7 @@ struct sincosf_form : rare_above<through_pointer<float, float>(float), sine_cosi
 };
 
 struct sincosf_standard : sincosf_form<pi_single, sincosf_c> {};
-struct sincosf_native : sincosf_form<light_pi_single, sincosf_native_c> {};
+struct sincosf_native : sincosf_form<native_pi_single, sincosf_native_c> {};
 struct sincosregf_standard : sincosf_standard {
   using signature = pair_of<float, float>(float);
 };

@@ -8,9 +8,9 @@ namespace lanemath {
 
 inline constexpr double pi_double[] = {0x400921FB40000000_f64, 0x3E84442D00000000_f64, 0x3D08469880000000_f64,
                                        0x3B88CC51701B839A_f64};
-inline constexpr double light_pi_double[] = {0x400921FB40000000_f64, 0x3E84442D00000000_f64, 0x3D08469898CC5170_f64};
-inline constexpr double light_c_double[] = {0x3EC5D4567512BBD5_f64, 0xBF29F67D9395D587_f64, 0x3F8110EA968A0185_f64,
-                                            0xBFC55554AD3EAF1F_f64};
+inline constexpr double native_pi_double[] = {0x400921FB40000000_f64, 0x3E84442D00000000_f64, 0x3D08469898CC5170_f64};
+inline constexpr double native_c_double[] = {0x3EC5D4567512BBD5_f64, 0xBF29F67D9395D587_f64, 0x3F8110EA968A0185_f64,
+                                             0xBFC55554AD3EAF1F_f64};
 
 // What the large stage computes from the remainder alone, and the sine of a step and the remainder.
 template <class V>

@@ -1,7 +1,7 @@
 // Sine and cosine of one finite double of any size, for the rare routines: the argument is reduced to hi + lo and a
 // count of quadrants, in tiers by size, and 64 steps in a turn with a table and two polynomials do the rest.
 //
-// What serves finite floats, and doubles up to 2^23, is kept although no argument reaches it: but for the light forms
+// What serves finite floats, and doubles up to 2^23, is kept although no argument reaches it: but for the native forms
 // of double precision, whose kernels end there, the kernels leave infinities and NaNs only.
 #pragma once
 

@@ -8,7 +8,7 @@ namespace lanemath {
 
 constexpr std::int32_t LARGE_SINGLE = 0x461C4000;  // 10000: the short reduction ends here
 
-inline constexpr float light_pi_single[] = {0x40490000_f32, 0x3A7DA000_f32, 0x34222169_f32};
+inline constexpr float native_pi_single[] = {0x40490000_f32, 0x3A7DA000_f32, 0x34222169_f32};
 inline constexpr float pi_single[] = {0x40490000_f32, 0x3A7DA000_f32, 0x34222000_f32, 0x2CB4611A_f32};
 
 // What the large stage computes from the remainder alone.

@@ -1,6 +1,6 @@
 // sin x, single precision.
 //
-// x = N pi + r, pi in pieces (four, in the light form three), and an odd polynomial of r. Above 10000 the reduction by
+// x = N pi + r, pi in pieces (four, in the native form three), and an odd polynomial of r. Above 10000 the reduction by
 // a window of 1 / (2 pi), 256 steps in a turn and a table.
 #include "trig/sine_single.h"
 
@@ -21,7 +21,7 @@ struct sinf_form : single_guards<sine_rare<float>, 0> {
 }  // namespace
 
 using sinf_standard = sinf_form<pi_single, sinf_c>;
-using sinf_native = sinf_form<light_pi_single, sinf_native_c>;
+using sinf_native = sinf_form<native_pi_single, sinf_native_c>;
 LANEMATH_EXPORT(sinf, sinf_standard)
 LANEMATH_EXPORT(sinf, sinf_native, _native)
 LANEMATH_SAME(sinf, _native, _half)

@@ -2,7 +2,7 @@
 //
 // Default: the argument's turn is cut into 128 steps without an error; a step's sine in two parts and short polynomials
 // for the rest d. Of the slope, pi times the step's cosine, a power of two is taken off: its product with d is exact.
-// Light forms: one polynomial up to 1/2.
+// The native forms: one polynomial up to 1/2.
 #include <iterator>
 
 #include "numeric/split.h"
@@ -21,7 +21,7 @@ struct of_pi<float> {
   // (sin(pi d) / (pi d) - 1) / d^2 and (cos(pi d) - 1) / d^2 in d^2, highest power first
   static constexpr float sine[] = {0xBFD28C63_f32};
   static constexpr float cosine[] = {0xC09DE8E3_f32};
-  static constexpr float light[] = {0x4014E7A0_f32, 0xC0A4AA6F_f32, 0x40490A49_f32};
+  static constexpr float native[] = {0x4014E7A0_f32, 0xC0A4AA6F_f32, 0x40490A49_f32};
 };
 template <>
 struct of_pi<double> {
@@ -30,8 +30,8 @@ struct of_pi<double> {
   static constexpr double WHOLE_TURNS = 0x4348000000000000_f64;
   static constexpr double sine[] = {0x3FE9F9C9B97D9A28_f64, 0xBFFA51A6625301B8_f64};
   static constexpr double cosine[] = {0x40103C1DB2490898_f64, 0xC013BD3CC9BE3B30_f64};
-  static constexpr double light[] = {0x3FB3DAFF5DA18B33_f64, 0xBFE324CCAC0255A8_f64, 0x4004668AF4E909D3_f64,
-                                     0xC014ABBC166DBC5B_f64, 0x400921FB52068F99_f64};
+  static constexpr double native[] = {0x3FB3DAFF5DA18B33_f64, 0xBFE324CCAC0255A8_f64, 0x4004668AF4E909D3_f64,
+                                      0xC014ABBC166DBC5B_f64, 0x400921FB52068F99_f64};
 };
 
 // The sine of pi x or, a quarter of a turn later, the cosine; x is not negative. A large one's sum is a multiple of 2
@@ -53,31 +53,31 @@ LANEMATH_INLINE V sine_of_pi(const V& x) {
   return sum + ((lost + value_low) + (d * (slope_rest + above_linear) + even));
 }
 template <class V>
-LANEMATH_INLINE V light_sine(const V& m) {
-  return m * horner(m * m, of_pi<typename V::value_type>::light);
+LANEMATH_INLINE V native_sine(const V& m) {
+  return m * horner(m * m, of_pi<typename V::value_type>::native);
 }
 
-template <class T, bool Light>
+template <class T, bool Native>
 struct sinpi_form {
   using signature = T(T);
   template <class V>
   static V kernel(V x) {
-    if constexpr (Light) {
+    if constexpr (Native) {
       const V f = within_a_turn(magnitude(x));
       // The sum makes +0 of -0: a zero has the sign of x.
-      return flipped(flipped(light_sine(distance_to_whole(magnitude(f))), sign_of(f)) + zero_v<T>, sign_of(x));
+      return flipped(flipped(native_sine(distance_to_whole(magnitude(f))), sign_of(f)) + zero_v<T>, sign_of(x));
     } else {
       return flipped(sine_of_pi<false>(magnitude(x)), sign_of(x));
     }
   }
 };
-template <class T, bool Light>
+template <class T, bool Native>
 struct cospi_form {
   using signature = T(T);
   template <class V>
   static V kernel(V x) {
-    if constexpr (Light)
-      return light_sine(half_v<T> - magnitude(within_a_turn(x)));
+    if constexpr (Native)
+      return native_sine(half_v<T> - magnitude(within_a_turn(x)));
     else
       return sine_of_pi<true>(magnitude(x));
   }

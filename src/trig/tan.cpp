@@ -1,8 +1,8 @@
 // tan x, double precision.
 //
 // x = N pi/2 + r, pi/2 in four pieces and r in two parts, and an odd polynomial; in odd quadrants the negative
-// reciprocal. Above 2^20 the reduction by a window of 1 / (2 pi), to quarters of a turn. Light form: r in one part,
-// fewer terms.
+// reciprocal. Above 2^20 the reduction by a window of 1 / (2 pi), to quarters of a turn. The native form: r in one
+// part, fewer terms.
 #include <tuple>
 
 #include "trig/sine_double.h"
@@ -15,7 +15,7 @@ constexpr double INVERSE_HALF_PI = 0x3FE45F306DC9C883_f64;
 constexpr double QUARTERS = 0x4318000000000000_f64;  // 1.5 * 2^50: rounds to quarters of a turn
 constexpr double half_pi_parts[] = {0x3FF921FB54400000_f64, 0x3DD0B4611A600000_f64, 0x3BA3198A2E000000_f64,
                                     0x397B839A252049C1_f64};
-constexpr double light_half_pi_parts[] = {0x3FF921FB54400000_f64, 0x3DD0B4611A600000_f64, 0x3BA3198A2E037073_f64};
+constexpr double native_half_pi_parts[] = {0x3FF921FB54400000_f64, 0x3DD0B4611A600000_f64, 0x3BA3198A2E037073_f64};
 static constexpr double tan_c[] = {0x3FD555555555555D_f64, 0x3FC11111111106E2_f64, 0x3FABA1BA1BAB1E0A_f64,
                                    0x3F9664F485FD9A82_f64, 0x3F8226E3A2CF6F57_f64, 0x3F6D6D2F51DFBAFE_f64,
                                    0x3F57DB0D37AAE162_f64, 0x3F434C3515A83EC1_f64, 0x3F2FEC8A5AD4E168_f64,
@@ -62,11 +62,11 @@ struct accurate {
     return select(odd, flipped(reciprocal(r, low), lanes<std::int64_t, V::width>(sign_mask<double>)), r + low);
   }
 };
-struct light {
+struct native {
   template <class V>
   static auto reduce(const V& a) {
     const V t = a * INVERSE_HALF_PI + integer_shifter<double>;
-    return std::tuple(less_multiples(a, t - integer_shifter<double>, light_half_pi_parts), V(0.0), odd_ones(bits(t)));
+    return std::tuple(less_multiples(a, t - integer_shifter<double>, native_half_pi_parts), V(0.0), odd_ones(bits(t)));
   }
   template <class V, class M>
   static V tangent(const V& r, const V&, const M& odd) {
@@ -100,7 +100,7 @@ struct tan_form {
 };
 
 using tan_standard = tan_form<accurate>;
-using tan_native = tan_form<light>;
+using tan_native = tan_form<native>;
 
 }  // namespace
 

@@ -1,8 +1,8 @@
 // tan x, single precision.
 //
-// x = N pi/2 + r, pi/2 in pieces (four, in the light form three), and a quotient of two polynomials, upside down in odd
-// quadrants. Above 8256 the reduction by a window of 1 / (2 pi) and a table of 128 steps in half a turn: next to the
-// pole the pole's term apart, by a reciprocal.
+// x = N pi/2 + r, pi/2 in pieces (four, in the native form three), and a quotient of two polynomials, upside down in
+// odd quadrants. Above 8256 the reduction by a window of 1 / (2 pi) and a table of 128 steps in half a turn: next to
+// the pole the pole's term apart, by a reciprocal.
 #include "trig/sine_single.h"
 #include "trig/tangent.h"
 
@@ -12,7 +12,7 @@ namespace {
 constexpr std::int32_t LARGE = 0x46010000;  // 8256
 constexpr float INVERSE_HALF_PI = 0x3F22F983_f32;
 constexpr float half_pi_parts[] = {0x3FC90000_f32, 0x39FDA000_f32, 0x33A22000_f32, 0x2C34611A_f32};
-constexpr float light_half_pi_parts[] = {0x3FC90000_f32, 0x39FDA000_f32, 0x33A22169_f32};
+constexpr float native_half_pi_parts[] = {0x3FC90000_f32, 0x39FDA000_f32, 0x33A22169_f32};
 constexpr float N0 = 0x3F7FFFFC_f32, N1 = 0xBDC433B4_f32;
 constexpr float D0 = 0x3F7FFFFC_f32, D1 = 0xBEDBB7AB_f32, D2 = 0x3C1F336B_f32;
 
@@ -36,7 +36,7 @@ struct accurate_stage {
     return h + (p + (c4 + ((es + ql) + eh)));
   }
 };
-struct light_stage {
+struct native_stage {
   template <class V, class Row>
   static V tangent(const V& r, const Row& row) {
     const auto& [c0, c1, c2, c3, c4, c5, c6, c7, c8, c9, unused, unused_too] = row;
@@ -78,7 +78,7 @@ struct tanf_form : rare_above<float(float), tanf_rare, LARGE> {
 }  // namespace
 
 using tanf_standard = tanf_form<half_pi_parts, accurate_stage>;
-using tanf_native = tanf_form<light_half_pi_parts, light_stage>;
+using tanf_native = tanf_form<native_half_pi_parts, native_stage>;
 LANEMATH_EXPORT(tanf, tanf_standard)
 LANEMATH_EXPORT(tanf, tanf_native, _native)
 LANEMATH_SAME(tanf, _native, _half)

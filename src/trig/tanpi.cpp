@@ -1,7 +1,7 @@
 // tan(pi x), both precisions.
 //
 // A distance r of at most 1/4 to a multiple of 1/2; 4 r, which is exact, an odd polynomial for the rest; next to the
-// poles the reciprocal of that. Light forms: one part, fewer terms.
+// poles the reciprocal of that. The native forms: one part, fewer terms.
 #include "trig/pi_scaled.h"
 #include "trig/tangent.h"
 
@@ -15,7 +15,7 @@ struct tanpi_fit<float> {
   static constexpr float QUARTER = 0.25f, FOUR = 4.0f, PI_LESS_FOUR = 0xBF5BC095_f32;
   static constexpr float full[] = {0x41255DED_f32, 0x422333AC_f32, 0x43234980_f32, 0x441E7D24_f32,
                                    0x4547DFE7_f32, 0x431324E0_f32, 0x47F5EE36_f32};
-  static constexpr float light[] = {0x40490D95_f32, 0x41267B97_f32, 0x420DF6C3_f32, 0x438E268D_f32};
+  static constexpr float native[] = {0x40490D95_f32, 0x41267B97_f32, 0x420DF6C3_f32, 0x438E268D_f32};
 };
 template <>
 struct tanpi_fit<double> {
@@ -25,12 +25,12 @@ struct tanpi_fit<double> {
                                     0x40E45FEBBC45CFBA_f64, 0x4104553A4C274CE9_f64, 0x4124C1213A3DC4C5_f64,
                                     0x4141A2E32B471354_f64, 0x4171448D89DE180C_f64, 0xC18FC2B2911CD307_f64,
                                     0x41D2EC954B5D20BA_f64, 0xC1F74D898EE6385F_f64, 0x42175C0B23E93D9B_f64};
-  static constexpr double light[] = {0x400921FB53C58ECE_f64, 0x4024ABBDE18C183F_f64, 0x4044666B1357452D_f64,
-                                     0x406469EF76716D80_f64, 0x4083C882A3C44FB0_f64, 0x40A920A770681E5D_f64,
-                                     0xC046D388E106BF9E_f64, 0x40FEF09BF53554E6_f64};
+  static constexpr double native[] = {0x400921FB53C58ECE_f64, 0x4024ABBDE18C183F_f64, 0x4044666B1357452D_f64,
+                                      0x406469EF76716D80_f64, 0x4083C882A3C44FB0_f64, 0x40A920A770681E5D_f64,
+                                      0xC046D388E106BF9E_f64, 0x40FEF09BF53554E6_f64};
 };
 
-template <class T, bool Light>
+template <class T, bool Native>
 struct tanpi_form {
   using signature = T(T);
   template <class V>
@@ -42,8 +42,8 @@ struct tanpi_form {
     const V r = select(past_quarter, half_v<T> - m, m);
     const V z = r * r;
     V y;
-    if constexpr (Light) {
-      const V t = r * polynomial_by_halves(z, tanpi_fit<T>::light);
+    if constexpr (Native) {
+      const V t = r * polynomial_by_halves(z, tanpi_fit<T>::native);
       y = select(past_quarter, one_v<T> / t, t);
     } else {
       const V high = r * tanpi_fit<T>::FOUR;

@@ -31,7 +31,7 @@ LANEMATH_INLINE V odd_sine(const V& r, const V& signed_r, const T (&c)[Size]) {
   const V z = r * r;
   return signed_r + (z * horner(z, c)) * signed_r;
 }
-// The light one of single precision: its last coefficient is only near 1.
+// The native one of single precision: its last coefficient is only near 1.
 template <class V>
 LANEMATH_INLINE V odd_sine(const V& r, const V& signed_r, const float (&c)[3]) {
   const V z = r * r;

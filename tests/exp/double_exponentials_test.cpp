@@ -18,7 +18,7 @@ TEST(DoubleExponentials, OfInfinitiesZerosAndBeyondTheRange) {
       EXPECT_EQ(bits_of(name, v, width, above), infinity_bits) << above;
       EXPECT_EQ(bits_of(name, v, width, -above), 0u) << -above;
     }
-    // The light polynomials in powers of two do not have 1 as their constant term.
+    // The native polynomials in powers of two do not have 1 as their constant term.
     const u64 at_zero = v == standard || name == "exp" ? one_bits
                         : name == "exp2"               ? 0x3FF0000000261500
                                                        : 0x3FF0000000261501;

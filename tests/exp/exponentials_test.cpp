@@ -24,9 +24,9 @@ TEST(Exponentials, OfInfinitiesZerosAndBeyondTheRange) {
     EXPECT_EQ(bits_of(name, v, width, -200.0f), 0u);
     EXPECT_EQ(bits_of(name, v, width, std::numeric_limits<float>::max()), infinity_bits);
     EXPECT_EQ(bits_of(name, v, width, std::numeric_limits<float>::lowest()), 0u);
-    // The light polynomials in powers of two do not have 1 as their constant term.
-    const bool light = v == native || v == half || (v == rm && name == "exp10f");
-    const u32 at_zero = light && name != "expf" ? 0x3F7FFB49 : one_bits;
+    // The native polynomials in powers of two do not have 1 as their constant term.
+    const bool short_polynomial = v == native || v == half || (v == rm && name == "exp10f");
+    const u32 at_zero = short_polynomial && name != "expf" ? 0x3F7FFB49 : one_bits;
     for (u32 tiny : {0u, 0x80000000u, 1u, 0x80000001u, 0x007FFFFFu, 0x00800000u, 0x80800000u})
       EXPECT_EQ(bits_of(name, v, width, tiny), at_zero) << tiny;
   });

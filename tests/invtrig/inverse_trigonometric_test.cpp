@@ -19,7 +19,7 @@ struct stated {
   std::string_view name;  // of the double operation
   std::array<float, Arguments> at;
   double result;
-  bool light = true;  // also of the light forms
+  bool in_native = true;  // also of the native forms
 };
 
 template <std::size_t Arguments, std::size_t Size>
@@ -27,7 +27,7 @@ void expect(const stated<Arguments> (&rows)[Size]) {
   for (const auto& row : rows)
     for (auto v : {standard, native})
       for (int width : widths) {
-        if (v == native && !row.light) continue;
+        if (v == native && !row.in_native) continue;
         SCOPED_TRACE(fmt::format("{}{}{} at {}, {}", row.name, width, suffix(v), row.at[0], row.at[Arguments - 1]));
         const float x = row.at[0], y = row.at[Arguments - 1];
         EXPECT_EQ(bits_of(std::string(row.name) + "f", v, width, x, y), pattern(float(row.result)));
@@ -105,7 +105,7 @@ TEST(InverseTrigonometry, OfDenormals) {
   EXPECT_EQ(bits_of("atanpi", native, 2, 0x0008000000000000), 0x00028BE60DB93910u);
 }
 
-// Beyond 1 the NaN that the processor makes; a NaN in comes back quiet with its payload, but from the light forms in
+// Beyond 1 the NaN that the processor makes; a NaN in comes back quiet with its payload, but from the native forms in
 // double precision.
 TEST(InverseTrigonometry, OfNaNsAndBeyondTheDomain) {
   for (int width : widths)

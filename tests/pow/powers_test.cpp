@@ -179,7 +179,7 @@ TYPED_TEST(Powers, SpecialCasesInEveryForm) {
         }
         const auto got = bits_of(name, v, width, lane);
         const auto due = bits<T>(row.z);
-        // The light kernels are near the small integers and no more; only the case itself is meant.
+        // The native kernels are near the small integers and no more; only the case itself is meant.
         const bool in_light_kernel = !std::isnan(row.z) && std::isfinite(row.z) && row.z != 0 && std::abs(row.z) != 1;
         if (in_light_kernel && v != standard) continue;
         EXPECT_EQ(got, due) << row.x << ", " << second;

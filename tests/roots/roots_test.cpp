@@ -127,7 +127,7 @@ TEST(Roots, HaveExactValuesWhereTheirMethodsDo) {
 }
 
 // Nothing but an estimate, where a scalar routine is not asked; the true quotient where it is.
-TEST(Roots, LightReciprocalsAreExactBeyondTheirBounds) {
+TEST(Roots, NativeReciprocalsAreExactBeyondTheirBounds) {
   const auto quotient = [](float x, float y) { return pattern(root("divf", native, x, y)); };
   for (float y : {0x1p126f, 0x1.fffffep127f, 0x1p-149f, 0x1.fffffcp-127f, -0x1.8p126f})
     EXPECT_EQ(quotient(0.7f, y), pattern(0.7f / y)) << y;

@@ -18,7 +18,7 @@ inline constexpr family_text families[] = {
 is +infinity, to -infinity +0 (expm1: -1), to a zero 1 (expm1: the zero itself). A NaN gives a quiet NaN with its
 sign and payload; exp2f4 alone returns a signalling NaN as it is. Method: reduction by multiples of ln 2 / 2^k
 with the logarithm in two parts, a table of 2^(j/2^k) in two parts and a short polynomial (P. T. P. Tang, ACM TOMS
-15, 1989). The light forms use one low-degree polynomial and no table, and exp2f_native and the light exp10f are
+15, 1989). The native forms use one low-degree polynomial and no table, and exp2f_native and exp10f_native are
 not exact at integers.)"},
     {family::logarithm, "logarithm", "Logarithms",
      R"(x >= 0 (log1p: x >= -1). The logarithm of a zero is -infinity, of +infinity +infinity, of a negative x a NaN. A
@@ -37,7 +37,7 @@ x) is the angle of the point (x, y).)"},
     {family::hyperbolic, "hyperbolic", "Hyperbolic functions and their inverses",
      R"(Any x for sinh, cosh, tanh and asinh; x >= 1 for acosh and -1 <= x <= 1 for atanh, NaN outside.)"},
     {family::root, "root", "Division, reciprocals and roots",
-     R"(The default forms of division, reciprocal and square root are correctly rounded. The light forms start from the
+     R"(The default forms of division, reciprocal and square root are correctly rounded. The native forms start from the
 processor's estimates, whose low bits differ between makes of processor; those of division, reciprocal and square root
 are nothing but such an estimate. The native forms of inv, sqrt, sqrtf and hypotf test nothing: they are for arguments,
 and of hypotf for a sum of squares, well inside the range of a float, of inv for normal numbers below 2^1021.)"},
