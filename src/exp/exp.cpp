@@ -18,7 +18,7 @@ struct exp_rows {
 };
 constexpr exp_rows exp_table{
     .K = 0x40971547652B82FE_f64,
-    .S = 0x4338000000000000_f64,
+    .S = 0x1.8p52,
     .L1 = 0x3F462E42FEC00000_f64,
     .L2 = 0x3D5D1CF79ABC9E3B_f64,
     .C1 = 1.0,
@@ -36,7 +36,7 @@ struct exp_native_rows {
 };
 constexpr exp_native_rows exp_native_table{
     .K = 0x40671547652B82FE_f64,
-    .S = 0x4338000000000000_f64,
+    .S = 0x1.8p52,
     .L = 0x3F762E42FEFA39EF_f64,
     .C1 = 1.0,
     .C2 = 0x3FDFFFFC2808F7E8_f64,
@@ -94,17 +94,17 @@ struct exp_width_2_rows {
 };
 constexpr exp_width_2_rows exp_width_2_table{
     .K = 0x40571547652B82FE_f64,
-    .S = 0x4338000000000000_f64,
+    .S = 0x1.8p52,
     .L1 = 0x3F862E42FEE00000_f64,
     .L2 = 0x3D8A39EF35793C76_f64,
     .D2 = 0x3FDFFFFFFFFF62DC_f64,
     .D3 = 0x3FC555555555E58E_f64,
     .D4 = 0x3FA555594C77FF02_f64,
     .D5 = 0x3F81111001A21E3A_f64,
-    .DOWN_200 = 0x3370000000000000_f64,
-    .UP_200 = 0x4C70000000000000_f64,
+    .DOWN_200 = 0x1p-200,
+    .UP_200 = 0x1p200,
     .TINY = 0x0010000000000000_f64,
-    .HUGE_ONE = 0x7FE0000000000000_f64,
+    .HUGE_ONE = 0x1p1023,
 };
 
 struct exp_width_2 {

@@ -17,7 +17,7 @@ struct exp10f_rows {
 };
 constexpr exp10f_rows exp10f_table{
     .K = 0x43D49A78_f32,
-    .S = 0x4B400000_f32,
+    .S = 0x1.8p23f,
     .L1 = 0x3B1A4000_f32,
     .L2 = 0xB5FB2BD8_f32,
     .P1 = 0x40135D97_f32,

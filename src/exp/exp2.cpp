@@ -15,7 +15,7 @@ struct exp2_rows {
   std::int32_t JMASK;  // table index bits
 };
 constexpr exp2_rows exp2_table{
-    .S = 0x42C8000000000000_f64,
+    .S = 0x1.8p45,
     .C1 = 0x3FE62E42FEFA3685_f64,
     .C2 = 0x3FCEBFBDFF82CA48_f64,
     .C3 = 0x3FAC6B09B180F045_f64,
@@ -44,7 +44,7 @@ LANEMATH_RARE exp2_rare(const double* px, double* py) {
   const double y = p.w + p.hi;
   if (x < -1022.0) {  // a denormal result: rounded once, by the last product
     const double s = with_exponent_field<double>((p.k + 1123) & 2047);
-    *py = (s * y) * 0x39B0000000000000_f64;  // 2^-100
+    *py = (s * y) * 0x1p-100;
     return status::underflow;
   }
   *py = scaled(y, p.k);
@@ -81,7 +81,7 @@ struct exp2_width_2_rows {
   double G1, G2, G3, G4;
 };
 constexpr exp2_width_2_rows exp2_width_2_table{
-    .S2 = 0x42C8000000000000_f64,
+    .S2 = 0x1.8p45,
     .G1 = 0x3FE62E42FEFA3685_f64,
     .G2 = 0x3FCEBFBDFF82D099_f64,
     .G3 = 0x3FAC6B09B179999B_f64,
@@ -118,7 +118,7 @@ LANEMATH_RARE exp2_width_2_lane(const double* px, double* py) {
   double shift = 0.0, factor = 1.0;
   if (magnitudes >= 0xC08FF000) {  // -1022
     shift = 53.0;
-    factor = 0x3CA0000000000000_f64;  // 2^-53
+    factor = 0x1p-53;
   }
   if (h > 0x408FFFF7) {  // 1023.99
     shift = -1.0;

@@ -68,7 +68,7 @@ struct exp2f_width_1 {
 
  private:
   static float in_range(float x) {
-    constexpr double shifter = 0x42B8000000000000_f64;  // 1.5 * 2^44
+    constexpr double shifter = 0x1.8p44;
     const double xd = x;
     const double t = shifter + xd;
     const auto i = std::int32_t(pattern_of(t));
@@ -86,7 +86,7 @@ struct exp2f_width_4_rows {
   float S2;      // shifter that leaves 6 fraction bits, 1.5 * 2^17
   float Q1, Q0;  // monic quadratic
 };
-constexpr exp2f_width_4_rows exp2f_width_4_table{.S2 = 0x48400000_f32, .Q1 = 0x4038AA68_f32, .Q0 = 0x40853526_f32};
+constexpr exp2f_width_4_rows exp2f_width_4_table{.S2 = 0x1.8p17f, .Q1 = 0x4038AA68_f32, .Q0 = 0x40853526_f32};
 
 template <class V>
 V flush_denormals(V x) {
@@ -109,11 +109,11 @@ LANEMATH_RARE exp2f_lane(const float* px, float* py) {
   float shift = 0.0f, factor = 1.0f;
   if (magnitudes >= 0xC2F70000) {  // -123.5
     shift = 24.0f;
-    factor = 0x33800000_f32;  // 2^-24
+    factor = 0x1p-24f;
   }
   if (pattern > 0x42F70000) {  // 123.5
     shift = -24.0f;
-    factor = 0x4B800000_f32;  // 2^24
+    factor = 0x1p24f;
   }
   const scalar y = flush_denormals(x + shift);
   const scalar t = y + c.S2;

@@ -19,7 +19,7 @@ struct expf_rows {
 };
 constexpr expf_rows expf_table{
     .K = 0x4338AA3B_f32,
-    .S = 0x4B400000_f32,
+    .S = 0x1.8p23f,
     .L1 = 0x3BB18000_f32,
     .L2 = 0xB5DE8083_f32,
     .BIAS = 0x3F80,
@@ -38,7 +38,7 @@ struct expf_rm_rows {
   float B0, B1, B2, B3, B4, B5;
 };
 constexpr expf_rm_rows expf_rm_table{
-    .S = 0x4B400000_f32,
+    .S = 0x1.8p23f,
     .H = 0x3F317200_f32,
     .L = 0x35BFBE8E_f32,
     .B0 = 1.0f,

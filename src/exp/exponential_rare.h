@@ -57,12 +57,12 @@ inline double scaled(double y, std::int32_t k) {
 inline double scaled_to_denormal(const rare_power& p) {
   const int field = (p.k + 1083) & 2047;
   const double s = with_exponent_field<double>(field);
-  const double unscale = 0x3C30000000000000_f64;  // 2^-60
+  const double unscale = 0x1p-60;
   const double a = p.w * s, b = p.hi * s;
   const double v = a + b;
   if (field <= 50) return v * unscale;
   const double u = a + (b - v);
-  const double c = v * 0x41F8000000000000_f64;
+  const double c = v * 0x1.8p32;
   const double h = (v + c) - c;
   const double l = (v - h) + u;
   return h * unscale + l * unscale;
@@ -83,14 +83,14 @@ inline rare_power exp_power(double x) {
   const split_index n(t);
   const double m = t - integer_shifter<double>;
   const double r = (x - m * 0x3F862E42FEFA0000_f64) - m * 0x3D1CF79ABC9E3B3A_f64;  // ln 2 / 64 in two parts
-  const double q = horner(r, {0x3F56C16A1C2A3FFD_f64, 0x3F8111123AAF20D3_f64, 0x3FA5555555558FCC_f64,
-                              0x3FC55555555548F8_f64, 0x3FE0000000000000_f64});
+  const double q =
+      horner(r, {0x3F56C16A1C2A3FFD_f64, 0x3F8111123AAF20D3_f64, 0x3FA5555555558FCC_f64, 0x3FC55555555548F8_f64, 0.5});
   const auto [hi, lo] = exp2_64[n.j];
   return {hi, (q * r * r + r + lo) * hi, n.k};
 }
 
 inline rare_power exp2_power(double x) {
-  constexpr double shifter = 0x42D8000000000000_f64;  // 1.5 * 2^46
+  constexpr double shifter = 0x1.8p46;
   const double t = x + shifter;
   const split_index n(t);
   const double f = x - (t - shifter);

@@ -10,7 +10,7 @@ namespace {
 // For |x| below 2^52. Kept although no argument reaches it: beside this divisor the kernel serves all below 2^56.
 inline double fmod_by_2147483647(double x, double y) {
   const double ax = std::fabs(x);
-  const auto quotient = std::uint32_t(std::int64_t(ax * 0x3E00000000000000_f64));  // 2^-31
+  const auto quotient = std::uint32_t(std::int64_t(ax * 0x1p-31));
   double t = ax - double(quotient) * 0x41DFFFFFFFC00000_f64;
   if (t >= y) t -= y;
   return std::copysign(t, x);

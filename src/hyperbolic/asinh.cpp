@@ -67,7 +67,8 @@ using asinh_native = asinh_form<double, asinh_rare, 0x7FEFFFFF, native_logarithm
 LANEMATH_RARE asinhf_lane(const float* px, float* py) {
   std::uint32_t x;
   __builtin_memcpy(&x, px, sizeof x);
-  if ((x & 0x7FFFFFFF) - 0x31800000 >= 0x4E000000) {
+  const auto a = x & 0x7FFFFFFF;
+  if (a < 0x31800000 || a >= 0x7F800000) {  // below 2^-28, infinite or a NaN
     __builtin_memcpy(py, &x, sizeof x);
     return status::ordinary;
   }

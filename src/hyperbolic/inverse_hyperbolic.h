@@ -26,26 +26,26 @@ struct inverse_rows {
   T TINY;        // below, atanh is x
 };
 inline constexpr inverse_rows<float> inverse_single{
-    .BIG = 0x4E800000_f32,
-    .SCALE = 0x30800000_f32,
+    .BIG = 0x1p30f,
+    .SCALE = 0x1p-30f,
     .RADICAND = 16,
     .ROOT = 16,
     .X = 13,
     .QUOTIENT = 12,
     .INVERSE = 12,
-    .SMALL = 0x3D800000_f32,
-    .TINY = 0x0C000000_f32,
+    .SMALL = 0x1p-4f,
+    .TINY = 0x1p-103f,
 };
 inline constexpr inverse_rows<double> inverse_double{
-    .BIG = 0x41D0000000000000_f64,
-    .SCALE = 0x3E10000000000000_f64,
+    .BIG = 0x1p30,
+    .SCALE = 0x1p-30,
     .RADICAND = 24,
     .ROOT = 41,
     .X = 27,
     .QUOTIENT = 12,
     .INVERSE = 41,
-    .SMALL = 0x3F60000000000000_f64,
-    .TINY = 0x0350000000000000_f64,
+    .SMALL = 0x1p-9,
+    .TINY = 0x1p-970,
 };
 template <class T>
 constexpr auto& inverse_rows_of() {
@@ -84,7 +84,7 @@ struct sum_with_one {
     const one_plus<V> sum(v);
     w = sum.w();
     if constexpr (sizeof(typename V::value_type) == 8)
-      w = from_bits(bits(w) & ((v < 0x3E00000000000000_f64) | std::int64_t(0xFFFFFFFFFFFFFC00)));
+      w = from_bits(bits(w) & ((v < 0x1p-31) | std::int64_t(0xFFFFFFFFFFFFFC00)));
     err = sum.lost_by(w);
   }
   LANEMATH_INLINE sum_with_one(V v, V low) : sum_with_one(v) { err = err + low; }
@@ -125,7 +125,7 @@ struct double_logarithm {
 };
 
 inline constexpr float inverse_polynomial[] = {0x3E0D84ED_f32, 0xBE1AD9E3_f32, 0x3E0FCB12_f32, 0xBE28AD37_f32,
-                                               0x3E4CE190_f32, 0xBE80058E_f32, 0x3EAAAA94_f32, 0xBF000000_f32};
+                                               0x3E4CE190_f32, 0xBE80058E_f32, 0x3EAAAA94_f32, -0.5f};
 template <class T>
 using logarithm = std::conditional_t<sizeof(T) == 4, single_logarithm<inverse_polynomial>, double_logarithm<false>>;
 template <class T>

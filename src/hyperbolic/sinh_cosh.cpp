@@ -8,11 +8,11 @@ namespace lanemath {
 namespace {
 
 constexpr ln2_rows<double> sinh_reduction{.K = 0x3FF71547652B82FE_f64,
-                                          .S = 0x42C8000000000000_f64,  // leaves 7 fraction bits
+                                          .S = 0x1.8p45,  // leaves 7 fraction bits
                                           .L1 = 0x3FE62E42FEFA0000_f64,
                                           .L2 = 0x3D7CF79ABC9E3B3A_f64};
 constexpr ln2_rows<double> cosh_reduction{.K = 0x3FF71547652B82FE_f64,
-                                          .S = 0x42B8000000000000_f64,   // leaves 8 fraction bits
+                                          .S = 0x1.8p44,                 // leaves 8 fraction bits
                                           .L1 = 0x3FE62E42FEFC0000_f64,  // above ln 2
                                           .L2 = 0xBDAC610CA86C3899_f64};
 

@@ -5,8 +5,7 @@
 namespace lanemath {
 namespace {
 
-constexpr ln2_rows<float> reduction{
-    .K = 0x3FB8AA3B_f32, .S = 0x4B400000_f32, .L1 = 0x3F317000_f32, .L2 = 0x3805FDF4_f32};
+constexpr ln2_rows<float> reduction{.K = 0x3FB8AA3B_f32, .S = 0x1.8p23f, .L1 = 0x3F317000_f32, .L2 = 0x3805FDF4_f32};
 
 // sinh r = r + C1 r^3 + C2 r^5, cosh r = 1 + E1 r^2 + E2 r^4 + E3 r^6
 struct addition_rows {

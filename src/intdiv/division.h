@@ -13,10 +13,10 @@
 namespace lanemath {
 
 struct division_rows {
-  static constexpr double TWO = 0x4000000000000000_f64;
+  static constexpr double TWO = 2.0;
   static constexpr double ABOVE_TWO = 0x4000000000000200_f64;  // 2 + 2^-42
   // 2^52 + 2^51: a lane's low word is the integer that was added.
-  static constexpr double BIAS = 0x4338000000000000_f64;
+  static constexpr double BIAS = 0x1.8p52;
 };
 
 template <int W>

@@ -79,9 +79,8 @@ struct estimated_root {
 template <int W>
 LANEMATH_INLINE estimated_root<lanes<double, W>> estimate_root(const lanes<double, W>& h) {
   // At h = 0 a finite estimate, so that 0 comes out. In the domain h is 0 or at least 2^-54.
-  const auto estimate = [](auto v) LANEMATH_LAMBDA {
-    return reciprocal_root_estimate(maximum(decltype(v)(0x00800000_f32), v));
-  };
+  const auto estimate = [](auto v)
+                            LANEMATH_LAMBDA { return reciprocal_root_estimate(maximum(decltype(v)(0x1p-126f), v)); };
   const auto y0 = by_floats(estimate, h);
   const auto b = ordered_product(h + h, y0);
   const auto t = ordered_product(y0, b) - 2.0;

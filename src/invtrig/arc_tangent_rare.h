@@ -13,9 +13,9 @@ namespace lanemath {
 // half a step, lo decides.
 inline double scaled(const double_pair& v, int k) {
   const double exact = v.hi * power_of_two<double>(std::max(k, -1080) + 64);
-  const double result = exact * 0x3BF0000000000000_f64;        // 2^-64
-  const double cut = exact - result * 0x43F0000000000000_f64;  // 2^64
-  constexpr double half_step = 0x00C0000000000000_f64;         // 2^-1011, half the smallest denormal at this scale
+  const double result = exact * 0x1p-64;
+  const double cut = exact - result * 0x1p64;
+  constexpr double half_step = 0x1p-1011;  // half the smallest denormal at this scale
   constexpr double step = std::numeric_limits<double>::denorm_min();
   if (cut == half_step && v.lo > 0) return result + step;
   if (cut == -half_step && v.lo < 0) return result - step;
@@ -90,9 +90,9 @@ LANEMATH_RARE arc_tangent_rare(const T* px, T* py) {
   }
   const double a = std::fabs(x);
   T y;
-  if (a >= 0x4350000000000000_f64)  // 2^54
+  if (a >= 0x1p54)
     y = half_turns<T, Scaled>(0.5);
-  else if (a < 0x3CA0000000000000_f64)  // 2^-53
+  else if (a < 0x1p-53)
     y = a == 0.0 ? zero_v<T> : tiny_arc_tangent<T, Scaled>(a, 1.0);
   else  // kept although no argument reaches it: the kernels serve these
     y = rounded<T, Scaled>(arc_tangent<at_middles>(a));

@@ -40,11 +40,11 @@ struct atan_standard {
   template <class V>
   static V kernel(V x) {
     const V a = magnitude(x);
-    const V w = a + 0x4318000000000000_f64;  // 1.5 * 2^50: rounds to quarters
-    const V c = w - 0x4318000000000000_f64;
+    const V w = a + 0x1.8p50;  // rounds to quarters
+    const V c = w - 0x1.8p50;
     const auto big = 7.875 <= a;
     const V num = select(big, V(-1.0), a - c);
-    const V den = select(big, minimum(a, 0x47F0000000000000_f64), 1.0 + a * c);  // 2^128: finite
+    const V den = select(big, minimum(a, 0x1p128), 1.0 + a * c);  // finite
     const V t = num / den;
     const V base = select(big, V(half_pi<double>), look_up(arc_tangent_quarters, lower(w) & 31));
     const V u = t * t, q = u * u;

@@ -22,17 +22,17 @@ struct log1p_rows {
   T LN2H, LN2L;   // ln 2, high and low part
 };
 constexpr log1p_rows<float> log1pf_table{
-    .TINY = 0x39800000_f32,
+    .TINY = 0x1p-12f,
     .MASKH = std::int32_t(0xFFFFFF00),
     .SMALL = -8,
     .EXPC = 0x7B000000,
     .NEG1 = 0xBF7FFFFF_f32,
-    .BIG = 0x7A800000_f32,
+    .BIG = 0x1p118f,
     .LN2H = 0x3F317200_f32,
     .LN2L = 0x35BFBE00_f32,
 };
 constexpr log1p_rows<double> log1p_table{
-    .TINY = 0x3E00000000000000_f64,
+    .TINY = 0x1p-31,
     .MASKH = std::int64_t(0xFFFFFFFFFFFFFC00),
     .SMALL = -10,
     .EXPC = 0x7F40000000000000,

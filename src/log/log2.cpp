@@ -52,7 +52,7 @@ struct log2_width_2 {
 
  private:
   LANEMATH_INLINE static V of_normal(V x) {
-    constexpr double to_128ths = 0x42C0000000000000_f64;  // 2^45
+    constexpr double to_128ths = 0x1p45;
     const V m = with_exponent(x, 0);
     const V mh = (from_bits(bits(m) | 0x000003FF000003FF) + to_128ths) - to_128ths;  // halfway goes up
     const auto j = ((upper(x) >> 12 & 0xFF) + 1) >> 1;

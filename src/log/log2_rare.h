@@ -78,11 +78,12 @@ inline double log2_closest_to_one(double x) {
   if (const auto status = log_detail::of_special(x, *py)) return *status;
   const auto pattern = pattern_of(x);
   const auto h = std::uint32_t(pattern >> 32), l = std::uint32_t(pattern);
-  if (h - 0x3FEF8000 >= 53248)  // 0.984375 and a little above 1.0195
+  const auto w = h << 11 | l >> 21;
+  if (h < 0x3FEF8000 || h >= 0x3FF05000)  // 0.984375, 1.01953125
     *py = log_detail::log2_away_from_one(x);
-  else if (h - 0x3FEFFFF0 >= 24)
+  else if (h < 0x3FEFFFF0 || h >= 0x3FF00008)  // 1 - 2^-17, 1 + 2^-17
     *py = log_detail::log2_around_one(x);
-  else if ((h << 11 | l >> 21) - 0x7FFFFFFE >= 3)
+  else if (w < 0x7FFFFFFE || w > 0x80000000)
     *py = log_detail::log2_close_to_one(x);
   else
     *py = log_detail::log2_closest_to_one(x);

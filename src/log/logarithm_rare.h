@@ -20,9 +20,9 @@ namespace log_detail {
 template <class T>
 constexpr T index_shifter;
 template <>
-inline constexpr float index_shifter<float> = 0x48000040_f32;  // 2^17 + 1
+inline constexpr float index_shifter<float> = 0x1p17f + 1.0f;
 template <>
-inline constexpr double index_shifter<double> = 0x42D0000000000040_f64;  // 2^46 + 1
+inline constexpr double index_shifter<double> = 0x1p46 + 1.0;
 
 // The status of an argument that is no positive number below infinity.
 template <class T>
@@ -65,7 +65,7 @@ struct natural_rows {
   T Q[7];
 };
 inline constexpr natural_rows<float> natural_single{
-    .RESCALE = 0x4D000000_f32,
+    .RESCALE = 0x1p27f,
     .SHIFT = -27,
     .NEAR = 0.009765625f,
     .GRID = 8192.0f,
@@ -73,11 +73,10 @@ inline constexpr natural_rows<float> natural_single{
     .LN2L = 0x35BFBE8E_f32,
     .DENORMAL_H = 0x3F317218_f32,  // not split: their logarithms are large
     .DENORMAL_L = 0.0f,
-    .Q = {0xBE0005A0_f32, 0x3E124E01_f32, 0xBE2AAAAB_f32, 0x3E4CCCCD_f32, 0xBE800000_f32, 0x3EAAAAAB_f32,
-          0xBF000000_f32},
+    .Q = {0xBE0005A0_f32, 0x3E124E01_f32, 0xBE2AAAAB_f32, 0x3E4CCCCD_f32, -0.25f, 0x3EAAAAAB_f32, -0.5f},
 };
 inline constexpr natural_rows<double> natural_double{
-    .RESCALE = 0x43B0000000000000_f64,
+    .RESCALE = 0x1p60,
     .SHIFT = -60,
     .NEAR = 0.009765625,
     .GRID = 2097152.0,
@@ -120,9 +119,9 @@ struct based_rows {
   T W[8];
 };
 inline constexpr based_rows<float> log2f_rows{
-    .RESCALE = 0x4D000000_f32,
+    .RESCALE = 0x1p27f,
     .SHIFT = -27,
-    .NEAR = 0x3BC00000_f32,
+    .NEAR = 0x1.8p-8f,
     .GRID = 8192.0f,
     .SCALE = 0x43B8AA40_f32,  // 256 / ln 2
     .LOG2H = 1.0f,
@@ -131,9 +130,9 @@ inline constexpr based_rows<float> log2f_rows{
           0xB6B1720F_f32, 0xBF7F0000_f32},  // the last one leaves z / 256
 };
 inline constexpr based_rows<float> log10f_rows{
-    .RESCALE = 0x53800000_f32,
+    .RESCALE = 0x1p40f,
     .SHIFT = -40,
-    .NEAR = 0x3BC00000_f32,
+    .NEAR = 0x1.8p-8f,
     .GRID = 8192.0f,
     .SCALE = 0x42DE5C00_f32,  // 256 / ln 10
     .LOG2H = 0x3E9A0000_f32,
@@ -142,7 +141,7 @@ inline constexpr based_rows<float> log10f_rows{
           0xB7935D5A_f32, 0xBF7F0000_f32},
 };
 inline constexpr based_rows<double> log10_rows{
-    .RESCALE = 0x43B0000000000000_f64,
+    .RESCALE = 0x1p60,
     .SHIFT = -60,
     .NEAR = 0.005859375,
     .GRID = 8388608.0,

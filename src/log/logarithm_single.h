@@ -22,7 +22,7 @@ struct centred_mantissa {
 
 // ln(1 + r) = r + q(r) r^2; the shortest q serves ln(1 + x) as well.
 inline constexpr float LN2_F32 = 0x3F317218_f32;
-inline constexpr float native_ln_polynomial[] = {0x3E612933_f32, 0xBE88E8FE_f32, 0x3EAA7160_f32, 0xBF000000_f32};
+inline constexpr float native_ln_polynomial[] = {0x3E612933_f32, 0xBE88E8FE_f32, 0x3EAA7160_f32, -0.5f};
 
 template <class V, std::size_t N>
 LANEMATH_INLINE V ln_of_one_plus(V r, const float (&q)[N]) {

@@ -17,11 +17,11 @@ constexpr logf_rows logf_table{
     .LN2H = 0x3F317200_f32,
     .LN2L = 0x35BFBE8E_f32,
     .Q = {0xBE0402C8_f32, 0x3E0F335D_f32, 0xBDF9889E_f32, 0x3E0F6B8C_f32, 0xBE2ACEE6_f32, 0x3E4CE814_f32,
-          0xBE7FFF78_f32, 0x3EAAAA83_f32, 0xBF000000_f32},
+          0xBE7FFF78_f32, 0x3EAAAA83_f32, -0.5f},
 };
 
 constexpr float logf_half_polynomial[] = {0xBE1B6A22_f32, 0x3E2DB86B_f32, 0xBE289358_f32, 0x3E4AFB81_f32,
-                                          0xBE80061D_f32, 0x3EAAAEE7_f32, 0xBF000000_f32};
+                                          0xBE80061D_f32, 0x3EAAAEE7_f32, -0.5f};
 
 using logf_guards = rare_unless_normal<float, logf_rare>;
 

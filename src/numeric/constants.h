@@ -20,8 +20,8 @@ inline constexpr double inverse_pi<double> = 0x3FD45F306DC9C883_f64;
 
 // 1.5 * 2^23 or 2^52: a sum with it is rounded to an integer, which its low bits are.
 template <class T>
-inline constexpr T integer_shifter = 0x4B400000_f32;
+inline constexpr T integer_shifter = 0x1.8p23f;
 template <>
-inline constexpr double integer_shifter<double> = 0x4338000000000000_f64;
+inline constexpr double integer_shifter<double> = 0x1.8p52;
 
 }  // namespace lanemath

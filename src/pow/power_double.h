@@ -53,7 +53,7 @@ LANEMATH_INLINE auto double_power(const lanes<double, W>& x, const exponent_part
   const V P = y.hi * Lh;
   const V rest = (Lh * y.lo + (y.hi * Ll + y.lo * Ll)) + t * y.value;
 
-  constexpr double shifter = 0x42C8000000000000_f64;  // 1.5 * 2^45: leaves 7 fraction bits
+  constexpr double shifter = 0x1.8p45;  // leaves 7 fraction bits
   const V G = P + shifter;
   const V v = (P - (G - shifter)) + rest;
   const V power = look_up(exp2_pair_128, lower(G) & 127).hi;

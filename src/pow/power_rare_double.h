@@ -67,7 +67,7 @@ inline double finite_power(double x, double_pair y, double sign) {
   if (size < 1986) return (1.0 + opaque(0x1p-1022)) * sign;
 
   const auto exponent = log * y;
-  constexpr double shifter = 0x42C8000000000000_f64;  // leaves 7 fraction bits
+  constexpr double shifter = 0x1.8p45;  // leaves 7 fraction bits
   const double G = shifter + exponent.hi;
   const auto index = std::int32_t(pattern_of(G));
   const auto v = double_pair::sum(exponent.hi - (G - shifter), exponent.lo);

@@ -22,7 +22,7 @@ float finite_power(float x, const exponent_parts<float>& y, float sign) {
   float ax = std::fabs(x);
   int adjustment = 0;
   if (exponent_field(x) == 0) {
-    ax *= 0x5F800000_f32;  // 2^64
+    ax *= 0x1p64f;
     adjustment = -64;
   }
   const auto b = std::int32_t(pattern_of(ax));
@@ -67,7 +67,7 @@ float finite_power(float x, const exponent_parts<float>& y, float sign) {
   const float b_low = (A - B) + C;
   const auto log = split(B);
 
-  constexpr float shifter = 0x47C00000_f32;  // 98304: leaves 7 fraction bits
+  constexpr float shifter = 0x1.8p16f;  // 98304: leaves 7 fraction bits
   const float p = y.hi * log.hi;
   float G, rest;
   if constexpr (Product == product_sum::before_rounding) {
@@ -88,7 +88,7 @@ float finite_power(float x, const exponent_parts<float>& y, float sign) {
   if (f >= 128) return overflowed<float>() * sign;
   if (f >= -126) return value_of<float>((pattern_of(E) & 0x007FFFFF) | std::uint32_t(f + 127) << 23) * sign;
   if (f < -159) return underflowed<float>() * sign;
-  constexpr float down = 0x1F800000_f32;  // 2^-64
+  constexpr float down = 0x1p-64f;
   const float scale = with_exponent_field<float>((n + 191) & 255);
   if (f < -136) return (E * scale) * (sign * down) + underflowed<float>();
   const float low = (power_hi - E) + v;

@@ -48,13 +48,13 @@ LANEMATH_INLINE auto split_power(const lanes<std::int32_t, W>& b, const exponent
   const V a = A + t;
   const V u = ml * C;
   const V p = t + u;
-  const V q = ((p * 0xBE800000_f32 + 0x3EAAAAAB_f32) * p + 0xBF000000_f32) * (p * p);
+  const V q = ((p * -0.25f + 0x3EAAAAAB_f32) * p + -0.5f) * (p * p);
   V H = E * 0x3F317000_f32 + a;
   V Lo = q + (E * 0x3805FDF4_f32 + B);
   // Near 1 the high part is small, and what is left of m belongs to it.
-  const auto near_one = b + 0x407E0000 > 0x7FFC0000;
-  H = H + from_bits(bits(u) & near_one);
-  Lo = Lo + from_bits(bits(u) & ~near_one);
+  const auto away_from_one = outside(b, 0x3F7E0001, 0x3F81FFFF);
+  H = H + from_bits(bits(u) & ~away_from_one);
+  Lo = Lo + from_bits(bits(u) & away_from_one);
 
   const V S = H + Lo;
   const V scaled = S * half_splitter<V>();
@@ -99,7 +99,7 @@ LANEMATH_INLINE auto short_power(const lanes<std::int32_t, W>& b, const lanes<fl
   const V K = convert<float>(x.k), z = x.r;
   const V q =
       ((((z * 0x3E2B350C_f32 + 0xBE424B46_f32) * z + 0x3E4B62C0_f32) * z + 0xBE7F0F0F_f32) * z + 0x3EAAAD03_f32) * z +
-      0xBF000000_f32;
+      -0.5f;
   const V p = z + q * (z * z);
   const V L = K * LN2_HI + (K * LN2_LO + p);
 

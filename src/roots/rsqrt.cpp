@@ -67,7 +67,7 @@ struct rsqrtf_standard : rsqrtf_guards {
   static V kernel(V x) {
     const V y = without_low_bits(reciprocal_root_estimate(x), 15);
     const V e = (y * y) * x - 1.0f;
-    const V p = (0xBEA00000_f32 * e + 0x3EC00000_f32) * e + 0xBF000000_f32;
+    const V p = (-0x1.4p-2f * e + 0.375f) * e + -0.5f;
     return y + (e * p) * y;
   }
 };

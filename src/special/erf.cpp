@@ -9,8 +9,8 @@
 namespace lanemath::special {
 namespace {
 
-constexpr float erff_cap = 0x407B8000_f32;      // 3.9296875, the last point
-constexpr float erff_shifter = 0x47800000_f32;  // 2^16
+constexpr float erff_cap = 3.9296875f;  // the last point
+constexpr float erff_shifter = 0x1p16f;
 
 template <class V>
 V erff_with_sign(V x, V v, const grid_point<V>& at) {
@@ -26,7 +26,7 @@ struct erff_standard {
     const V b = minimum(a, erff_cap);
     const auto at = nearest_point(erff_grid, erff_shifter, b);
     const V d = b - at.m;
-    const V e = where(b > 0x2F800000_f32, d);  // 2^-32
+    const V e = where(b > 0x1p-32f, d);
     const V w = at.m * d;
     const V v = minimum(d, a);
     V u = (e * e) * 0xBEAAAADE_f32 - w;
@@ -54,8 +54,8 @@ struct erf_rows {
 };
 constexpr erf_rows erf_table{
     .cap = 0x4017F80000000000_f64,
-    .shifter = 0x42C0000000000000_f64,
-    .tiny = 0x2FF0000000000000_f64,
+    .shifter = 0x1p45,
+    .tiny = 0x1p-256,
 };
 
 // The relative correction of the first-order term.

@@ -22,11 +22,11 @@ template <class T>
 struct erfc_scale;
 template <>
 struct erfc_scale<float> {
-  static constexpr float up = 0x57800000_f32, down = 0x27800000_f32;
+  static constexpr float up = 0x1p48f, down = 0x1p-48f;
 };
 template <>
 struct erfc_scale<double> {
-  static constexpr double up = 0x47F0000000000000_f64, down = 0x37F0000000000000_f64;
+  static constexpr double up = 0x1p128, down = 0x1p-128;
 };
 
 // x taken apart by a grid whose last point is `cap`, and the result put together.
@@ -84,7 +84,7 @@ struct erfc_guard {
 struct erfcf_standard : erfcf_guard {
   template <class V>
   static V kernel(V x) {
-    const erfc_parts<V> part(x, erfcf_grid, 0x41210000_f32, 0x48000000_f32);  // 10.0625, 2^17
+    const erfc_parts<V> part(x, erfcf_grid, 10.0625f, 0x1p17f);
     const V w = part.w;
     const V p = ((0x3E08A7CA_f32 * w + 0xBEAACF22_f32) * w + 0x3F2AAAA6_f32) * w + 0xBF7FFFFC_f32;
     const V q = 0x3F005B36_f32 * w + 0xBEAB4EDB_f32;
@@ -97,7 +97,7 @@ struct erfcf_standard : erfcf_guard {
 struct erfcf_native : erfcf_guard {
   template <class V>
   static V kernel(V x) {
-    const erfc_parts<V> part(x, erfcf_native_grid, 0x41210000_f32, 0x48800000_f32);  // 10.0625, 2^18
+    const erfc_parts<V> part(x, erfcf_native_grid, 10.0625f, 0x1p18f);
     const V w = part.w;
     const V p = (0xBEAB6147_f32 * w + 0x3F2B4F03_f32) * w + 0xBF7FFF8B_f32;
     const V u = (w * p) * part.at.D;
@@ -109,7 +109,7 @@ struct erfcf_native : erfcf_guard {
 struct erfc_standard : erfc_guard {
   template <class V>
   static V kernel(V x) {
-    const erfc_parts<V> part(x, erfc_grid, 0x403B3E0000000000_f64, 0x42C0000000000000_f64);  // 27.2421875, 2^45
+    const erfc_parts<V> part(x, erfc_grid, 27.2421875, 0x1p45);
     const V w = part.w, z = part.z;
     const V P =
         horner(w, {0xBF2282C89A04C65F_f64, 0x3F472360BAC04E70_f64, 0xBF6A019F4F234617_f64, 0x3F8A019F5AEED25F_f64,
@@ -130,7 +130,7 @@ struct erfc_standard : erfc_guard {
 struct erfc_native : erfc_guard {
   template <class V>
   static V kernel(V x) {
-    const erfc_parts<V> part(x, erfc_native_grid, 0x403B3C0000000000_f64, 0x42D0000000000000_f64);  // 27.234375, 2^46
+    const erfc_parts<V> part(x, erfc_native_grid, 27.234375, 0x1p46);
     const V w = part.w, z = part.z;
     const V P = horner(w, {0xBF6A1FDD30652EA1_f64, 0x3F8A1F05F5094FB6_f64, 0xBFA6C15C3DA087D4_f64,
                            0x3FC111066671A484_f64, 0xBFD555555ADC4EA0_f64, 0x3FE555555933BC54_f64});

@@ -56,7 +56,7 @@ template <>
 struct reduction_rows<float> {
   static constexpr int significand = 23;
   static constexpr std::uint32_t SIGN = 0x80000000, ONE = 0x3F800000;
-  static constexpr float SHIFTER = 0x47400000_f32;  // 1.5 * 2^15: rounds to steps of 1/256
+  static constexpr float SHIFTER = 0x1.8p15f;  // rounds to steps of 1/256
   static constexpr std::int32_t STEPS = 0xFF;
   // Fields of the fraction behind the first one, each as a significand of the power of two beside it.
   static constexpr std::uint32_t MID = 0x34000000, LOW = 0x28800000;
@@ -69,7 +69,7 @@ template <>
 struct reduction_rows<double> {
   static constexpr int significand = 52;
   static constexpr std::uint64_t SIGN = 0x8000000000000000, ONE = 0x3FF0000000000000;
-  static constexpr double SHIFTER = 0x42A8000000000000_f64;  // 1.5 * 2^43: rounds to steps of 1/512
+  static constexpr double SHIFTER = 0x1.8p43;  // rounds to steps of 1/512
   static constexpr std::int32_t STEPS = 0x1FF;
   static constexpr std::uint64_t MID = 0x3CB0000000000000, LOW = 0x3970000000000000;
   static constexpr int low_bits = 24;

@@ -86,7 +86,7 @@ inline quadrant_and_rest reduce_large(double a, double sign) {
   add(T[6] * yl + yh * T[7]);
   const double p9 = T[7] * yl + yh * T[8];
 
-  const double h = sum + p9, v = h * 0x4198000000000000_f64;
+  const double h = sum + p9, v = h * 0x1.8p26;
   const double H = (h + v) - v, L = p9 + (sum - H) + lost;
   const double A = 0x3FE921FB40000000_f64, B = 0x3E64442D18469899_f64;  // pi/4
   const double t = A * L + (L + H) * B, P = H * A;
@@ -110,7 +110,7 @@ struct sine_and_cosine {
 inline sine_and_cosine scalar_sine_cosine(double x) {
   if (exponent_field(x) < 771) {
     const double a = std::fabs(x);
-    const double sine = x == 0 ? x : (0x4360000000000000_f64 * x - x) * 0x3C80000000000000_f64;
+    const double sine = x == 0 ? x : (0x1p55 * x - x) * 0x1p-55;
     return {sine, 1.0 - a};
   }
   const auto [hi, lo, q] = reduce_scalar(x);
@@ -123,9 +123,8 @@ inline sine_and_cosine scalar_sine_cosine(double x) {
   const double S = (((0x3EC71DE3A556C734_f64 * z + 0xBF2A01A01A01A01A_f64) * z + 0x3F81111111111111_f64) * z +
                     0xBFC5555555555555_f64) *
                    z * r;
-  const double C = (((0x3EFA01A01A01A01A_f64 * z + 0xBF56C16C16C16C17_f64) * z + 0x3FA5555555555555_f64) * z +
-                    0xBFE0000000000000_f64) *
-                   z;
+  const double C =
+      (((0x3EFA01A01A01A01A_f64 * z + 0xBF56C16C16C16C17_f64) * z + 0x3FA5555555555555_f64) * z + -0.5) * z;
   const auto at = [&](std::uint32_t step) {
     const auto& [a, b, c, d] = sincos_64[step & 63];
     const double m1 = d * r, m2 = a * r, h1 = b + m1, h2 = h1 + m2, e2 = m2 + (h1 - h2);

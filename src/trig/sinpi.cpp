@@ -16,8 +16,8 @@ struct of_pi;
 template <>
 struct of_pi<float> {
   static constexpr auto& steps = of_pi_f32;
-  static constexpr float SHIFTER = 0x48400000_f32;  // 1.5 * 2^17: rounds to 1/64
-  static constexpr float WHOLE_TURNS = 0x4BC00000_f32;
+  static constexpr float SHIFTER = 0x1.8p17f;  // rounds to 1/64
+  static constexpr float WHOLE_TURNS = 0x1.8p24f;
   // (sin(pi d) / (pi d) - 1) / d^2 and (cos(pi d) - 1) / d^2 in d^2, highest power first
   static constexpr float sine[] = {0xBFD28C63_f32};
   static constexpr float cosine[] = {0xC09DE8E3_f32};
@@ -26,8 +26,8 @@ struct of_pi<float> {
 template <>
 struct of_pi<double> {
   static constexpr auto& steps = of_pi_f64;
-  static constexpr double SHIFTER = 0x42B8000000000000_f64;  // 1.5 * 2^44: rounds to 1/256
-  static constexpr double WHOLE_TURNS = 0x4348000000000000_f64;
+  static constexpr double SHIFTER = 0x1.8p44;  // rounds to 1/256
+  static constexpr double WHOLE_TURNS = 0x1.8p53;
   static constexpr double sine[] = {0x3FE9F9C9B97D9A28_f64, 0xBFFA51A6625301B8_f64};
   static constexpr double cosine[] = {0x40103C1DB2490898_f64, 0xC013BD3CC9BE3B30_f64};
   static constexpr double native[] = {0x3FB3DAFF5DA18B33_f64, 0xBFE324CCAC0255A8_f64, 0x4004668AF4E909D3_f64,

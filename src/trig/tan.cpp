@@ -12,7 +12,7 @@ namespace lanemath {
 namespace {
 
 constexpr double INVERSE_HALF_PI = 0x3FE45F306DC9C883_f64;
-constexpr double QUARTERS = 0x4318000000000000_f64;  // 1.5 * 2^50: rounds to quarters of a turn
+constexpr double QUARTERS = 0x1.8p50;  // rounds to quarters of a turn
 constexpr double half_pi_parts[] = {0x3FF921FB54400000_f64, 0x3DD0B4611A600000_f64, 0x3BA3198A2E000000_f64,
                                     0x397B839A252049C1_f64};
 constexpr double native_half_pi_parts[] = {0x3FF921FB54400000_f64, 0x3DD0B4611A600000_f64, 0x3BA3198A2E037073_f64};
