@@ -42,6 +42,13 @@ lanes<std::int32_t, V::width> unbiased_exponent(V x) {
   return ((top_word(x) & f::top_exponent) >> f::top_shift) - f::bias;
 }
 
+// By a multiplication, so that where the caller takes denormals for zeros this one is a zero too.
+template <class T>
+int exponent_of_denormal(T x) {
+  using f = format<T>;
+  return exponent_field(x * power_of_two<T>(f::lift)) - (f::bias + f::lift);
+}
+
 template <class T>
 LANEMATH_RARE ilogb_rare(const T* x, std::int32_t* exponent) {
   if (magnitude_pattern(*x) == 0) {
@@ -52,7 +59,7 @@ LANEMATH_RARE ilogb_rare(const T* x, std::int32_t* exponent) {
     *exponent = std::numeric_limits<std::int32_t>::max();
     return status::domain;
   }
-  *exponent = unpacked(*x).exponent;
+  *exponent = exponent_of_denormal(*x);
   return status::ordinary;
 }
 
@@ -73,7 +80,7 @@ LANEMATH_RARE logb_rare(const T* x, T* exponent) {
   if (!is_finite(*x))
     *exponent = value_of<T>(magnitude_pattern(*x));
   else
-    *exponent = T(unpacked(*x).exponent);
+    *exponent = T(exponent_of_denormal(*x));
   return status::ordinary;
 }
 

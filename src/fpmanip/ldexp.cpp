@@ -10,15 +10,20 @@ constexpr std::int32_t farthest = 65536;
 template <class T>
 LANEMATH_RARE ldexp_rare(const T* px, const std::int32_t* pn, T* y) {
   using f = format<T>;
-  constexpr int up = std::numeric_limits<T>::digits + 1;  // makes a denormal result normal
-  const T x = *px;
+  T x = *px;
   if (magnitude_pattern(x) == 0 || !is_finite(x)) {
     *y = sizeof(T) == 4 ? x : quieted(x);
     return status::ordinary;
   }
-  const unpacked<T> a(x);
-  const int e = std::clamp(*pn, -farthest, farthest) + a.exponent + f::bias;
-  const auto with_field = [&](int field) { return std::copysign(a.with_field(field), x); };
+  int e = std::clamp(*pn, -farthest, farthest);
+  if (exponent_field(x) == 0) {
+    x *= power_of_two<T>(f::lift);
+    e -= f::lift;
+  }
+  e += exponent_field(x);
+  const auto with_field = [x](int field) {
+    return value_of<T>((pattern_of(x) & ~f::infinity) | typename f::pattern(field) << f::fraction_bits);
+  };
   if (e >= f::top_field) {
     *y = overflowed(x);
     return status::overflow;
@@ -28,7 +33,7 @@ LANEMATH_RARE ldexp_rare(const T* px, const std::int32_t* pn, T* y) {
     return status::ordinary;
   }
   if (e >= 1 - std::numeric_limits<T>::digits) {
-    *y = with_field(e + up) * power_of_two<T>(-up);
+    *y = with_field(e + f::lift) * power_of_two<T>(-f::lift);
     if (magnitude_pattern(*y) != 0) return status::ordinary;
   }
   *y = underflowed(x);

@@ -18,6 +18,7 @@ struct format {
   static constexpr int bias = std::numeric_limits<T>::max_exponent - 1;
   static constexpr int top_field = 2 * bias + 1;  // the exponent field of infinities and NaNs
   static constexpr int least_exponent = 1 - bias;
+  static constexpr int lift = sizeof(T) == 4 ? 25 : 55;  // 2^lift makes every denormal normal
 
   static constexpr pattern sign = pattern(1) << (8 * sizeof(T) - 1);
   static constexpr pattern implicit_bit = pattern(1) << fraction_bits;  // also one unit of the exponent field
