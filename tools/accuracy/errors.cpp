@@ -86,7 +86,7 @@ error_record record_in(const std::string& line) {
 std::string line_of(const error_record& r) {
   const auto& o = catalogue[r.index];
   std::string forms, at;
-  for (auto v : r.variants) forms += (forms.empty() ? "" : " ") + std::string(name_of(v));
+  for (auto v : r.variants) forms += fmt::format("{}{}", forms.empty() ? "" : " ", name_of(v));
   if (r.at)
     for (int i = 0; i < o.sig.arity(); ++i)
       at += fmt::format("{}0x{:0{}X}", i ? " " : "", (*r.at)[i], 2 * size_of(o.sig.arguments[i]));
