@@ -1,7 +1,7 @@
 """Taylor expansions with rigorous errors, with which tools/fits/check bounds the error of a polynomial.
 
-A ball is an integer and a radius, both in units of 2^-BITS, within which a number is known to lie. A jet is the expansion of
-a function of x = centre + radius t in powers of t, a ball for each coefficient. An expression is evaluated twice: at
+A ball is an integer and a radius, both in units of 2^-BITS, within which a number lies. A jet is the expansion of a
+function of x = centre + radius t in powers of t, a ball for each coefficient. An expression is evaluated twice: at
 the centre, which gives the coefficients, and at a ball that holds the whole piece, where the coefficient of the highest
 degree bounds the remainder of the truncated expansion (Taylor's theorem).
 

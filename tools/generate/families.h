@@ -22,11 +22,12 @@ all. Method: reduction by multiples of ln 2 / 2^k with the logarithm in two part
 a table only in exp and expm1; those of exp2 and exp10 are not exact at integers.)"},
     {family::logarithm, "logarithm", "Logarithms",
      R"(x >= 0 (log1p: x >= -1), NaN below. The logarithm of a zero is -infinity, that of +infinity is +infinity. A NaN
-gives a quiet NaN. Method: a table of reciprocals and logarithms in two parts and a short polynomial (P. T. P. Tang,
-ACM TOMS 16, 1990).)"},
+gives a quiet NaN. Method: a table of reciprocals and logarithms and a short polynomial (P. T. P. Tang, ACM TOMS 16,
+1990); logf, log2f and the native forms in single precision use a longer polynomial and no table.)"},
     {family::power, "power", "Powers",
      R"(pow: any x and y, with the special values of IEEE 754. powr: x >= 0, defined as exp(y log x). pown and rootn
-take an integer y. Method: logarithm to base 2 in extended precision, exact product, exponential.)"},
+take an integer y. Method: logarithm in extended precision, product with y or 1 / y, exponential; the native forms do
+without the extra precision.)"},
     {family::trigonometric, "trigonometric", "Trigonometric functions",
      R"(Angles in radians, or in multiples of pi for the functions that end in pi. Any finite x, however large: the
 reduction keeps as many bits of 2/pi as the exponent requires (M. Payne and R. Hanek, SIGNUM 18, 1983). Infinities
