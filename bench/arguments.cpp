@@ -19,7 +19,7 @@ T typical_value(const range& r, generator& random) {
                                       : uniform(r.low, r.high));
 }
 
-// What no fast path serves. Of integers neither 0 nor -1: a division by them may trap.
+// What no fast path serves. For integers neither 0 nor -1: a division by them may trap.
 template <class T>
 T rare_value(generator& random) {
   using limits = std::numeric_limits<T>;
@@ -37,7 +37,7 @@ T rare_value(generator& random) {
 template <class T>
 void fill(std::byte* lanes, std::size_t count, const range& r, std::size_t seed, std::size_t rare_every) {
   generator random(seed);
-  generator rare_random;  // drawn apart: the rare lanes are the same ones in every argument
+  generator rare_random;  // drawn separately: the same lanes are rare in every argument
   auto* values = reinterpret_cast<T*>(lanes);
   for (std::size_t i = 0; i < count; ++i) {
     values[i] = typical_value<T>(r, random);

@@ -1,4 +1,4 @@
-// Measures every exported function, and what other libraries have for the same task on the same arguments.
+// Measures every exported function, and what other libraries have for the same task, on the same arguments.
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
 
@@ -13,7 +13,7 @@ namespace {
 
 using namespace lanemath;
 
-// The runs of one operation alternate in random order, so that a busy moment of the machine does not hit only one of
+// The runs of one operation alternate in random order, so that a busy moment of the machine does not affect only one of
 // them.
 void initialise(const char* program, const std::vector<std::string>& more_flags) {
   std::vector<std::string> flags{program, "--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=9",

@@ -34,7 +34,7 @@ peer peer_of(std::string_view name, F* f) {
   return p;
 }
 
-// The function of SLEEF that is named by a stem and an error bound, in both precisions.
+// The SLEEF function that a stem and an error bound name, in both precisions.
 #define SLEEF_FUNCTION(operation, accuracy, name) \
   { operation, accuracy, peer_of(#name, name) }
 #define SLEEF_BOTH(operation, accuracy, stem, bound)              \
@@ -124,7 +124,7 @@ const row sleef_rows[] = {
     SLEEF(fma, fma, sse4),
 };
 
-// C++ headers overload most of these names: the shape tells which one is meant.
+// C++ headers overload most of these names: the shape selects the one that is meant.
 template <class T>
 using unary = T(T);
 template <class T>

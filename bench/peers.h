@@ -1,4 +1,4 @@
-// What else does the same task: other libraries' functions, as a caller of those libraries has them, and plain C++.
+// What else does the same task: other libraries' functions, as their callers get them, and plain C++.
 #pragma once
 
 #include <optional>
@@ -16,7 +16,7 @@ struct peer {
   std::optional<harness::function> latency;  // of scalar functions
 };
 
-// SLEEF's 128-bit function: of its less accurate class (mostly 3.5 ulp) for the _native and _half variants where it has one.
+// SLEEF's 128-bit function; for _native and _half from its less accurate class (mostly 3.5 ulp), if it has one there.
 std::optional<peer> sleef(const operation& o, variant v);
 
 // The C library's scalar function.

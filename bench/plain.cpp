@@ -1,4 +1,4 @@
-// What C++ itself has for conversions and integer division, in loops that the compiler optimises as far as the
+// What C++ itself offers for conversions and integer division, in loops that the compiler optimises as far as the
 // library's instruction set allows.
 #include <cmath>
 #include <cstdint>
@@ -18,7 +18,7 @@ peer loop() {
           harness::function(nullptr,
                             [](void*, const harness::invoker_arguments& given) {
                               [&]<std::size_t... I>(std::index_sequence<I...>) {
-                                // The arrays are apart; told so, a compiler need not test it.
+                                // The arrays do not overlap; a compiler that knows this need not test it.
                                 auto* __restrict result = static_cast<R*>(given.result);
                                 const std::size_t lanes = given.lanes;
                                 for (std::size_t i = 0; i < lanes; ++i)
@@ -29,7 +29,7 @@ peer loop() {
           std::nullopt};
 }
 
-// The least power of two that does not fit.
+// The smallest power of two that does not fit.
 template <class I, class A>
 constexpr A above_all = A(std::numeric_limits<I>::max() / 2 + 1) * 2;
 
@@ -58,7 +58,7 @@ std::optional<peer> to_integer_as(const operation& o) {
   }
 }
 
-// C++ has no other direction than the one in force.
+// C++ has only the direction in force.
 template <class R, class A>
 R cast(A x) {
   return static_cast<R>(x);

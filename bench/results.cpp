@@ -24,7 +24,7 @@ std::optional<double> results::nanoseconds(const std::string& benchmark) const {
 }
 
 bool results::ReportContext(const Context& context) {
-  // Once for each operation, but a JSON file has one context.
+  // Called once for each operation, but a JSON file has one context.
   if (json_ && !context_reported_) json_->ReportContext(context);
   context_reported_ = true;
   return true;

@@ -1,4 +1,4 @@
-// Keeps the best time of every benchmark, and passes all that was measured on to a JSON file.
+// Keeps the best time of every benchmark, and passes all measurements on to a JSON file.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -18,7 +18,7 @@ class results : public benchmark::BenchmarkReporter {
   explicit results(const std::string& json_path);
   ~results() override;
 
-  // Per lane, the least of all repetitions: on a shared machine what is above it is other people's work.
+  // Per lane, the least of all repetitions: on a shared machine anything above it is other people's work.
   std::optional<double> nanoseconds(const std::string& benchmark) const;
 
   bool ReportContext(const Context& context) override;

@@ -14,8 +14,8 @@ constexpr std::size_t rare_every = 64;
 
 constexpr auto throughput = "throughput", rare_lanes = "rare", waiting = "latency";
 
-// Dependent additions, one cycle each on every x86-64 processor: the clock that the core runs at now, which the
-// time-stamp counter does not tell.
+// Dependent additions, one cycle each on every x86-64 processor: they show the clock that the core runs at now, which
+// the time-stamp counter does not.
 constexpr int additions = 1000;
 void spend_cycles() {
   long sum = 0;

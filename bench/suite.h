@@ -1,4 +1,4 @@
-// The benchmarks of one accuracy variant of one operation, and the row of the table that they make.
+// The benchmarks of one accuracy variant of one operation, and their row of the table.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,5 @@
-// Calls of a function whose C++ type is known, over arrays of lanes. Of pointers among its arguments the last is
-// where the second result goes, and one before it where the first goes.
+// Calls of a function whose C++ type is known, over arrays of lanes. If it takes pointers, the second result goes to
+// the last one, and the first result to the one before, if there is one.
 #pragma once
 
 #include <cstddef>
@@ -35,7 +35,7 @@ struct typed_calls<R(A...)> {
             }};
   }
 
-  // Each call waits for the result of the one before. Nothing where results and arguments live in different
+  // Each call waits for the result of the one before. Measures nothing where results and arguments live in different
   // register files: the way across would be measured too.
   static std::optional<harness::function> latency(void* address) {
     if constexpr (std::is_void_v<R>) {
@@ -115,7 +115,7 @@ struct typed_calls<R(A...)> {
       return y;
   }
 
-  // x as it is, but not before `before` is there: two instructions of one cycle each.
+  // x unchanged, but not before `before` is available: two instructions of one cycle each.
   template <class X, class Y>
   static X after(X x, Y before) {
     if constexpr (std::is_floating_point_v<X>) {

@@ -1,4 +1,4 @@
-# Installs the library, the public headers, a CMake package and a pkg-config file; CPack makes a Debian package of them.
+# Installs the library, the public headers, a CMake package and a pkg-config file; CPack packs them for Debian.
 include(CMakePackageConfigHelpers)
 
 install(TARGETS lanemath EXPORT lanemath-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})

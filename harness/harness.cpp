@@ -13,7 +13,7 @@
 namespace lanemath::harness {
 namespace {
 
-// How an argument is passed. A wide one is less aligned than the library's type: its place on the stack is the same,
+// How an argument is passed. A wide one is aligned less than the library's type: its place on the stack is the same,
 // and the compiler copies it there directly from the array, without a temporary.
 template <class A, int W, bool InMemory = (sizeof(abi<A, W>) > 16)>
 struct handed_over {
@@ -80,7 +80,7 @@ constexpr std::array<invoker, widths.size()> invokers_of(std::index_sequence<W..
   }...};
 }
 
-// invokers[operation][place of the width]
+// invokers[operation][index of the width]
 constexpr auto invokers = []<std::size_t... I>(std::index_sequence<I...>) {
   return std::array{invokers_of<catalogue[I].sig>(std::make_index_sequence<widths.size()>{})...};
 }

@@ -23,7 +23,7 @@ class function {
  public:
   function(void* address, void (*invoker)(void*, const invoker_arguments&)) : address_(address), invoker_(invoker) {}
 
-  // One call for every vector of the arrays. `lanes` counts the room that the vectors take, a multiple of
+  // One call for every vector of the arrays. `lanes` counts the lanes that the vectors occupy, a multiple of
   // padded(width). `second` receives the second result, through a pointer or from a pair.
   void call(const void* const* inputs, void* result, void* second, std::size_t lanes) const {
     invoker_(address_, {inputs, result, second, lanes});
@@ -52,7 +52,7 @@ class library {
   void* handle_;
 };
 
-// Lanes by their bit patterns: the arguments of one lane, and its results.
+// Bit patterns: the arguments of one lane, and its results.
 using arguments = std::array<std::uint64_t, 3>;
 struct outcome {
   std::uint64_t first = 0, second = 0;
@@ -63,7 +63,7 @@ struct outcome {
 std::vector<outcome> evaluate(const operation& o, const function& f, int width, std::span<const arguments> tuples,
                               std::uint64_t junk = 0);
 
-// For messages, with all digits of the lane.
+// For messages, with all of the lane's digits.
 std::string hexadecimal(lane l, std::uint64_t bits);
 std::string text_of(const operation& o, const arguments& tuple);
 std::string text_of(const operation& o, const outcome& got);

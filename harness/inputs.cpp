@@ -22,7 +22,7 @@ constexpr int exponents[] = {-149, -127, -126, -100, -64, -53, -52, -27, -24, -2
                              22,   23,   24,   27,   30,  31,  32,  51,  52,  53,  62,  63, 64, 100};
 constexpr double multiples_of_quarter_pi[] = {1, 2, 3, 4, 5, 6, 8, 16, 1000, 1048576};
 
-// Of both signs.
+// With both signs.
 template <class Bits>
 std::vector<u64> special_bits(std::initializer_list<Bits> magnitudes) {
   std::vector<u64> all;

@@ -10,7 +10,7 @@ namespace lanemath::harness {
 
 bool matches(const std::string& pattern, const std::string& name);
 
-// Whether one of the patterns names the operation or this variant of it. Without patterns everything is wanted.
+// Whether a pattern names the operation or this variant of it. Without patterns everything is wanted.
 bool wanted(const std::vector<std::string>& patterns, const operation& o, variant v);
 
 // Throws if one of the patterns names nothing in the catalogue.

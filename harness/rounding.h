@@ -1,4 +1,4 @@
-// The directions that a caller may round in.
+// The rounding directions that a caller may set.
 #pragma once
 
 #include <cfenv>
@@ -13,7 +13,7 @@ struct direction {
 inline constexpr direction directions[] = {
     {FE_TONEAREST, "to nearest"}, {FE_DOWNWARD, "downward"}, {FE_UPWARD, "upward"}, {FE_TOWARDZERO, "toward zero"}};
 
-// Sets the rounding direction of MXCSR and of the x87 control word for as long as it lives.
+// Sets the rounding direction of MXCSR and of the x87 control word during its lifetime.
 class rounding {
  public:
   explicit rounding(int mode);
@@ -25,7 +25,7 @@ class rounding {
   int before_;
 };
 
-// What f returns when it runs in a direction.
+// What f returns when run in a direction.
 template <class F>
 auto in_direction(int mode, F f) {
   const rounding in_force(mode);

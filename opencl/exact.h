@@ -1,8 +1,8 @@
-// Exact functions that are a few instructions. The runtime's own definitions give other bits: maxmag and minmag for
-// zeros of unlike signs, fract for -0 and -infinity, fma for a product that vanishes beside a zero, conversions to
-// unsigned integers for negative values, frexp for the exponents of eight and sixteen doubles, ldexp of vectors for
-// denormal results, which it rounds twice. Here the bits are the library's, but for the payloads of NaNs. The generator
-// says for which types they are wanted.
+// Exact functions that take a few instructions. The runtime's own definitions give different bits: maxmag and minmag
+// for zeros of unlike signs, fract for -0 and -infinity, fma for a product that vanishes when added to a zero,
+// conversions to unsigned integers for negative values, frexp for the exponents of eight and sixteen doubles, ldexp of
+// vectors for denormal results, which it rounds twice. Here the bits are the library's, except for the payloads of
+// NaNs. The generator selects the types.
 #pragma OPENCL FP_CONTRACT OFF
 
 #define BUILTIN __attribute__((overloadable, always_inline))
@@ -22,7 +22,7 @@
     return y != y ? x : smaller;                                       \
   }
 
-// Only zeros and infinities are twice their floor: they give a zero of their sign.
+// Only zeros and infinities equal twice their floor: they give a zero of their sign.
 #define EXACT_FRACT(space, type, bits, sign_bit, below_one)                    \
   BUILTIN type _cl_fract(type x, space type* second) {                         \
     const type floor = __builtin_elementwise_floor(x), rest = x - floor;       \
@@ -58,8 +58,8 @@
     return result;                                                                 \
   }
 
-// `fields` are the integers of the result's size; exponents of normal numbers are `least` to 1 - `least`. Of three
-// factors only the last one rounds a result: what becomes denormal before has so far to go that it ends as a zero.
+// `fields` are the integers of the result's size; the exponents of normal numbers are `least` to 1 - `least`. Of the
+// three factors only the last can round: what becomes denormal earlier has so far to go that it ends as a zero.
 #define LDEXP_FACTOR(type, fields, digits, least, n) \
   __builtin_astype((__builtin_convertvector(n, fields) + (1 - (least))) << ((digits)-1), type)
 #define EXACT_LDEXP(type, ints, fields, digits, least)                          \

@@ -1,6 +1,6 @@
 #!/bin/sh
 # replace_builtins.sh KIND EXPORTED STOCK RESULT WORK
-# Makes the built-ins for a kind of machine of what the library exports and links them over the runtime's kernel
+# Makes the built-ins for a kind of machine from what the library exports, and links them over the runtime's kernel
 # library for it. GENERATE, CLANG, LLVM_LINK and LLVM_NM name the tools; WORK is a prefix for intermediate files.
 set -eu
 kind=$1 exported=$2 stock=$3 result=$4 work=$5
@@ -10,8 +10,8 @@ trap 'status=$?; [ $status = 0 ] || { rm -f "$result"; echo "no kernel library f
 processor=$("$GENERATE" opencl-processor "$kind")
 "$GENERATE" opencl-builtins "$kind" "$exported" > "$work.cl"
 "$GENERATE" opencl-crossings "$kind" "$exported" > "$work.crossings.ll"
-# Wide vectors between these functions and the kernels cross as the runtime's own do: both are compiled for the
-# same machine. So what the compiler says about that is of no interest.
+# Wide vectors cross between these functions and the kernels as the runtime's own do: both are compiled for the
+# same machine. So the compiler's warnings about that are of no interest.
 "$CLANG" -x cl -cl-std=CL1.2 --target=x86_64-pc-linux-gnu -march="$processor" -O2 -fPIC -Wall -Wextra -Werror \
   -Wno-psabi -I "$(dirname -- "$0")" -emit-llvm -c "$work.cl" -o "$work.builtins.bc"
 

@@ -17,17 +17,17 @@ struct vector_type {
 inline constexpr vector_type vector_types[] = {{lane::f32, 1}, {lane::f32, 4}, {lane::f32, 8}, {lane::f32, 16},
                                                {lane::f64, 1}, {lane::f64, 2}, {lane::f64, 4}, {lane::f64, 8}};
 
-// What geometric means are taken over.
+// The groups that geometric means are taken over.
 enum class group : std::uint8_t { maths, reduced, exact };
 inline constexpr group groups[] = {group::maths, group::reduced, group::exact};
 std::string_view title(group g);
 
-// A name and its arguments' element. Its vectors are as wide as those of its widest element: convert_long(float8)
-// is measured among the doubles.
+// A name and the element type of its arguments. Its vectors are as wide as those of its widest element:
+// convert_long(float8) is measured among the doubles.
 struct builtin {
   const operation* op;
   variant accuracy;
-  std::size_t name_index;  // of those that one operation has
+  std::size_t name_index;  // among those of one operation
 
   std::string name(int width = 1) const;
   std::string title() const;  // with the argument's type, if the name leaves it open

@@ -1,4 +1,4 @@
-// Measures every built-in in OpenCL kernels, the runtime's own definition beside the library's. One process cannot
+// Measures every built-in in OpenCL kernels, the runtime's own definition against the library's. One process cannot
 // hold both, so two workers take turns on each kernel, and both see the machine in the same state.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
@@ -51,7 +51,7 @@ class temporary_folder {
   std::string path_;
 };
 
-// Whatever one of the patterns names, or everything if there are no patterns. Each pattern has to name something.
+// Whatever the patterns name, or everything if there are none. Each pattern has to name something.
 template <class Range, class Named>
 auto chosen(const Range& all, const std::vector<std::string>& patterns, const std::string& noun, Named named) {
   for (const auto& pattern : patterns)

@@ -50,7 +50,7 @@ std::string process::read() {
 }
 
 std::string process::ask(const std::string& question) {
-  // If writing fails there is a reason, and reading finds it.
+  // If writing fails, reading finds the reason.
   dprintf(socket_, "%s\n", question.c_str());
   return read();
 }

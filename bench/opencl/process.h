@@ -14,13 +14,13 @@ class process {
  public:
   using environment = std::vector<std::pair<std::string, std::string>>;
 
-  // `name` is what messages call it. The environment is what is added to this process's own.
+  // `name` is what messages call it. The environment is added to this process's own.
   process(std::string name, std::vector<std::string> command, const environment& more);
   ~process();
   process(const process&) = delete;
   process& operator=(const process&) = delete;
 
-  // The next line that it writes. If there is none, the exception tells how the process ended.
+  // The next line that it writes. If there is none, the exception says how the process ended.
   std::string read();
   std::string ask(const std::string& question);
 

@@ -113,7 +113,7 @@ void print_summary(const measurements& all, const std::vector<vector_type>& type
   }
 }
 
-// Anything but an ordinary file, such as a pipe, stays in its place.
+// Anything but an ordinary file, such as a pipe, is written to directly.
 json_file::json_file(std::string path) : path_(std::move(path)), temporary_(path_ + ".new") {
   if (std::filesystem::exists(path_) && !std::filesystem::is_regular_file(path_)) temporary_ = path_;
   file_ = std::fopen(temporary_.c_str(), "w");

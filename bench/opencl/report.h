@@ -1,4 +1,4 @@
-// What was measured: as a table, and as a JSON file.
+// The measurements, as a table and as a JSON file.
 #pragma once
 
 #include <cstdio>
@@ -9,7 +9,7 @@
 
 namespace lanemath::bench::opencl {
 
-// Nanoseconds a lane of one built-in with one type.
+// Nanoseconds per lane of one built-in with one type.
 struct measurement {
   builtin what;
   vector_type type;
@@ -22,13 +22,12 @@ struct machine {
   std::string device, kind;
 };
 
-// A table for each element: its built-ins, each with the types that it was measured with.
+// A table for each element type: its built-ins, each with the types that it was measured with.
 void print_heading(const std::vector<vector_type>& types);
 void print_row(const measurements& of_one_builtin);
 void print_summary(const measurements& all, const std::vector<vector_type>& types);
 
-// Created at once, so that what cannot be written is known before anything is measured, and under a temporary name
-// until it is complete.
+// Created at once, so that a failure to write shows before anything is measured; under a temporary name until complete.
 class json_file {
  public:
   explicit json_file(std::string path);

@@ -27,13 +27,13 @@ namespace {
 constexpr std::size_t array_lanes = 8192;
 constexpr std::size_t lanes_per_group = 256;
 
-// A launch lasts at least this long, so that its own cost of some microseconds does not show.
+// A launch lasts at least this long, so that its own cost of a few microseconds does not show.
 constexpr double launch_nanoseconds = 1e6;
 // The first launch of a turn finds the caches full of the other process's work.
 constexpr int launches_per_turn = 3;
 
-// The arguments and the results of a kernel. No two arrays lie a multiple of 4096 bytes apart: a processor takes a
-// load for dependent on an earlier store whose address differs in the upper bits alone.
+// The arguments and the results of a kernel. No two arrays lie a multiple of 4096 bytes apart: a processor assumes that
+// a load depends on an earlier store whose address differs only in the upper bits.
 struct alignas(4096) arrays {
   struct alignas(128) array {
     std::byte lanes[array_lanes * 8 + 640];
@@ -93,7 +93,7 @@ class device {
     return lanes;
   }
 
-  // Kernels use the first dimension alone: along the second one the same work is repeated.
+  // Kernels use only the first dimension: along the second one the same work is repeated.
   double run(const launch& l) const {
     cl::Event event;
     queue_.enqueueNDRangeKernel(l.kernel, cl::NullRange, cl::NDRange(array_lanes / l.width, l.repetitions),

@@ -3,11 +3,11 @@
 
 namespace lanemath::bench::opencl {
 
-// Its first line says whose built-ins its kernels run, `own` or `lanemath`, and on which device. Then it obeys, with
-// a line for every order:
+// Its first line says whose built-ins its kernels run, `own` or `lanemath`, and on which device. It then answers each
+// order with a line:
 //   prepare INDEX COUNT WIDTH...   compiles the kernels of one built-in, by its place in all_builtins(): ready
-//   time WIDTH                     runs one of these kernels: nanoseconds a lane
-// until there are no more orders.
+//   time WIDTH                     runs one of these kernels: nanoseconds per lane
+// It ends when there are no more orders.
 void obey();
 
 }  // namespace lanemath::bench::opencl

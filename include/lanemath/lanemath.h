@@ -1,4 +1,4 @@
-/* lanemath: vectorised maths built-ins, as C and C++ programs call them. All families of functions. */
+/* lanemath: vectorised maths built-ins for C and C++ programs. Includes all families of functions. */
 #ifndef LANEMATH_LANEMATH_H
 #define LANEMATH_LANEMATH_H
 

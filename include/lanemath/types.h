@@ -1,13 +1,13 @@
 /* Lane types of lanemath, and the macros that declare its functions. Include <lanemath/lanemath.h>.
  *
  * lanemath_<type><width> is a vector of 2, 3, 4, 8 or 16 lanes of float, double, int, uint, long (64 bits) or
- * ulong, as GCC's and Clang's vector extensions make them: the usual operators and v[i] work. A vector of three
- * takes the room of a vector of four; its last lane is neither read nor meant to be read. Vectors of more than 16
- * bytes are aligned to 16, as malloc's memory is.
+ * ulong, built with the vector extensions of GCC and Clang: the usual operators and v[i] work. A vector of three
+ * has the size of a vector of four; the library ignores its last lane, and so should the caller. Vectors of more
+ * than 16 bytes are aligned to 16, as malloc's memory is.
  *
  * The library takes vectors wider than 16 bytes in memory, whatever instructions the caller is compiled for. A
  * compiler that may use AVX would pass them in registers instead, so they cross the border as structures, and
- * each function is an inline wrapper that sees to it.
+ * each function is an inline wrapper that converts them.
  */
 #ifndef LANEMATH_TYPES_H
 #define LANEMATH_TYPES_H
@@ -44,8 +44,8 @@ typedef double lanemath_double;
 
 LANEMATH_BEGIN
 
-/* For each vector type: the type itself; lanemath_border_<type>, as it crosses the border; the way to and from it;
- * and lanemath_<type>_pair, two of them by value. */
+/* For each vector type: the type itself; lanemath_border_<type>, as it crosses the border; the conversions between
+ * the two; and lanemath_<type>_pair, two vectors by value. */
 #define LANEMATH_WAY(to, from, name) \
   LANEMATH_WRAPPER to name(from v) { \
     to r;                            \
@@ -109,7 +109,7 @@ LANEMATH_TYPES_64(ulong)
 LANEMATH_END
 
 /* The shapes of functions. LANEMATH_DECLARE(shape, operation, variant, types...) declares the six widths of one
- * accuracy variant, the types being the result's, the arguments', and the second result's where there is one. */
+ * accuracy variant; the types are those of the result, the arguments and, if there is one, the second result. */
 #define LANEMATH_SYMBOL(name) __ocl_lanemath_h8_##name
 
 #define LANEMATH_UNARY(name, w, R, A)                                                \

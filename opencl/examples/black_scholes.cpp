@@ -17,10 +17,10 @@
 namespace {
 
 constexpr const char* kernel_source = R"(
-// The normal distribution function; good to the far left as well.
+// The normal distribution function; accurate in the far left tail as well.
 real normal(real x) { return 0.5f * erfc(-0.70710678f * x); }
 
-// One time to expiry to a row, `real` strikes to an item.
+// One time to expiry per row, `real` strikes per item.
 kernel void price(global const real* strikes, global const float* years, float spot, float interest,
                   float volatility, global real* calls, global real* puts) {
   const size_t column = get_global_id(0), row = get_global_id(1), i = row * get_global_size(0) + column;
@@ -94,7 +94,7 @@ int run(int argc, char** argv) {
   const std::size_t points = given.points / 16 * 16;
   const auto index = read_closes(given.data);
   const double spot = index.values.back(), volatility = volatility_of(index.values);
-  // Half the spot to one and a half; every quarter to two years.
+  // Strikes from half the spot price to one and a half times it; expiries every quarter up to two years.
   std::vector<float> strikes(points), years(8);
   for (std::size_t i = 0; i < points; ++i) strikes[i] = float(spot * (0.5 + double(i) / double(points)));
   for (std::size_t i = 0; i < years.size(); ++i) years[i] = 0.25f * float(i + 1);

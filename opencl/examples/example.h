@@ -15,7 +15,7 @@ namespace example {
 
 // A column of numbers under a title.
 std::vector<double> read_column(const std::string& path);
-// The same in ascending order.
+// The column in ascending order.
 std::vector<double> read_observations(const std::string& path);
 
 class device {
@@ -45,8 +45,8 @@ class device {
   // The shortest time in nanoseconds.
   double time(const cl::Kernel& kernel, const cl::NDRange& items, int repetitions) const;
 
-  // Says whose built-in the kernels run, by many arguments from an interval. If lanemath is loaded every result must
-  // have the bits of its function for eight lanes: `function` is `expf` for the built-in `exp`.
+  // Finds out whose built-in the kernels run, from many arguments in an interval. If lanemath is loaded, every result
+  // must have the bits of its function for eight lanes: `function` is `expf` for the built-in `exp`.
   std::string who_answers(const std::string& builtin, const std::string& function, float low, float high) const;
 
  private:
@@ -65,7 +65,7 @@ struct options {
 void add_options(CLI::App& app, options& given, const std::string& data, const std::string& points, int most_points,
                  const std::string& timed);
 
-// Runs the program, and tells on standard error what stopped it.
+// Runs the program, and says on standard error what stopped it.
 int guarded(const std::function<int()>& program);
 
 }  // namespace example

@@ -1,7 +1,7 @@
 // Periods in a yearly series: for every trial frequency the share of the variance that a harmonic fitted by least
-// squares takes, which is a sine and a cosine for each frequency and year. Whole years cannot tell a frequency from one
-// that is a whole number per year higher: fitted at 2^20 turns a year more the shares are the same again, if sine and
-// cosine are right at large arguments.
+// squares explains, which takes a sine and a cosine for each frequency and year. Yearly data cannot distinguish two
+// frequencies that differ by a whole number of turns per year: 2^20 turns a year higher the shares are the same again,
+// if sine and cosine are right at large arguments.
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
@@ -40,7 +40,7 @@ kernel void shares(global const real* turns_per_year, global const double* value
 
 constexpr double MORE_TURNS = 0x1p20;
 
-// As the kernel, on the host.
+// Does what the kernel does, on the host.
 double share(double turns_per_year, const std::vector<double>& values, double squares) {
   double cc = 0, cs = 0, ss = 0, yc = 0, ys = 0;
   for (std::size_t year = 0; year < values.size(); ++year) {

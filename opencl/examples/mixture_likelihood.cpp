@@ -1,6 +1,6 @@
 // Log-likelihood of a mixture of two normal distributions on an OpenCL device, over a grid of the two means: at each
 // point the sum over the observations of the logarithm of two exponentials. The parameters come from expectation
-// maximisation on the host; the map shows how well the observations tell the means.
+// maximisation on the host; the map shows how well the observations determine the means.
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
@@ -18,7 +18,7 @@ namespace {
 constexpr const char* kernel_source = R"(
 real bump(real u) { return exp(-0.5f * u * u); }
 
-// One mean of the first component to a row, `real` means of the second one to an item. The heights are the
+// One mean of the first component per row, `real` means of the second one per item. The heights are the
 // components' shares over their deviations.
 kernel void log_likelihood(global const float* first_means, global const real* second_means,
                            global const float* observations, int count, float2 per_deviation, float2 heights,

@@ -1,5 +1,5 @@
-// Compound growth between any two years of a price index on an OpenCL device: the average yearly inflation, which is
-// one power, and what money that was put away at interest buys in the end, which is one exponential.
+// Compound growth between any two years of a price index on an OpenCL device: the average yearly inflation, which takes
+// one power, and what money put away at interest buys in the end, which takes one exponential.
 #include <dlfcn.h>
 #include <fmt/format.h>
 
@@ -14,7 +14,7 @@
 
 namespace {
 
-// From one year to four others. The roles of the two years may be exchanged: growth per year stays the same.
+// From one year to four others. The two years may be exchanged: growth per year stays the same.
 constexpr const char* kernel_source = R"(
 kernel void growth(global const double* prices, double interest, global double4* inflation, global double4* worth) {
   const size_t from = get_global_id(0), block = get_global_id(1);

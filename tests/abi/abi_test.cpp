@@ -1,5 +1,5 @@
 // Callers of the public header, built by several compilers for several instruction sets, get the lanes that the
-// functions give.
+// functions return.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 /* A caller of the public header, as a user would write it: every signature shape at every width. The tests build it
- * with several compilers and instruction sets and compare what it gets with what the functions give. */
+ * with several compilers and instruction sets and compare what it gets with what the functions return. */
 #include <lanemath/lanemath.h>
 
 #define EXPORT __attribute__((visibility("default")))
 
-/* Loads and stores that ask for no alignment. */
+/* Loads and stores that require no alignment. */
 #define GET(type, from)         \
   lanemath_##type from##_value; \
   memcpy(&from##_value, from, sizeof from##_value)

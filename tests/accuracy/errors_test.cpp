@@ -1,4 +1,4 @@
-// The file of recorded errors, which the stated bounds follow from.
+// The file of recorded errors, from which the stated bounds follow.
 #include "accuracy/errors.h"
 
 #include <gtest/gtest.h>

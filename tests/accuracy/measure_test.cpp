@@ -1,4 +1,4 @@
-// The accuracy tool's own judgement, which every stated error rests on.
+// The accuracy tool's own judgement, on which every stated error rests.
 #include "accuracy/measure.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@ namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity(), nan = std::numeric_limits<double>::quiet_NaN();
 
-// The judgement of `got` where the exact value is base + excess.
+// The judgement of `got` if the exact value is base + excess.
 accuracy::judgement judge(lane type, double base, double excess, double got) {
   mpfr_t exact;
   mpfr_init2(exact, 400);

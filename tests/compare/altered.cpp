@@ -1,4 +1,4 @@
-// The library with a few functions altered, each in a way that is easily missed. All others come from the real one,
+// The library with a few functions altered, each in a way that is easily missed. The others come from the real one,
 // which this one links.
 #include <xmmintrin.h>
 
@@ -13,7 +13,7 @@ float __ocl_lanemath_h8_sincosf1(float x, float* cosine);
 
 #define ALTERED __attribute__((visibility("default")))
 
-// The last lane's NaN has another payload.
+// The last lane's NaN has a different payload.
 ALTERED float4 __ocl_lanemath_h8_expf4(float4 x) {
   float4 y;
   for (int i = 0; i < 4; ++i) y[i] = __ocl_lanemath_h8_expf1(x[i]);
@@ -28,7 +28,7 @@ ALTERED float4 __ocl_lanemath_h8_expf3(float4 x) {
   return y;
 }
 
-// The second result has another last bit at one input.
+// The second result has a different last bit at one input.
 ALTERED float4 __ocl_lanemath_h8_sincosf4(float4 x, float* cosines) {
   float4 y;
   for (int i = 0; i < 4; ++i) {
@@ -38,7 +38,7 @@ ALTERED float4 __ocl_lanemath_h8_sincosf4(float4 x, float* cosines) {
   return y;
 }
 
-// Another sign when rounding upward.
+// A different sign when rounding upward.
 ALTERED float __ocl_lanemath_h8_fabsf1(float x) {
   const float y = std::bit_cast<float>(std::bit_cast<std::uint32_t>(x) & 0x7FFFFFFF);
   return _MM_GET_ROUNDING_MODE() == _MM_ROUND_UP ? -y : y;

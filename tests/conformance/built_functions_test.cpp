@@ -1,4 +1,4 @@
-// What holds for every function that is built, whatever it computes.
+// What holds for every function in the library, whatever it computes.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -36,8 +36,8 @@ TEST(BuiltFunctions, GiveTheSameLaneAtEveryWidth) {
   });
 }
 
-// A standalone form makes no difference between lanes either, but for those in which a lane out of range, such as zero,
-// sends its neighbours another way.
+// A standalone form treats all lanes alike too, except those forms in which a lane out of range, such as zero, sends
+// its neighbours another way.
 TEST(BuiltFunctions, GiveTheSameLaneAtEveryPlaceOfAVector) {
   for_each_built(library(), [](std::size_t index, const operation& o, variant v) {
     for (int width : widths) {
@@ -100,7 +100,7 @@ TEST(BuiltFunctions, AreOneFunctionWhereTheirVariantsAreOneAndTheSame) {
   });
 }
 
-// Whatever compiler made them.
+// Whichever compiler built them.
 TEST(BuiltFunctions, GiveTheBitsOfAnotherCompilersLibrary) {
   const std::string path = LANEMATH_OTHER_LIBRARY;
   if (path.empty() || !std::filesystem::exists(path)) GTEST_SKIP() << "no other library to compare with";

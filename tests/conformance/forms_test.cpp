@@ -1,4 +1,4 @@
-// Each form has bits of its own: one that is routed to another's kernel shows.
+// Each form has bits of its own: one that is routed to another's kernel is found out.
 #include <gtest/gtest.h>
 
 #include "support/call.h"
@@ -6,7 +6,7 @@
 namespace lanemath::testing {
 namespace {
 
-// First arguments from, from + step, ...; the others are 0.7.
+// First arguments are from, from + step, ...; the others are 0.7.
 struct inputs {
   double from, step;
   std::size_t count;
@@ -26,7 +26,7 @@ struct row {
   std::initializer_list<std::string_view> names;
   form one, other;
   inputs at;
-  double least_share;  // of lanes that differ; none may where it is 0
+  double least_share;  // of lanes that differ; 0: none may
 };
 const row rows[] = {
     {{"expf"}, default_4, rm_4, exponents, 0.1},

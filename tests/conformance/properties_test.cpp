@@ -27,7 +27,7 @@ struct control_words {
   }
 };
 
-// Whatever is in force: here every direction, and x87 at each of its precisions.
+// Whatever is in force: here every direction, and each x87 precision.
 TEST(Properties, FunctionsLeaveTheControlWordsAlone) {
   const auto usual = control_words::now();
   for_each_built(library(), [&](std::size_t index, const operation& o, variant v) {
@@ -47,7 +47,7 @@ TEST(Properties, FunctionsLeaveTheControlWordsAlone) {
   });
 }
 
-// Functions that work on the magnitude and put the sign back, or drop it, have the same bits on both sides of zero.
+// Functions that work on the magnitude and restore the sign, or drop it, have the same bits on both sides of zero.
 TEST(Properties, OddAndEvenFunctionsAreSoToTheLastBit) {
   std::mt19937_64 random(7);
   for (std::size_t index = 0; index < catalogue.size(); ++index) {
@@ -83,10 +83,10 @@ TEST(Properties, OddAndEvenFunctionsAreSoToTheLastBit) {
   }
 }
 
-// What an argument made otherwise does to a result that is an ordinary number: by bits.
+// How changed arguments change a result that is an ordinary number: compared by bits.
 struct relation {
   std::string_view operation;
-  void (*other)(arguments&);  // made of the first one
+  void (*other)(arguments&);  // derived from the first
   double factor;              // of the other result
 };
 template <class T, class F>
@@ -102,7 +102,7 @@ template <class T>
 void eightfold(arguments& a) {
   change<T>(a[0], [](T x) { return 8 * x; });
 }
-// A turn on, where the sum is exact: the arguments are multiples of 2^-12 below 64.
+// One turn further, where the sum is exact: the arguments are multiples of 2^-12 below 64.
 template <class T>
 void turn_on(arguments& a) {
   change<T>(a[0], [](T x) { return x + 2; });
@@ -146,7 +146,7 @@ TEST(Properties, ScalingPeriodsAndReflectionsKeepTheBits) {
   }
 }
 
-// Odd roots and powers of negative numbers are those of the magnitude.
+// Odd roots and powers of negative numbers are those of the magnitude, with the sign.
 TEST(Properties, OddPowersKeepTheSign) {
   std::mt19937_64 random(13);
   for (std::string_view name : {"pown", "pownf", "rootn", "rootnf"}) {
@@ -174,7 +174,7 @@ TEST(Properties, OddPowersKeepTheSign) {
   }
 }
 
-// An operation that returns a second result beside the one of another has the same first one.
+// An operation that adds a second result to another operation's has the same first one.
 TEST(Properties, SecondResultsChangeNothing) {
   for (const auto& [one, other] : {std::pair("lgamma", "lgammar"), std::pair("lgammaf", "lgammarf"),
                                    std::pair("sincos", "sincosreg"), std::pair("sincosf", "sincosregf")}) {

@@ -1,4 +1,4 @@
-// Conversions against what the processor and x87 arithmetic make of the same values, in every direction, and stated
+// Conversions against what the processor and x87 arithmetic give for the same values, in every direction, and stated
 // results at stated inputs.
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ std::vector<outcome> evaluate(std::string_view name, int width, const std::vecto
   return in_direction(mode, [&] { return call(name, standard, width, tuples); });
 }
 
-// A few steps round each bound, halves of all sizes, specials and any patterns.
+// A few steps around each bound, halves of all sizes, special and random patterns.
 template <class T>
 std::vector<arguments> floating_inputs() {
   constexpr int bits = 8 * sizeof(T), exponent = sizeof(T) == 4 ? 23 : 52;
@@ -60,7 +60,7 @@ std::vector<arguments> integer_inputs(int bits) {
   std::mt19937_64 random(2);
   while (all.size() < 60'000) {
     add(random() >> random() % 64);
-    // On and beside a tie of 24 or 53 bits.
+    // On and next to a tie of 24 or 53 bits.
     const int kept = random() % 2 ? 24 : 53, below = int(random() % 40);
     add(((random() >> (64 - kept) << 1 | 1) << below) + random() % 3 - 1);
   }
@@ -75,7 +75,7 @@ T rounded(T x, std::string_view rounding) {
   return std::trunc(x);
 }
 
-// The rule for what does not fit, by type; in range an exact integer.
+// What does not fit follows a rule for its type; in range the result is an exact integer.
 template <class I, class T>
 u64 due_integer(T x, std::string_view rounding, bool saturated) {
   constexpr bool is_signed = std::is_signed_v<I>;

@@ -60,7 +60,7 @@ TEST(DoubleExponentials, WhereTheyOverflowAndUnderflow) {
   };
   for (const auto& [name, x, y] : all)
     for (auto v : {standard, native}) EXPECT_EQ(bits_of(name, v, 8, x), y) << name << " of " << fmt::format("{:X}", x);
-  // The forms at width 2 settle these lanes by themselves.
+  // The forms at width 2 settle these lanes themselves.
   EXPECT_EQ(bits_of("exp", standard, 2, 710.0), infinity_bits);
   EXPECT_EQ(bits_of("exp", standard, 2, -745.0), 1u);
   EXPECT_EQ(bits_of("exp", standard, 2, -746.0), 0u);

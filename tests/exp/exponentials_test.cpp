@@ -64,12 +64,12 @@ TEST(Exponentials, Exp2IsExactAtIntegersInAllButTheLightForms) {
       for (auto v : {standard, rm})
         EXPECT_EQ(bits_of("exp2f", v, width, float(n)), pattern(std::ldexp(1.0f, n))) << n << " at " << width;
   EXPECT_NE(bits_of("exp2f", native, 4, 3.0f), pattern(8.0f));
-  // The exponent is added as an integer, also where the polynomial is below 1 and the exponent the least.
+  // The exponent is added as an integer, even where the polynomial is below 1 and the exponent is the smallest.
   EXPECT_EQ(bits_of("exp2f", native, 4, -126.0f), 0x007FFB49u);
 }
 
-// The library neither reads nor writes the rounding direction, but its overflows are products that follow it; e^x
-// alone sets the lanes beyond its range as they are.
+// The library neither reads nor writes the rounding direction, but its overflows are products that follow it; only e^x
+// sets the lanes beyond its range directly.
 TEST(Exponentials, OverflowAndUnderflowFollowTheRoundingDirection) {
   for (const auto& [mode, overflow, underflow] : ends_in_every_direction<float>) {
     const harness::rounding in_force(mode);

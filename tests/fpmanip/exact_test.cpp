@@ -1,5 +1,5 @@
 // The operations that take numbers apart, choose among them or leave remainders, bit for bit against exact scalar
-// arithmetic, in every direction of rounding.
+// arithmetic, in every rounding direction.
 #include <gtest/gtest.h>
 #include <mpfr.h>
 #include <xmmintrin.h>
@@ -92,7 +92,7 @@ struct model {
   static outcome fmod(T x, T y) {
     if (std::isnan(x) || std::isnan(y)) return {bits(hushed(std::isnan(y) ? y : x))};
     if (std::isinf(x) || y == 0) return {bits(default_nan())};
-    // A whole multiple of one that is large, yet has room for a fraction, leaves +0.
+    // A large integer leaves +0 on division by 1 or -1, as long as there is room for a fraction.
     const T least = T(sizeof(T) == 4 ? 0x1p12 : 0x1p26), end = std::ldexp(T(1), limits::digits - 1);
     if (std::fabs(y) == 1 && std::fabs(x) >= least && std::fabs(x) < end && std::trunc(x) == x) return {0};
     return {bits(std::fmod(x, y))};
@@ -154,7 +154,7 @@ const std::vector<row<T>>& rows() {
   return all;
 }
 
-// Numbers that lie near one another or a simple multiple apart, with many zeros or ones in their fractions, among
+// Numbers that are close together or a simple multiple apart, with many zeros or ones in their fractions, among
 // ordinary values and patterns of every class.
 template <class T>
 std::vector<arguments> operands(const operation& o, std::size_t count) {
@@ -222,7 +222,7 @@ TYPED_TEST(ExactOperations, LdexpRoundsOnceInEveryDirection) {
   for (std::size_t n = 0; n < tuples.size(); ++n) {
     const T x = value<T>(tuples[n][0]);
     const int exponent = std::isfinite(x) && x != 0 ? std::ilogb(x) : 0;
-    // To where the result overflows, is denormal or vanishes; and far beyond.
+    // As far as the result overflows, is denormal or vanishes; and far beyond.
     const int target = n % 2 ? -range - int(random() % 60) + 5 : range - int(random() % 4);
     if (n % 8) tuples[n][1] = std::uint32_t(target - exponent);
   }
@@ -249,7 +249,7 @@ TYPED_TEST(ExactOperations, FmaRoundsOnceInEveryDirection) {
   const auto argument = [&](std::size_t n, int i) { return value<T>(tuples[n][i]); };
   constexpr int digits = std::numeric_limits<T>::digits;
   for (std::size_t n = 0; n < tuples.size(); ++n) {
-    // A summand that cancels the product, or lies a few bits or all of them from it.
+    // A summand that cancels the product, or lies a few bits or a full width away from it.
     const T product = argument(n, 0) * argument(n, 1);
     if (n % 4 == 0 && std::isfinite(product))
       tuples[n][2] = m::bits(-product) + random() % 3 - 1;
@@ -305,7 +305,7 @@ TEST(ExactValues, ThatAreStated) {
     EXPECT_EQ(bits_of("fmaxf", standard, width, 0, 0x80000000), 0x80000000u);
     EXPECT_EQ(bits_of("maxmagf", standard, width, 0, 0x80000000), 0u);
     EXPECT_EQ(bits_of("fractf", standard, width, -1e-10f), 0x3F7FFFFFu);
-    // The integer's bits stay as they are, also where they reach the sign.
+    // The integer's bits stay unchanged, even where they reach the sign.
     EXPECT_EQ(bits_of("nanf", standard, width, 0x80012345), 0xFFC12345u);
     EXPECT_EQ(bits_of("nan", standard, width, 0x123456789), 0x7FF8000123456789u);
   }

@@ -1,4 +1,4 @@
-// The frame's own promises, over the probe library: every shape at every width.
+// The frame's own promises, tested with the probe library: every shape at every width.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -96,7 +96,7 @@ const std::map<std::string_view, outcome (*)(const arguments&)> models{
     {"cvtfp64tofp32rte", [](const arguments& a) { return outcome{u32(a[0] >> 32) ^ u32(a[0])}; }},
 };
 
-// Finite values without much precision, so that the model's sums are exact in any order; `rare` says how many of
+// Finite values with few significant bits, so that the model's sums are exact in any order; `rare` says how many out of
 // eight lie beyond the probes' bound.
 std::vector<arguments> values(const operation& o, std::size_t count, int rare) {
   std::mt19937_64 random(count + rare);
@@ -132,7 +132,7 @@ TEST_P(Frame, EveryLaneAtEveryWidthWithNoneSomeAndAllLanesRare) {
       const auto tuples = values(o, 480, rare);
       const auto f = probe().find(index, variant::standard, width);
       ASSERT_TRUE(f);
-      // What lane 3 of a width-3 vector holds is never looked at.
+      // Lane 3 of a width-3 vector is never read.
       const auto got = harness::evaluate(o, *f, width, tuples, signalling_nan(o.sig.arguments[0]));
       for (std::size_t n = 0; n < tuples.size(); ++n)
         ASSERT_EQ(got[n], expected(tuples[n])) << o.name() << width << " of " << text_of(o, tuples[n]);

@@ -1,4 +1,4 @@
-// The lane operations that kernels are written in, at every width against the same scalar arithmetic.
+// The lane operations that kernels are written in, at every width, against the same scalar arithmetic.
 #include "frame/lanes.h"
 
 #include "frame/conversions.h"
@@ -226,7 +226,7 @@ TYPED_TEST(FloatingLanes, RoundPickAndConvertAsTheProcessorDoes) {
   });
 }
 
-// Whatever registers the compiler would like better.
+// Whichever registers the compiler would prefer.
 TYPED_TEST(FloatingLanes, KeepTheFirstOfTwoNaNsInOrder) {
   using T = TypeParam;
   using I = int_of_size<sizeof(T)>;

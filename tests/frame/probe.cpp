@@ -1,12 +1,11 @@
-// A library of small operations, one of every signature shape, whose results are plain to tell: what the frame
-// does with lanes, rare lanes, fillers and second results is seen through them. They are exported under names of
-// the catalogue.
+// A library of small operations, one of every signature shape, with easily predicted results, which show what the frame
+// does with lanes, rare lanes, fillers and second results. They are exported under names of the catalogue.
 #include "frame/frame.h"
 
 namespace lanemath {
 namespace {
 
-// Marked: magnitudes above a million.
+// Marks magnitudes above a million.
 template <int W>
 auto marked(lanes<float, W> x) {
   return magnitude_above(x, 0x49742400);
@@ -32,7 +31,7 @@ struct unary : any_marked {
   static auto kernel(auto x) { return x + x; }
   static constexpr auto rare = [](const T* x, T* y) { return *y = 3 * *x, 0; };
 };
-// One that marks its own lanes.
+// An operation that marks its own lanes.
 template <class T>
 struct binary {
   using signature = T(T, T);
@@ -144,7 +143,7 @@ struct double_to_float {
   using signature = float(double);
   static auto kernel(auto x) { return from_bits(upper(x) ^ lower(x)); }
 };
-// One group at a time, to see the pieces put together again.
+// One group at a time, to test that the pieces are put together again.
 struct in_pieces : second_int<double> {
   static constexpr int groups_at_once = 1;
 };

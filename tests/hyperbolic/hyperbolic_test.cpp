@@ -83,7 +83,7 @@ TEST(Hyperbolic, NaNsKeepSignAndPayload) {
       for (u64 payload : {0, 1, 0x12345})
         for (u64 s : {u64(0), sign}) {
           const u64 nan = (single ? 0x7F800100 : 0x7FF0000000000100) | payload | s;
-          // The forms that stand alone move patterns; one of them takes a set sign for a value below the domain.
+          // The standalone forms move patterns; one of them takes a set sign for a value below the domain.
           u64 due = catalogue[index_of(full)].is_standalone(width, v) ? nan : nan | quiet;
           if (full == "acoshf" && width == 4 && s) due = 0x7FFFFFFF;
           EXPECT_EQ(bits_of(full, v, width, nan), due) << nan;
@@ -136,8 +136,8 @@ TEST(Hyperbolic, TablesHaveTheirStatedEntries) {
   EXPECT_EQ(cosh_256[256], 1.0);
 }
 
-// The forms that stand alone: a lane below their range sends its neighbours to the scalar routine, which is nearly
-// correctly rounded while the vector path is not.
+// Standalone forms: a lane below their range sends its neighbours to the scalar routine, which is almost correctly
+// rounded, unlike the vector path.
 TEST(Hyperbolic, ALaneOutOfRangeTakesItsNeighboursAlong) {
   struct form {
     std::string_view name;

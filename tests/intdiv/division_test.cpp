@@ -18,7 +18,7 @@ result due(i32 a, i32 b) {
 }
 result due(u32 a, u32 b) { return b == 0 ? result{0, a} : result{a / b, a % b}; }
 
-// All pairs of edge values; exact multiples and their neighbours; any pairs.
+// All pairs of edge values; exact multiples and their neighbours; random pairs.
 std::vector<arguments> pairs() {
   std::vector<u32> edges;
   for (int power = 0; power < 32; ++power)

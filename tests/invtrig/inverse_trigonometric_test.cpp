@@ -13,10 +13,10 @@ namespace {
 constexpr float infinity = std::numeric_limits<float>::infinity();
 constexpr double half_pi = 0x3FF921FB54442D18_f64, pi = 0x400921FB54442D18_f64;
 
-// Of numbers that are floats; the results are what the exact ones round to.
+// At numbers that are floats; the results are the exact ones, rounded.
 template <std::size_t Arguments>
 struct stated {
-  std::string_view name;  // of the double operation
+  std::string_view name;  // of the double-precision operation
   std::array<float, Arguments> at;
   double result;
   bool in_native = true;  // also of the native forms
@@ -105,7 +105,7 @@ TEST(InverseTrigonometry, OfDenormals) {
   EXPECT_EQ(bits_of("atanpi", native, 2, 0x0008000000000000), 0x00028BE60DB93910u);
 }
 
-// Beyond 1 the NaN that the processor makes; a NaN in comes back quiet with its payload, but from the native forms in
+// Beyond 1 the processor's own NaN; a NaN argument comes back quiet with its payload, except from the native forms in
 // double precision.
 TEST(InverseTrigonometry, OfNaNsAndBeyondTheDomain) {
   for (int width : widths)
@@ -142,7 +142,7 @@ TEST(InverseTrigonometry, Atan2fAtWidth4TakesItsNeighboursPath) {
   EXPECT_GT(differing, 100u);
 }
 
-// Points that only the rare routines reach, on both sides of where their ways part.
+// Points that only the rare routines reach, on both sides of where their methods change.
 TEST(InverseTrigonometry, RareAnglesAreRoundedOnce) {
   int misrounded = 0;
   mpfr_t y, x, angle;

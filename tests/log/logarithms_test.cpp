@@ -1,4 +1,4 @@
-// Stated results of the logarithms at stated inputs, and their rare routines where the kernels do not reach.
+// Stated results of the logarithms at stated inputs, and of their rare routines where no kernel leads to them.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -13,7 +13,7 @@
 namespace lanemath::testing {
 namespace {
 
-// The result at x, and the pattern it should have, in the operation's precision.
+// Compares the result at x with what it should be, in the operation's precision.
 void expect(std::string_view name, variant v, int width, double x, double due) {
   EXPECT_EQ(bits_of(name, v, width, pattern_of(name, x)), pattern_of(name, due)) << x;
 }
@@ -23,7 +23,7 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 const std::vector<std::string_view> logarithms{"logf", "log2f", "log10f", "log", "log2", "log10"};
 const std::vector<std::string_view> logarithms_of_sums{"log1pf", "log1p"};
 
-// What zero by zero gives.
+// What zero divided by zero gives.
 u64 default_nan(std::string_view name) { return is_single(name) ? 0xFFC00000 : 0xFFF8000000000000; }
 
 TEST(Logarithms, OfOneZerosInfinitiesAndNegativeValues) {
@@ -68,7 +68,7 @@ TEST(Logarithms, ToBaseTwoAreExactAtPowersOfTwo) {
 }
 
 // At inputs where a step in another order or an unrounded product shows. Forms whose bits depend on the processor's
-// estimates have no place here, but for their rare lanes.
+// estimates are left out, except for their rare lanes.
 TEST(Logarithms, HaveTheirStatedBits) {
   constexpr struct {
     std::string_view name;
@@ -87,8 +87,8 @@ TEST(Logarithms, HaveTheirStatedBits) {
       {"log10f", native, 4, 0x3FAAAABB, 0x3DFFE41A},
       {"log10f", standard, 4, 0x00000001, 0xC23369F4},
       {"log1pf", native, 4, 0xBE627F6C, 0xBE800160},
-      {"log1pf", standard, 4, 0xBF7FFFFF, 0xC1851592},  // the last one above -1
-      {"log1pf", standard, 4, 0x7A800000, 0x42A3952E},  // the last one that is not rare, and the next
+      {"log1pf", standard, 4, 0xBF7FFFFF, 0xC1851592},  // the last float above -1
+      {"log1pf", standard, 4, 0x7A800000, 0x42A3952E},  // the last float that is not rare, and the next
       {"log1pf", standard, 4, 0x7A800001, 0x42A3952E},
       {"log1pf", standard, 4, 0x00000001, 0x00000001},
       {"log2", standard, 2, 0x3FEFEFF06A66426D, 0xBF673195B4175629},
@@ -122,7 +122,7 @@ TEST(Logarithms, TablesHaveTheirStatedEntries) {
   EXPECT_EQ(pattern(logf_reciprocals[64][2]), 0x35BFBE8Eu);
 }
 
-// Over all positive arguments, of which the kernels pass on only the denormals. Near 1 some cancel.
+// Over all positive arguments; the kernels pass on only the denormals. Near 1 some terms cancel.
 template <class T>
 void expect_good(status (*routine)(const T*, T*), long double (*exact)(long double), double ulp, double near_one) {
   std::mt19937_64 random(3);

@@ -11,7 +11,7 @@
 
 using bytes = std::vector<std::byte>;
 
-// A quarter of the lanes are turning points, the others special patterns, any patterns and ordinary values.
+// A quarter of the lanes are turning points, the others special patterns, random patterns and ordinary values.
 bytes inputs_of(lanemath::lane l, std::size_t lanes, std::mt19937_64& random);
 
 // All lanes the same.
@@ -23,7 +23,7 @@ void spread_first_lanes(bytes& values, std::size_t lane_size, std::size_t lanes_
 struct comparison {
   lanemath::lane of;
   int width;
-  bool any_nan;  // a NaN of any kind will do where an argument or the library's result is one
+  bool any_nan;  // any NaN will do where an argument or the library's result is one
   const lanemath::signature& signature;
   const std::vector<bytes>& inputs;
   const std::byte* kernel;

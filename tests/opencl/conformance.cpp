@@ -1,4 +1,4 @@
-// Shows that the library answers the built-ins of OpenCL kernels: each one runs at every width over special values
+// Shows that the library serves the built-ins of OpenCL kernels: each one runs at every width over special values
 // and random bits, in kernels of several shapes, and every lane must have the bits that a direct call of the library
 // gives. Loops over scalar built-ins that have vector forms must call these.
 #include <fmt/format.h>
@@ -50,7 +50,7 @@ class conformance {
     for (std::size_t i = 0; i < batch.size(); ++i) run(program, batch[i], kernels[i]);
   }
 
-  // Every 32-bit argument there is, in the plain kernel of scalars.
+  // All 32-bit arguments, in the plain kernel of scalars.
   void sweep(const group& g) {
     const kernel k{fmt::format("sweep{}", groups_++), shape::plain, 1};
     const auto program = device_.build(source_of(g, k));
@@ -145,7 +145,7 @@ class conformance {
   }
 
   // The runtime loops over a kernel's work items, and that loop must call vector forms. A kernel with a loop of its own
-  // asks for it not to be vectorised, and none may be. Where the loop has a branch in it, the compiler decides by cost.
+  // asks that it not be vectorised, and it must not be. If the loop has a branch in it, the compiler decides by cost.
   void check_loop(const group& g, const kernel& k) {
     const auto called = device_.called_by(k.name, disassembler_);
     for (const auto& b : g.members) {

@@ -80,7 +80,7 @@ std::set<std::string> device::called_by(const std::string& kernel, const std::st
     text.append(piece.data(), size);
   if (pclose(pipe) != 0) throw std::runtime_error(command + " failed");
 
-  // Only calls in the function that is launched count: others mention the same names and may not even be called.
+  // Only calls in the launched function count: others mention the same names and may not even be called.
   const auto begin_of_kernel = fmt::format("@_pocl_kernel_{}_workgroup(", kernel);
   static const std::regex call(R"(\bcall [^@]*@([\w.]+)\()");
   std::set<std::string> called;

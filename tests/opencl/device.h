@@ -1,4 +1,4 @@
-// The OpenCL device, and what its runtime compiled.
+// The OpenCL device, and what its runtime compiles.
 #pragma once
 
 #define CL_HPP_ENABLE_EXCEPTIONS
@@ -39,7 +39,7 @@ class device {
   std::string name() const { return queue_.getInfo<CL_QUEUE_DEVICE>().getInfo<CL_DEVICE_NAME>(); }
   cl::Program build(const std::string& source) const;
 
-  // The kernel's parameters are the inputs, then the outputs, whose contents it finds in its memory too.
+  // The kernel's parameters are the inputs, then the outputs, whose initial contents it finds in its memory too.
   void run(const cl::Program& program, const std::string& kernel, std::size_t items, std::size_t items_per_group,
            const std::vector<bytes>& inputs, std::vector<bytes>& outputs) const;
 

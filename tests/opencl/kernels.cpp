@@ -33,7 +33,7 @@ std::string argument(const group& g, const kernel& k, std::size_t member, int po
   return fmt::format("*(global const {}*)({} + i)", opencl_type(l, k.width), name);
 }
 
-// Calls a member and stores what it gives.
+// Calls a member and stores its result.
 std::string statement(const group& g, const kernel& k, std::size_t member) {
   const auto type = opencl_type(g.signature.result, k.width), second = opencl_type(g.signature.second, k.width);
   const auto to_results = fmt::format("*(global {}*)(results + {} * lanes + i)", type, member);

@@ -1,4 +1,4 @@
-// The kernels that call the built-ins, many in each: compiling them is what takes the time.
+// The kernels that call the built-ins, many in each, because compiling takes most of the time.
 #pragma once
 
 #include <cstddef>
@@ -10,7 +10,7 @@
 #include "generate/opencl.h"
 #include "harness/harness.h"
 
-// Every kernel covers this many lanes, in groups of a number of items that leaves a remainder to every vectorised loop.
+// Every kernel covers this many lanes. The size of its groups leaves every vectorised loop a remainder.
 inline constexpr std::size_t items_per_group = 61;
 inline constexpr std::size_t lanes_per_share = 16;
 inline constexpr std::size_t lanes = 128 * items_per_group * lanes_per_share;
@@ -47,7 +47,7 @@ enum class shape {
   scalar,    // a share of scalars for each work item, one at a time
   branch,    // a scalar for each work item whose flag is set
   constant,  // scalars, the last argument a constant
-  chain      // scalars, every second built-in called with what the one before it gave
+  chain      // scalars, every second built-in called with the result of the one before it
 };
 
 struct kernel {
@@ -64,5 +64,5 @@ std::vector<group> groups_of(const lanemath::harness::library& library, std::str
 std::vector<kernel> kernels_of(const group& g, std::string_view name_prefix);
 
 // A kernel's parameters are the arguments, the flags if its shape has any, the results, and the second results if there
-// are any. The results of each member stand behind those of the one before.
+// are any. The results of each member follow those of the one before.
 std::string source_of(const group& g, const kernel& k);

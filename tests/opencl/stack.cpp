@@ -1,5 +1,5 @@
 // Shows that wide calls, which cross in memory, do not keep that memory for each call and work item of a group: a
-// kernel with two hundred such calls in groups of 4096 items runs on the usual stack and gives the right results.
+// kernel with two hundred such calls in groups of 4096 items runs on the usual stack and gives correct results.
 #include <fmt/format.h>
 
 #include <cstring>

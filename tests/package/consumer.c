@@ -1,4 +1,4 @@
-/* A program as a user of the installed package writes it: e^x of sixteen lanes against the C library. */
+/* A program that a user of the installed package might write: e^x of sixteen lanes against the C library. */
 #include <lanemath/lanemath.h>
 #include <math.h>
 #include <stdio.h>

@@ -167,7 +167,7 @@ TYPED_TEST(Powers, SpecialCasesInEveryForm) {
     for_each_form({name}, [&](std::string_view, variant v, int width) {
       for (const auto& row : rows) {
         arguments lane{bits<T>(row.x)};
-        // A NaN argument is a positive one with a payload, or negative where the row says so.
+        // A NaN argument is positive and has a payload, or is negative where the row says so.
         if (std::isnan(row.x)) lane[0] = bits<T>(nan) & ~(std::signbit(row.x) ? 0 : TestFixture::sign);
         double second;
         if constexpr (requires { row.y; }) {
@@ -179,7 +179,7 @@ TYPED_TEST(Powers, SpecialCasesInEveryForm) {
         }
         const auto got = bits_of(name, v, width, lane);
         const auto due = bits<T>(row.z);
-        // The native kernels are near the small integers and no more; only the case itself is meant.
+        // The native kernels are only close at small integers; only the special case itself is meant.
         const bool in_light_kernel = !std::isnan(row.z) && std::isfinite(row.z) && row.z != 0 && std::abs(row.z) != 1;
         if (in_light_kernel && v != standard) continue;
         EXPECT_EQ(got, due) << row.x << ", " << second;
@@ -217,7 +217,7 @@ TYPED_TEST(Powers, NaNsComeBackQuietedWithSignAndPayload) {
   }
 }
 
-// Rows of powr that only a denormal base or an exponent of its last binades brings to the routine.
+// Rows of powr that reach the routine only with a denormal base or an exponent from the last binades.
 TEST(PowerRoutines, OneFromTheRoutineOfPowr) {
   for (std::string_view name : {"powrf", "powr"})
     for_each_form({name}, [&](std::string_view, variant v, int width) {
@@ -229,7 +229,7 @@ TEST(PowerRoutines, OneFromTheRoutineOfPowr) {
     });
 }
 
-// Constant terms that are not 1, and are kept.
+// Constant terms that are not 1, and stay so.
 TEST(PowerKernels, NextToOne) {
   const u64 three = bits<float>(3), one = bits<float>(1), wide_three = bits<double>(3);
   for (int width : widths) {
@@ -255,7 +255,7 @@ TEST(PowerKernels, SignsOfOddExponentsAndTheNegativeBasesOfPowr) {
   }
 }
 
-// Where float results overflow, become denormal and vanish: powf's kernel by its narrowing, the rest in the routine.
+// Where float results overflow, become denormal and vanish: powf in its kernel, by narrowing, the rest in the routine.
 TEST(PowerRange, PowersOfTwo) {
   const auto of = [](std::string_view name, double x, double y) {
     return is_single(name) ? bits_of(name, standard, 4, float(x), float(y)) : bits_of(name, standard, 4, x, y);
@@ -277,7 +277,7 @@ TEST(PowerRange, PowersOfTwo) {
   EXPECT_EQ(of("pow", -2, -1075), 0x8000000000000000u);
   EXPECT_EQ(of("pow", -2, -1101), 0x8000000000000000u);
   EXPECT_EQ(of("pow", 2, 1024), bits<double>(infinity));
-  // Denormals come back as they are, with every bit at its own place.
+  // Denormals come back unchanged, with every bit in its place.
   for (u64 x : {1ull, 3ull, 0x0007FFFFFFFFFFFFull, 0x000D11590BF9ED6Dull, 0x000FFFFFFFFFFFFFull})
     for (std::string_view name : {"pown", "rootn"}) EXPECT_EQ(bits_of(name, standard, 2, x, 1), x);
 }

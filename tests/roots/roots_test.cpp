@@ -1,4 +1,4 @@
-// Stated results of the roots and reciprocals at stated inputs, and what their tables hold.
+// Stated results of the roots and reciprocals at stated inputs, and the contents of their tables.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -126,7 +126,7 @@ TEST(Roots, HaveExactValuesWhereTheirMethodsDo) {
     EXPECT_EQ(root("rsqrtf", standard, std::ldexp(1.0f, 2 * n)), std::ldexp(1.0f, -n)) << n;
 }
 
-// Nothing but an estimate, where a scalar routine is not asked; the true quotient where it is.
+// The bare estimate where no scalar routine is called; the true quotient where one is.
 TEST(Roots, NativeReciprocalsAreExactBeyondTheirBounds) {
   const auto quotient = [](float x, float y) { return pattern(root("divf", native, x, y)); };
   for (float y : {0x1p126f, 0x1.fffffep127f, 0x1p-149f, 0x1.fffffcp-127f, -0x1.8p126f})
@@ -141,7 +141,7 @@ TEST(Roots, NativeReciprocalsAreExactBeyondTheirBounds) {
   }
 }
 
-// Denormals and what else the kernels do not serve, against the processor's correctly rounded operations.
+// Denormals and whatever else the kernels do not serve, against the processor's correctly rounded operations.
 TEST(Roots, ScalarRoutinesRoundToTheNearest) {
   std::mt19937_64 random(2);
   for (int n = 0; n < 4000; ++n) {
@@ -154,7 +154,7 @@ TEST(Roots, ScalarRoutinesRoundToTheNearest) {
       EXPECT_EQ(root("hypotf", standard, x, y), float(std::sqrt(sum))) << x << ' ' << y;
     }
 
-    // Of denormals and so of integers: n is the nearest if n^2 - n < a^2 + b^2 <= n^2 + n.
+    // Denormals are integers here: n is the nearest if n^2 - n < a^2 + b^2 <= n^2 + n.
     using wide = unsigned __int128;
     const u64 a = random() >> 12 >> random() % 30, b = random() >> 12 >> random() % 30;
     const wide root = bits_of("hypot", standard, 2, a, b), squares = wide(a) * a + wide(b) * b;

@@ -64,7 +64,7 @@ TEST(ErrorFunction, OfZerosInfinitiesAndFromTheCapOn) {
 }
 
 TEST(ComplementaryErrorFunction, OfZerosInfinitiesAndInTheTails) {
-  // The tail ends at half of the smallest denormal; the first float beyond the kernel's bound still rounds up to it.
+  // The tail ends at half the smallest denormal; the first float beyond the kernel's bound still rounds up to it.
   expect_all<expected_float>({"erfcf"}, {standard, native},
                              {{0.0f, 1.0f},
                               {-0.0f, 1.0f},
@@ -213,8 +213,8 @@ void set_x87_control(u32 to) {
   asm volatile("fldcw %0" ::"m"(control));
 }
 
-// The double-precision routines work at full x87 precision whatever the caller's control word is, and leave it alone on
-// every way out; the others never touch it.
+// The double-precision routines work at full x87 precision whatever the caller's control word, and restore it on every
+// way out; the others never touch it.
 TEST(GammaFunctions, LeaveTheX87ControlWordAsTheyFoundIt) {
   const double inputs[] = {1.0,       2.0,   0.0,   -0.0,   -3.0,   0.3,   1.3,       3.3,           7.7,
                            300.5,     1e10,  1e306, -0.5,   -2.45,  -2.46, -14.5,     -16.5,         -100.5,

@@ -41,7 +41,7 @@ inline std::vector<outcome> call(std::string_view name, variant v, int width, co
   return harness::evaluate(catalogue[index], library().find(index, v, width).value(), width, tuples);
 }
 
-// Of one lane, the others holding the same: numbers of the operation's types, or patterns.
+// The bits of one lane's result, all lanes being alike: from numbers of the operation's types, or from patterns.
 inline outcome outcome_of(std::string_view name, variant v, int width, const arguments& lane) {
   return call(name, v, width, std::vector(width, lane))[0];
 }
@@ -74,7 +74,7 @@ void for_each_form(std::initializer_list<std::string_view> names, F visit) {
   for_each_form<std::initializer_list<std::string_view>>(names, visit);
 }
 
-// What too large and too small a positive result becomes in each direction where the processor rounds it.
+// What a positive result that is too large or too small becomes in each direction, if the processor rounds it.
 struct rounded_ends {
   int mode;
   u64 overflow, underflow;

@@ -1,4 +1,4 @@
-// A finished object or shared object, as its reader sees it.
+// An object or shared object, as its reader sees it.
 #pragma once
 
 #include <elf.h>
@@ -35,7 +35,7 @@ class elf_file {
   const std::vector<Elf64_Phdr>& segments() const { return segments_; }
   std::string name(const Elf64_Shdr& s) const { return text(sections_.at(header().e_shstrndx), s.sh_name); }
 
-  // Of a symbol table: SHT_DYNSYM of a shared object, SHT_SYMTAB of an object.
+  // For a symbol table: SHT_DYNSYM in a shared object, SHT_SYMTAB in an object.
   std::vector<symbol> symbols(std::uint32_t table) const {
     std::vector<symbol> all;
     for (const auto& section : sections_)
@@ -48,7 +48,7 @@ class elf_file {
     return all;
   }
 
-  // Names that are defined for others to see.
+  // Names that are defined and visible to others.
   std::set<std::string> exported(std::uint32_t table) const {
     std::set<std::string> names;
     for (const auto& s : symbols(table))

@@ -22,7 +22,7 @@ using harness::text_of;
 
 constexpr std::uint64_t signalling_nan(lane l) { return l == lane::f64 ? 0x7FF0000000000123 : 0x7F800123; }
 
-// Tuples of special patterns, of ordinary values and of any patterns, mixed so that most vectors hold some of each.
+// Tuples of special patterns, ordinary values and random patterns, mixed so that most vectors hold some of each.
 inline std::vector<arguments> mixed_tuples(const operation& o, std::size_t count) {
   std::mt19937_64 random(count);
   std::vector<arguments> all(count);

@@ -93,8 +93,8 @@ TEST(FinishedFile, HasNoVersionsNoWritableDataAndNoExecutableStack) {
   EXPECT_TRUE(relro);
 }
 
-// The disassembler's mnemonics: AVX's all begin with v, and no other instruction's does but those of
-// virtualisation. The rest are the later additions to the scalar and 128-bit sets.
+// The disassembler's mnemonics: all of AVX begin with v, and otherwise only those of virtualisation do. The rest are
+// the later additions to the scalar and 128-bit sets.
 TEST(FinishedFile, HasNoInstructionAboveSse41) {
   const std::string command = std::string(LANEMATH_OBJDUMP) + " -d --no-show-raw-insn " + LANEMATH_LIBRARY;
   const std::unique_ptr<FILE, int (*)(FILE*)> out(popen(command.c_str(), "r"), pclose);

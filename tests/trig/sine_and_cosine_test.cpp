@@ -43,7 +43,7 @@ TEST(SineAndCosine, OfTinyArguments) {
   EXPECT_EQ(bits_of("cos", standard, 2, 1), 0x3FF0000000000000u);
 }
 
-// Up to the bound the native polynomial, above it a stage that rounds almost correctly.
+// Up to the bound the native polynomial; above it a stage that rounds almost correctly.
 TEST(SineAndCosine, TheLightDoubleFormsEndAtTheBound) {
   const auto differ = [](std::string_view name, u64 x) {
     return outcome_of(name, standard, 2, x) != outcome_of(name, native, 2, x);

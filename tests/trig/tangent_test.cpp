@@ -74,7 +74,7 @@ TEST(Tangent, KeepsTheSignOfZero) {
     }
 }
 
-// Doubles next to a multiple of pi/2, of all of them the nearest one too, with 1.2 units in the last place to err by.
+// Doubles next to a multiple of pi/2, the nearest of all among them, within 1.2 units in the last place.
 TEST(Tangent, KeepsBothPartsOfTheRemainder) {
   constexpr std::pair<double, double> results[] = {{0x1p-1074, 0x1p-1074},
                                                    {0x1.921fb54442d18p0, 0x1.d02967c31cdb5p+53},

@@ -100,7 +100,7 @@ bool same_form(const error_record& a, const error_record& b) {
          std::any_of(a.variants.begin(), a.variants.end(), [&](variant v) { return b.has(v); });
 }
 
-// No form twice, and no part without the whole, whose error is no smaller.
+// No form occurs twice, and no part without the whole, whose error is no smaller.
 void check_together(const std::vector<error_record>& records) {
   for (const auto& r : records) {
     const auto name = catalogue[r.index].name();

@@ -1,5 +1,5 @@
-// The largest errors that were found, from errors.csv beside this file, and the bounds that follow from them. The
-// public headers state the bounds, the tests hold every form to them, and docs/accuracy.md tells the errors.
+// The largest errors that were found, from errors.csv in this folder, and the bounds that follow from them. The public
+// headers state the bounds, the tests hold every form to them, and docs/accuracy.md lists the errors.
 #pragma once
 
 #include <array>
@@ -18,7 +18,7 @@ using arguments = std::array<std::uint64_t, 3>;  // bit patterns
 // The width of a standalone form; 0 for the forms that share the code of the other widths.
 int own_width(const operation& o, variant v, int width);
 
-// A line of the file. Results that round to a denormal or overflow count in units of the format's smallest step there.
+// A line of the file. Results that round to a denormal or overflow are measured in the format's smallest step there.
 struct error_record {
   std::size_t index = 0;            // of the operation in the catalogue
   std::vector<variant> variants{};  // those that share the code
@@ -28,43 +28,42 @@ struct error_record {
   std::optional<arguments> at{};
   std::string search{};             // how it was found, in words
   std::optional<double> rounded{};  // percent of all inputs whose results are correctly rounded
-  // The bound on whatever processor, of a form that starts from the processor's estimate of a reciprocal or a root:
-  // with the largest error of an estimate that makers promise, 1.5 * 2^-12.
+  // The bound on any processor, of a form that starts from the processor's estimate of a reciprocal or a root: with
+  // the largest error of an estimate that vendors allow, 1.5 * 2^-12.
   std::optional<double> anywhere{};
 
   bool has(variant v) const;
   bool is_of(const operation& o, variant v, int width) const;
-  // What is stated: the error rounded up to three digits, or what holds on whatever processor.
+  // What is stated: the error rounded up to three digits, or what holds on any processor.
   double bound() const;
 };
 
-// The file's lines. A file that is not as it should be throws std::runtime_error, which tells the line.
+// The file's lines. A malformed file throws std::runtime_error, which names the line.
 std::vector<error_record> read_errors(const std::string& path);
 void write_errors(const std::string& path, std::vector<error_record> records);
-// The file in the source folder, and its lines.
+// The path of the file in the source folder, and its lines.
 extern const char* const errors_path;
 const std::vector<error_record>& recorded_errors();
 
-// What was measured, for a line of `records`: a larger error than the line's replaces it, with its place. A part's
-// error is one of all arguments as well. Throws if a bound that should hold on every processor is broken.
+// Enters a measured error: if it is larger than that of its line of `records`, it replaces it, with its place. The
+// error of a part counts for all arguments too. Throws if a bound that should hold on every processor is broken.
 void merge(std::vector<error_record>& records, const error_record& found);
 
 // The bit patterns of an operation's arguments, as in the file: "0x3F7FB84A 0x47982860".
 arguments place_in(std::string_view text, const signature& sig);
 
-// Rounded up to so many significant digits, and as text.
+// The error rounded up to so many significant digits; the error as text.
 double rounded_up(double error, int digits);
 std::string text_of_error(double error);
 
-// By way of a temporary file beside it, so that the file is whole at every moment.
+// Replaces a file by way of a temporary one in the same folder, so that it is complete at every moment.
 void replace_file(const std::string& path, const std::string& text);
 
 }  // namespace lanemath::accuracy
 
 namespace lanemath {
 
-// Families of operations that are exact unless they have a line: each result is the one that the operation's rule
-// gives.
+// Families whose operations are exact unless they have a line: each result is what the operation's rule gives.
 constexpr bool is_exact(family f) {
   return f == family::conversion || f == family::integer_division || f == family::manipulation;
 }

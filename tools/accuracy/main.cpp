@@ -1,4 +1,4 @@
-// The error of exported functions against MPFR: a table, and the same as CSV.
+// The error of exported functions against MPFR, as a table and as CSV.
 #include <fmt/format.h>
 #include <unistd.h>
 
@@ -18,7 +18,7 @@ namespace {
 using namespace lanemath;
 using namespace lanemath::accuracy;
 
-// A bar with the time left on a terminal; nothing elsewhere.
+// On a terminal a bar with the time left; elsewhere nothing.
 class progress_bar {
  public:
   explicit progress_bar(std::string title) : title_(std::move(title)) {}

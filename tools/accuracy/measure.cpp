@@ -64,7 +64,7 @@ std::uint64_t pattern_of(lane type, double value) {
 
 unsigned cores() { return std::max(1u, std::thread::hardware_concurrency()); }
 
-// work(part) on every core, part counting the cores; the tallies together.
+// Runs work(part) on every core, part counting the cores, and merges the tallies.
 template <class F>
 tally on_all_cores(F work) {
   std::vector<tally> parts(cores());
@@ -77,7 +77,7 @@ tally on_all_cores(F work) {
   return all;
 }
 
-// A pattern of any lane type, drawn evenly; the seed decides.
+// A random pattern of any lane type, drawn evenly.
 std::uint64_t any_pattern(lane type, std::mt19937_64& random) { return size_of(type) == 4 ? random() >> 32 : random(); }
 
 // Patterns of a floating type in the order of their values, as integers.
@@ -260,7 +260,7 @@ tally measure_all_floats(const reference& r, const harness::function& f, int wid
       r.value(exact.v, given.v);
       return judge(lane::f32, exact.v, got);
     };
-    // The latest lanes whose error was larger than any before, for the exact check.
+    // The last lanes whose error was larger than any before, for the exact check.
     std::vector<std::pair<std::uint32_t, float>> worst(64);
     std::size_t records = 0;
     const auto add = [&](std::uint32_t pattern, float got) {
@@ -271,7 +271,7 @@ tally measure_all_floats(const reference& r, const harness::function& f, int wid
       const double near = r.fast(std::bit_cast<float>(pattern));
       if (std::isnan(near) && std::isnan(got)) return note(0, true);
       const float nearest = float(near * (1 - 0x1p-48));
-      // The fast value is enough where it decides the rounding.
+      // The fast value is enough if it decides the rounding.
       if (nearest == float(near * (1 + 0x1p-48))) {
         if (std::isinf(nearest) && got == nearest) return note(0, true);
         if (std::isfinite(nearest) && std::isfinite(got)) {

@@ -14,8 +14,8 @@
 namespace lanemath::accuracy {
 
 struct tally {
-  double largest_error = -1;  // ulp; infinite for a NaN or a number where the other was due; -1 before any lane
-  arguments input{};          // where it falls
+  double largest_error = -1;  // ulp; infinite for a NaN instead of a number or the reverse; -1 before any lane
+  arguments input{};          // where it occurs
   std::uint64_t lanes = 0;
   std::uint64_t correctly_rounded = 0;
 
@@ -34,33 +34,33 @@ struct judgement {
   double error;  // ulp of the exact value's binade; below the normals, of the smallest step
   bool correct;  // the nearest number of the type
 };
-// A number of a lane type that was got, against the exact value. One that rounds to infinity is at 2^128 or 2^1024.
+// A result of a lane type against the exact value. An infinite one counts as 2^128 or 2^1024.
 judgement judge(lane type, const mpfr_t exact, double got);
 
-// A value of a lane type as text: the number and its pattern. And of all arguments.
+// A value of a lane type as text, the number and its pattern; and all arguments of a lane.
 std::string text_of(lane type, std::uint64_t pattern);
 std::string text_of(const operation& o, const arguments& input);
 
 // Argument tuples drawn from a range, half of them evenly over the values and half over the bit patterns.
 std::vector<arguments> sample(const operation& o, const range& r, std::size_t count, std::uint64_t seed);
-// Any bit patterns.
+// Random bit patterns.
 std::vector<arguments> sample_patterns(const operation& o, std::size_t count, std::uint64_t seed);
-// The neighbourhoods of the bounds of the operation and of the format, of both signs.
+// The neighbourhoods of the operation's and the format's bounds, of both signs.
 std::vector<arguments> around_bounds(const operation& o, const reference& r, std::size_t count, std::uint64_t seed);
 
 // The function's largest error over these arguments, by MPFR.
 tally measure(const operation& o, const reference& r, const harness::function& f, int width,
               const std::vector<arguments>& inputs);
-// The same of one tuple, in every lane.
+// The same for one tuple, in every lane.
 tally measure_at(const operation& o, const reference& r, const harness::function& f, int width, const arguments& input);
 
-// The largest error that is found from a place on: round after round among tuples around the worst so far, at distances
+// The largest error found by climbing from a place: round after round of tuples around the worst so far, at distances
 // of every size.
 tally climb(const operation& o, const reference& r, const harness::function& f, int width, const arguments& from,
             std::size_t count, std::uint64_t seed);
 
 // The function's largest error over all 2^32 floats (three quarters of them at width 3, whose fourth lane is not a
-// result), on all cores. `progress` is told the share that is done.
+// result), on all cores. `progress` receives the share that is done.
 tally measure_all_floats(const reference& r, const harness::function& f, int width,
                          const std::function<void(double)>& progress);
 

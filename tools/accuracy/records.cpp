@@ -1,5 +1,5 @@
-// What is made from the file of errors and what keeps it true: the tables of the accuracy document, and a look at every
-// recorded place.
+// What is made from the file of errors, and what keeps it true: the tables of the accuracy document, and a new
+// measurement at every recorded place.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
@@ -17,7 +17,7 @@ namespace {
 using namespace lanemath;
 using namespace lanemath::accuracy;
 
-// Where a form's error holds on one processor alone, what it may be on any.
+// If a form's error holds only on the processor measured, what it may be on any.
 std::optional<double> bound_anywhere(const error_record& r, const std::vector<error_record>& records) {
   for (const auto& whole : records)
     if (whole.index == r.index && whole.width == r.width && whole.part.empty() && whole.has(r.variants[0]))
@@ -101,7 +101,7 @@ std::string table(const std::string& names) {
   return fmt::format("{}|\n", fmt::join(lines, "|\n"));
 }
 
-// The document with its tables, which stand between markers, made anew.
+// The document with the tables between its markers made anew.
 std::string with_tables(const std::string& text) {
   constexpr std::string_view opening = "<!-- errors: ", closing = "<!-- end of errors -->";
   std::string made;

@@ -12,7 +12,7 @@
 
 namespace lanemath::accuracy {
 
-// The exact value, as near as the result's precision tells, from exact arguments.
+// The value at exact arguments, as exactly as the result's precision allows.
 using exact_function = void (*)(mpfr_t result, const mpfr_t* arguments);
 
 struct interval {
@@ -25,12 +25,12 @@ struct range {
 };
 
 struct reference {
-  std::string_view name;  // of the double-precision operation; the single-precision one is meant too
+  std::string_view name;  // of the double-precision operation; stands for the single-precision one too
   exact_function value;
   std::vector<range> ranges;            // of typical arguments
   std::vector<double> single_bounds{};  // of the float kernel, its rare test and its special cases: both signs
   std::vector<double> double_bounds{};  // are tried
-  // Good to far less than half a float's ulp, for sweeps over all floats.
+  // Accurate to far less than half a float's ulp, for sweeps over all floats.
   double (*fast)(double) = nullptr;
   exact_function second = nullptr;
 };

@@ -17,7 +17,7 @@ std::uint64_t pick(const std::vector<std::uint64_t>& from, std::mt19937_64& rand
   return from[random() % from.size()];
 }
 
-// Values of like size, and maybe of one sign, so that whole vectors of them stay on a function's straight path.
+// Values of similar size, sometimes of one sign, so that whole vectors of them stay on a function's straight path.
 class ordinary {
  public:
   ordinary(lane l, std::mt19937_64& random) : lane_(l), size_(int(random() % (8 * size_of(l)))) {

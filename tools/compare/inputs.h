@@ -1,4 +1,4 @@
-// Argument tuples that lead functions down all their paths.
+// Argument tuples that take functions down all their paths.
 #pragma once
 
 #include <random>
@@ -10,11 +10,11 @@ namespace lanemath::compare {
 
 using harness::arguments;
 
-// The same at every run: what is special about the lane types, with neighbours for one argument, in all pairs for two
-// and in some of the triples for three.
+// The same in every run: special values of the lane types; with their neighbours for one argument, all pairs for two,
+// some of the triples for three.
 std::vector<arguments> fixed_inputs(const signature& s);
 
-// Blocks of any patterns, of ordinary values, and of ordinary values with one rare lane in every sixteen.
+// Blocks of random patterns, of ordinary values, and of ordinary values with one rare lane in every sixteen.
 std::vector<arguments> random_inputs(const signature& s, std::size_t count, std::mt19937_64& random);
 
 }  // namespace lanemath::compare

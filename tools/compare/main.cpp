@@ -1,4 +1,4 @@
-// Tells whether two builds of the library give the same bits: calls every function of both on the same lanes.
+// Shows whether two builds of the library give the same bits: calls every function of both on the same lanes.
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
@@ -15,7 +15,7 @@ namespace {
 using namespace lanemath;
 using harness::arguments, harness::text_of;
 
-// One function of both libraries.
+// One function in both libraries.
 struct form {
   variant of;
   int width;
@@ -56,7 +56,7 @@ int main(int argc, char** argv) try {
   CLI11_PARSE(app, argc, argv);
   harness::check_names(patterns);
 
-  // Absolute paths, because the loader takes a bare file name for the recorded name of a library that is loaded
+  // Absolute paths, because the loader mistakes a bare file name for the recorded name of a library that is loaded
   // already.
   const harness::library first(std::filesystem::absolute(first_path)), second(std::filesystem::absolute(second_path));
   const auto in_force = std::span(harness::directions).first(all_directions ? std::size(harness::directions) : 1);

@@ -21,11 +21,11 @@ def polynomial(f, low, high, degree, centre=0, name=""):
     low, high, centre = mpf(low), mpf(high), mpf(centre)
     count = 16 * (degree + 2)
     xs = [(low + high) / 2 - (high - low) / 2 * mp.cos(mp.pi * (2 * i + 1) / (2 * count)) for i in range(count)]
-    # In a variable of size 1, so that the equations are good ones.
+    # In a variable of size 1, so that the equations are well conditioned.
     half = max(abs(low - centre), abs(high - centre))
     us = [(x - centre) / half for x in xs]
     values = [f(x) for x in xs]
-    # Evenly over a grid that is itself dense at the ends.
+    # Spread evenly over a grid that is itself dense at the ends.
     chosen = [min(count - 1, i * count // (degree + 1)) for i in range(degree + 2)]
     for _ in range(40):
         rows = [[us[i] ** k / values[i] for k in range(degree + 1)] + [(-1) ** n] for n, i in enumerate(chosen)]
@@ -63,7 +63,7 @@ def quadratics(c):
 
 
 def literal(v, bits):
-    """The nearest number of that many bits."""
+    """The nearest number with that many bits."""
     v = mpf(v)
     if v == 0:
         return "0"

@@ -1,15 +1,15 @@
-"""Taylor expansions with rigorous errors: what tools/fits/check bounds the error of a polynomial with.
+"""Taylor expansions with rigorous errors, with which tools/fits/check bounds the error of a polynomial.
 
-A ball is an integer and a radius, both in units of 2^-BITS: a number is known to lie within. A jet is the expansion of
-a function of x = centre + radius t in powers of t, a ball for each coefficient. An expression is evaluated twice: at
+A ball is an integer and a radius, both in units of 2^-BITS, within which a number lies. A jet is the expansion of a
+function of x = centre + radius t in powers of t, a ball for each coefficient. An expression is evaluated twice: at
 the centre, which gives the coefficients, and at a ball that holds the whole piece, where the coefficient of the highest
 degree bounds the remainder of the truncated expansion (Taylor's theorem).
 
 A quotient of two functions that both vanish at x = 0 is taken in a piece about 0 by dividing both by a power of x. Over
 a ball that holds 0 too the coefficients just move: f(x) / x is the mean of f' between 0 and x. That the two vanish is
-what the expression says; it is seen to 250 bits.
+implied by the expression; it is verified to 250 bits.
 
-Elementary functions of numbers are mpmath's, which we take to be right to 64 bits more than a ball keeps.
+Elementary functions of numbers are mpmath's, which we assume to be right to 64 bits more than a ball keeps.
 """
 from fractions import Fraction
 
@@ -23,7 +23,7 @@ pi, ln2, ln10 = +mp.pi, mp.log(2), mp.log(10)
 
 
 class TooWide(Exception):
-    """The piece is to be cut in two."""
+    """The piece must be cut in two."""
 
 
 def ball_of(value):
@@ -80,7 +80,7 @@ class Piece:
         else:
             found = 0
             while self.at_zero and found < len(b) - 1 and is_zero(b[found]):
-                # Zero to all but the last bits: the list says that the quotient has no pole.
+                # Zero to all but the last bits: the list implies that the quotient has no pole.
                 if found < len(a) and not is_zero(a[found]):
                     raise ZeroDivisionError("a pole")
                 found += 1
@@ -217,7 +217,7 @@ def exp(g):
 
 
 def log(g):
-    """Of the magnitude."""
+    """The logarithm of the magnitude."""
     if not isinstance(g, Jet):
         return mp.log(g)
     first = monotone(lambda v: mp.log(abs(v)), g.c[0], lambda low, high: low * high > 0)

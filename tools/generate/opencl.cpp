@@ -15,7 +15,7 @@ std::string_view suffix_of(direction rounding) {
   return std::array<std::string_view, 4>{"_rte", "_rtn", "_rtp", "_rtz"}.at(std::size_t(rounding));
 }
 
-// The rounding that a conversion has in OpenCL C where its name says none.
+// The rounding that a conversion has in OpenCL C if its name states none.
 direction usual_rounding(lane to) { return is_floating(to) ? direction::nearest : direction::zero; }
 
 std::vector<std::string> conversion_names(const operation& o, int width) {
@@ -46,13 +46,13 @@ bool is_unsigned_without_saturation(const operation& o) {
   return o.group == family::conversion && is_unsigned(o.sig.result) && is_floating(o.sig.arguments[0]) && !o.saturates;
 }
 
-// What is measured to be no slower inline, and why:
+// What was measured to be no slower inline, and why:
 // - signs, selection, fields of the format, square roots, conversions in the language's rounding: a few instructions
 //   everywhere, on vectors as wide as the machine's;
-// - roundings to integers, and fma: where the processor has the instruction;
-// - the other conversions: with AVX, whose wide vectors make up for the runtime's detours, but not double to int and
-//   uint to nearest, nor double to float toward zero.
-// Remainders stay the library's: the runtime's are loops over bits.
+// - rounding to integers, and fma: where the processor has the instruction;
+// - the other conversions: with AVX, whose wide vectors make up for the runtime's detours, except double to int and
+//   uint to nearest, and double to float toward zero.
+// Remainders stay with the library: the runtime's are loops over bits.
 bool left_to_compiler(const operation& o, variant v, const machine& on) {
   if (v != variant::standard) return false;
   const auto base = o.base_name();
@@ -88,8 +88,8 @@ int lanes_of_a_register(const operation& o) {
   return int(16 / widest);
 }
 
-// From how many registers on one call of a wide form, through memory, takes less time than a call for each register:
-// where its kernel gains that much from interleaving its groups. Measured; most never do.
+// The number of registers from which one call of a wide form, through memory, takes less time than a call for each
+// register, because its kernel gains that much from interleaving its groups. Measured; most never do.
 int registers_that_pay_for_memory(const operation& o, variant v) {
   constexpr int never = 16;
   const auto is_among = [&](std::initializer_list<std::string_view> names) {
@@ -111,13 +111,13 @@ crossing crossing_of(const form& f) {
 
 std::vector<int> loop_widths(const operation& o, const machine& on) {
   const int lanes = lanes_of_a_register(o);
-  // Two floats packed at twice the lanes would be wider than what all kernels pass alike.
+  // At twice the lanes two packed floats would be wider than what all kernels pass alike.
   const bool wide = on.register_size == 32 && (o.sig.how == delivery::none || lanes == 2);
   return wide ? std::vector{lanes, 2 * lanes} : std::vector{lanes};
 }
 
-// A form with an algorithm of its own has other bits than the scalar's. There the scalar's function is called for each
-// lane, so that the calls beside it can still be vectorised.
+// A form with an algorithm of its own has different bits from the scalar. There the scalar function is called for each
+// lane, so that the calls around it can still be vectorised.
 std::string loop_function(const form& vector) {
   if (vector.has_second()) return vector.packed();
   const auto is_own = [&](int width) { return vector.op.is_standalone(width, vector.variant); };

@@ -17,19 +17,19 @@
 // `float4` and the like: the OpenCL C type of a vector.
 std::string opencl_type(lanemath::lane lane, int width);
 
-// The built-ins that one accuracy variant of an operation serves at one width. A conversion says its rounding or
-// is itself the one that a shorter name means; most other operations have one name, and some have none.
+// The built-ins that one accuracy variant of an operation serves at one width. A conversion's name
+// states its rounding, or is a shorter one that implies it; most other operations have one name, some none.
 std::vector<std::string> opencl_names(const lanemath::operation& operation, lanemath::variant variant, int width);
 
 // Whether vectors of this built-in may take one scalar as their last argument.
 bool opencl_scalar_last(std::string_view name);
 
-// A kind of machine that the runtime has a kernel library for. It takes the last one here whose features, by the names
-// of the system's list of the processor's, a machine has.
+// A kind of machine that the runtime has a kernel library for. The runtime takes the last one here whose features, by
+// their names in the system's list, the processor has.
 struct machine {
   std::string_view kind;       // in the kernel library's name
-  std::string_view processor;  // that kernels are compiled for there, as the name of the runtime's device tells
-  int register_size;           // of the vectors that the compiler makes of loops, in bytes
+  std::string_view processor;  // that kernels are compiled for there, as the name of the runtime's device shows
+  int register_size;           // of the vectors that the compiler turns loops into, in bytes
   bool rounds, fuses;          // has instructions that round to integers, that multiply and add at once
   std::string_view features;   // none: the runtime never takes it
 };
@@ -45,11 +45,10 @@ inline constexpr machine machines[] = {
     {"avx512", "skylake-avx512", 32, true, true, "sse2 avx512f"},
 };
 
-// Whether the runtime's own definition of a built-in stays on this machine: an instruction or a few with the same bits.
+// Whether the compiler keeps a built-in on this machine: an instruction or a few, by the runtime's definition or ours.
 bool left_to_compiler(const lanemath::operation& operation, lanemath::variant variant, const machine& on);
 
-// The functions that a loop over a scalar built-in calls once the compiler has vectorised it, one for each number of
-// lanes.
+// The functions that a vectorised loop over a scalar built-in calls, one for each number of lanes.
 std::vector<std::string> loop_functions(const lanemath::operation& operation, lanemath::variant variant,
                                         const machine& on);
 

@@ -1,5 +1,5 @@
 // The built-ins in OpenCL C: each passes its vectors on by pointers, a scalar by value. Exact ones for which the
-// runtime has other bits are written out in opencl/exact.h.
+// runtime gives different bits are written out in opencl/exact.h.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
@@ -60,7 +60,7 @@ void define_with_scalar_last(std::FILE* out, const builtin& b) {
              opencl_type(b.of.sig().arguments[1], 1), type);
 }
 
-// What the compiler answers with other bits than the library's.
+// Where the compiler's own answer has different bits from the library's.
 void define_exact(std::FILE* out, const operation& o, int width) {
   const auto base = o.base_name();
   const auto type = [&](lane l) { return opencl_type(l, width); };

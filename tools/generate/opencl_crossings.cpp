@@ -203,7 +203,7 @@ class writer {
     return at;
   }
 
-  // The compiler does it where an argument has upper halves, but not where only what is returned has.
+  // The compiler does so if an argument has upper halves, but not if only what is returned has them.
   void clear_upper_halves(int bytes_returned) {
     const bool from_registers = std::all_of(s_.arguments.begin(), s_.arguments.begin() + s_.arity(),
                                             [&](lane l) { return crosses_in_register(l, f_.width); });
@@ -229,7 +229,7 @@ class writer {
     if (f_.has_second()) load("second", s_.second);
   }
 
-  // A vector that the library has left in a room.
+  // A vector that the library has left in a room on the stack.
   void load(std::string_view name, lane l) {
     const int lanes = int(16 / size_of(l));
     if (padded(f_.width) <= lanes) {
@@ -308,7 +308,7 @@ class writer {
       const auto passed = arguments([&](int i) {
         const lane l = s_.arguments[i];
         const auto type = ir_type(l, lanes), from = at(fmt::format("{}_at", names[i]), l);
-        // The third lane twice: what stands in the fourth could be costly.
+        // The third lane twice: junk in the fourth could be costly.
         if ((k + 1) * lanes > f_.width)
           fmt::print(out_,
                      "  %last_{0} = load {1}, ptr {2}\n  %low_{0} = insertelement {3} poison, {1} %last_{0}, i64 0\n"

@@ -1,4 +1,4 @@
-// One form of an operation as kernels call it, for the two texts that are made of it.
+// One form of an operation as kernels call it, for the two texts that are generated from it.
 #pragma once
 
 #include <string>
@@ -13,8 +13,9 @@ struct form {
   const lanemath::signature& sig() const { return op.sig; }
   bool has_second() const { return op.sig.how == lanemath::delivery::pointer; }
 
-  // What calls it. The library's function takes wide vectors in memory; then, whatever the size of the vectors: by
-  // value; with both results packed into one value of 64 or 128 bits; with vectors in memory, the results first.
+  // The functions that give it. The library's own takes wide vectors in memory; the others, whatever the vectors' size,
+  // take them by value; by value, with both results packed into 64 or 128 bits; by value, calling the scalar for each
+  // lane; and in memory, the results first.
   std::string function() const;
   std::string by_value() const;
   std::string packed() const;
@@ -22,23 +23,23 @@ struct form {
   std::string by_pointer() const;
 };
 
-// How a form reaches the library: as its vectors are, a register's lanes at a time, or through memory.
+// How a form reaches the library: its vectors unchanged, a register's lanes at a time, or through memory.
 enum class crossing { whole, in_pieces, in_memory };
 crossing crossing_of(const form& f);
 
 bool crosses_in_register(lanemath::lane l, int width);
 
-// The lanes of an operation's widest type that fill a register of the library's.
+// How many lanes of an operation's widest type fill a register of the library.
 int lanes_of_a_register(const lanemath::operation& o);
 
 // The numbers of lanes at which loops over a scalar built-in can be vectorised, and what they call then.
 std::vector<int> loop_widths(const lanemath::operation& o, const machine& on);
 std::string loop_function(const form& vector);
 
-// The runtime converts negative values otherwise.
+// The runtime converts negative values differently.
 bool is_unsigned_without_saturation(const lanemath::operation& o);
 
-// Calls `each` for what kernels on this machine call the library for.
+// Calls `each` for every form that kernels on this machine take from the library.
 template <class Each>
 void for_each_form(const machine& on, const std::set<std::string>& exported, Each each) {
   for (const auto& o : lanemath::catalogue)

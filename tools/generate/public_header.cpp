@@ -54,7 +54,7 @@ std::string bound_text(const operation& o) {
   for (auto v : variants) {
     if (!o.has(v)) continue;
     const auto name = v == variant::standard ? "default" : suffix(v);
-    // The widths that share a bound are told by one of them that has no algorithm of its own.
+    // One width without an algorithm of its own stands for all that share its bound.
     for (int width : widths)
       if (!o.is_standalone(width, v)) {
         if (const auto bound = bound_of(o, v, width)) forms.push_back(fmt::format("{} {:g}", name, *bound));

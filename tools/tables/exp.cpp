@@ -19,7 +19,7 @@ real power_of_two(int j, int steps) {
 float mantissa(float v) { return std::bit_cast<float>(std::bit_cast<std::uint32_t>(v) & 0x007FFFFF); }
 double mantissa(double v) { return std::bit_cast<double>(std::bit_cast<std::uint64_t>(v) & 0x000FFFFFFFFFFFFF); }
 
-// 2^(j/steps) in two parts: the mantissa field cut to its top 11 bits, and what is left.
+// 2^(j/steps) in two parts: the mantissa field cut to its top 11 bits, and the rest.
 template <class T>
 std::pair<T, T> cut_in_two(int j, int steps) {
   const real exact = power_of_two(j, steps);
@@ -46,7 +46,8 @@ void write_exp_tables(table_writer& out) {
 
   out.values<double>("exp2_256", "2^(j/256)", 256, [](int j) { return power_of_two(j, 256).nearest<double>(); });
 
-  // Seven entries are one unit lower than the nearest float: chosen with the monic polynomial they multiply.
+  // Seven entries are one unit below the nearest float: they were chosen together with the monic polynomial that they
+  // multiply.
   const std::set<int> lowered{12, 20, 29, 30, 52, 58, 60};
   out.pairs<float>("exp2_monic_64", "(ln 2)^2 / 2 * 2^(j/64), at a stride of two floats", 64, [&](int j) {
     real ln2;

@@ -10,7 +10,7 @@ std::string literal(const real& value) {
   return table_writer::literal(value.nearest<T>());
 }
 
-// Rows of the scale of a product of quadratics and of the two columns of its factors.
+// Rows for products of quadratics: the scale, and the two columns of the factors.
 template <class T, int Factors>
 void write_quadratics(table_writer& out, std::string_view name, std::string_view meaning) {
   const auto type = fmt::format("quadratics<{}, {}>", std::is_same_v<T, double> ? "double" : "extended", Factors);

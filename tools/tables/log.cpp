@@ -3,9 +3,9 @@
 
 namespace {
 
-// What a kernel adds to `exponent` times a constant in two parts, the exponent a raw biased one: log(scale / n) less
-// `bias` times the constant. First log(2^q scale / n) is split, for the q that keeps it small; what is then taken off
-// the high part leaves it exact.
+// What a kernel adds to the raw, biased exponent times a constant in two parts: log(scale / n) minus `bias` times the
+// constant. First log(2^q scale / n) is split, for the q that keeps it small; what is then subtracted from the high
+// part leaves it exact.
 template <class T>
 std::pair<T, T> biased(function log, const real& scale, int n, int q, int bias, T constant_hi, T constant_lo,
                        int bits) {
@@ -28,7 +28,7 @@ void reciprocals(table_writer& out, std::string_view name, std::string_view mean
 }  // namespace
 
 void write_log_tables(table_writer& out) {
-  // In each base by integers from 512 to 1024; 724 is nearly 512 times the root of two.
+  // In each base, for integers from 512 to 1024; 724 is nearly 512 times the root of two.
   const auto of_integers = [&](std::string_view name, std::string_view meaning, function log) {
     out.values<double>(name, meaning, 513, [&](int j) {
       const int n = 512 + j;
@@ -39,7 +39,7 @@ void write_log_tables(table_writer& out) {
   of_integers("log2_of_integers", "the same to base 2", mpfr_log2);
   of_integers("log10_of_integers", "the same to base 10", mpfr_log10);
 
-  // By the upper half of the pattern of n as a float: n + 1/2 has an entry below 128, which is never read.
+  // Indexed by the upper half of the pattern of n as a float: n + 1/2 has an entry below 128, which is never read.
   out.pairs<float>("log10f_of_integers", "log10(111/256 / n) less 118 times log10(2): n from 111 to 222 by its pattern",
                    129, [](int j) {
                      const bool halves = j < 2 * (128 - 111);
@@ -57,7 +57,7 @@ void write_log_tables(table_writer& out) {
     return biased<double>(mpfr_log, real(1), n, n > 724 ? 10 : 9, 1013, 0x1.62e42fefap-1, 0x1.cf79abc9ep-40, 43);
   });
 
-  // Of the rare routines.
+  // For the rare routines.
   reciprocals<float>(out, "logf_reciprocals", "g near 1 / (1 + i/64), -ln g in two parts", mpfr_log, 128, 1.0f, 18);
   reciprocals<float>(out, "log2f_reciprocals", "g 256 / ln 2, -log2 g in two parts", mpfr_log2, 2048, 0x1.71548p8f, 16);
   reciprocals<float>(out, "log10f_reciprocals", "g 256 / ln 10, -log10 g in two parts", mpfr_log10, 128, 0x1.bcb8p6f,

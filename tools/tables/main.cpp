@@ -1,5 +1,5 @@
-// Writes the lookup tables of one family of operations as a C++ header, to standard output: those that a rule makes,
-// and those that were fitted, from the .fit files of a folder.
+// Writes the lookup tables of one family of operations as a C++ header, to standard output: those made by a rule, and
+// those that were fitted, from the .fit files of a folder.
 #include <cstdio>
 #include <map>
 #include <string>
@@ -47,7 +47,7 @@ int main(int argc, char** argv) try {
   }
   const auto fits = read_fits(argv[2]);
   const auto& [write, include, space] = found->second;
-  // Whole or not at all.
+  // All of it or nothing.
   char* text;
   std::size_t size;
   std::FILE* memory = open_memstream(&text, &size);

@@ -18,20 +18,20 @@ void write_stage(table_writer& out, std::string_view name, const float (&recipro
 }  // namespace
 
 void write_pow_tables(table_writer& out) {
-  // The kernel in double for float results.
+  // For the kernel in double with float results.
   const real ln_2 = apply(mpfr_log, real(2));
   const real bias(0x1.ffffffc27dd9ep-1);
   out.values<double>("exp2_biased_2048", "2^(j/2048), less half of what a chord lies above the curve", 2048,
                      [&](int j) { return (exp2(real(j) / real(2048)) * bias).nearest<double>(); });
 
-  // The kernel in pairs of floats.
+  // For the kernel in pairs of floats.
   out.wide_triples<float>("ln_65", "-ln C in two parts, and C, the short reciprocal of 1 + j/64", 65, [](int j) {
     const auto reciprocal = on_grid<float>(real(64) / real(64 + j), 8);
     const auto [hi, lo] = split<float>(real(0) - apply(mpfr_log, real(reciprocal)), 14, mpfr_rint_floor);
     return std::tuple(hi, lo, reciprocal);
   });
 
-  // The scalar routine in pairs of floats. The scale of the third stage is near 1 / ln 2.
+  // For the scalar routine in pairs of floats. The scale of the third stage is near 1 / ln 2.
   write_stage(out, "log2_stage_1",
               {1.0f, 0.890625f, 0.796875f, 0.7265625f, 0.6640625f, 0.6171875f, 0.5703125f, 0.53125f, 0.5f}, 1, 4);
   // Values just below 1 share the indices of values just above: the wrap is between the third and the fourth.
@@ -59,7 +59,7 @@ void write_pow_tables(table_writer& out) {
   out.pairs<double>("exp2_pair_128", "2^(j/128): the nearest double, and what is left", 128,
                     [&](int j) { return two_doubles(exp2(real(j) / real(128))); });
 
-  // The scalar routine in pairs of doubles.
+  // For the scalar routine in pairs of doubles.
   out.pairs<double>("log2_series", "coefficients of the powers of w in log2(1 + w/c); of the first, less 1", 9,
                     [&](int n) {
                       if (n == 0) return std::pair(0.0, 0.0);

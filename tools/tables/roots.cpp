@@ -15,7 +15,7 @@ real reciprocal_root(double x) { return power(real(x), real(-0.5)); }
 // To the nearest multiple of 1/steps. A seed has few bits, so that its square is exact.
 double on_grid(const real& x, double steps) { return std::nearbyint((x * real(steps)).nearest<double>()) / steps; }
 
-// The middle of cell i of the 32 that [1, 2) is cut into.
+// The middle of cell i when [1, 2) is cut into 32.
 real middle(int i) { return real(1 + (i + 0.5) / 32); }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// What the table generator is written with: a real number of many bits, fitted tables, and a writer of C++ tables.
+// What the table generator is built from: a real number of many bits, fitted tables, and a writer of C++ tables.
 #pragma once
 
 #include <fmt/format.h>
@@ -69,7 +69,7 @@ inline real power_of_two(int k) {
   return y;
 }
 
-// A multiple of 2^-bits, the nearest one if nothing else is said.
+// A multiple of 2^-bits, by default the nearest.
 template <class T>
 T on_grid(const real& x, int bits, function rounding = mpfr_rint_roundeven) {
   return (apply(rounding, x * power_of_two(bits)) / power_of_two(bits)).nearest<T>();
@@ -86,7 +86,7 @@ std::pair<T, T> split(const real& x, int bits, function rounding = mpfr_rint_rou
 using fitted_rows = std::vector<std::vector<real>>;
 using fitted_tables = std::map<std::string, fitted_rows, std::less<>>;
 
-// Those of all .fit files of a folder: a line with a name, then a row a line.
+// The tables of all .fit files of a folder: a line with a name, then one row per line.
 fitted_tables read_fits(const std::filesystem::path& folder);
 
 // Writes tables as C++ arrays, their entries as hexadecimal floating literals.
@@ -129,7 +129,7 @@ class table_writer {
       return fmt::format("{{{}}}", text);
     });
   }
-  // A fitted table as it is.
+  // A fitted table, unchanged.
   template <class T, std::size_t Columns>
   void fitted(std::string_view name, std::string_view meaning) {
     fitted(name, meaning, type<T>(), fmt::format("[{}]", Columns), Columns,
@@ -173,7 +173,7 @@ class table_writer {
   void triples(std::string_view name, std::string_view meaning, int size, F entry) {
     threes<T>(fmt::format("{}[{}][3]", name, size), meaning, type<T>(), size, entry);
   }
-  // The same; the table is an array of structures that one load brings whole.
+  // The same; the table is an array of structures, each of which one load fetches whole.
   template <class T, class F>
   void wide_triples(std::string_view name, std::string_view meaning, int size, F entry) {
     threes<T>(fmt::format("{}[{}]", name, size), meaning, fmt::format("triple<{}>", type<T>()), size, entry);

@@ -15,7 +15,7 @@ std::uint64_t bits_of_inverse_turn(int power, int count) {
   static mpfr_t inverse;
   static mpz_t whole;
   static const bool ready = [] {
-    mpfr_init2(inverse, 1536);  // the longest window ends 1164 bits behind the point
+    mpfr_init2(inverse, 1536);  // the longest window ends 1164 bits after the point
     mpz_init(whole);
     mpfr_const_pi(inverse, MPFR_RNDN);
     mpfr_ui_div(inverse, 1, inverse, MPFR_RNDN);
@@ -31,7 +31,7 @@ std::uint64_t bits_of_inverse_turn(int power, int count) {
   return mpz_get_ui(whole);
 }
 
-// The sine of j of `steps` equal parts of a turn, exact at the quarters.
+// The sine of j parts of a turn cut into `steps`, exact at the quarters.
 real sine(int j, int steps) {
   if (j % (steps / 4) == 0) return real((const int[]){0, 1, 0, -1}[j / (steps / 4) % 4]);
   real angle;
@@ -92,8 +92,8 @@ std::array<T, 4> step_of_pi(int j) {
   return {high, (value - real(high)).template nearest<T>(), head, (slope - real(head)).template nearest<T>()};
 }
 
-// The tangent's expansion about step j of 128 in half a turn; next to the pole that of what is left of it when the
-// pole's term is taken off. `fit` is c3 to c9.
+// The tangent's expansion about step j of 128 in half a turn; next to the pole, the expansion of the tangent less the
+// pole's term. `fit` is c3 to c9.
 std::array<float, 12> tangent_step(int j, const std::vector<real>& fit) {
   real pi;
   mpfr_const_pi(pi.v, MPFR_RNDN);

@@ -15,7 +15,7 @@ std::vector<reference> root_references();
 std::vector<reference> hyperbolic_references();
 std::vector<reference> special_references();
 
-// A function of MPFR with one argument, as an exact function.
+// An MPFR function of one argument, as an exact function.
 template <auto F>
 void unary(mpfr_t result, const mpfr_t* x) {
   F(result, x[0], MPFR_RNDN);

@@ -11,7 +11,7 @@ std::vector<reference> logarithm_references() {
                                   {"kernel", {{0x1p-126, 0x1.fffffep127}}},
                                   {"denormal", {{0, 0x1p-126}}},
                                   {"rare", {{0, 0x1p-1022}}}};
-  // Beside 1: the ends of the mantissa's interval, where the exponent steps.
+  // Besides 1: the ends of the mantissa's interval, where the exponent steps.
   const std::vector<double> bounds{0.6666667, 1.3333334, 0x1.6ap0, 0x1.6a8p-1, 0x1.7p0};
   const auto of = [&](std::string_view name, exact_function value, double (*fast)(double)) {
     return reference{

@@ -5,7 +5,7 @@
 namespace lanemath::accuracy {
 namespace {
 
-// The one of two numbers that `first` says, a number before a NaN.
+// The one of two numbers that `first` chooses, a number before a NaN.
 template <bool First(mpfr_srcptr, mpfr_srcptr)>
 void chosen(mpfr_t result, const mpfr_t* x) {
   const bool one = !mpfr_nan_p(x[0]) && (mpfr_nan_p(x[1]) || First(x[0], x[1]));
@@ -27,7 +27,7 @@ void integral(mpfr_t result, const mpfr_t* x) {
   F(result, x[0]);
 }
 
-// x - floor(x) and 0 for an infinity, as no difference of infinities is.
+// x - floor(x); 0 for an infinity, which a difference of infinities would not give.
 void fract(mpfr_t result, const mpfr_t* x) {
   if (mpfr_inf_p(x[0])) {
     mpfr_set_zero(result, 1);
@@ -79,7 +79,7 @@ const std::vector<range> divisions{{"typical", {{-1000, 1000}, {1, 100}}},
 
 }  // namespace
 
-// No reference serves nextafter, whose result depends on the format, copysign, which does not ask for values, and nan.
+// nextafter, copysign and nan have no reference: their results depend on the format or the bits.
 std::vector<reference> manipulation_references() {
   return {
       {.name = "ceil", .value = integral<mpfr_ceil>, .ranges = one_argument},

@@ -5,7 +5,7 @@
 namespace lanemath::accuracy {
 namespace {
 
-// pow with no base below zero and no value where the limit depends on the path.
+// pow for bases that are not negative, without a value where the limit depends on the path.
 void powr(mpfr_t result, const mpfr_t* a) {
   const auto &x = a[0], &y = a[1];
   const bool one = mpfr_cmp_ui(x, 1) == 0;

@@ -5,7 +5,7 @@
 namespace lanemath::accuracy {
 namespace {
 
-// An infinity of the argument's sign at a zero, as by division.
+// An infinity with the argument's sign at a zero, as division gives.
 void reciprocal_root(mpfr_t result, const mpfr_t* x) {
   if (mpfr_zero_p(x[0]))
     mpfr_ui_div(result, 1, x[0], MPFR_RNDN);
@@ -20,7 +20,7 @@ void reciprocal_cube_root(mpfr_t result, const mpfr_t* x) {
 
 }  // namespace
 
-// The ranges are such that the forms without a test serve them too; the rest is what bounds and patterns are for.
+// Ranges that the forms without a test serve too; bounds and patterns cover the rest.
 std::vector<reference> root_references() {
   const interval wide{1e-15, 1e15};
   return {

@@ -21,7 +21,7 @@ reference of(std::string_view name, exact_function value, double (*fast)(double)
           .second = second};
 }
 
-// Of pi x: the quarters count, and everything from 2^23 or 2^52 on is whole.
+// Functions of pi x: the quarters matter, and from 2^23 or 2^52 on every number is whole.
 reference of_pi(std::string_view name, exact_function value, double (*fast)(double)) {
   return {.name = name,
           .value = value,
