@@ -1,8 +1,9 @@
-// Sine and cosine of one finite double of any size, for the rare routines: the argument is reduced to hi + lo and a
-// count of quadrants, in tiers by size, and 64 steps in a turn with a table and two polynomials do the rest.
+// Sine and cosine of one finite double of any size, for the rare routines. The argument is reduced to hi + lo and a
+// count of quadrants, in one of several ways by its size; a table of 64 steps in a turn and two polynomials do the
+// rest.
 //
-// What serves finite floats, and doubles up to 2^23, is kept although no argument reaches it: but for the native forms
-// of double precision, whose kernels end there, the kernels leave infinities and NaNs only.
+// The kernels leave only infinities and NaNs to these routines, except the native forms of double precision, whose
+// kernels end at 2^23: the code for finite floats, and for doubles up to 2^23, is never reached.
 #pragma once
 
 #include "numeric/constants.h"
@@ -106,7 +107,7 @@ struct sine_and_cosine {
   double sine, cosine;
 };
 
-// Of finite x.
+// x is finite.
 inline sine_and_cosine scalar_sine_cosine(double x) {
   if (exponent_field(x) < 771) {
     const double a = std::fabs(x);
