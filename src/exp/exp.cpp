@@ -1,9 +1,9 @@
 // e^x, double precision.
 //
 // Default (except at width 2): x = (n / 1024) ln 2 + r with n = 1024 k + j; 2^(j/1024) from a table, e^r by a cubic, k
-// added to the exponent field. _native: a table of 128 entries, a quadratic and an unsplit ln 2. The default form at
-// width 2 has a table of 64 mantissas and a polynomial of degree 5 in two halves, and settles every lane itself. Rare
-// lanes use a table of high and low parts.
+// added to the exponent field. The native form: a table of 128 entries, a quadratic and an unsplit ln 2. The default
+// form at width 2 has a table of 64 mantissas and a polynomial of degree 5 in two halves, and settles every lane
+// itself. Rare lanes use a table of high and low parts.
 #include "exp/exponential_rare.h"
 
 namespace lanemath {

@@ -1,8 +1,8 @@
 // 10^x, double precision.
 //
 // Default: x = (n / 128) log10(2) + r with n = 128 k + j; 2^(j/128) from a table, 10^r by a polynomial of degree 5, k
-// added to the exponent field. _native: 2^(x log2(10)) by a polynomial of degree 6 over a whole binade. Rare lanes use
-// a table of high and low parts.
+// added to the exponent field. The native form: 2^(x log2(10)) by a polynomial of degree 6 over a whole binade. Rare
+// lanes use a table of high and low parts.
 #include "exp/exponential_rare.h"
 
 namespace lanemath {

@@ -1,9 +1,9 @@
 // 2^x, double precision.
 //
 // Default (except at width 2): x = n / 128 + f with n = 128 k + j; 2^(j/128) from a table, 2^f by a polynomial of
-// degree 4, k added to the exponent field. _native: a polynomial of degree 6 over a whole binade. The default form at
-// width 2 evaluates its polynomial in halves, multiplies by the power of two, and has a scalar routine of its own for
-// large arguments. Rare lanes use a table of high and low parts; denormal results are rounded twice.
+// degree 4, k added to the exponent field. The native form: a polynomial of degree 6 over a whole binade. The default
+// form at width 2 evaluates its polynomial in halves, multiplies by the power of two, and has a scalar routine of its
+// own for large arguments. Rare lanes use a table of high and low parts; denormal results are rounded twice.
 #include "exp/exponential_rare.h"
 
 namespace lanemath {

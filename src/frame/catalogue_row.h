@@ -79,7 +79,7 @@ class row {
     }
   }
 
-  // Besides the default.
+  // The variants besides the default.
   constexpr row variants(variant_set of_doubles, variant_set of_floats) const {
     return with([=](operation& o) { o.variant_bits |= o.single() ? of_floats : of_doubles; });
   }

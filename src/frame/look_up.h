@@ -151,8 +151,8 @@ LANEMATH_INLINE void turn_columns(std::array<__m128, Count>& column, const T* a,
 
 }  // namespace lanes_detail
 
-// The columns of the rows at the lanes' indices, which must all be inside the table. The number of
-// 32-bit columns is even.
+// The columns of the rows at the lanes' indices, which must all be inside the table. The number of 32-bit columns is
+// even.
 template <class T, std::size_t Size, std::size_t Columns, int W>
 LANEMATH_INLINE std::array<lanes<T, W>, Columns> look_up_row(const T (&table)[Size][Columns],
                                                              const lanes<std::int32_t, W>& index) {

@@ -1,6 +1,6 @@
 // The standalone forms, acosh and asinh at one group of lanes: the logarithm of v = |x| + sqrt(x^2 -+ 1), by a true
-// root and a true division. With z the mantissa of v from sqrt(1/2) to sqrt(2), f = z - 1 and s = f / (2 + f), ln(1 +
-// f) = f - s (f - R(s^2)). One lane out of range sends all lanes to a scalar routine.
+// root and a true division. With z the mantissa of v from sqrt(1/2) to sqrt(2), f = z - 1 and s = f / (2 + f), the
+// logarithm is ln(1 + f) = f - s (f - R(s^2)). One lane out of range sends all lanes to a scalar routine.
 #pragma once
 
 #include <cmath>
@@ -19,7 +19,7 @@ struct quotient_log_rows<float> {
   static constexpr std::int32_t SPLIT = 0x004AFB10;  // carries into the exponent from sqrt(2) on
   static constexpr float A[] = {0x3E98F06F_f32, 0x3F2AAABD_f32}, B[] = {0x3ECCAF68_f32};
   static constexpr float LN2H = 0x3F310000_f32, LN2L = 0x3AE42FF0_f32;
-  static constexpr float BIG = 0x5F0AC723_f32, LN2 = 0x3F317218_f32;  // from there on v is 2 x
+  static constexpr float BIG = 0x5F0AC723_f32, LN2 = 0x3F317218_f32;  // from here on v is 2 x
 };
 template <>
 struct quotient_log_rows<double> {
@@ -104,7 +104,7 @@ struct standalone_asinh : standalone_guards<T, Lane, Low> {
 
 // The scalar routines.
 
-// ln v of a positive normal number, to 5e-13, near 1 to 6e-11.
+// ln v of a positive normal number. The absolute error is below 5e-13, or 6e-11 where the mantissa is next to 1.
 inline double log_by_cubics(double v) {
   const unpacked<double> parts(v);
   const double u = parts.mantissa(), e = parts.exponent;

@@ -29,7 +29,7 @@ status tanh_rare_lane(const T* px, T* py) {
 LANEMATH_RARE tanhf_rare(const float* x, float* y) { return tanh_rare_lane(x, y); }
 LANEMATH_RARE tanh_rare(const double* x, double* y) { return tanh_rare_lane(x, y); }
 
-// Marks the largest powers of two, infinities and NaNs.
+// Marks magnitudes from 1.0625 * 2^127 up (tanh: from 1.125 * 2^1023), infinities and NaNs.
 struct tanhf_standard : rare_above<float(float), tanhf_rare, 0x7F07FFFF> {
   template <class V>
   LANEMATH_INLINE static V kernel(V x) {

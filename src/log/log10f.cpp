@@ -1,9 +1,10 @@
 // log10 x, single precision.
 //
-// Default: the mantissa g is in [2^-9, 2^-8), n is an integer near R / g, where R = 111/256 is near log10 e, and t = g
-// n - R is almost exact. log10 x is the sum of the biased exponent times log10 2, log10(R / n) from a table that also
-// takes off the bias, and a cubic in t, whose first term is t. The native form (also _half): x = 2^k (1 + r) with 1 + r
-// from 2/3 to 4/3, and a polynomial of degree 5. Rare lanes: zeros, denormals, negative values, infinities and NaNs.
+// Default: the mantissa g is in [2^-9, 2^-8), n is an integer near R / g, where R = 111/256 is near log10 e, and the
+// difference t = g n - R is almost exact. log10 x is the sum of the biased exponent times log10 2, log10(R / n) from a
+// table that also takes off the bias, and a cubic in t, whose first term is t. The native form (also _half): x = 2^k (1
+// + r) with 1 + r from 2/3 to 4/3, and a polynomial of degree 5. Rare lanes: zeros, denormals, negative values,
+// infinities and NaNs.
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"
 #include "numeric/split.h"

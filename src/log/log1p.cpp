@@ -3,7 +3,7 @@
 // w is the sum 1 + x, and l = 1 + x - w what it lacks. Default: w is truncated unless x is tiny, so that the product of
 // its mantissa g and n, an integer near 1 / g, is exact; ln(1 + x) is the sum of the biased exponent times ln 2, -ln n
 // from a table that also takes off the bias, and a short polynomial in z = (w + l) n 2^j - 1, where 2^j scales w to g.
-// _native: the native logarithm of w, with l added to its residual. The result takes the sign of x, for -0.
+// The native form: the native logarithm of w, with l added to its residual. The result takes the sign of x, for -0.
 #include "log/logarithm_double.h"
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"

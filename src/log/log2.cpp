@@ -1,7 +1,8 @@
-// log2 x, double precision, by the method in logarithm_double.h. _native takes g in one part and drops two powers of z.
+// log2 x, double precision, by the method in logarithm_double.h. The native form takes g in one part and drops two
+// powers of z.
 //
-// The default form at width 2 differs: it takes from m in [1, 2) the nearest multiple of 1/128, whose reciprocal and
-// logarithm are in a table, and settles every special lane itself.
+// The default form at width 2 differs: it subtracts from m in [1, 2) the nearest multiple of 1/128, whose reciprocal
+// and logarithm are in a table, and settles every special lane itself.
 #include "log/log2_rare.h"
 #include "log/logarithm_double.h"
 
@@ -41,7 +42,7 @@ struct log2_width_2 {
   static V kernel(V x) {
     if (!any(log2_guards::rare_test(x))) [[likely]]
       return of_normal(x);
-    // The fraction bits of a denormal, read as a number, are its value times 2^1022.
+    // A denormal's fraction bits, as those of a number in [1, 2) minus 1, are its value times 2^1022.
     const auto denormal = (bits(x) & 0x7FF0000000000000) == 0;
     const V scaled = from_bits(bits(x) | 0x3FF0000000000000) - 1.0;
     V y = of_normal(select(denormal, scaled, x)) - select(denormal, V(1022.0), V(0.0));

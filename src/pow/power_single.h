@@ -17,7 +17,7 @@ LANEMATH_INLINE exponent_parts<lanes<float, W>> exponent_of(const lanes<std::int
   return parts;
 }
 
-// e^r over a binade, in pairs.
+// The polynomial for e^r in split_power.
 struct split_exp_rows {
   float c0, c1, c2, c3, c4, c5;
 };

@@ -2,8 +2,8 @@
 //
 // Value and slope at the nearest point m of a grid and an expansion in d = |x| - m, as for erf. The table is scaled by
 // a power of two that keeps the far right tail normal, so that a denormal result is rounded only by the last
-// multiplication. Left of 0 the result is 2 - erfc(|x|): one more summand and the sign of the multiplier. _native: a
-// grid of half as many points and a shorter expansion.
+// multiplication. Left of 0 the result is 2 - erfc(|x|): one more summand and the sign of the multiplier. The native
+// form: a grid of half as many points and a shorter expansion.
 //
 // Rare lanes: arguments whose result rounds to zero, and NaNs.
 #include "numeric/exceptional.h"

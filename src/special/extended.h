@@ -13,7 +13,7 @@ namespace lanemath::special {
 using extended = long double;
 static_assert(std::numeric_limits<extended>::digits == 64);
 
-// scale times a product of factors x^2 + a x + b: it makes a polynomial of high degree as accurate as its factors.
+// scale times a product of factors x^2 + a x + b, which keeps a polynomial of high degree as accurate as its factors.
 template <class T, int Factors>
 struct quadratics {
   T scale;

@@ -31,8 +31,8 @@ struct integer_part {
   }
 };
 
-// log|gamma(x)| of one lane and the sign of gamma. `Lane` knows the arguments of zero and overflow, and computes the
-// rest.
+// log|gamma(x)| of one lane and the sign of gamma. `Lane` knows where the result is zero or overflows, and computes the
+// other results.
 template <class Lane, class T>
 status log_gamma(T x, T& y, std::int32_t& sign) {
   sign = 1;

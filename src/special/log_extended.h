@@ -7,9 +7,9 @@ namespace lanemath::special {
 
 // For positive normal numbers of the x87 format; the relative error is below 2^-63.
 //
-// Near 1, a polynomial in x - 1, whose second term is split so that its square is exact. Elsewhere x = 2^k m, and m r -
-// 1 is small for a reciprocal r from a table; the high parts of log 2 and log r are multiples of 2^-50, so that k times
-// the one plus the other is exact.
+// Near 1, a polynomial in x - 1, whose second term is split so that its square is exact. Elsewhere x = 2^k m, and a
+// table gives a reciprocal r of m, so that m r - 1 is small; the high parts of log 2 and log r are multiples of 2^-50,
+// so that k times the one plus the other is exact.
 [[gnu::noinline]] inline extended log_extended(extended x) {
   struct {
     std::uint64_t significand;

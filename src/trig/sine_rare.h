@@ -3,7 +3,7 @@
 // rest.
 //
 // The kernels leave only infinities and NaNs to these routines, except the native forms of double precision, whose
-// kernels end at 2^23: the code for finite floats, and for doubles up to 2^23, is never reached.
+// kernels end at 2^23 (sin: 2^24): the code for finite floats, and for doubles up to 2^23, is never reached.
 #pragma once
 
 #include "numeric/constants.h"
@@ -47,7 +47,7 @@ inline quadrant_and_rest reduce_middle(double a, double sign) {
   return {hi, w * sign + (v * sign - hi), sign < 0 ? -q : q};
 }
 
-// 2^30 and above: products with nine slices of 4 / pi, the whole turns taken off on the way.
+// 2^30 and above: products with nine slices of 4 / pi, with whole turns taken off on the way.
 inline quadrant_and_rest reduce_large(double a, double sign) {
   const std::int32_t e = exponent_field(a);
   const double y = value_of<double>((pattern_of(a) & 0x000FFFFFFFFFFFFF) | std::uint64_t(e - 200) << 52);

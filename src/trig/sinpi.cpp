@@ -1,8 +1,8 @@
 // sin(pi x) and cos(pi x), both precisions.
 //
-// Default: a turn is cut exactly into steps; the result is a step's sine from a table, in two parts, plus short
-// polynomials in the remainder d. The slope, pi times the step's cosine, is split into a power of two, whose product
-// with d is exact, and the rest. The native forms: one polynomial up to 1/2.
+// Default: up to whole turns, x is exactly a multiple of 1/64 or 1/256 plus a remainder d. The result is the step's
+// sine from a table, in two parts, plus short polynomials in d. The slope, pi times the step's cosine, is split into a
+// power of two, whose product with d is exact, and the rest. The native forms: one polynomial up to 1/2.
 #include <iterator>
 
 #include "numeric/split.h"
