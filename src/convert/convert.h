@@ -10,7 +10,6 @@
 
 namespace lanemath {
 
-// A conversion as the catalogue describes it.
 template <std::size_t Index>
 struct conversion {
   using from = type_of<catalogue[Index].sig.arguments[0]>;

@@ -1,7 +1,7 @@
 // double to float. The narrowing instruction rounds in the current direction, which is all that rte does. For the
 // directed roundings the lane is widened back, which is exact, and compared with the argument: where narrowing went to
 // the wrong side, a step of one unit on the pattern undoes it, even an overflow to infinity. NaNs compare false and
-// stay as narrowing left them.
+// stay as they are.
 #include "convert/convert.h"
 
 namespace lanemath {

@@ -82,8 +82,6 @@ struct exp_native : exp_guards {
   }
 };
 
-// The default form at width 2.
-
 struct exp_width_2_rows {
   double K;       // 64 / ln 2
   double S;       // shifter, 1.5 * 2^52

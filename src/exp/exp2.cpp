@@ -74,8 +74,6 @@ struct exp2_native : exp2_guards {
   }
 };
 
-// The default form at width 2.
-
 struct exp2_width_2_rows {
   double S2;  // shifter that leaves 7 fraction bits
   double G1, G2, G3, G4;

@@ -47,7 +47,6 @@ struct exp2f_native : exp2f_guards {
   }
 };
 
-// The default form at width 1.
 struct exp2f_width_1 {
   using signature = float(float);
 
@@ -79,8 +78,6 @@ struct exp2f_width_1 {
     return float(v * ((E1 * f + 1.0) + (E2 * f) * f));
   }
 };
-
-// The default form at width 4.
 
 struct exp2f_width_4_rows {
   float S2;      // shifter that leaves 6 fraction bits, 1.5 * 2^17

@@ -53,8 +53,7 @@ inline double scaled(double y, std::int32_t k) {
   return y * with_exponent_field<double>(field);
 }
 
-// A denormal result, at a scale raised by 2^60: its high part is cut to the bits that the result keeps before the scale
-// is taken back.
+// A denormal result, at a scale raised by 2^60: its high part is first cut to the bits that the result keeps.
 inline double scaled_to_denormal(const rare_power& p) {
   const int field = (p.k + 1083) & 2047;
   const double s = with_exponent_field<double>(field);

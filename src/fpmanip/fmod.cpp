@@ -1,8 +1,8 @@
 // fmod: x - y trunc(x / y), exact, with the sign of x.
 //
-// Where the quotient has few bits it is found by a division and truncated; the remainder follows by exact products with
-// the two parts of y, and |y| is added back where the division was rounded up to the next integer. Rare lanes go
-// through long division.
+// Where the quotient has few bits it is a truncated division; the remainder follows by exact products with the two
+// parts of y, and |y| is added back where the division was rounded up to the next integer. Rare lanes go through long
+// division.
 #include "fpmanip/long_division.h"
 
 namespace lanemath {

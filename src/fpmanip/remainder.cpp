@@ -96,7 +96,6 @@ struct remquo {
   static auto rare_test(auto x, auto y) { return rare_division<T, Least, Largest>(x, y); }
 };
 
-// The same without the quotient.
 template <class Remquo, class T>
 struct remainder_of : Remquo {
   using signature = T(T, T);

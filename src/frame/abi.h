@@ -1,6 +1,6 @@
 // How lanes cross the library's border: the System V x86-64 convention without AVX. A scalar or a vector of up to 16
-// bytes travels in a register; a wider one travels in memory and is returned through the hidden pointer, which is how
-// every compiler passes a structure that holds an array, whatever its flags.
+// bytes travels in a register; a wider one in memory, and is returned through the hidden pointer, as every compiler
+// passes a structure that holds an array.
 #pragma once
 
 #include <type_traits>
@@ -37,7 +37,6 @@ struct type<T, 2, 8> {
 template <class T, int W>
 using abi = typename abi_detail::type<T, padded(W), padded(W) * int(sizeof(T))>::is;
 
-// Two results returned by value, the first member first.
 template <class T, class U, int W>
 struct abi_pair {
   abi<T, W> first;

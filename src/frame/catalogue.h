@@ -1,5 +1,5 @@
-// The only list of operations. The public header, the linker's export list, the OpenCL built-ins, and the lists that
-// tests, benchmarks and tools work through are all made from it.
+// The only list of operations. The public header, the linker's export list and the OpenCL built-ins are made from it;
+// tests, benchmarks and tools work through it.
 //
 // An operation has a name (a final `f` means single precision), a signature and a set of accuracy variants. It is
 // exported at six widths as

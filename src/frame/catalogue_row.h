@@ -37,7 +37,6 @@ constexpr signature of(shape s, bool single) {
   return {};
 }
 
-// Sets of variants.
 using variant_set = std::uint8_t;
 constexpr variant_set set_of(variant v) { return variant_set(1 << int(v)); }
 inline constexpr variant_set D = set_of(variant::standard), N = set_of(variant::native), H = set_of(variant::half),

@@ -1,5 +1,5 @@
 // What every exported function shares. An operation states its signature, its kernel and, where it has rare lanes, how
-// they are detected and repaired; the frame makes functions of all six widths from that.
+// they are detected and repaired; the frame makes the functions of all six widths.
 //
 //   struct expf_standard {
 //     using signature = float(float);
@@ -208,7 +208,6 @@ constexpr int groups_at_once() {
     return 4;
 }
 
-// Repairs the marked lanes of the kernel's result.
 template <class Op, class Y, class M, class... X>
 LANEMATH_INLINE void settle(M rare, Y& y, const X&... x) {
   if (any(rare)) [[unlikely]] {

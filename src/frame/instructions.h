@@ -89,7 +89,6 @@ LANEMATH_INLINE lanes<float, W> reciprocal_root_estimate(const lanes<float, W>& 
   return lanes_detail::instruction(_mm_rsqrt_ps, _mm_rsqrt_ss, x);
 }
 
-// Rounds to an integral value with the rounding instruction.
 template <direction D, class T, int W>
 LANEMATH_INLINE lanes<T, W> round_to(const lanes<T, W>& x) {
   if constexpr (sizeof(T) == 4)

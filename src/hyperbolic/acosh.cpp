@@ -2,7 +2,7 @@
 // form has a shorter logarithm and, in single precision, a polish of one term. acoshf at width 4 and acosh at width 2,
 // default and native, use the method in inverse_hyperbolic_standalone.h.
 //
-// v has no second part; the effect shows where the logarithm is least accurate, just below 2^-8.
+// v has no second part, which shows where the logarithm is least accurate, just below 2^-8.
 #include "hyperbolic/inverse_hyperbolic.h"
 #include "hyperbolic/inverse_hyperbolic_standalone.h"
 

@@ -102,9 +102,7 @@ struct standalone_asinh : standalone_guards<T, Lane, Low> {
   static auto rare_test(auto x) { return standalone_asinh::out_of_range(top_word(magnitude(x))); }
 };
 
-// The scalar routines.
-
-// ln v of a positive normal number. The absolute error is below 5e-13, or 6e-11 where the mantissa is next to 1.
+// ln v of a positive normal number. The absolute error is below 5e-13, next to 1 below 6e-11.
 inline double log_by_cubics(double v) {
   const unpacked<double> parts(v);
   const double u = parts.mantissa(), e = parts.exponent;

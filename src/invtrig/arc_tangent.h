@@ -116,7 +116,6 @@ LANEMATH_INLINE lanes<double, W> reciprocal(const lanes<double, W>& x) {
   return y0 + (d * d - d) * y0;
 }
 
-// Ways to compute a quotient.
 struct by_division {
   static auto of(auto num, auto den) { return num / den; }
 };

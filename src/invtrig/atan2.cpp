@@ -3,8 +3,8 @@
 // The smaller magnitude divided by the larger one, a polynomial on [-1, 1], and the quadrant by additions. The native
 // form: an estimated reciprocal and a shorter polynomial. The default float form at width 4 has coefficients and a last
 // step of its own; one lane with x zero, or with x or y infinite or a NaN, sends all four to a scalar routine in
-// double. The default double form at width 2 has the kernel of the other widths, and a scalar routine for pairs in
-// which x or y is zero, infinite or a NaN.
+// double. The default double form at width 2 differs only in its scalar routine, for lanes with x or y zero, infinite
+// or a NaN.
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"
 

@@ -1,5 +1,4 @@
-// log2 x, double precision, by the method in logarithm_double.h. The native form takes g in one part and drops two
-// powers of z.
+// log2 x, double precision, by the method in logarithm_double.h.
 //
 // The default form at width 2 differs: it subtracts from m in [1, 2) the nearest multiple of 1/128, whose reciprocal
 // and logarithm are in a table, and settles every special lane itself.
@@ -34,7 +33,6 @@ struct log2_native : log2_guards {
   }
 };
 
-// The default form at width 2.
 struct log2_width_2 {
   using signature = double(double);
   using V = lanes<double, 2>;

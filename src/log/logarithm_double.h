@@ -1,6 +1,7 @@
 // The double-precision logarithms: log x = k log 2 + log(2^q / n) + log(1 + z). The mantissa g is in [2^-10, 2^-9), n
 // is an integer near 1 / g from 512 to 1024, and z = g n - 1 is small; taking g in two parts makes it almost exact. The
-// middle term comes from a table, with q = 9 up to n = 724 and 10 above, so that no large terms cancel near 1.
+// middle term comes from a table, with q = 9 up to n = 724 and 10 above, so that no large terms cancel near 1. The
+// native forms take g in one part and drop two powers of z.
 #pragma once
 
 #include "log/logarithm.h"

@@ -15,8 +15,7 @@ LANEMATH_INLINE lanes<double, W> reciprocal_root_estimate(const lanes<double, W>
   return convert<double>(reciprocal_root_estimate(convert<float>(x)));
 }
 
-// For a normal number of any size: the estimate for its leading bits as a float in [1, 2), with the exponent set by
-// integer arithmetic.
+// For normal numbers of any size: estimates the leading bits as a float in [1, 2), and sets the exponent by integers.
 template <int W>
 LANEMATH_INLINE lanes<double, W> full_range_reciprocal_estimate(const lanes<double, W>& x) {
   const auto top = upper(x);

@@ -1,5 +1,4 @@
-// Results that are not finite numbers, or are beyond their range, made by arithmetic so that they follow the current
-// rounding direction.
+// Exceptional results, made by arithmetic so that they follow the current rounding direction.
 #pragma once
 
 #include <cmath>
@@ -30,8 +29,7 @@ T square(T v) {
   return v * v;
 }
 
-// Results beyond the range, with the sign of a given number: infinity or zero or, as the rounding direction demands,
-// the largest or smallest number.
+// Results beyond the range, with the sign of a number: infinity and zero, or the last number before them.
 template <class T>
 inline constexpr int half_beyond = sizeof(T) == 4 ? 100 : 1000;  // twice that exponent is out of range
 template <class T>

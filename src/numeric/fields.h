@@ -99,7 +99,6 @@ struct unpacked {
   }
 };
 
-// For positive normal numbers.
 template <class T, int W>
 LANEMATH_INLINE lanes<std::int32_t, W> exponent_of_positive(const lanes<T, W>& x) {
   return (top_word(x) >> format<T>::top_shift) - format<T>::bias;
@@ -121,7 +120,6 @@ LANEMATH_INLINE lanes<std::int32_t, W> low_word(const lanes<T, W>& x) {
     return lower(x);
 }
 
-// The number with these sign bits flipped.
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> flipped(const lanes<T, W>& x, const lanes<int_of_size<sizeof(T)>, W>& signs) {
   return from_bits(bits(x) ^ signs);

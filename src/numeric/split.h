@@ -5,7 +5,6 @@
 
 namespace lanemath {
 
-// Truncates: the number without its lowest bits.
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> without_low_bits(const lanes<T, W>& x, int count) {
   using I = int_of_size<sizeof(T)>;
@@ -57,8 +56,7 @@ LANEMATH_INLINE two_part<V> exact_product(V a, V b) {
   return {p, ((ah * bh - p) + ah * bl + al * bh) + al * bl};
 }
 
-// 1 + v as two summands, the larger first. `lost_by(w)` is the part of 1 + v that w lacks, where w is their sum,
-// possibly truncated.
+// 1 + v as two summands, the larger first. `lost_by(w)` is what w, their possibly truncated sum, lacks.
 template <class V>
 struct one_plus {
   static constexpr auto one = one_v<typename V::value_type>;

@@ -22,7 +22,6 @@ LANEMATH_INLINE exponent_parts<V> exponent_of(V y) {
   const auto [hi, lo] = split(y);
   return {y, hi, lo};
 }
-// The reciprocal of y as an exponent.
 template <class T, int W>
 LANEMATH_INLINE exponent_parts<lanes<T, W>> reciprocal_exponent(const lanes<T, W>& y) {
   constexpr T one = one_v<T>;

@@ -32,8 +32,7 @@ inline constexpr split_exp_rows split_exp_table{
 
 inline constexpr float LN2_HI = 0x3F317200_f32, LN2_LO = 0x35BFBE8E_f32, LOG2E = 0x3FB8AA3B_f32;
 
-// e^(y ln x) from the pattern of x, with the logarithm in two parts. Marks lanes whose |y ln x| is above `bound`, a
-// pattern.
+// e^(y ln x) from the pattern of x, with the logarithm in two parts. Marks |y ln x| above the pattern `bound`.
 template <int W>
 LANEMATH_INLINE auto split_power(const lanes<std::int32_t, W>& b, const exponent_parts<lanes<float, W>>& y,
                                  const split_exp_rows& c, std::int32_t bound) {

@@ -22,7 +22,7 @@ struct divide {
   }
 };
 
-// The rare routine only repeats the division: the rare test and the status serve to report a zero divisor.
+// The rare routine only repeats the division: its status reports a zero divisor.
 template <std::uint64_t Ignored>
 struct watched_divide : divide<double> {
   static constexpr auto rare = div_rare<double>;

@@ -12,7 +12,7 @@
 namespace lanemath {
 namespace {
 
-// Handles pairs in which at least one argument is infinite or a NaN. An infinity takes precedence.
+// Pairs with an infinity, which takes precedence, or a NaN.
 template <class T>
 bool hypot_of_non_finite(T x, T y, T& z) {
   if (is_finite(x) && is_finite(y)) return false;

@@ -31,8 +31,7 @@ struct integer_part {
   }
 };
 
-// log|gamma(x)| of one lane and the sign of gamma. `Lane` knows where the result is zero or overflows, and computes the
-// other results.
+// log|gamma(x)| of one lane and the sign of gamma. `Lane` knows the zeros and overflows and computes the rest.
 template <class Lane, class T>
 status log_gamma(T x, T& y, std::int32_t& sign) {
   sign = 1;

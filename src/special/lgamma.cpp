@@ -33,8 +33,7 @@ extended walked_up(double x) {
   return lgamma_of(y) - log_extended(std::fabs(product));
 }
 
-// For the range where zeros are so close to the integers that the walk's product, near 1, must be known beyond its last
-// bit.
+// Here zeros are so close to the integers that the walk's product, near 1, must be known beyond its last bit.
 extended walked_up_exactly(double x) {
   extended y = x, product = 1.0L, lost = 0.0L;
   for (; y < 1.0L; y += 1.0L) {

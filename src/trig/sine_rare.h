@@ -141,7 +141,6 @@ status sine_of_non_finite(T x, T& y) {
   return is_infinite(x) ? status::domain : status::ordinary;
 }
 
-// The rare routines.
 template <class T>
 LANEMATH_RARE sine_rare(const T* px, T* py) {
   if (!is_finite(*px)) return sine_of_non_finite(*px, *py);

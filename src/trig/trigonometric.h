@@ -25,7 +25,6 @@ LANEMATH_INLINE V less_multiples(V a, const V& n, const T (&pieces)[Size], std::
   return a;
 }
 
-// The sine by an odd polynomial in the remainder.
 template <class V, class T, std::size_t Size>
 LANEMATH_INLINE V odd_sine(const V& r, const V& signed_r, const T (&c)[Size]) {
   const V z = r * r;
