@@ -5,12 +5,11 @@
 
 #include "numeric/fields.h"
 
-// Exports an instance of `body`, which takes the operation's place in the catalogue.
+// Exports the instance of `body` for the operation's index in the catalogue.
 #define LANEMATH_CONVERSION(operation, body) LANEMATH_EXPORT(operation, body<::lanemath::index_of(#operation)>)
 
 namespace lanemath {
 
-// A conversion as the catalogue has it.
 template <std::size_t Index>
 struct conversion {
   using from = type_of<catalogue[Index].sig.arguments[0]>;

@@ -1,8 +1,8 @@
-// Integers to floating lanes. An integer is cut into fields that fit the significand; or-ed into the pattern of a power
-// of two, which is then subtracted, a field becomes its exact value. The fields' sum is rounded once. For the directed
-// roundings the sum's error, which is exact too, then decides a step of one unit on the pattern.
+// Integers to floating-point lanes. An integer is cut into fields that fit the significand. Or-ed into the pattern of a
+// power of two, which is then subtracted, a field becomes its exact value. The sum of the fields is rounded once. For
+// the directed roundings the error of the sum, which is exact too, decides whether the pattern moves by one unit.
 //
-// The steps are for the direction to nearest. In another one the sums follow it.
+// These steps assume that the current direction is to nearest; in another one the sums follow it.
 #include <type_traits>
 
 #include "convert/convert.h"
@@ -18,10 +18,10 @@ struct field_powers : format<T> {
   static constexpr T P1 = power_of_two<T>(2 * fraction_bits);  // of the next
 };
 constexpr float P2 = power_of_two<float>(3 * format<float>::fraction_bits);  // of the highest of three
-// From the pattern of a power of two to that of half a unit of it.
+// Subtracted from the pattern of a power of two, gives the pattern of half a unit in its last place.
 constexpr std::int32_t HALFULP = (format<float>::fraction_bits + 1) << format<float>::fraction_bits;
 
-// P plus a field of P's lowest bits.
+// P plus a field in P's lowest bits.
 template <class U, int W>
 LANEMATH_INLINE auto placed(auto p, const lanes<U, W>& field) {
   return from_bits(field | std::bit_cast<U>(p));
@@ -31,8 +31,8 @@ LANEMATH_INLINE auto field_value(auto p, const lanes<U, W>& field) {
   return placed(p, field) - p;
 }
 
-// An integer as the magnitude and, in lanes like the result's, what is or-ed in for the sign and the step to the next
-// larger value: 1, or -1 for negative lanes. The least integer's magnitude is right as an unsigned number.
+// The magnitude of an integer and, in lanes of the result's size, the sign bit and the step on the pattern to the next
+// larger value: 1, or -1 for negative lanes. The magnitude of the least integer is right as an unsigned number.
 template <class I, class T, int W>
 struct taken_apart {
   using word = lanes<int_of_size<sizeof(T)>, W>;
@@ -110,8 +110,8 @@ struct three_fields {
         high(field_value(P2, as<std::uint32_t>(upper(m)) >> 14)) {}
 };
 
-// The low field is left out of the first sum and added in the end. Where the first sum was rounded down on an exact
-// half while the low field is not zero, its last bit is set: the end's rounding then goes up.
+// The low field is left out of the first sum and added at the end. Where the first sum rounded a tie down although the
+// low field is not zero, its last bit is set, so that the final rounding goes up.
 template <std::size_t Index>
 struct from_three_fields_to_nearest : conversion<Index> {
   template <class V>

@@ -1,7 +1,7 @@
-// double to float. The narrowing instruction rounds in the direction in force: rte is that and nothing else. For the
+// double to float. The narrowing instruction rounds in the current direction, which is all that rte does. For the
 // directed roundings the lane is widened back, which is exact, and compared with the argument: where narrowing went to
-// the wrong side, a step of one unit on the pattern takes it back, an overflow to infinity included. NaNs compare
-// false and come out as narrowing left them.
+// the wrong side, a step of one unit on the pattern undoes it, even an overflow to infinity. NaNs compare false and
+// stay as they are.
 #include "convert/convert.h"
 
 namespace lanemath {

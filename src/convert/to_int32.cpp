@@ -1,6 +1,6 @@
-// Floating lanes to 32-bit integers. The rounding instruction makes the lane integral in the direction of the name, so
-// that the conversion instruction after it is exact whatever the direction in force; what does not fit it gives
-// 0x80000000. All lanes are settled in straight line.
+// Floating-point lanes to 32-bit integers. The rounding instruction makes the lane integral in the direction of the
+// name, so that the conversion instruction after it is exact in every current direction; a value that does not fit
+// gives 0x80000000. All lanes are settled in straight-line code.
 #include "convert/convert.h"
 
 namespace lanemath {
@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::int32_t INDEFINITE = std::numeric_limits<std::int32_t>::min();
 
-// A power of two's leading word.
+// The leading word of a power of two.
 template <class T>
 constexpr std::int32_t word_of(int exponent) {
   return (format<T>::bias + exponent) << format<T>::top_shift;
@@ -22,7 +22,7 @@ struct to_signed : conversion<Index> {
   }
 };
 
-// The indefinite result is the lower clamp already, and the upper one is its complement. A NaN gives 0.
+// The indefinite result is itself the lower clamp, and its complement the upper one. A NaN gives 0.
 template <std::size_t Index>
 struct to_signed_saturated : conversion<Index> {
   template <class V>
@@ -35,8 +35,8 @@ struct to_signed_saturated : conversion<Index> {
 };
 
 // From 2^31 to 2^32 the integer is the fraction below a set top bit. Without saturation a negative lane gives its
-// magnitude, and what does not fit stays indefinite. With it, the bounds are tested on the leading word, so that a
-// NaN goes by its sign: 0xFFFFFFFF or 0.
+// magnitude, and a value that does not fit stays indefinite. With it, the bounds are tested on the leading word, so
+// that a NaN gives 0xFFFFFFFF or 0 by its sign.
 template <std::size_t Index>
 struct to_unsigned : conversion<Index> {
   template <class V>

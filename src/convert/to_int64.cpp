@@ -1,7 +1,7 @@
-// Floating lanes to 64-bit integers, for which there is no conversion instruction: after the rounding instruction the
-// integer is built from the fields of the magnitude, m * 2^k. Below 2^23 (float) or 2^52 (double) m is the fraction of
-// the sum with that number and k is 0; above, m is the significand and k the exponent's excess. The sign goes into m
-// before the shift. One text for all forms; all lanes are settled in straight line.
+// Floating-point lanes to 64-bit integers, for which there is no conversion instruction. After the rounding instruction
+// the integer is built from the fields of the magnitude, m * 2^k. Below 2^23 (float) or 2^52 (double), m is the
+// fraction of the magnitude's sum with that number and k is 0; above, m is the significand and k the excess of the
+// exponent. The sign goes into m before the shift. All lanes are settled in straight-line code.
 #include <type_traits>
 
 #include "convert/convert.h"

@@ -1,9 +1,9 @@
 // e^x, double precision.
 //
-// Default (but at width 2): x = (n / 1024) ln 2 + r; 2^(j/1024) from a table, e^r by a cubic, the power of two added to
-// the exponent field. _native: a table of 128 entries, a quadratic and an unsplit ln 2. The default form at width 2 has
-// a table of 64 mantissas, a polynomial of degree 5 in two halves, and settles every lane by itself. Rare lanes with a
-// table of high and low parts.
+// Default (except at width 2): x = (n / 1024) ln 2 + r with n = 1024 k + j; 2^(j/1024) from a table, e^r by a cubic, k
+// added to the exponent field. The native form: a table of 128 entries, a quadratic and an unsplit ln 2. The default
+// form at width 2 has a table of 64 mantissas and a polynomial of degree 5 in two halves, and settles every lane
+// itself. Rare lanes use a table of high and low parts.
 #include "exp/exponential_rare.h"
 
 namespace lanemath {
@@ -82,15 +82,13 @@ struct exp_native : exp_guards {
   }
 };
 
-// The default form at width 2.
-
 struct exp_width_2_rows {
   double K;       // 64 / ln 2
   double S;       // shifter, 1.5 * 2^52
   double L1, L2;  // ln 2 / 64, high and low part
   double D2, D3, D4, D5;
   double DOWN_200, UP_200;  // 2^-200, 2^200
-  double TINY, HUGE_ONE;    // whose squares are beyond the range
+  double TINY, HUGE_ONE;    // their squares underflow and overflow
 };
 constexpr exp_width_2_rows exp_width_2_table{
     .K = 0x40571547652B82FE_f64,
@@ -128,8 +126,8 @@ struct exp_width_2 {
     if (!any(magnitude_above(x, 0x4085FFFF))) [[likely]]  // both below 704
       return ordinary;
 
-    // Near the ends of the range at a scale on the safe side, so that the last product overflows or rounds to a
-    // denormal. Farther out the square of a number of the right size; a NaN's own square makes it quiet.
+    // Near the ends of the range the scale is moved to the safe side, so that the last product overflows or rounds to a
+    // denormal. Farther out the result is the square of a tiny or a huge number; squaring a NaN makes it quiet.
     using whole = lanes<std::int64_t, V::width>;
     constexpr double infinity = std::numeric_limits<double>::infinity();
     const V ax = magnitude(x);

@@ -1,8 +1,8 @@
 // 10^x, double precision.
 //
-// Default: x = (n / 128) log10(2) + r; 2^(j/128) from a table, 10^r by a polynomial of degree 5, the power of two added
-// to the exponent field. _native: 2^(x log2(10)) by a polynomial of degree 6 over a whole binade. Rare lanes with a
-// table of high and low parts.
+// Default: x = (n / 128) log10(2) + r with n = 128 k + j; 2^(j/128) from a table, 10^r by a polynomial of degree 5, k
+// added to the exponent field. The native form: 2^(x log2(10)) by a polynomial of degree 6 over a whole binade. Rare
+// lanes use a table of high and low parts.
 #include "exp/exponential_rare.h"
 
 namespace lanemath {
@@ -10,7 +10,7 @@ namespace {
 
 struct exp10_rows {
   double K;       // 128 log2(10)
-  double S;       // shifter, 1.5 * 2^52 and more
+  double S;       // shifter, 1.53125 * 2^52
   double L1, L2;  // log10(2) / 128, high and low part
   double C1, C2, C3, C4, C5;
   std::int64_t EMASK;  // sign and exponent

@@ -1,8 +1,8 @@
 // 10^x, single precision.
 //
-// Default: x = (n / 128) log10(2) + r; 2^(j/128) from a table of high and low parts, 10^r by a quadratic, the
-// power of two added to the exponent field. The native form (_half, _rm too): 2^(x log2(10)) by a cubic over a
-// whole binade. Rare lanes in double.
+// Default: x = (n / 128) log10(2) + r with n = 128 k + j; 2^(j/128) from a table of high and low parts, 10^r by a
+// quadratic, k added to the exponent field. The native form (also _half and _rm): 2^(x log2(10)) by a cubic over a
+// whole binade. Rare lanes are computed in double.
 #include "exp/exponential_rare.h"
 
 namespace lanemath {

@@ -1,9 +1,9 @@
 // 2^x, double precision.
 //
-// Default (but at width 2): x = n / 128 + f; 2^(j/128) from a table, 2^f by a polynomial of degree 4, the power of two
-// added to the exponent field. _native: a polynomial of degree 6 over a whole binade. The default form at width 2 is
-// the default method with its polynomial in halves, the power of two by a multiplication, and a scalar way of its own
-// for large lanes. Rare lanes with a table of high and low parts; a result next to the denormals is rounded twice.
+// Default (except at width 2): x = n / 128 + f with n = 128 k + j; 2^(j/128) from a table, 2^f by a polynomial of
+// degree 4, k added to the exponent field. The native form: a polynomial of degree 6 over a whole binade. The default
+// form at width 2 evaluates its polynomial in halves, multiplies by the power of two, and has a scalar routine of its
+// own for large arguments. Rare lanes use a table of high and low parts; denormal results are rounded twice.
 #include "exp/exponential_rare.h"
 
 namespace lanemath {
@@ -42,7 +42,7 @@ LANEMATH_RARE exp2_rare(const double* px, double* py) {
   }
   const rare_power p = exp2_power(x);
   const double y = p.w + p.hi;
-  if (x < -1022.0) {  // a denormal result: rounded once, by the last product
+  if (x < -1022.0) {  // a denormal result: y is rounded again by the last product
     const double s = with_exponent_field<double>((p.k + 1123) & 2047);
     *py = (s * y) * 0x1p-100;
     return status::underflow;
@@ -74,8 +74,6 @@ struct exp2_native : exp2_guards {
   }
 };
 
-// The default form at width 2.
-
 struct exp2_width_2_rows {
   double S2;  // shifter that leaves 7 fraction bits
   double G1, G2, G3, G4;
@@ -102,12 +100,12 @@ struct exp2_width_2_reduction {
   }
 };
 
-// On the upper half of the pattern. Any NaN comes back as one and the same.
+// Compares the upper half of the pattern. Every NaN gives the same NaN.
 LANEMATH_RARE exp2_width_2_lane(const double* px, double* py) {
   using scalar = lanes<double, 1>;
   const double x = *px;
   const auto pattern = pattern_of(x);
-  const auto magnitudes = std::uint32_t(pattern >> 32);  // orders the negative values by magnitude
+  const auto magnitudes = std::uint32_t(pattern >> 32);  // unsigned, so that negative values are ordered by magnitude
   const auto h = std::int32_t(magnitudes);
   if (h >= 0x40900000 || magnitudes >= 0xC090CC00) {  // 1024, -1075
     *py = pattern << 1 > 0xFFE0000000000000 ? 0x7FFFFFFF00000000_f64

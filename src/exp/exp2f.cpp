@@ -1,9 +1,9 @@
 // 2^x, single precision.
 //
-// Frame kernel (_rm, and the default at widths 2, 3, 8 and 16): x = n + f, 2^f by a polynomial of degree 6, n
-// added to the exponent field. The native form (_half too): a cubic whose constant term is not 1. The default
-// form at width 1 works in double with a table of 256 entries; at width 4 with a table of 64 entries and a
-// monic quadratic. Rare lanes in double.
+// Default at widths 2, 3, 8 and 16, and _rm: x = n + f, 2^f by a polynomial of degree 6, n added to the exponent field.
+// The native form (also _half): a cubic whose constant term is not 1. The default form at width 1 works in double with
+// a table of 256 entries; the one at width 4 has a table of 64 entries and a monic quadratic. Rare lanes are computed
+// in double.
 #include "exp/exponential_rare.h"
 
 namespace lanemath {
@@ -12,7 +12,7 @@ namespace {
 constexpr float exp2f_polynomial[] = {
     0x39213C8C_f32, 0x3AAF7A51_f32, 0x3C1D962C_f32, 0x3D6357CF_f32, 0x3E75FDEF_f32, 0x3F317218_f32, 1.0f};
 
-// Keeps the integer add to the exponent field away from the ends of the range.
+// Keeps the integer addition to the exponent field away from the ends of the range.
 constexpr std::int32_t RARE = 0x42FC0000;  // 126
 
 LANEMATH_RARE exp2f_rare(const float* px, float* py) {
@@ -47,7 +47,6 @@ struct exp2f_native : exp2f_guards {
   }
 };
 
-// The default form at width 1.
 struct exp2f_width_1 {
   using signature = float(float);
 
@@ -80,8 +79,6 @@ struct exp2f_width_1 {
   }
 };
 
-// The default form at width 4.
-
 struct exp2f_width_4_rows {
   float S2;      // shifter that leaves 6 fraction bits, 1.5 * 2^17
   float Q1, Q0;  // monic quadratic
@@ -93,13 +90,13 @@ V flush_denormals(V x) {
   return select((bits(x) & 0x7F800000) == 0, V(0.0f), x);
 }
 
-// One lane, on bit patterns: a NaN comes back as it is.
+// One lane, compared by bit patterns. A NaN is returned unchanged.
 LANEMATH_RARE exp2f_lane(const float* px, float* py) {
   using scalar = lanes<float, 1>;
   constexpr auto& c = exp2f_width_4_table;
   const scalar x = flush_denormals(scalar(*px));
   const auto pattern = std::bit_cast<std::int32_t>(x.g[0]);
-  const auto magnitudes = std::uint32_t(pattern);           // orders the negative values by magnitude
+  const auto magnitudes = std::uint32_t(pattern);           // as in exp2.cpp
   if (pattern >= 0x43000000 || magnitudes >= 0xC3160000) {  // 128, -150
     auto special = pattern >= 0x43000000 ? 0x7F800000 : 0;
     if ((pattern & 0x7FFFFFFF) > 0x7F800000) special = pattern;

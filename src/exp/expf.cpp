@@ -1,8 +1,8 @@
 // e^x, single precision.
 //
-// Default: x = (n / 128) ln 2 + r; 2^(j/128) from a table of high and low parts, e^r by a quadratic, the power
-// of two by a multiplication. The native form (_half too): a cubic over a whole binade. _rm: ln 2 in two parts
-// and a quintic, no table. Rare lanes in double.
+// Default: x = (n / 128) ln 2 + r with n = 128 k + j; 2^(j/128) from a table of high and low parts, e^r by a quadratic,
+// 2^k by a multiplication. The native form (also _half): a cubic over a whole binade. _rm: ln 2 in two parts and a
+// quintic, no table. Rare lanes are computed in double.
 #include "exp/exponential_rare.h"
 
 namespace lanemath {

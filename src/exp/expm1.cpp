@@ -1,7 +1,7 @@
 // e^x - 1, double precision.
 //
-// Default: 2^(j/128) from a table in two parts, e^r - 1 by a polynomial of degree 5. _native: 2^(j/128) in one part, ln
-// 2 unsplit, e^r - 1 by a cubic. Rare lanes with a table of high and low parts.
+// Default: 2^(j/128) from a table in two parts, e^r - 1 by a polynomial of degree 5. The native form: 2^(j/128) in one
+// part, ln 2 unsplit, e^r - 1 by a cubic. Rare lanes use a table of high and low parts.
 #include "exp/expm1.h"
 
 namespace lanemath {

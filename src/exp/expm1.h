@@ -1,15 +1,15 @@
 // e^x - 1 in both precisions: x = (n / N) ln 2 + r with n = N k + j, and
-// e^x - 1 = 2^k 2^(j/N) (e^r - 1) + (2^k 2^(j/N) - 1),
-// so that the subtraction of 1 stands next to the power of two and small results lose nothing. The sign of x is set on
-// the result, which gives -0 at -0.
+//   e^x - 1 = 2^k 2^(j/N) (e^r - 1) + (2^k 2^(j/N) - 1),
+// so that 1 is subtracted from the power of two alone and small results lose no bits. The result takes the sign of x,
+// which gives -0 at -0.
 #pragma once
 
 #include "exp/exponential_rare.h"
 
 namespace lanemath {
 
-// Not a plain shifter: the sum of S and n holds the entry's offset where JMASK is, and the exponent field of 2^k where
-// EMASK is.
+// S does more than a plain shifter: the sum of S and n holds the table index in the bits of JMASK and the exponent
+// field of 2^k in the bits of EMASK.
 template <class T>
 struct expm1_layout {
   T S;
@@ -30,14 +30,14 @@ struct expm1_power {
     else
       j = (lower(t) & std::int32_t(c.JMASK)) >> c.entry_shift;
   }
-  // 2^k times what the table has the mantissa field of.
+  // 2^k times the mantissa whose fraction bits the table gives.
   V times(V mantissa) const { return from_bits(bits(mantissa) | bits(e)); }
 };
 
 template <class V>
 inline constexpr typename V::value_type minus_one = -1;
 
-// From the power of two in two parts, v + u, and p = e^r - 1.
+// From p = e^r - 1 and the power of two in two parts, v + u.
 template <class V>
 V expm1_sum(V x, V v, V u, V p) {
   const V a = v + minus_one<V>;
@@ -57,7 +57,7 @@ auto expm1_beyond(V x, typename V::value_type bound) {
   return ~(magnitude(x) <= bound);
 }
 
-// Only lanes beyond that bound come here: e^x - 1 is rounded like e^x, or like -1.
+// Only lanes beyond that bound come here, where e^x - 1 rounds as e^x does, or as -1.
 template <class T>
 status expm1_rare_lane(const T* px, T* py, const rare_bounds& bounds) {
   if (*px < zero_v<T>) {

@@ -1,7 +1,7 @@
 // e^x - 1, single precision.
 //
-// Default: 2^(j/64) from a table in two parts, e^r - 1 by a cubic. _native: 2^(j/32) in one part, ln 2 unsplit, e^r - 1
-// by a quadratic. Rare lanes in double.
+// Default: 2^(j/64) from a table in two parts, e^r - 1 by a cubic. The native form: 2^(j/32) in one part, ln 2 unsplit,
+// e^r - 1 by a quadratic. Rare lanes are computed in double.
 #include "exp/expm1.h"
 
 namespace lanemath {

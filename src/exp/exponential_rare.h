@@ -1,5 +1,5 @@
-// What the exponentials share for their rare lanes. The scalar routines of both precisions work in double; a float is
-// the one rounding of the result.
+// What the exponentials share for their rare lanes. The scalar routines of both precisions work in double; a float
+// result is rounded once, at the end.
 #pragma once
 
 #include "numeric/constants.h"
@@ -9,8 +9,8 @@
 
 namespace lanemath {
 
-// 2^y by one polynomial over a whole binade, no table: the native kernels. The shifter's sum has y rounded to an
-// integer in its low bits, which are added to the exponent field of the polynomial's.
+// 2^y by one polynomial over a whole binade, without a table, for the native kernels. The low bits of y + shifter hold
+// y rounded to an integer, which is added to the exponent field of the polynomial's value.
 template <class V, class T, std::size_t N>
 LANEMATH_INLINE V exp2_by_polynomial(V y, T shifter, const T (&c)[N]) {
   const V t = y + shifter;
@@ -18,11 +18,11 @@ LANEMATH_INLINE V exp2_by_polynomial(V y, T shifter, const T (&c)[N]) {
   return from_bits(bits(horner(f, c)) + (bits(t) << format<T>::fraction_bits));
 }
 
-// The cubic of exp2f and exp10f, fitted over the whole interval: the constant term is not 1, and so not even integers
+// The cubic of exp2f and exp10f, fitted over the whole interval: its constant term is not 1, so that not even integers
 // give exact powers.
 inline constexpr float native_exp2_cubic[] = {0x3D61FBCC_f32, 0x3E786F13_f32, 0x3F31798D_f32, 0x3F7FFB49_f32};
 
-// Settles the lanes beyond the range of the results: infinite above one bound, zero below the other.
+// Settles the lanes beyond the range of the results: infinity above one bound, zero below the other.
 template <class V, class M, class T>
 void saturate(V x, V& y, M& rare, T overflow, T underflow) {
   constexpr T infinity = std::numeric_limits<T>::infinity();
@@ -32,7 +32,7 @@ void saturate(V x, V& y, M& rare, T overflow, T underflow) {
   rare = rare & ~narrow_mask(over | under);
 }
 
-// +0 at -infinity, x * x at +infinity and at a NaN, which makes it quiet. Whether x was one of them.
+// Returns whether x is infinite or a NaN. Then y is +0 for -infinity, else x * x, which makes a NaN quiet.
 template <class T>
 bool exp_of_non_finite(T x, T& y) {
   if (is_finite(x)) return false;
@@ -46,14 +46,14 @@ struct rare_power {
   std::int32_t k;
 };
 
-// y 2^k. The largest results need an exponent that has no field.
+// y 2^k. The largest results need an exponent one above the largest field.
 inline double scaled(double y, std::int32_t k) {
   const int field = (k + 1023) & 2047;
   if (field == 2047) return y * with_exponent_field<double>(2046) * 2.0;
   return y * with_exponent_field<double>(field);
 }
 
-// A denormal result: at a scale raised by 2^60, cut to the bits that will stay before the one rounding.
+// A denormal result, at a scale raised by 2^60: its high part is first cut to the bits that the result keeps.
 inline double scaled_to_denormal(const rare_power& p) {
   const int field = (p.k + 1083) & 2047;
   const double s = with_exponent_field<double>(field);
@@ -68,7 +68,7 @@ inline double scaled_to_denormal(const rare_power& p) {
   return h * unscale + l * unscale;
 }
 
-// A sum with a shifter: the low bits of its pattern hold n = 64 k + j.
+// The low bits of a sum with a shifter hold n = 64 k + j.
 struct split_index {
   std::int32_t j, k;
   explicit split_index(double shifted) {
@@ -126,12 +126,12 @@ inline constexpr rare_bounds exp_bounds{
     .denormal = 0xC086232BDD7ABCD2_f64,  // -708.39642
 };
 
-// The whole routine of e^x, and of 10^x in double precision. `power` is one of the above.
+// The whole routine of e^x, and of 10^x in double precision. `power` is one of the functions above.
 template <class T, class F>
 status exp_rare_lane(const T* px, T* py, F power, const rare_bounds& bounds) {
   if (exp_of_non_finite(*px, *py)) return status::ordinary;
   const double x = *px;
-  if (std::fabs(x) < 0x1p-52) {  // kept although no argument reaches it: the rare lanes are large
+  if (std::fabs(x) < 0x1p-52) {  // never reached: the rare lanes are large
     *py = T(1.0 + x);
     return status::ordinary;
   }

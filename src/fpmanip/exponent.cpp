@@ -1,10 +1,10 @@
-// frexp, ilogb, logb: the exponent field taken out, for normal numbers by the kernel. Exact.
+// frexp, ilogb, logb: extraction of the exponent field; the kernel serves normal numbers. Exact.
 #include "numeric/exceptional.h"
 
 namespace lanemath {
 namespace {
 
-// The field of 0.5, whose binade significands are given in.
+// The exponent field of 0.5: frexp's significands are in its binade.
 template <class T>
 constexpr typename format<T>::pattern half_field = pattern_of(half_v<T>);
 

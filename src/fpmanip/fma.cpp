@@ -1,8 +1,8 @@
-// fma: x y + z with one rounding, lane by lane in integer arithmetic: the exact product, the exact aligned sum, one
-// rounding at the end. Correctly rounded, in the direction of the x87 control word.
+// fma: x y + z with one rounding, lane by lane in integer arithmetic: the exact product, the exact aligned sum, and one
+// rounding in the direction of the x87 control word.
 //
-// What needs no such care (a factor or a summand that is zero, a factor of magnitude one, infinities, NaNs) is the
-// plain product and sum, in the direction of MXCSR.
+// Lanes that need no such care (a zero factor or summand, a factor of magnitude one, infinities, NaNs) are computed as
+// a plain product and sum, in the direction of MXCSR.
 #include <utility>
 
 #include "numeric/exceptional.h"
@@ -15,7 +15,7 @@ enum class rounding : std::uint16_t { nearest = 0, down = 0x400, up = 0x800, zer
 
 LANEMATH_INLINE rounding x87_rounding() { return rounding(x87_control_word() & 0xC00); }
 
-// Arithmetic for its flags alone.
+// Arithmetic done only for its flags.
 template <class T>
 LANEMATH_INLINE void raise_flags_of(T result) {
   asm volatile("" ::"x"(result));
@@ -25,12 +25,12 @@ template <class T>
 struct exact_sum {
   using f = format<T>;
   using pattern = typename f::pattern;
-  // Holds a product of two significands and, below it, bits enough that what is shifted out beyond them can only
-  // matter as one bit that says that there was something.
+  // Holds a product of two significands and enough bits below it that whatever is shifted out beyond them matters only
+  // as a sticky bit.
   using wide = std::conditional_t<sizeof(T) == 4, std::uint64_t, unsigned __int128>;
 
   static constexpr int wide_bits = 8 * sizeof(wide);
-  static constexpr int point = wide_bits - 2;  // where the leading bit of an operand stands: a sum may carry above it
+  static constexpr int point = wide_bits - 2;  // the place of an operand's leading bit: a sum may carry above it
   static constexpr int below_fraction = point - f::fraction_bits;
 
   // A magnitude of significand / 2^point * 2^(exponent - bias).
@@ -62,7 +62,7 @@ struct exact_sum {
 
   static operand product(const operand& x, const operand& y) {
     operand p{wide(x.significand * y.significand), x.exponent + y.exponent - f::bias, x.negative != y.negative};
-    // The leading bit is at 2 * fraction_bits or one above.
+    // The leading bit of the product is at 2 * fraction_bits or one above.
     const bool above = p.significand >> (2 * f::fraction_bits + 1) != 0;
     p.exponent += above;
     p.significand <<= point - 2 * f::fraction_bits - above;
@@ -79,7 +79,7 @@ struct exact_sum {
       sum.significand = shifted_right(sum.significand, 1 - field);
       field = 0;
     }
-    // The fraction and, left-aligned, what is below it.
+    // The fraction and, left-aligned, the bits below it.
     auto magnitude = pattern(sum.significand >> below_fraction);
     const wide rest = sum.significand << (wide_bits - below_fraction);
     constexpr wide half = wide(1) << (wide_bits - 1);
@@ -92,7 +92,7 @@ struct exact_sum {
     const pattern before = magnitude;
     magnitude += away;
     if (magnitude == f::infinity) return overflowed(sign);
-    // Upward and downward a result is tiny by what it would be with more exponents.
+    // In the directions up and down a result is tiny if it would be so with an unbounded exponent range.
     const bool directed = direction == rounding::up || direction == rounding::down;
     const bool tiny = !directed ? magnitude < f::implicit_bit || (magnitude == f::implicit_bit && rest == half)
                       : away    ? before < f::fraction || (before == f::fraction && rest < half)

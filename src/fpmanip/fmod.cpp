@@ -1,13 +1,14 @@
 // fmod: x - y trunc(x / y), exact, with the sign of x.
 //
-// Where the quotient has few bits: a division, truncated; the remainder by exact products with the two parts of y, and
-// one step back where the division had rounded up to the next integer. Rare lanes by long division.
+// Where the quotient has few bits it is a truncated division; the remainder follows by exact products with the two
+// parts of y, and |y| is added back where the division was rounded up to the next integer. Rare lanes go through long
+// division.
 #include "fpmanip/long_division.h"
 
 namespace lanemath {
 namespace {
 
-// For |x| below 2^52. Kept although no argument reaches it: beside this divisor the kernel serves all below 2^56.
+// For |x| below 2^52. Never reached: with this divisor the kernel serves all x below 2^56.
 inline double fmod_by_2147483647(double x, double y) {
   const double ax = std::fabs(x);
   const auto quotient = std::uint32_t(std::int64_t(ax * 0x1p-31));
@@ -24,11 +25,11 @@ LANEMATH_RARE fmod_rare(const T* px, const T* py, T* z) {
   const T zero = std::copysign(zero_v<T>, x);
   if (ay == one && ax < f::infinity) {
     const int exponent = exponent_field(x) - f::bias;
-    if (ax < one)  // these two are kept although no argument reaches them: the kernel serves small quotients
+    if (ax < one)  // these two are never reached: the kernel serves small quotients
       *z = x;
     else if (ax == one || exponent >= f::fraction_bits)
       *z = zero;
-    else  // +0 from a difference of equals
+    else  // +0 if the two are equal
       *z = x - value_of<T>(pattern_of(x) & ~(f::fraction >> exponent));
     return status::ordinary;
   }

@@ -1,6 +1,6 @@
 // fract: x - floor(x), kept below 1, and floor(x).
 //
-// One rounding, to the nearest number but where a tiny negative x gives the largest number below 1.
+// Rounded once, to nearest, except that a tiny negative x gives the largest number below 1.
 #include <cmath>
 
 #include "numeric/fields.h"

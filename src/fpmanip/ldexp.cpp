@@ -1,10 +1,10 @@
-// ldexp: x times 2^n, rounded once and only where the result is denormal.
+// ldexp: x times 2^n, rounded once, and only if the result is denormal.
 #include "numeric/exceptional.h"
 
 namespace lanemath {
 namespace {
 
-// Beyond this every n has one result, and no sum with an exponent field can wrap.
+// All n beyond this give the same result; within it no sum with an exponent field can wrap.
 constexpr std::int32_t farthest = 65536;
 
 template <class T>

@@ -1,4 +1,4 @@
-// What fmod, remainder and remquo share: the kernel's tests, and the long division that their rare lanes go through.
+// What fmod, remainder and remquo share: the rare test of their kernels, and the long division for rare lanes.
 #pragma once
 
 #include "numeric/exceptional.h"
@@ -6,15 +6,15 @@
 
 namespace lanemath {
 
-// A divisor in two parts, whose products with a quotient of few bits are exact.
+// A divisor in two parts whose products with a quotient of few bits are exact.
 template <class V>
 LANEMATH_INLINE two_part<V> split_divisor(V y) {
   const V high = without_low_bits(y, sizeof(typename V::value_type) == 4 ? 12 : 27);
   return {high, y - high};
 }
 
-// The quotient is that small where the exponents differ by at most `limit`, and neither the products nor the remainder
-// leave the normal numbers where the top word of |y| lies from `Least` to `Largest`.
+// The quotient has few bits where the exponents differ by at most `limit`. Neither the products nor the remainder leave
+// the normal numbers where the top word of |y| is from `Least` to `Largest`.
 template <class T, std::uint32_t Least, std::uint32_t Largest, class V>
 LANEMATH_INLINE auto rare_division(V x, V y) {
   using f = format<T>;
@@ -23,7 +23,7 @@ LANEMATH_INLINE auto rare_division(V x, V y) {
   return (apart > limit << f::top_shift) | outside(top_word(y) & 0x7FFFFFFF, Least, Largest);
 }
 
-// |x| = quotient * |y| + remainder, for |x| >= |y|, by one subtraction a bit.
+// |x| = quotient * |y| + remainder, for |x| >= |y|, by one subtraction per bit.
 template <class T>
 struct long_division {
   T remainder;                 // of the magnitudes
@@ -39,7 +39,7 @@ struct long_division {
       m = 2 * m - (fits ? twice : 0);
       quotient = 2 * quotient + fits;
     }
-    // A remainder has no bits below a denormal's last.
+    // The remainder has no bits below the last place of a denormal.
     using f = format<T>;
     remainder = zero_v<T>;
     if (m == 0) return;

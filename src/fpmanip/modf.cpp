@@ -6,8 +6,7 @@
 namespace lanemath {
 namespace {
 
-// In double for both precisions. What serves finite numbers is kept although no argument reaches it: the kernel sends
-// infinities and NaNs alone.
+// In double for both precisions. The code for finite numbers is never reached: only infinities and NaNs are rare lanes.
 status modf_in_double(double x, double& fraction, double& integral) {
   const int exponent = exponent_field(x) - format<double>::bias;
   if (is_nan(x)) {

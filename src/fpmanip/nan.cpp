@@ -1,4 +1,4 @@
-// nan: a quiet NaN whose payload is the low bits of an integer. Its high bits reach the sign.
+// nan: a quiet NaN whose payload is the low bits of an integer. The integer's highest bit becomes the sign.
 #include "numeric/fields.h"
 
 namespace lanemath {

@@ -1,4 +1,4 @@
-// nextafter: the pattern of x one up or one down. Exact.
+// nextafter: the pattern of x plus or minus one. Exact.
 #include "numeric/exceptional.h"
 
 namespace lanemath {
@@ -32,14 +32,14 @@ struct nextafter {
   using signature = T(T, T);
   static constexpr auto rare = nextafter_rare<T>;
 
-  // Up where y is the larger and the signs are equal.
+  // Up where y is larger in magnitude and the signs are equal.
   template <class V>
   static V kernel(V x, V y) {
     const auto different_sign = sign_of(from_bits(bits(x) ^ bits(y)));
     const auto up = (magnitude(x) < magnitude(y)) & (different_sign == 0);
     return from_bits(bits(x) - 1 + (up & 2));
   }
-  // A float lane is left to the routine wherever the signs are equal, a double lane where x and y are.
+  // Float lanes are also rare where the signs are equal, double lanes where x and y are equal.
   template <class V>
   static auto rare_test(V x, V y) {
     const auto rare = not_normal(x) | not_normal(y) | not_normal(kernel(x, y));

@@ -1,8 +1,9 @@
-// remainder, remquo: x - n y, n the integer nearest to x / y, exact; remquo with n, of rare lanes its low 31 bits.
+// remainder, remquo: x - n y, where n is the integer nearest to x / y, exact. remquo also returns n, in rare lanes its
+// low 31 bits.
 //
-// Where the quotient has few bits: a division, rounded in the direction in force; the remainder by exact products with
-// the two parts of y, and a step of |y| where more than half of it is left. So n is the nearest integer, with halves
-// to even, in the default direction. Rare lanes by long division, whatever the direction.
+// Where the quotient has few bits it is a division rounded in the current direction; the remainder follows by exact
+// products with the two parts of y, and by a step of |y| where more than half of |y| remains. In the default direction
+// n is therefore the nearest integer, ties to even. Rare lanes go through long division, whatever the direction.
 #include "fpmanip/long_division.h"
 
 namespace lanemath {
@@ -15,7 +16,7 @@ struct divided {
   status met = status::ordinary;
 };
 
-// Makes a NaN quiet: done in double for both precisions.
+// Makes a NaN quiet, in double for both precisions.
 template <class T>
 T quieted_in_double(T x) {
   return T(opaque(double(x)) * 0x3FFB333333333333_f64);  // 1.7
@@ -95,7 +96,6 @@ struct remquo {
   static auto rare_test(auto x, auto y) { return rare_division<T, Least, Largest>(x, y); }
 };
 
-// The same without the quotient.
 template <class Remquo, class T>
 struct remainder_of : Remquo {
   using signature = T(T, T);

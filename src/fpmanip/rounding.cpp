@@ -1,7 +1,7 @@
-// ceil, floor, trunc, rint, nearbyint, round: one rounding instruction each, and for round a step after it.
+// ceil, floor, trunc, rint, nearbyint, round: one rounding instruction each; round adds a step after it.
 //
-// Exact, in every direction that the caller may have set. NaNs come back quiet with sign and payload kept, zeros and
-// infinities as they are; a result of zero has the sign of the input.
+// Exact in every current direction. NaNs become quiet and keep sign and payload, zeros and infinities are returned
+// unchanged; a result of zero has the sign of the input.
 #include "frame/frame.h"
 
 namespace lanemath {
@@ -16,7 +16,7 @@ struct rounding {
   }
 };
 
-// To nearest with halves to even; a half that went down, which leaves the difference +0.5, goes up after all.
+// Rounds to nearest with ties to even; a tie that went down leaves the difference +0.5 and is rounded up after all.
 template <class T>
 struct rounding_half_away {
   using signature = T(T);

@@ -1,8 +1,8 @@
-// fdim, fmax, fmin, maxmag, minmag: a comparison or two, and NaN lanes mended by moves of bits.
+// fdim, fmax, fmin, maxmag, minmag: one or two comparisons; lanes with a NaN are rare and are copied as bits.
 //
-// Exact but for the one rounding of fdim's subtraction. Ties of zeros are settled by the order of operands: fmax and
-// fmin give the second, maxmag and minmag the first. A NaN loses to a number, except in fdim; of two NaNs the second
-// is the result, signalling or not.
+// Exact, except for the one rounding of fdim's subtraction. Ties of zeros depend on the order of the operands: fmax and
+// fmin give the second, maxmag and minmag the first. A NaN loses to a number, except in fdim; of two NaNs the second is
+// the result, signalling or not.
 #include "numeric/fields.h"
 
 namespace lanemath {

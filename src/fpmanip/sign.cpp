@@ -1,4 +1,4 @@
-// fabs, copysign: bits alone, so that a signalling NaN stays one.
+// fabs, copysign: operations on bits alone, so that a signalling NaN stays one.
 #include "frame/frame.h"
 
 namespace lanemath {

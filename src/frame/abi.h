@@ -1,6 +1,6 @@
-// How lanes cross the library's border: the System V x86-64 convention without AVX. A scalar or a vector of up
-// to 16 bytes travels in a register; a wider one in memory, and comes back through the hidden pointer, which is
-// what a structure of an array does in every compiler whatever its flags.
+// How lanes cross the library's border: the System V x86-64 convention without AVX. A scalar or a vector of up to 16
+// bytes travels in a register; a wider one in memory, and is returned through the hidden pointer, as every compiler
+// passes a structure that holds an array.
 #pragma once
 
 #include <type_traits>
@@ -13,8 +13,8 @@ namespace lanemath {
 namespace abi_detail {
 template <class T, int W, int Bytes>
 struct type {
-  // Aligned no further than the stack is, so that a caller that aligns less than the vector's own size still
-  // does no harm; the place of an argument is the same.
+  // Aligned only as the stack is, so that a caller that aligns less than the vector's own size does no harm. The
+  // argument's place is the same either way.
   struct alignas(16) in_memory {
     T v[W];
   };
@@ -37,7 +37,6 @@ struct type<T, 2, 8> {
 template <class T, int W>
 using abi = typename abi_detail::type<T, padded(W), padded(W) * int(sizeof(T))>::is;
 
-// A pair of results by value, first member first.
 template <class T, class U, int W>
 struct abi_pair {
   abi<T, W> first;
@@ -49,7 +48,7 @@ LANEMATH_INLINE lanes<T, padded(W)> from_abi(const abi<T, W>& v) {
   using V = lanes<T, padded(W)>;
   V result;
   if constexpr (sizeof(v) == 8 && W == 2) {
-    // The low half again in the upper one: ordinary values there cost nothing.
+    // Fills the upper half with a copy of the lower one: ordinary values there cost nothing.
     result.g[0] = std::bit_cast<typename V::group>(_mm_set1_pd(std::bit_cast<double>(v)));
   } else {
     __builtin_memcpy(&result, &v, sizeof v);

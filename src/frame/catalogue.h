@@ -1,8 +1,8 @@
-// The one list of operations. The public header, the linker's export list, the OpenCL built-ins and whatever tests,
-// benchmarks and tools walk are made from it.
+// The only list of operations. The public header, the linker's export list and the OpenCL built-ins are made from it;
+// tests, benchmarks and tools work through it.
 //
-// An operation has a name (closing `f` = single precision), a signature and a set of accuracy variants. It is exported
-// at six widths as
+// An operation has a name (a final `f` means single precision), a signature and a set of accuracy variants. It is
+// exported at six widths as
 //   __ocl_lanemath_h8_<operation><width><variant>
 #pragma once
 
@@ -203,7 +203,7 @@ inline constexpr integer_row integer_rows[] = {
      between(0, 4e9)},
 };
 
-// Of conversions the name says the types, the rounding and whether what does not fit is clamped.
+// A conversion's name gives the types, the rounding and whether values that do not fit are clamped.
 struct named_direction {
   std::string_view name;
   direction rounding;
@@ -273,10 +273,10 @@ constexpr int pair_count() {
     for (auto v : variants) n += o.has(v);
   return n;
 }
-// What users have been promised: an operation that is added or taken away changes these numbers.
+// What users have been promised: adding or removing an operation changes these numbers.
 static_assert(catalogue.size() == 248 && pair_count() == 361 && pair_count() * widths.size() == 2166);
 
-// Index of an operation; a name that is not in the catalogue does not compile where this is a constant.
+// The index of an operation. Where a constant is required, a name that is not in the catalogue does not compile.
 constexpr std::size_t index_of(std::string_view name) {
   std::size_t i = 0;
   while (catalogue.at(i).name() != name) ++i;

@@ -1,11 +1,11 @@
-// How the catalogue's rows are written.
+// How the rows of the catalogue are written.
 #pragma once
 
 #include "frame/operation.h"
 
 namespace lanemath::catalogue_detail {
 
-// Signatures by shape, over the floating type T of the row.
+// The shapes of signatures, over the row's floating type T.
 enum class shape : std::uint8_t {
   unary,
   binary,
@@ -37,7 +37,6 @@ constexpr signature of(shape s, bool single) {
   return {};
 }
 
-// Sets of variants.
 using variant_set = std::uint8_t;
 constexpr variant_set set_of(variant v) { return variant_set(1 << int(v)); }
 inline constexpr variant_set D = set_of(variant::standard), N = set_of(variant::native), H = set_of(variant::half),
@@ -49,10 +48,10 @@ constexpr range magnitudes(double low, double high) { return {low, high, true}; 
 constexpr range between(double low, double high) { return {low, high}; }
 constexpr range around_zero(double bound) { return {-bound, bound}; }
 
-// One row for both precisions. What it does not say is as in most operations: the default variant alone, on its own,
-// with one algorithm for all widths, and its own name in OpenCL C.
+// One row for both precisions. Unless it says otherwise an operation has the default variant alone, one algorithm for
+// all widths, and its own name in OpenCL C.
 class row {
-  // With a change of both precisions or one.
+  // The row with a change to both precisions or to one.
   constexpr row with(auto change) const { return with(precision::both, change); }
   constexpr row with(precision p, auto change) const {
     row changed = *this;
@@ -79,11 +78,11 @@ class row {
     }
   }
 
-  // Besides the default.
+  // The variants besides the default.
   constexpr row variants(variant_set of_doubles, variant_set of_floats) const {
     return with([=](operation& o) { o.variant_bits |= o.single() ? of_floats : of_doubles; });
   }
-  // These variants are another one under a further name, except at a width where either is standalone.
+  // These variants are other names of another one, except at a width where either is standalone.
   constexpr row same(precision p, variant_set these, variant_set other) const {
     return with(p, [=](operation& o) {
       for (auto v : lanemath::variants)
@@ -91,7 +90,7 @@ class row {
           if ((set_of(v) & these) && set_of(w) == other) o.shared[std::size_t(v)] = w;
     });
   }
-  // An algorithm of its own at this width, which all these variants have.
+  // These variants share an algorithm of their own at this width.
   constexpr row standalone(precision p, int width, variant_set these = D) const {
     return with(p, [=](operation& o) {
       for (auto v : lanemath::variants)
@@ -102,7 +101,7 @@ class row {
   constexpr row filler(double value) const {
     return with([=](operation& o) { o.filler = value; });
   }
-  // To the last bit. A float beyond the limit may have another result, for there the sign goes into the reduction.
+  // To the last bit. Beyond the limit a float may have another result, because there the reduction depends on the sign.
   constexpr row odd(double limit = std::numeric_limits<double>::infinity()) const {
     return symmetric(parity::odd, limit);
   }

@@ -5,7 +5,7 @@
 
 namespace lanemath {
 
-// 32-bit integers as 64-bit ones of the same signedness.
+// Widens 32-bit integers to 64-bit ones of the same signedness.
 template <class T, int W>
 LANEMATH_INLINE auto widen(const lanes<T, W>& v) {
   static_assert(sizeof(T) == 4 && std::is_integral_v<T>);
@@ -24,7 +24,7 @@ LANEMATH_INLINE auto widen(const lanes<T, W>& v) {
   return result;
 }
 
-// Doubles with these upper halves and lower halves of zero.
+// Doubles with these upper halves; the lower halves are zero.
 template <int W>
 LANEMATH_INLINE lanes<double, W> from_upper(const lanes<std::int32_t, W>& v) {
   lanes<double, W> result;
@@ -41,7 +41,7 @@ LANEMATH_INLINE lanes<double, W> from_upper(const lanes<std::int32_t, W>& v) {
   return result;
 }
 
-// `convert` rounds in the direction in force, `truncate` toward zero. What does not fit a 32-bit integer becomes
+// `convert` rounds in the current direction, `truncate` toward zero. A value that does not fit a 32-bit integer becomes
 // 0x80000000.
 namespace lanes_detail {
 
@@ -73,7 +73,7 @@ LANEMATH_INLINE lanes<U, W> convert(const lanes<T, W>& v) {
   using from = register_of<T>;
   using to = typename lanes<U, W>::group;
   if constexpr (W == 1) {
-    // Packed instructions where there are any: a scalar one keeps the rest of its destination, and so waits for
+    // Packed instructions where they exist: a scalar one keeps the rest of its destination register, and so waits for
     // whatever an earlier call left there.
     if constexpr (std::is_integral_v<T>)
       result.g[0] = convert_group<U, Truncate>(_mm_cvtsi32_si128(v.g[0]))[0];

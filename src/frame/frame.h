@@ -1,24 +1,24 @@
-// What every exported function shares. An operation says its signature, its kernel and, where it has rare lanes, how
-// they are detected and repaired; the frame makes the six widths of it.
+// What every exported function shares. An operation states its signature, its kernel and, where it has rare lanes, how
+// they are detected and repaired; the frame makes the functions of all six widths.
 //
 //   struct expf_standard {
 //     using signature = float(float);
 //     template <class V> static V kernel(V x);                             // all lanes, no branch on a value
-//     template <class V> static auto rare_test(V x);                       // mask of lanes not to be trusted
+//     template <class V> static auto rare_test(V x);                       // mask of the marked lanes
 //     template <class V, class M> static void fix_up(V x, V& y, M& rare);  // optional: settles whole classes
 //     static constexpr auto rare = expf_rare;                              // the scalar routine for one lane
 //   };
 //
-// Where the rare test looks at what the kernel computes on the way, marked_kernel stands in place of kernel and
-// rare_test and returns both, made by `marked`.
+// Where the rare test needs values that the kernel computes on the way, marked_kernel replaces kernel and rare_test; it
+// returns the result and the mask together, joined by `marked`.
 //
-// A kernel-only operation has no rare_test; an always-scalar one says `always_scalar = true` instead. Where one
-// marked lane sends all of them to the scalar routine, `one_marks_all = true` stands in place of fix_up. With two
-// results the signature's result is through_pointer<T, U> or pair_of<T, U>, kernel returns two_results,
-// and fix_up and the rare routine take the second result after the first.
+// A kernel-only operation has no rare_test; an always-scalar one says `always_scalar = true` instead. Where one marked
+// lane sends all lanes to the scalar routine, `one_marks_all = true` replaces fix_up. For two results the signature's
+// result is through_pointer<T, U> or pair_of<T, U>, kernel returns two_results, and fix_up and the rare routine take
+// the second result after the first.
 //
-// A rare routine takes pointers to one lane of each argument, then of each result, which holds the kernel's
-// value on entry. It returns a status.
+// A rare routine takes pointers to one lane of each argument, then of each result, which holds the kernel's value on
+// entry. It returns a status.
 #pragma once
 
 #include <algorithm>
@@ -37,11 +37,11 @@
 
 namespace lanemath {
 
-// What a rare routine met in its lane. Nothing reads it.
+// What a rare routine found in its lane. Nothing reads it.
 enum class status : int { ordinary, domain, singular, overflow, underflow };
 
-// The result of a signature with two of them. What goes through the pointer is one store at the very end, of all
-// four lanes at width 3, to an address of any alignment.
+// The result types of a signature with two results. The one that goes through the pointer is stored at the very end, in
+// one store to an address of any alignment; at width 3 all four lanes are stored.
 template <class T, class U>
 struct through_pointer {};
 template <class T, class U>
@@ -53,13 +53,13 @@ struct two_results {
   Second second;
 };
 
-// What marked_kernel returns: the kernel's result and the mask of lanes not to be trusted.
+// What marked_kernel returns: the kernel's result and the mask of the marked lanes.
 template <class V, class M>
 LANEMATH_INLINE two_results<V, M> marked(const V& result, const M& rare) {
   return {result, rare};
 }
 
-// What an operation of one argument inherits whose rare lanes are those above a magnitude.
+// The base of an operation of one argument whose rare lanes are those above a magnitude.
 template <class Signature, auto Routine, std::int32_t Bound>
 struct rare_above {
   using signature = Signature;
@@ -81,7 +81,7 @@ constexpr lane lane_of() {
 
 }  // namespace frame_detail
 
-// A signature taken apart: the lane types, and how the arguments and the result cross the border.
+// A signature taken apart: the lane types, and how arguments and results cross the border.
 template <class Signature>
 struct border;
 
@@ -137,14 +137,14 @@ struct border<pair_of<T, U>(A...)> {
   }
 };
 
-// f over pieces of C lanes each, in straight line; the results put together again.
+// Applies f to pieces of C lanes each, as straight-line code, and joins the results.
 template <int C, int W, class F, class... X>
 LANEMATH_INLINE auto by_pieces(F f, const X&... x) {
   if constexpr (C >= W) {
     return f(x...);
   } else {
     const auto piece_at = [&](int first) LANEMATH_LAMBDA { return f(part<C>(x, first)...); };
-    // Not a loop: a compiler leaves one a loop where the pieces are large.
+    // Not a loop: compilers do not unroll one whose pieces are large.
     const auto for_each_piece = [&]<int... I>(std::integer_sequence<int, I...>, auto put) LANEMATH_LAMBDA {
       (put(I * C, piece_at(I * C)), ...);
     };
@@ -169,7 +169,7 @@ LANEMATH_INLINE auto by_pieces(F f, const X&... x) {
 
 namespace frame_detail {
 
-// The rare routine on every marked lane, in ascending order.
+// Runs the rare routine on every marked lane, in ascending order.
 template <auto Routine, class... Pointers>
 [[gnu::noinline, gnu::cold]] void rare_loop(unsigned mask, Pointers... lanes_of) {
   for (int i = 0; i < 32; ++i)
@@ -181,9 +181,9 @@ LANEMATH_INLINE T* scratch(lanes<T, W>& v) {
   return reinterpret_cast<T*>(&v);
 }
 
-// Puts the scalar routine's results into the marked lanes. It works on copies: only they have an address, so that the
-// straight path keeps its values in registers. Of two results each is copied by itself, since a compiler copies a
-// structure of many groups by a call of memcpy.
+// Puts the scalar routine's results into the marked lanes. It works on copies, so that only they have an address and
+// the straight path keeps its values in registers. Two results are copied separately, because compilers copy a
+// structure of many groups by calling memcpy.
 template <class Op, class Y, class... X>
 LANEMATH_INLINE void mend(unsigned mask, Y& y, X... x) {
   if constexpr (requires { y.second; }) {
@@ -208,7 +208,6 @@ constexpr int groups_at_once() {
     return 4;
 }
 
-// Repairs the marked lanes of the kernel's result.
 template <class Op, class Y, class M, class... X>
 LANEMATH_INLINE void settle(M rare, Y& y, const X&... x) {
   if (any(rare)) [[unlikely]] {
@@ -232,7 +231,7 @@ template <class Op>
 struct kernel_of {
   LANEMATH_INLINE auto operator()(const auto&... v) const { return Op::kernel(v...); }
 };
-// The result's type is written out: with a deduced one Clang 14 returns a copy.
+// The result type is spelled out: with a deduced one Clang 14 returns a copy.
 template <class Op, int W, int Piece, class... X>
 LANEMATH_INLINE auto evaluate_tested(const X&... x) -> decltype(by_pieces<Piece, W>(kernel_of<Op>(), x...)) {
   decltype(by_pieces<Piece, W>(kernel_of<Op>(), x...)) y = by_pieces<Piece, W>(kernel_of<Op>(), x...);
@@ -257,13 +256,14 @@ LANEMATH_INLINE auto evaluate(const X&... x) {
 template <std::size_t Index, class T>
 LANEMATH_INLINE lanes<T, 4> with_filler(lanes<T, 4> v) {
   constexpr int per_group = 16 / int(sizeof(T));
-  // A constant of the lane's own type: under -frounding-math every call would convert it.
+  // A constant of the lane's own type: under -frounding-math every call would otherwise convert it.
   constexpr T filler = static_cast<T>(catalogue[Index].filler);
   v.g[3 / per_group][3 % per_group] = filler;
   return v;
 }
 
-// One call of operation number `Index` of the catalogue at width W. What a function does not take is `nothing`.
+// One call of operation number `Index` of the catalogue at width W. Arguments that a function does not have are
+// `nothing`.
 struct nothing {};
 template <class Op, int W, std::size_t Index, class A, class B, class C>
 LANEMATH_INLINE auto enter(const A& a, const B& b, const C& c) {
@@ -283,7 +283,7 @@ LANEMATH_INLINE auto enter(const A& a, const B& b, const C& c) {
     return crossing::template call<W>(compute, a, b, c);
 }
 
-// Whether the catalogue's row says the same as the line that exports a form.
+// Checks that the line that exports a form agrees with the catalogue's row.
 template <std::size_t Index, int W, variant V, bool Standalone>
 constexpr void check_form() {
   static_assert(catalogue[Index].has(V), "no variant that the catalogue gives");
@@ -294,7 +294,7 @@ template <std::size_t Index, int W, variant One, variant Other>
 inline constexpr bool are_same = catalogue[Index].has(One) && catalogue[Index].has(Other) &&
                                  catalogue[Index].served_by(W, One) == catalogue[Index].served_by(W, Other);
 
-// The type of argument number I of a function. An empty structure takes no place among a call's arguments.
+// The type of argument number I of a function. An empty structure takes up no place among a call's arguments.
 template <std::size_t I, class F>
 struct parameter {
   using type = nothing;
@@ -317,9 +317,9 @@ using result_t = typename border<typename Op::signature>::template result<W>;
 }  // namespace lanemath
 
 // LANEMATH_EXPORT(operation, body) exports `body` as the default variant of an operation at all widths, and
-// LANEMATH_SAME(operation, variant, other) gives its functions to another variant as well. LANEMATH_EXPORT_BUT leaves
-// out one width, at which LANEMATH_EXPORT_AT exports a standalone body. Another variant than the default is told by a
-// last argument: LANEMATH_EXPORT(expf, expf_native, _native). The catalogue's row must say the same.
+// LANEMATH_SAME(operation, variant, other) exports the same functions as another variant too. LANEMATH_EXPORT_BUT omits
+// one width, at which LANEMATH_EXPORT_AT exports a standalone body. A last argument names a variant other than the
+// default: LANEMATH_EXPORT(expf, expf_native, _native). The catalogue's row must agree.
 #define LANEMATH_SYMBOL(name) __ocl_lanemath_h8_##name
 
 #define LANEMATH_DEFINE(width, standalone, operation, body, ...)                                            \

@@ -1,4 +1,4 @@
-// What the processor has an instruction or two for.
+// Functions that the processor has one or two instructions for.
 #pragma once
 
 #include "frame/lanes.h"
@@ -6,8 +6,8 @@
 
 namespace lanemath {
 
-// An instruction on every group, or in its scalar form on one lane: that lane's register holds nothing else, so that no
-// other lane is computed on.
+// Applies an instruction to every group, or its scalar form to a single lane, whose register holds no other lane that
+// could be computed on.
 namespace lanes_detail {
 
 template <class T>
@@ -31,8 +31,8 @@ LANEMATH_INLINE lanes<T, W> instruction(Packed on_group, Scalar on_lane, const l
 
 }  // namespace lanes_detail
 
-// x + y and x * y where two different NaNs may meet: x is the one that survives. Of the plain operators compilers swap
-// the operands as they please.
+// x + y and x * y where two different NaNs may meet: the one in x survives. Compilers are free to swap the operands of
+// the plain operators.
 #define LANEMATH_IN_ORDER(name, mnemonic)                                        \
   template <class T, int W>                                                      \
   LANEMATH_INLINE lanes<T, W> name(const lanes<T, W>& x, const lanes<T, W>& y) { \
@@ -54,7 +54,7 @@ LANEMATH_IN_ORDER(ordered_sum, "add")
 LANEMATH_IN_ORDER(ordered_product, "mul")
 #undef LANEMATH_IN_ORDER
 
-// MINPS and MAXPS: x < y ? x : y and x > y ? x : y, so that y is the answer to a tie and to a NaN in either.
+// MINPS and MAXPS: x < y ? x : y and x > y ? x : y. A tie, or a NaN in either argument, gives y.
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> minimum(const lanes<T, W>& x, const std::type_identity_t<lanes<T, W>>& y) {
   if constexpr (sizeof(T) == 4)
@@ -79,7 +79,7 @@ LANEMATH_INLINE lanes<T, W> square_root(const lanes<T, W>& x) {
         _mm_sqrt_pd, [](__m128d v) LANEMATH_LAMBDA { return _mm_sqrt_sd(v, v); }, x);
 }
 
-// Right to about 11.5 bits; the bits differ between processors.
+// Accurate to about 11.5 bits; the exact bits differ between processors.
 template <int W>
 LANEMATH_INLINE lanes<float, W> reciprocal_estimate(const lanes<float, W>& x) {
   return lanes_detail::instruction(_mm_rcp_ps, _mm_rcp_ss, x);
@@ -89,7 +89,6 @@ LANEMATH_INLINE lanes<float, W> reciprocal_root_estimate(const lanes<float, W>& 
   return lanes_detail::instruction(_mm_rsqrt_ps, _mm_rsqrt_ss, x);
 }
 
-// Rounded to an integral value by the rounding instruction.
 template <direction D, class T, int W>
 LANEMATH_INLINE lanes<T, W> round_to(const lanes<T, W>& x) {
   if constexpr (sizeof(T) == 4)
@@ -100,7 +99,7 @@ LANEMATH_INLINE lanes<T, W> round_to(const lanes<T, W>& x) {
                                      [](__m128d v) LANEMATH_LAMBDA { return _mm_round_sd(v, v, int(D)); }, x);
 }
 
-// The 64-bit product of the lower 32 bits of each lane.
+// The 64-bit product of the lower 32 bits of the lanes.
 template <int W>
 LANEMATH_INLINE lanes<std::uint64_t, W> product_of_lower(const lanes<std::uint64_t, W>& a,
                                                          const lanes<std::uint64_t, W>& b) {
@@ -114,7 +113,7 @@ LANEMATH_INLINE lanes<std::uint64_t, W> product_of_lower(const lanes<std::uint64
       a, b);
 }
 
-// Each 64-bit lane shifted left by its own count, from 0 to 63. A lane with another count is unspecified.
+// Shifts each 64-bit lane left by its own count. Counts other than 0 to 63 give an unspecified result.
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> shifted_left(const lanes<T, W>& v, const lanes<T, W>& count) {
   static_assert(sizeof(T) == 8);
@@ -133,7 +132,7 @@ LANEMATH_INLINE lanes<T, W> shifted_left(const lanes<T, W>& v, const lanes<T, W>
       as<U>(v), as<U>(count)));
 }
 
-// Lanes in which either is a NaN.
+// Lanes in which either argument is a NaN.
 template <class T, int W>
 LANEMATH_INLINE auto unordered(const lanes<T, W>& x, const lanes<T, W>& y) {
   if constexpr (sizeof(T) == 4)
@@ -146,7 +145,7 @@ LANEMATH_INLINE auto unordered(const lanes<T, W>& x, const lanes<T, W>& y) {
 // NaNs are above every finite bound.
 template <class T, int W>
 LANEMATH_INLINE auto magnitude_above(const lanes<T, W>& x, std::int32_t bound) {
-  // Opaque: a compiler that knows the sign bit to be clear makes two instructions of the comparison.
+  // Opaque: a compiler that knows that the sign bit is clear turns the comparison into two instructions.
   return opaque(top_word(x) & 0x7FFFFFFF) > bound;
 }
 

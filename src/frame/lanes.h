@@ -1,8 +1,8 @@
 // lanes<T, W>: W lanes of T, carried as 128-bit groups; lanes<T, 1> is one scalar and compiles to scalar
 // instructions. The operators apply to every group in turn, so that one kernel text serves all widths.
-// Lanes of 32 bits at width 2 fill the low half of their group; what its upper half holds is never used.
+// Lanes of 32 bits at width 2 fill the lower half of their group; the contents of its upper half are never used.
 //
-// Integer lanes wrap. A comparison gives a mask: integer lanes of the same size, all ones or zero.
+// Integer lanes wrap. A comparison gives a mask: integer lanes of the same size, all ones or all zeros.
 #pragma once
 
 #include <bit>
@@ -52,7 +52,7 @@ struct lanes {
   }
 };
 
-// Applies f to corresponding groups; the lanes of the result are U.
+// Applies f to corresponding groups; the result has lanes of type U.
 template <class U, class F, class T, int W, class... Rest>
 LANEMATH_INLINE lanes<U, W> map(F f, const lanes<T, W>& first, const Rest&... rest) {
   lanes<U, W> result;
@@ -80,7 +80,7 @@ LANEMATH_INLINE auto from_bits(const lanes<T, W>& v) {
 // A constant by its bit pattern: 0x3F000000_f32 is 0.5f.
 constexpr float operator""_f32(unsigned long long v) { return std::bit_cast<float>(std::uint32_t(v)); }
 constexpr double operator""_f64(unsigned long long v) { return std::bit_cast<double>(std::uint64_t(v)); }
-// The same for either precision; under -frounding-math T(0.5) inside a kernel would be converted at run time.
+// The same for either precision: under -frounding-math T(0.5) inside a kernel would be converted at run time.
 template <class T>
 inline constexpr T zero_v = 0;
 template <class T>
@@ -90,7 +90,7 @@ inline constexpr T one_v = 1;
 
 namespace lanes_detail {
 
-// Integer arithmetic on unsigned lanes wraps at every width, the scalar one included.
+// Integer arithmetic on unsigned lanes, so that it wraps at every width, the scalar one included.
 template <class F, class T, int W>
 LANEMATH_INLINE lanes<T, W> wrapping(F f, const lanes<T, W>& a, const lanes<T, W>& b) {
   if constexpr (std::is_integral_v<T>) {
@@ -101,7 +101,7 @@ LANEMATH_INLINE lanes<T, W> wrapping(F f, const lanes<T, W>& a, const lanes<T, W
   }
 }
 
-// Scalar floating comparisons use the instructions that make a mask: from a < b compilers make a branch.
+// Scalar floating-point comparisons use the instructions that produce a mask: compilers turn a < b into a branch.
 template <class T, class F, class Single, class Double, int W>
 LANEMATH_INLINE auto compare(F f, Single single, Double wide, const lanes<T, W>& a, const lanes<T, W>& b) {
   using I = int_of_size<sizeof(T)>;
@@ -205,8 +205,8 @@ LANEMATH_INLINE lanes<std::int32_t, W> lower(const lanes<T, W>& v) {
   return lanes_detail::halves<0>(v);
 }
 
-// The word with the sign and the exponent, or an integer's sign: the whole of a 32-bit lane, the upper half of a 64-bit
-// one.
+// The word with the sign and the exponent, or with an integer's sign: the whole of a 32-bit lane, the upper half of a
+// 64-bit one.
 template <class T, int W>
 LANEMATH_INLINE lanes<std::int32_t, W> top_word(const lanes<T, W>& x) {
   if constexpr (sizeof(T) == 4)
@@ -214,13 +214,13 @@ LANEMATH_INLINE lanes<std::int32_t, W> top_word(const lanes<T, W>& x) {
   else
     return upper(x);
 }
-// A mask over lanes of any size as one over 32-bit lanes.
+// Turns a mask over lanes of any size into one over 32-bit lanes.
 template <class T, int W>
 LANEMATH_INLINE lanes<std::int32_t, W> narrow_mask(const lanes<T, W>& mask) {
   return top_word(mask);
 }
 
-// Lanes first to first + C - 1, in whole groups, taken out and put back.
+// Takes out, or puts back, C lanes from `first` on, in whole groups.
 template <int C, class T, int W>
 LANEMATH_INLINE lanes<T, C> part(const lanes<T, W>& v, int first) {
   lanes<T, C> result;
@@ -250,7 +250,7 @@ LANEMATH_INLINE unsigned mask_bits(const lanes<T, W>& mask) {
   return result & ((1u << W) - 1);
 }
 
-// Whether any lane of the mask is set: one test whatever the width.
+// Whether any lane of the mask is set: one test at every width.
 template <class T, int W>
 LANEMATH_INLINE bool any(const lanes<T, W>& mask) {
   if constexpr (W == 1) {
@@ -264,7 +264,7 @@ LANEMATH_INLINE bool any(const lanes<T, W>& mask) {
   }
 }
 
-// The sign bit alone, as a pattern; the value without it; a pattern joined to a value's.
+// The sign bit alone, as a pattern; the value without it; a value with the bits of a pattern set.
 template <class T>
 inline constexpr auto sign_mask = std::numeric_limits<int_of_size<sizeof(T)>>::min();
 template <class T, int W>
@@ -279,14 +279,14 @@ template <class T, int W>
 LANEMATH_INLINE lanes<T, W> with_bits(const lanes<T, W>& x, const lanes<int_of_size<sizeof(T)>, W>& more) {
   return from_bits(bits(x) | more);
 }
-// The value where the mask holds, else +0.
+// The value where the mask is set, else +0.
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> where(const lanes<int_of_size<sizeof(T)>, W>& mask, const lanes<T, W>& x) {
   return from_bits(bits(x) & mask);
 }
 
-// A value that the optimiser cannot see through, for a step that exists for its effect (the quieting of a NaN
-// by x * 1.0, an overflow that depends on the direction in force) and would otherwise be folded away.
+// A value that the optimiser cannot see through, for steps that exist for their effect and would otherwise be folded
+// away: the quieting of a NaN by x * 1.0, an overflow that depends on the current rounding direction.
 LANEMATH_INLINE float opaque(float v) {
   asm("" : "+x"(v));
   return v;

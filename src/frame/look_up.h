@@ -1,4 +1,4 @@
-// Tables, and their entries at the lanes' indices.
+// Tables, and look-up of the entries at the lanes' indices.
 #pragma once
 
 #include <array>
@@ -7,7 +7,7 @@
 
 namespace lanemath {
 
-// A table entry of a high and a low part, side by side so that one load fetches both.
+// A high and a low part, side by side so that one load fetches both from a table.
 template <class T>
 struct two_part {
   T hi, lo;
@@ -19,7 +19,7 @@ struct looked_up {
 
 namespace lanes_detail {
 
-// The four indices of a group of 32-bit ones, two at a time.
+// The indices of a group of four 32-bit lanes, two at a time.
 struct index_pair {
   std::uint32_t first, second;
   LANEMATH_INLINE explicit index_pair(long long both)
@@ -33,7 +33,7 @@ LANEMATH_INLINE index_pair indices(const lanes<std::int32_t, W>& index, int pair
 
 }  // namespace lanes_detail
 
-// The entries at the lanes' indices, which must all be inside the table. One load a lane.
+// The entries at the lanes' indices, which must all be inside the table. One load per lane.
 template <class T, std::size_t Size, int W>
 LANEMATH_INLINE looked_up<lanes<T, W>> look_up(const two_part<T> (&table)[Size], const lanes<std::int32_t, W>& index) {
   looked_up<lanes<T, W>> result;
@@ -86,7 +86,7 @@ LANEMATH_INLINE lanes<T, W> look_up(const T (&table)[Size], const lanes<std::int
   return result;
 }
 
-// An entry of three values in the room of four, so that one load fetches them all.
+// A table entry of three values in the space of four, so that one load fetches them all.
 template <class T>
 struct alignas(4 * sizeof(T)) triple {
   T first, second, third;
@@ -151,8 +151,8 @@ LANEMATH_INLINE void turn_columns(std::array<__m128, Count>& column, const T* a,
 
 }  // namespace lanes_detail
 
-// The columns of the rows at the lanes' indices, which must all be inside the table. The number of
-// 32-bit columns is even.
+// The columns of the rows at the lanes' indices, which must all be inside the table. The number of 32-bit columns is
+// even.
 template <class T, std::size_t Size, std::size_t Columns, int W>
 LANEMATH_INLINE std::array<lanes<T, W>, Columns> look_up_row(const T (&table)[Size][Columns],
                                                              const lanes<std::int32_t, W>& index) {

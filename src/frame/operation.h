@@ -1,4 +1,4 @@
-// What an operation of the catalogue is: its signature, its accuracy variants, and what is known of its results.
+// What the catalogue knows of an operation: its signature, its accuracy variants, and properties of its results.
 #pragma once
 
 #include <array>
@@ -37,7 +37,7 @@ constexpr auto value_of() {
 template <lane L>
 using type_of = decltype(operation_detail::value_of<L>());
 
-// The number of lanes that a vector takes the room of.
+// The number of lanes that a vector takes up.
 constexpr int padded(int width) { return width == 3 ? 4 : width; }
 
 // How a second result reaches the caller.
@@ -62,7 +62,7 @@ inline constexpr std::array variants{variant::standard, variant::native, variant
 constexpr std::string_view suffix(variant v) {
   return std::array<std::string_view, 4>{"", "_native", "_half", "_rm"}[std::size_t(v)];
 }
-// The variant with this suffix; another text does not compile where this is a constant.
+// The variant with this suffix. Where a constant is required, any other text does not compile.
 constexpr variant variant_of(std::string_view text) {
   std::size_t i = 0;
   while (suffix(variants.at(i)) != text) ++i;
@@ -83,16 +83,16 @@ enum class family : std::uint8_t {
   integer_division
 };
 
-// How a value is rounded, with the control values of the rounding instruction.
+// How a value is rounded; the numbers are those that control the rounding instruction.
 enum class direction : std::uint8_t { nearest = 0, down = 1, up = 2, zero = 3, current = 4, current_quietly = 12 };
 
 // f(-x) is -f(x), or f(x), to the last bit.
 enum class parity : std::uint8_t { none, odd, even };
 
-// Arguments that programs pass every day, away from the rare lanes.
+// Arguments that programs commonly pass, away from the rare lanes.
 struct range {
   double low, high;
-  bool logarithmic = false;  // every binade as often as another
+  bool logarithmic = false;  // every binade equally often
 };
 
 struct operation {
@@ -100,43 +100,43 @@ struct operation {
   signature sig{};
   family group{};
   std::string_view brief{};
-  double filler = 0.75;  // of every argument, converted to the argument's type
+  double filler = 0.75;  // for every argument, converted to its type
   std::array<range, 3> typical{};
 
   std::uint8_t variant_bits = 1;                    // bit i: variants[i] exists
-  std::uint8_t untested_bits = 0;                   // bit i: variants[i] serves no argument beyond its range
+  std::uint8_t untested_bits = 0;                   // bit i: variants[i] is unguarded
   std::array<variant, 4> shared = variants;         // variants[i] is this one under another name
   std::array<std::uint8_t, 4> standalone_widths{};  // bit k of [i]: variants[i] is standalone at widths[k]
 
   parity symmetry{};
   double symmetric_to = std::numeric_limits<double>::infinity();
 
-  // A conversion's.
+  // Of conversions.
   direction rounding{};
   bool saturates = false;
 
-  // In OpenCL C, and there after `native_` and `half_`; empty where it has none.
+  // The name in OpenCL C, and the one that follows `native_` and `half_` there; empty where there is none.
   std::string_view opencl_name{}, opencl_stem{};
 
   constexpr std::string_view name() const { return spelling; }
   constexpr bool has(variant v) const { return variant_bits >> int(v) & 1; }
 
-  // The name alone does not tell: erf and modf are double precision.
+  // The name alone is not enough: erf and modf are double precision.
   constexpr bool single() const { return sig.result == lane::f32 || sig.arguments[0] == lane::f32; }
-  // Without the f of single precision, where both precisions are one operation.
+  // The name without the f of single precision, the same for both precisions of an operation.
   constexpr std::string_view base_name() const {
     const bool closes = single() && group != family::conversion;
     return name().substr(0, name().size() - closes);
   }
 
-  // Whether this form has an algorithm of its own: there a lane may differ from the same lane at another width. All
-  // variants that are standalone at a width are one.
+  // Whether this form has an algorithm of its own, so that a lane may differ from the same lane at another width. All
+  // variants that are standalone at a width share one algorithm.
   constexpr bool is_standalone(int width, variant v) const {
     for (std::size_t k = 0; k < widths.size(); ++k)
       if (widths[k] == width) return standalone_widths[std::size_t(v)] >> k & 1;
     return false;
   }
-  // The variant whose function this form is.
+  // The variant whose function serves this form.
   constexpr variant served_by(int width, variant v) const {
     if (is_standalone(width, v)) {
       for (auto first : variants)
@@ -145,7 +145,7 @@ struct operation {
     const variant other = shared[std::size_t(v)];
     return is_standalone(width, other) ? v : other;
   }
-  // Whether the caller must keep to the variant's range: it tests nothing, and promises nothing outside.
+  // Whether callers must keep to the variant's range: it has no rare test, and its results outside are unspecified.
   constexpr bool is_unguarded(variant v) const { return untested_bits >> int(v) & 1; }
 };
 

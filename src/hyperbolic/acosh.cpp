@@ -1,8 +1,8 @@
-// acosh x, both precisions, by the method in inverse.h: v = d + sqrt(d (x + 1)) with d = x - 1. The single-precision
-// _native has a polish of one term and a shorter logarithm, the double-precision one a shorter logarithm. The forms
-// acoshf4 and acosh2, those of _native too, are by the method in standalone.h.
+// acosh x, both precisions, by the method in inverse_hyperbolic.h: v = d + sqrt(d (x + 1)) with d = x - 1. The native
+// form has a shorter logarithm and, in single precision, a polish of one term. acoshf at width 4 and acosh at width 2,
+// default and native, use the method in inverse_hyperbolic_standalone.h.
 //
-// v has no second part: that shows where the logarithm is least exact, just below 2^-8.
+// v has no second part, which shows where the logarithm is least accurate, just below 2^-8.
 #include "hyperbolic/inverse_hyperbolic.h"
 #include "hyperbolic/inverse_hyperbolic_standalone.h"
 
@@ -45,7 +45,7 @@ using acoshf_native = acosh_form<float, acoshf_rare, native_polish_single, nativ
 using acosh_standard = acosh_form<double, acosh_rare, acosh_polish, logarithm<double>>;
 using acosh_native = acosh_form<double, acosh_rare, acosh_polish, native_logarithm<double>>;
 
-// Moves patterns, so that a NaN comes back as it is.
+// Copies patterns, so that a NaN is returned unchanged.
 LANEMATH_RARE acoshf_lane(const float* px, float* py) {
   std::int32_t x;
   __builtin_memcpy(&x, px, sizeof x);

@@ -1,5 +1,5 @@
-// What the hyperbolic sines and cosines of both precisions share. |x| = A + r with A a multiple of a part of ln 2, so
-// that e^A / 2 and e^-A / 2 come from powers of two; then the addition theorems, with short polynomials in r:
+// What the hyperbolic sines and cosines of both precisions share. |x| = A + r, where A is a multiple of a fraction of
+// ln 2, so that e^A / 2 and e^-A / 2 come from powers of two; then the addition theorems, with short polynomials in r:
 //   sinh(A + r) = sinh A + (cosh A sinh r + sinh A (cosh r - 1)), and the same with sinh A and cosh A exchanged.
 #pragma once
 
@@ -11,7 +11,7 @@ namespace lanemath {
 template <class T>
 struct ln2_rows {
   T K;       // 1 / ln 2
-  T S;       // shifter: the low bits of its sum with n are n in parts
+  T S;       // shifter: rounds n and leaves it in the low bits of the sum
   T L1, L2;  // ln 2, high and low part
 };
 
@@ -32,20 +32,20 @@ struct sinh_and_cosh {
   V sinh, cosh;
 };
 
-// `same` is what is asked for at A, `other` the other function there; sinh r and cosh r - 1.
+// `same` is the wanted function at A, `other` the other one there; then sinh r and cosh r - 1.
 template <class V>
 LANEMATH_INLINE V added(V same, V other, V sinh_r, V cosh_r_less_1) {
   return same + (other * sinh_r + cosh_r_less_1 * same);
 }
 
-// The rare routines. Only lanes come here whose e^-|x| is far below the last place of e^|x|.
+// The rare routines. They get only lanes whose e^-|x| is far below the last place of e^|x|.
 
 inline double half_exp(double a) {
   const rare_power p = exp_power(a);
   return scaled(p.w + p.hi, p.k - 1);
 }
 
-// From where on e^a / 2 is beyond the range, with room to spare in single precision.
+// From here on e^a / 2 overflows; in single precision there is room to spare.
 template <class T>
 inline constexpr double half_exp_overflow = sizeof(T) == 4 ? 89.4159927368164 : 710.475860073944;
 

@@ -1,6 +1,6 @@
-// asinh x, both precisions, by the method in inverse.h: v = |x| + T with T = sqrt(1 + x^2) - 1, from x^2 in two parts.
-// Near 0 the root is a series instead. _native has a shorter logarithm. The forms asinhf4 and asinh2, those of _native
-// too, are by the method in standalone.h.
+// asinh x, both precisions, by the method in inverse_hyperbolic.h: v = |x| + T with T = sqrt(1 + x^2) - 1, from x^2 in
+// two parts. Near 0 a series replaces the root. The native form has a shorter logarithm. asinhf at width 4 and asinh at
+// width 2, default and native, use the method in inverse_hyperbolic_standalone.h.
 #include "hyperbolic/inverse_hyperbolic.h"
 #include "hyperbolic/inverse_hyperbolic_standalone.h"
 
@@ -63,7 +63,7 @@ using asinhf_native = asinh_form<float, asinhf_rare, 0x7F7FFFFF, native_logarith
 using asinh_standard = asinh_form<double, asinh_rare, 0x7FEFFFFF, logarithm<double>>;
 using asinh_native = asinh_form<double, asinh_rare, 0x7FEFFFFF, native_logarithm<double>>;
 
-// Moves patterns, so that a NaN comes back as it is; so do numbers below 2^-28.
+// Copies patterns, so that NaNs and numbers below 2^-28 are returned unchanged.
 LANEMATH_RARE asinhf_lane(const float* px, float* py) {
   std::uint32_t x;
   __builtin_memcpy(&x, px, sizeof x);

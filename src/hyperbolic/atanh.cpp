@@ -1,5 +1,5 @@
-// atanh x, both precisions, by the method in inverse.h: half of the logarithm of 1 + v, v = 2 |x| / (1 - |x|).
-// _native has a shorter logarithm.
+// atanh x, both precisions, by the method in inverse_hyperbolic.h: half of the logarithm of 1 + v with v = 2 |x| / (1 -
+// |x|). The native form has a shorter logarithm.
 #include "hyperbolic/inverse_hyperbolic.h"
 
 namespace lanemath {

@@ -1,9 +1,9 @@
-// What the inverse hyperbolic functions of both precisions share: each is the logarithm of 1 + v, v a function of x
-// that is small where the result is. v, and the sum, are carried in two parts; roots and quotients start from the
-// processor's estimates, cut short so that products with them lose little, and are polished by a polynomial in what
-// they miss.
+// What the inverse hyperbolic functions of both precisions share: each is the logarithm of 1 + v, where v is a function
+// of x that is small where the result is. v and the sum are carried in two parts; roots and quotients start from the
+// processor's estimates, truncated so that products with them lose little, and are polished by a polynomial in their
+// residual.
 //
-// From 2^30 on acosh and asinh are the logarithm of x 2^-30 and 31 ln 2: 2 x, that is.
+// From 2^30 on acosh and asinh are ln(2 x), computed as ln(x 2^-30) + 31 ln 2.
 #pragma once
 
 #include "log/logarithm_double.h"
@@ -16,14 +16,14 @@ namespace lanemath {
 template <class T>
 struct inverse_rows {
   T BIG, SCALE;
-  // How many low bits are cut off:
-  int RADICAND;  // of what a root is taken of,
+  // How many low bits are truncated:
+  int RADICAND;  // of the radicand,
   int ROOT;      // of the root's estimate,
   int X;         // of asinh's argument,
   int QUOTIENT;  // of atanh's numerator and denominator,
   int INVERSE;   // and of the denominator's inverse
-  T SMALL;       // up to here asinh's root is a series
-  T TINY;        // below, atanh is x
+  T SMALL;       // up to here a series replaces asinh's root
+  T TINY;        // below it atanh is x
 };
 inline constexpr inverse_rows<float> inverse_single{
     .BIG = 0x1p30f,
@@ -61,7 +61,7 @@ inline constexpr float native_polish_single[] = {0.5f};
 inline constexpr double acosh_polish[] = {0.2734375, 0.3125, 0.375, 0.5};
 inline constexpr double asinh_polish[] = {0.24609375, 0.2734375, 0.3125, 0.375, 0.5};
 
-// The square root of hi + lo, hi cut short: nearly high + low, off by the factor 1 + correction.
+// The square root of hi + lo, where hi is truncated, is nearly (high + low) (1 + correction).
 template <class V>
 struct rough_root {
   V high, low, correction;
@@ -75,7 +75,7 @@ struct rough_root {
   }
 };
 
-// 1 + v = w + err. In double precision w is cut short unless v is tiny, so that its product with a small integer is
+// 1 + v = w + err. In double precision w is truncated unless v is tiny, so that its product with a small integer is
 // exact.
 template <class V>
 struct sum_with_one {
@@ -90,7 +90,7 @@ struct sum_with_one {
   LANEMATH_INLINE sum_with_one(V v, V low) : sum_with_one(v) { err = err + low; }
 };
 
-// The logarithm of m + err. `scaled` marks lanes to which 31 ln 2 is added.
+// The logarithm of m + err. `scaled` marks the lanes to which 31 ln 2 is added.
 template <auto& Polynomial>
 struct single_logarithm {
   template <class V, class... M>
@@ -108,7 +108,7 @@ struct double_logarithm {
   LANEMATH_INLINE static V of(V m, V err, M... scaled) {
     constexpr auto& c = log_table;
     const auto near = integer_near_reciprocal(scaled_mantissa(m));
-    // n times the power of two that brings m to [2^-10, 2^-9)
+    // n times the power of two that scales m to [2^-10, 2^-9)
     const V n = from_bits(0x7F40000000000000 - (bits(m) & 0x7FF0000000000000)) * convert<double>(near);
     const V z0 = m * n - 1.0;
     const V e = err * n;
@@ -132,7 +132,7 @@ template <class T>
 using native_logarithm =
     std::conditional_t<sizeof(T) == 4, single_logarithm<native_ln_polynomial>, double_logarithm<true>>;
 
-// The logarithm of 1 + v + low; of 2 x where x is big.
+// The logarithm of sum, or of 2 x where x is big.
 template <class Log, class V>
 LANEMATH_INLINE V log_of_sum_or_double(const sum_with_one<V>& sum, V x) {
   constexpr auto& c = inverse_rows_of<typename V::value_type>();

@@ -1,6 +1,6 @@
-// The forms that stand alone, acosh and asinh at one group of lanes: the logarithm of v = |x| + sqrt(x^2 -+ 1) by a
-// true root and a true division. Mantissa z of v between sqrt(1/2) and sqrt(2), f = z - 1, s = f / (2 + f), ln(1 + f) =
-// f - s (f - R(s^2)). A lane out of range sends all of them to a scalar routine.
+// The standalone forms, acosh and asinh at one group of lanes: the logarithm of v = |x| + sqrt(x^2 -+ 1), by a true
+// root and a true division. With z the mantissa of v from sqrt(1/2) to sqrt(2), f = z - 1 and s = f / (2 + f), the
+// logarithm is ln(1 + f) = f - s (f - R(s^2)). One lane out of range sends all lanes to a scalar routine.
 #pragma once
 
 #include <cmath>
@@ -19,7 +19,7 @@ struct quotient_log_rows<float> {
   static constexpr std::int32_t SPLIT = 0x004AFB10;  // carries into the exponent from sqrt(2) on
   static constexpr float A[] = {0x3E98F06F_f32, 0x3F2AAABD_f32}, B[] = {0x3ECCAF68_f32};
   static constexpr float LN2H = 0x3F310000_f32, LN2L = 0x3AE42FF0_f32;
-  static constexpr float BIG = 0x5F0AC723_f32, LN2 = 0x3F317218_f32;  // from there on v is 2 x
+  static constexpr float BIG = 0x5F0AC723_f32, LN2 = 0x3F317218_f32;  // from here on v is 2 x
 };
 template <>
 struct quotient_log_rows<double> {
@@ -57,7 +57,7 @@ struct quotient_log {
   }
 };
 
-// The logarithm of a + root, root nearly a if a is big.
+// The logarithm of a + root; for a big, root is nearly a.
 template <class V>
 LANEMATH_INLINE V log_of_sum(V a, V root) {
   using rows = quotient_log_rows<typename V::value_type>;
@@ -77,7 +77,7 @@ LANEMATH_INLINE V asinh_in_range(V x) {
   return with_bits(log_of_sum(a, square_root(a * a + one)), sign_of(x));
 }
 
-// In range are the numbers whose leading word is above `Low`, infinities and NaNs not among them.
+// In range are numbers, neither infinite nor NaN, whose leading word is above `Low`.
 template <class T, auto Lane, std::int32_t Low>
 struct standalone_guards {
   using signature = T(T);
@@ -102,9 +102,7 @@ struct standalone_asinh : standalone_guards<T, Lane, Low> {
   static auto rare_test(auto x) { return standalone_asinh::out_of_range(top_word(magnitude(x))); }
 };
 
-// The scalar routines.
-
-// ln v of a positive normal number, to 5e-13, near 1 to 6e-11.
+// ln v of a positive normal number. The absolute error is below 5e-13, next to 1 below 6e-11.
 inline double log_by_cubics(double v) {
   const unpacked<double> parts(v);
   const double u = parts.mantissa(), e = parts.exponent;
@@ -112,13 +110,13 @@ inline double log_by_cubics(double v) {
   return u * u * (c3 * u + c2) + (c1 * u + c0) + e * quotient_log_rows<double>::LN2;
 }
 
-// ln(1 + v), v >= 0, exact to the last places wherever v is small.
+// ln(1 + v) for v >= 0, accurate to the last places wherever v is small.
 inline double log_of_one_plus(double v) {
   using scalar = lanes<double, 1>;
   const one_plus<scalar> sum((scalar(v)));
   const scalar w = sum.w();
   const quotient_log<scalar> log(w);
-  const scalar scale = from_bits(bits(log.z) - bits(w) + log.ONE);  // of w to z
+  const scalar scale = from_bits(bits(log.z) - bits(w) + log.ONE);  // scales w to z
   const scalar f = (log.z - 1.0) + sum.lost_by(w) * scale;
   return log.value(f, f / (f + 2.0)).g[0];
 }

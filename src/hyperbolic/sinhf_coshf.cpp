@@ -1,5 +1,5 @@
-// sinh x and cosh x, single precision, by the method in addition.h: A = n ln 2, so that the powers of two are exact and
-// no table is needed. _native has shorter polynomials.
+// sinh x and cosh x, single precision, by the method in addition_theorems.h: A = n ln 2, so that the powers of two are
+// exact and no table is needed. The native forms have shorter polynomials.
 #include "hyperbolic/addition_theorems.h"
 
 namespace lanemath {
@@ -44,7 +44,7 @@ LANEMATH_INLINE V native_added(V same, V other, const ln2_multiple<V>& a) {
 LANEMATH_RARE sinhf_rare(const float* x, float* y) { return sinh_rare_lane(x, y); }
 LANEMATH_RARE coshf_rare(const float* x, float* y) { return cosh_rare_lane(x, y); }
 
-constexpr std::int32_t BOUND = 0x42AEAC4E;  // 87.33653; the cosine leaves this one itself to the rare routine too
+constexpr std::int32_t BOUND = 0x42AEAC4E;  // 87.33653; coshf leaves this value too to the rare routine
 using sinhf_guards = rare_above<float(float), sinhf_rare, BOUND>;
 using coshf_guards = rare_above<float(float), coshf_rare, BOUND - 1>;
 

@@ -1,7 +1,7 @@
-// tanh x, both precisions: one polynomial an interval of |x|, and no division. Intervals are equal parts of powers of
-// two, so that exponent and leading bits of x number them. Single precision: a cubic in |x|, in double. Double
-// precision: degree 10 in |x| less the interval's centre; the error is largest in the first interval, which alone has
-// no constant term.
+// tanh x, both precisions: one polynomial for each interval of |x|, and no division. The intervals are equal parts of
+// binades, so that the exponent and leading bits of x number them. Single precision: a cubic in |x|, computed in
+// double. Double precision: degree 10 in |x| minus the centre of the interval; the error is largest in the first
+// interval, the only one without a constant term.
 #include <cmath>
 
 #include "frame/frame.h"
@@ -10,8 +10,8 @@
 namespace lanemath {
 namespace {
 
-// The number of x's interval, by its leading bits: 0 up to `first`, the same from `last` on. `shift` is what is below
-// the bits that number.
+// The number of x's interval, from its leading bits: 0 up to `first`, and constant from `last` on. `shift` is the
+// number of bits below those that count.
 template <class V>
 LANEMATH_INLINE auto interval(V x, std::int32_t first, std::int32_t last, int shift) {
   const auto mask = 0x7FFFFFFF >> shift << shift;
@@ -29,7 +29,7 @@ status tanh_rare_lane(const T* px, T* py) {
 LANEMATH_RARE tanhf_rare(const float* x, float* y) { return tanh_rare_lane(x, y); }
 LANEMATH_RARE tanh_rare(const double* x, double* y) { return tanh_rare_lane(x, y); }
 
-// Marks the largest powers of two, infinities and NaNs.
+// Marks magnitudes from 1.0625 * 2^127 up (tanh: from 1.125 * 2^1023), infinities and NaNs.
 struct tanhf_standard : rare_above<float(float), tanhf_rare, 0x7F07FFFF> {
   template <class V>
   LANEMATH_INLINE static V kernel(V x) {

@@ -1,9 +1,9 @@
 // Quotients and remainders of 32-bit integers by double-precision arithmetic: a reciprocal estimate, two Newton steps,
-// truncation. The second step's constant lies above 2, by more than the error of the whole and by less than what
-// would reach the next integer, so that an exact quotient never falls short of itself.
+// truncation. The constant of the second step is slightly above 2: by more than the error of the whole computation, so
+// that no exact quotient falls short, and by too little to reach the next integer.
 //
-// A zero divisor's estimate is infinite and makes a NaN of the quotient, which converts to 0x80000000 (signed) or has
-// a zero low word (unsigned); -2^31 / -1 is out of range and gives 0x80000000.
+// For a zero divisor the estimate is infinite and the quotient a NaN, which converts to 0x80000000 (signed) or has a
+// zero low word (unsigned); -2^31 / -1 is out of range and gives 0x80000000.
 #pragma once
 
 #include <type_traits>
@@ -15,7 +15,7 @@ namespace lanemath {
 struct division_rows {
   static constexpr double TWO = 2.0;
   static constexpr double ABOVE_TWO = 0x4000000000000200_f64;  // 2 + 2^-42
-  // 2^52 + 2^51: a lane's low word is the integer that was added.
+  // 2^52 + 2^51: the low word of a sum with it is the integer that was added.
   static constexpr double BIAS = 0x1.8p52;
 };
 

@@ -1,7 +1,7 @@
 // Arc cosine of x in radians, both precisions.
 //
-// Below 1/2 in magnitude pi/2 - x - x Q(x²), above it 2 sqrt(h) (1 + Q(h)) with h = (1 - |x|) / 2, or pi less that.
-// The native form: a shorter polynomial; in double the root from a float estimate. Beyond 1 a NaN.
+// For |x| < 1/2, pi/2 - x - x Q(x²); above it 2 sqrt(h) (1 + Q(h)) with h = (1 - |x|) / 2, or pi minus that. The native
+// form: a shorter polynomial, and in double the root from a float estimate. Beyond 1 the result is a NaN.
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {
@@ -21,7 +21,7 @@ struct arc_cosine {
     const V v = ordered_sum(r.base, q * r.base);
     return angle_at_end(x, r, pi<T>, half_pi<T>) + v;
   }
-  // A NaN is a rare lane in double only.
+  // NaNs are rare lanes only in double.
   static auto rare_test(auto x) {
     if constexpr (sizeof(T) == 4)
       return one_v<T> < magnitude(x);

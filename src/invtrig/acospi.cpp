@@ -1,7 +1,7 @@
 // Arc cosine of x divided by pi, both precisions.
 //
-// As the arc cosine, with the polynomial of the arc sine divided by pi; 1/pi is added to it. The native form: a
-// shorter polynomial; in double the root from a float estimate. At 1 and -1 exact, beyond a NaN.
+// As the arc cosine, with the polynomial of the arc sine divided by pi, to which 1/pi is added. The native form: a
+// shorter polynomial, and in double the root from a float estimate. Exact at 1 and -1; beyond them a NaN.
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {

@@ -1,13 +1,13 @@
-// What the inverse sines and cosines share: with a = |x|, one polynomial on [0, 1/4] serves a below 1/2, where its
-// argument is a², and a above, where it is (1 - a) / 2 and the result hangs on 2 sqrt((1 - a) / 2).
+// What the arc sines and cosines share. With a = |x|, one polynomial on [0, 1/4] serves both ranges: below 1/2 its
+// argument is a² and the result is based on a; above, the argument is h = (1 - a) / 2 and the base is 2 sqrt(h).
 #pragma once
 
 #include "invtrig/angles.h"
 
 namespace lanemath {
 
-// Polynomial coefficients, from the constant term up: of the results in radians and of those divided by pi. The native
-// float forms have the whole factor of the base in theirs, the others what is beyond its linear term.
+// Polynomial coefficients, from the constant term up, for results in radians and for results divided by pi. The native
+// float forms hold the whole factor of the base, the others only the part beyond the linear term of the result.
 template <class T, variant V>
 struct radian_rows;
 template <>
@@ -71,14 +71,14 @@ LANEMATH_INLINE lanes<T, W> fitted(const T (&c)[N], const lanes<T, W>& w) {
   }
 }
 
-// 2 sqrt(h) as a difference: an estimate and what it is too large by.
+// 2 sqrt(h) as a difference: an estimate minus its excess.
 template <class V>
 struct estimated_root {
   V estimate, excess;
 };
 template <int W>
 LANEMATH_INLINE estimated_root<lanes<double, W>> estimate_root(const lanes<double, W>& h) {
-  // At h = 0 a finite estimate, so that 0 comes out. In the domain h is 0 or at least 2^-54.
+  // A finite estimate at h = 0, so that the result is 0. In the domain h is 0 or at least 2^-54.
   const auto estimate = [](auto v)
                             LANEMATH_LAMBDA { return reciprocal_root_estimate(maximum(decltype(v)(0x1p-126f), v)); };
   const auto y0 = by_floats(estimate, h);
@@ -88,18 +88,18 @@ LANEMATH_INLINE estimated_root<lanes<double, W>> estimate_root(const lanes<doubl
   return {b, ordered_product(correction, ordered_product(t, b))};
 }
 
-// The native double forms have no square root.
+// The native double forms use no square root.
 template <class T, variant V>
 inline constexpr bool estimates_root = sizeof(T) == 8 && V == variant::native;
 
-// The polynomial's argument, the lanes in which it comes from 1 - a, and what the polynomial multiplies.
+// The argument of the polynomial, the base that it multiplies, and the lanes in which they come from 1 - a.
 template <class T, int W>
 struct reduced {
   lanes<T, W> w, base;
   lanes<int_of_size<sizeof(T)>, W> big;
 };
 
-// For the sine, without the sign of x: a, or -2 sqrt(h).
+// For the sine; the base without the sign of x: a, or -2 sqrt(h).
 template <variant Variant, class T, int W>
 LANEMATH_INLINE reduced<T, W> reduce_for_sine(const lanes<T, W>& x) {
   const auto a = magnitude(x);
@@ -115,7 +115,7 @@ LANEMATH_INLINE reduced<T, W> reduce_for_sine(const lanes<T, W>& x) {
   }
 }
 
-// For the cosine, with the sign of x: -x, or 2 sqrt(h).
+// For the cosine; the base with the sign of x: -x, or 2 sqrt(h).
 template <variant Variant, class T, int W>
 LANEMATH_INLINE reduced<T, W> reduce_for_cosine(const lanes<T, W>& x) {
   using I = int_of_size<sizeof(T)>;
@@ -134,14 +134,14 @@ LANEMATH_INLINE reduced<T, W> reduce_for_cosine(const lanes<T, W>& x) {
   return {w, flipped(select(big, twice_root, n), sign_of(x)), big};
 }
 
-// What the cosine's product is added to: the angle at x = 0, -1 or 1.
+// The angle to which the cosine's product is added: that at x = 0, -1 or 1.
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> angle_at_end(const lanes<T, W>& x, const reduced<T, W>& r, T half_turn, T quarter_turn) {
   using V = lanes<T, W>;
   return select(r.big, where(x < r.w, V(half_turn)), V(quarter_turn));
 }
 
-// Beyond 1 the NaN of an invalid operation; a NaN comes back quiet. Whether x was one of them, and the status.
+// Beyond 1 the NaN of an invalid operation; a NaN becomes quiet. Returns whether x was either; `met` is the status.
 template <class T>
 inline bool beyond_one(T x, T& y, status& met) {
   const T v = opaque(x);
@@ -156,7 +156,7 @@ inline bool beyond_one(T x, T& y, status& met) {
   return true;
 }
 
-// Of the forms in radians, whose kernels serve |x| = 1.
+// For the forms in radians, whose kernels serve |x| = 1.
 template <class T>
 LANEMATH_RARE radians_rare(const T* px, T* py) {
   status met;

@@ -1,4 +1,4 @@
-// What the inverse tangents share: the factors P(t) of atan(t) = t P(t) on [-1, 1], and the ways to a quotient.
+// What the arc tangents share: the factors P(t) of atan(t) = t P(t) on [-1, 1], and ways to compute a quotient.
 #pragma once
 
 #include "invtrig/angles.h"
@@ -7,7 +7,7 @@
 
 namespace lanemath {
 
-// The float factors, even and odd powers of u = t² apart.
+// The float factors, with even and odd powers of u = t² separate.
 struct split_rows {
   float even[4], odd[4];
 };
@@ -43,7 +43,7 @@ struct four_chain_factor {
   }
 };
 
-// The native factors: u times a chain in q = u², and a second chain in q.
+// The native factors: u times a chain in q = u², plus a second chain in q.
 template <class Rows>
 struct native_factor {
   template <class V>
@@ -102,7 +102,7 @@ struct pi_factor<double> {
   static auto at(auto t) { return horner(t * t, c); }
 };
 
-// 1 / x by the processor's estimate and one correction.
+// 1 / x from the processor's estimate and one correction.
 template <int W>
 LANEMATH_INLINE lanes<float, W> reciprocal(const lanes<float, W>& x) {
   const auto y0 = reciprocal_estimate(x);
@@ -116,7 +116,6 @@ LANEMATH_INLINE lanes<double, W> reciprocal(const lanes<double, W>& x) {
   return y0 + (d * d - d) * y0;
 }
 
-// Ways to a quotient.
 struct by_division {
   static auto of(auto num, auto den) { return num / den; }
 };
@@ -137,7 +136,7 @@ struct by_corrected_estimate {
   }
 };
 
-// Whether the reciprocals lose range: all but 2^-125 <= a < 2^123 in float, 2^-1020 <= a < 2^993 in double.
+// Lanes whose reciprocals lose range: all but 2^-125 <= a < 2^123 in float, 2^-1020 <= a < 2^993 in double.
 template <class T, int W>
 LANEMATH_INLINE auto beyond_reciprocals(const lanes<T, W>& a) {
   if constexpr (sizeof(T) == 4)
@@ -146,8 +145,8 @@ LANEMATH_INLINE auto beyond_reciprocals(const lanes<T, W>& a) {
     return outside(upper(a), 0x00300000, 0x7DFFFFFF);
 }
 
-// The angle of the point (x, y): from the quotient of the smaller magnitude by the larger one; what is beyond an
-// eighth of a turn or in the left half comes by sums.
+// The angle of the point (x, y), from the quotient of the smaller magnitude by the larger one. Angles beyond an eighth
+// of a turn, and those in the left half-plane, follow by addition.
 template <class T, class Factor, class Quotient, bool Scaled>
 struct quadrants {
   using signature = T(T, T);

@@ -1,5 +1,5 @@
-// The rare routines of the inverse tangents: special values, and pairs of doubles for what the kernels' reciprocals
-// cannot reach.
+// The rare routines of the arc tangents: special values, and pairs of doubles where the kernels' reciprocals would lose
+// range.
 #pragma once
 
 #include "invtrig/angles.h"
@@ -9,8 +9,8 @@
 
 namespace lanemath {
 
-// v times 2^k, |v| in [2^-4, 4) and hi it rounded. Rounded once, also to a denormal: where what is cut from hi is just
-// half a step, lo decides.
+// v 2^k, where |v| is in [2^-4, 4) and v.hi is v rounded. Rounded once, to a denormal too: where the part cut from hi
+// is exactly half a step, lo decides.
 inline double scaled(const double_pair& v, int k) {
   const double exact = v.hi * power_of_two<double>(std::max(k, -1080) + 64);
   const double result = exact * 0x1p-64;
@@ -22,14 +22,14 @@ inline double scaled(const double_pair& v, int k) {
   return result;
 }
 
-// A part of half a turn, in radians or divided by pi.
+// A given part of half a turn, in radians or divided by pi.
 template <class T, bool Scaled>
 T half_turns(double part) {
   return T(Scaled ? part : part * pi<double>);
 }
 
-// atan(c) is tabled at two points c of each binade from 1/8 up: 1 and 1.5 times a power of two, which q is rounded to,
-// or the middles 1.25 and 1.75 of the halves in which it lies.
+// atan(c) is tabulated at two points c of each binade from 1/8 up: at 1 and 1.5 times a power of two, to which q is
+// rounded, or at the middles 1.25 and 1.75 of the halves of the binade.
 struct at_halves {
   static constexpr auto& table = arc_tangent_at_halves;
   static constexpr std::uint32_t rounding = 0x00040000, first = 0x3FC00000;
@@ -39,7 +39,7 @@ struct at_middles {
   static constexpr std::uint32_t rounding = 0, first = 0x3FC40000;
 };
 
-// atan(q), q > 0: atan(c) + atan((q - c) / (1 + q c)).
+// atan(q) for q > 0: atan(c) + atan((q - c) / (1 + q c)).
 template <class Points>
 double_pair arc_tangent(const double_pair& q) {
   double_pair base = 0.0, r = q;
@@ -56,7 +56,7 @@ double_pair arc_tangent(const double_pair& q) {
   return base + double_pair(r.hi, r.lo + r.hi * s * p);
 }
 
-// An angle times 2^k as the result, rounded once. Floats are rounded from a double, whose range needs no k.
+// An angle times 2^k, rounded once to the result. A float is rounded from a double, whose range needs no k.
 template <class T, bool Scaled>
 T rounded(double_pair angle, int k = 0) {
   if constexpr (sizeof(T) == 4) {
@@ -68,7 +68,7 @@ T rounded(double_pair angle, int k = 0) {
   }
 }
 
-// atan(num / den) where the quotient is below 2^-52.
+// atan(num / den) for a quotient below 2^-52.
 template <class T, bool Scaled>
 T tiny_arc_tangent(double num, double den) {
   if constexpr (sizeof(T) == 8 && Scaled) {
@@ -94,14 +94,14 @@ LANEMATH_RARE arc_tangent_rare(const T* px, T* py) {
     y = half_turns<T, Scaled>(0.5);
   else if (a < 0x1p-53)
     y = a == 0.0 ? zero_v<T> : tiny_arc_tangent<T, Scaled>(a, 1.0);
-  else  // kept although no argument reaches it: the kernels serve these
+  else  // never reached: the kernels serve these
     y = rounded<T, Scaled>(arc_tangent<at_middles>(a));
   *py = std::copysign(y, x);
   return status::ordinary;
 }
 
-// The angle of a point with a coordinate that is zero, infinite or a NaN, its sign left to the caller. Whether it was
-// one.
+// The angle of a point with a coordinate that is zero, infinite or a NaN; the caller sets its sign. Returns whether the
+// point is such a one.
 template <class T, bool Scaled>
 bool special_angle(T y, T x, T& angle) {
   const T infinity = std::numeric_limits<T>::infinity();

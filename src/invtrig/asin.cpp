@@ -1,7 +1,7 @@
 // Arc sine of x in radians, both precisions.
 //
-// Below 1/2 in magnitude x + x Q(x²), above it pi/2 - 2 sqrt(h) (1 + Q(h)) with h = (1 - |x|) / 2: no table, no branch.
-// The native form: a shorter polynomial; in double the root from a float estimate. Beyond 1 a NaN.
+// For |x| < 1/2, x + x Q(x²); above it pi/2 - 2 sqrt(h) (1 + Q(h)) with h = (1 - |x|) / 2: no table, no branch. The
+// native form: a shorter polynomial, and in double the root from a float estimate. Beyond 1 the result is a NaN.
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {
@@ -21,7 +21,7 @@ struct arc_sine {
     const V v = ordered_sum(base, q * base) + where(big, V(half_pi<T>));
     return flipped(v, sign_of(x));
   }
-  // Where (1 - |x|) / 2 is negative.
+  // Marks lanes in which (1 - |x|) / 2 is negative.
   static auto rare_test(auto x) { return bits(half_v<T> - half_v<T> * magnitude(x)) < 0; }
 };
 

@@ -1,7 +1,8 @@
 // Arc sine of x divided by pi, both precisions.
 //
-// As the arc sine, with a polynomial of its own; 1/pi is applied in the outer sum. The native form: a shorter
-// polynomial that has 1/pi in it; in double the root from a float estimate. At 1 and -1 exact, beyond a NaN.
+// As the arc sine, with a polynomial of its own; the factor 1/pi of the linear term is applied in the outer sum. The
+// native form: a shorter polynomial that includes 1/pi, and in double the root from a float estimate. Exact at 1 and
+// -1; beyond them a NaN.
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {

@@ -1,9 +1,9 @@
 // Arc tangent of x in radians, both precisions.
 //
-// Float: t = x or -1/x, a polynomial on [-1, 1], pi/2 added outside; at width 4 by one division of the smaller of |x|
-// and 1 by the larger, with coefficients of its own. Double: atan(c) from a table of quarters below 7.875 and
-// atan((|x| - c) / (1 + |x| c)) by a short polynomial; at width 2 a long polynomial and no table. The native form:
-// an estimated reciprocal, which fails at infinity alone.
+// Float: t = x or -1/x, a polynomial on [-1, 1], and pi/2 added where |x| > 1; at width 4 one division of the smaller
+// of |x| and 1 by the larger, with other coefficients. Double: atan(c) from a table of quarters below 7.875, and
+// atan((|x| - c) / (1 + |x| c)) by a short polynomial; at width 2 a long polynomial and no table. The native form: an
+// estimated reciprocal, which fails only at infinity.
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"
 
@@ -55,7 +55,7 @@ struct atan_standard {
   }
 };
 
-// The forms without a table at the width of one group. A NaN is on the side above 1.
+// The standalone forms, which have no table. A NaN counts as above 1.
 template <class T, class Factor>
 struct one_division {
   using signature = T(T);
@@ -76,7 +76,7 @@ template <int W>
 lanes<float, W> signed_reciprocal(const lanes<float, W>& x) {
   return reciprocal(x);
 }
-// Where x is too large for a float the estimate is 0 and the reciprocal too.
+// Where x is too large for a float both the estimate and the reciprocal are 0.
 template <int W>
 lanes<double, W> signed_reciprocal(const lanes<double, W>& x) {
   const auto y0 = by_floats([](auto v) LANEMATH_LAMBDA { return reciprocal_estimate(v); }, x);

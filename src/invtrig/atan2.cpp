@@ -1,9 +1,10 @@
 // The angle of the point (x, y) in radians, both precisions.
 //
-// The smaller magnitude over the larger one, a polynomial on [-1, 1], the quadrant by sums. The native form: an
-// estimated reciprocal and a shorter polynomial. The default float form at width 4 has coefficients and a last step of
-// its own, and one lane with x zero, or x or y infinite or a NaN, sends all four to a scalar routine in double; the
-// default double form at width 2 has the frame's kernel, and leaves it only for such lanes.
+// The smaller magnitude divided by the larger one, a polynomial on [-1, 1], and the quadrant by additions. The native
+// form: an estimated reciprocal and a shorter polynomial. The default float form at width 4 has coefficients and a last
+// step of its own; one lane with x zero, or with x or y infinite or a NaN, sends all four to a scalar routine in
+// double. The default double form at width 2 differs only in its scalar routine, for lanes with x or y zero, infinite
+// or a NaN.
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"
 
@@ -21,7 +22,7 @@ using atan2f_native = radians_of<float, native_factor<native_rows<float>>, by_es
 using atan2_standard = radians_of<double, four_chain_factor, by_division>;
 using atan2_native = radians_of<double, native_factor<native_rows<double>>, by_estimate>;
 
-// The default form in double at width 2. The scalar routine has the kernel's bits.
+// The default form in double at width 2. The scalar routine gives the same bits as the kernel.
 
 LANEMATH_RARE atan2_width_2_lane(const double* py, const double* px, double* result) {
   using scalar = lanes<double, 1>;
@@ -45,7 +46,7 @@ struct atan2_width_2 : atan2_standard {
   }
 };
 
-// The default form in float at width 4. The scalar routine's bits are its own.
+// The default form in float at width 4. The scalar routine gives other bits than the kernel.
 
 LANEMATH_RARE atan2f_width_4_lane(const float* py, const float* px, float* result) {
   const float y = *py, x = *px;
@@ -88,7 +89,7 @@ struct atan2f_width_4 {
     const V sx = with_bits(V(1.0f), sign_of(x)), sy = with_bits(V(1.0f), sign_of(y));
     return ((t * r + where(swap, V(half_pi<float>))) * sx + where(x < 0.0f, V(pi<float>))) * sy;
   }
-  // Not rare: y finite and x finite and not zero.
+  // Marks all lanes but those with y finite and x finite and nonzero.
   template <class V>
   static auto rare_test(V y, V x) {
     const auto ax = bits(magnitude(x)) + 0x00800000;  // wraps at infinity

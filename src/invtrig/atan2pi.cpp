@@ -1,7 +1,7 @@
 // The angle of the point (x, y) divided by pi, both precisions.
 //
-// As the angle in radians, with the polynomials of the arc tangent divided by pi and an estimated reciprocal, corrected
-// once, in the default double form twice. The native form: a shorter polynomial.
+// As the angle in radians, with the polynomials of the arc tangent divided by pi and an estimated reciprocal that is
+// corrected once, or twice in the default double form. The native form: a shorter polynomial.
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"
 

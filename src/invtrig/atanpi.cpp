@@ -1,8 +1,7 @@
 // Arc tangent of x divided by pi, both precisions.
 //
-// t = |x|, or -1 by |x| above 1, where 0.5 is added; a polynomial on [-1, 1] with 1/pi in it. The reciprocal is an
-// estimate with a correction but for the default double form, which divides. The native form: a shorter
-// polynomial.
+// t = |x|, or -1 / |x| above 1, where 0.5 is added; a polynomial on [-1, 1] that includes 1/pi. The reciprocal is a
+// corrected estimate, except in the default double form, which divides. The native form: a shorter polynomial.
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"
 

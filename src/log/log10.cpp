@@ -1,4 +1,4 @@
-// log10 x, double precision, by the method in double.h. _native takes g in one part and drops two powers of z.
+// log10 x, double precision, by the method in logarithm_double.h.
 #include "log/logarithm_double.h"
 #include "log/logarithm_rare.h"
 

@@ -1,9 +1,10 @@
 // log10 x, single precision.
 //
-// Default: the mantissa g in [2^-9, 2^-8), n an integer near R / g with R = 111/256 near log10 e, t = g n - R almost
-// exactly; log10 x from the raw biased exponent, a table of log10(R / n) that has the bias taken off, and a cubic in t,
-// whose first term is t. The native form (_half too): x = 2^k (1 + r), 1 + r from 2/3 to 4/3, and a polynomial of
-// degree 5. Rare lanes: zeros, denormals, negative values, infinities and NaNs.
+// Default: the mantissa g is in [2^-9, 2^-8), n is an integer near R / g, where R = 111/256 is near log10 e, and the
+// difference t = g n - R is almost exact. log10 x is the sum of the biased exponent times log10 2, log10(R / n) from a
+// table that also takes off the bias, and a cubic in t, whose first term is t. The native form (also _half): x = 2^k (1
+// + r) with 1 + r from 2/3 to 4/3, and a polynomial of degree 5. Rare lanes: zeros, denormals, negative values,
+// infinities and NaNs.
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"
 #include "numeric/split.h"
@@ -13,7 +14,7 @@ namespace {
 
 struct log10f_rows {
   float R;       // scale of the reciprocal
-  float LH, LL;  // log10 of 2, high and low part
+  float LH, LL;  // log10(2), high and low part
   float P3, P2, P1;
 };
 constexpr log10f_rows log10f_table{
@@ -25,7 +26,7 @@ constexpr log10f_rows log10f_table{
     .P1 = 0x3AD3D366_f32,
 };
 
-constexpr float LG2 = 0x3E9A209B_f32;  // log10 of 2
+constexpr float LG2 = 0x3E9A209B_f32;  // log10(2)
 constexpr float log10f_native_polynomial[] = {0x3DCDC127_f32, 0xBDF4ED71_f32, 0x3E137DBE_f32, 0xBE5E0922_f32,
                                               0x3EDE5CAE_f32};
 
@@ -44,7 +45,7 @@ struct log10f_standard : log10f_guards {
     const V h = c.LH * e + hi;
     const V l = e * c.LL + lo;
     const V s = t + h;
-    const V d = t - (s - h);  // what s lost of t
+    const V d = t - (s - h);  // the part of t that s lacks
     const V p = (c.P3 * t + c.P2) * t + c.P1;
     return ((t * p + l) + d) + s;
   }

@@ -1,9 +1,9 @@
 // ln(1 + x), both precisions.
 //
-// The sum w = 1 + x and what it lost, l = 1 + x - w, by the larger and the smaller of the two. Default: w is cut short
-// unless x is tiny, so that the mantissa g of w times n, an integer near 1 / g, is exact; ln(1 + x) from the raw biased
-// exponent, a table of -ln n that has the bias taken off, and a short polynomial in z = (w + l) n 2^j - 1. _native: the
-// native logarithm of w with l added to its residual. The sign of x is put on the result, for -0.
+// w is the sum 1 + x, and l = 1 + x - w what it lacks. Default: w is truncated unless x is tiny, so that the product of
+// its mantissa g and n, an integer near 1 / g, is exact; ln(1 + x) is the sum of the biased exponent times ln 2, -ln n
+// from a table that also takes off the bias, and a short polynomial in z = (w + l) n 2^j - 1, where 2^j scales w to g.
+// The native form: the native logarithm of w, with l added to its residual. The result takes the sign of x, for -0.
 #include "log/logarithm_double.h"
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"
@@ -14,11 +14,11 @@ namespace {
 template <class T>
 struct log1p_rows {
   using pattern = int_of_size<sizeof(T)>;
-  T TINY;         // below, the sum keeps all its bits
-  pattern MASKH;  // else this upper part
+  T TINY;         // below it w keeps all its bits,
+  pattern MASKH;  // above it only these upper ones
   int SMALL;      // exponent of the mantissa g
-  pattern EXPC;   // sum of the exponent fields of w and of the scale that makes g of it
-  T NEG1, BIG;    // the last ones that are not rare
+  pattern EXPC;   // sum of the exponent fields of w and of the scale that turns it into g
+  T NEG1, BIG;    // arguments outside of [NEG1, BIG] are rare
   T LN2H, LN2L;   // ln 2, high and low part
 };
 constexpr log1p_rows<float> log1pf_table{
@@ -127,7 +127,7 @@ using log1p_standard = log1p_form<double, log1p_rare>;
 struct log1pf_native {
   using signature = float(float);
   static constexpr auto rare = log1pf_rare;
-  // Marks a sum that is no positive normal number or is above 2^127.
+  // Marks lanes whose sum is not a positive normal number or is above 2^127.
   static auto rare_test(auto x) { return outside(bits(x + 1.0f), 0x00800000, 0x7EFFFFFF); }
 
   template <class V>

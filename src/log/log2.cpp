@@ -1,7 +1,7 @@
-// log2 x, double precision, by the method in double.h. _native takes g in one part and drops two powers of z.
+// log2 x, double precision, by the method in logarithm_double.h.
 //
-// The default form at width 2 is another: m in [1, 2) is compared with the nearest 128th, whose reciprocal and
-// logarithm stand in a table, and it settles every special lane itself.
+// The default form at width 2 differs: it subtracts from m in [1, 2) the nearest multiple of 1/128, whose reciprocal
+// and logarithm are in a table, and settles every special lane itself.
 #include "log/log2_rare.h"
 #include "log/logarithm_double.h"
 
@@ -33,7 +33,6 @@ struct log2_native : log2_guards {
   }
 };
 
-// The default form at width 2.
 struct log2_width_2 {
   using signature = double(double);
   using V = lanes<double, 2>;
@@ -41,11 +40,11 @@ struct log2_width_2 {
   static V kernel(V x) {
     if (!any(log2_guards::rare_test(x))) [[likely]]
       return of_normal(x);
-    // A denormal's mantissa bits as a number are the value times 2^1022.
+    // A denormal's fraction bits, as those of a number in [1, 2) minus 1, are its value times 2^1022.
     const auto denormal = (bits(x) & 0x7FF0000000000000) == 0;
     const V scaled = from_bits(bits(x) | 0x3FF0000000000000) - 1.0;
     V y = of_normal(select(denormal, scaled, x)) - select(denormal, V(1022.0), V(0.0));
-    y = select(x < 0.0, V(0xFFF8000000000000_f64), y);  // what zero by zero gives
+    y = select(x < 0.0, V(0xFFF8000000000000_f64), y);  // what 0 / 0 gives
     y = select(x == 0.0, V(-std::numeric_limits<double>::infinity()), y);
     return select(x < std::numeric_limits<double>::infinity(), y, x);
   }
@@ -54,7 +53,7 @@ struct log2_width_2 {
   LANEMATH_INLINE static V of_normal(V x) {
     constexpr double to_128ths = 0x1p45;
     const V m = with_exponent(x, 0);
-    const V mh = (from_bits(bits(m) | 0x000003FF000003FF) + to_128ths) - to_128ths;  // halfway goes up
+    const V mh = (from_bits(bits(m) | 0x000003FF000003FF) + to_128ths) - to_128ths;  // ties round up
     const auto j = ((upper(x) >> 12 & 0xFF) + 1) >> 1;
     const V k = convert<double>(exponent_of_positive(x));
     V a, b, r;

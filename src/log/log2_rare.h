@@ -1,6 +1,6 @@
-// The rare routine of log2. Away from 1: reciprocals c of the middles of 256 intervals, -log2 c from a table in two
-// parts, and a polynomial; the sum's large terms are exact. Near 1: polynomials in x - 1, the nearer the shorter; these
-// are kept although no argument reaches them, since the kernels leave it only what is no positive normal number.
+// The rare routine of log2. Away from 1: reciprocals c for the middles of 256 intervals, -log2 c from a table in two
+// parts, and a polynomial; the large terms of the sum are exact. Near 1: polynomials in x - 1, the shorter the nearer.
+// The kernels leave it only arguments that are not positive normal numbers, so that the code near 1 is never reached.
 #pragma once
 
 #include "log/logarithm_rare.h"
@@ -12,7 +12,7 @@ namespace log_detail {
 
 constexpr double L0 = 1.4426946640014648;  // 1 / ln 2 in few bits: the upper part of every first-order term
 
-// Rounded to 20 bits. Not the difference that makes a high part elsewhere: its last bits are others.
+// Rounded to 20 bits. The difference of two products, not Veltkamp's method: their last bits differ.
 inline double in_20_bits(double v) { return 4294967297.0 * v - 4294967296.0 * v; }
 
 inline double log2_away_from_one(double x) {

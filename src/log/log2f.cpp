@@ -1,8 +1,8 @@
 // log2 x, single precision.
 //
-// x = 2^k (1 + r), 1 + r from 2/3 to 4/3; log2(1 + r) = r p(r), p of degree 8 by pairs of coefficients (default, _rm)
-// or of degree 4 by Horner's rule (_native, _half). No table. The error is largest where the exponent and a mantissa
-// below 1 cancel. Rare lanes: zeros, denormals, negative values, infinities and NaNs.
+// x = 2^k (1 + r) with 1 + r from 2/3 to 4/3; log2(1 + r) = r p(r), p of degree 8 by pairs of coefficients (default,
+// _rm) or of degree 4 by Horner's rule (_native, _half). No table. The error is largest where the exponent and a
+// mantissa below 1 cancel. Rare lanes: zeros, denormals, negative values, infinities and NaNs.
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"
 

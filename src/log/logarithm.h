@@ -6,10 +6,10 @@
 
 namespace lanemath {
 
-// Even the widest form is faster in one piece, some of its values on the stack, than with its chains one after another.
+// Even the widest form is faster in one piece, with some values on the stack, than in pieces one after another.
 inline constexpr int most_groups = 8;
 
-// What an operation inherits whose rare lanes are those that are no positive normal number.
+// The base of operations whose rare lanes are all but the positive normal numbers.
 template <class T, auto Routine>
 struct rare_unless_normal {
   using signature = T(T);
@@ -18,8 +18,8 @@ struct rare_unless_normal {
   static auto rare_test(auto x) { return not_positive_normal(x); }
 };
 
-// The integer nearest to the processor's estimate of 1 / g, g in a binade. Which integer that is differs between
-// processors; it is then taken as what it is.
+// The integer nearest to the processor's estimate of 1 / g, for g in one binade. Processors differ in the estimate and
+// so in the integer; the kernels then take it as exact.
 template <int W>
 LANEMATH_INLINE lanes<float, W> integer_near_reciprocal(const lanes<float, W>& g) {
   return round_to<direction::nearest>(reciprocal_estimate(g));

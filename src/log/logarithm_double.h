@@ -1,6 +1,7 @@
 // The double-precision logarithms: log x = k log 2 + log(2^q / n) + log(1 + z). The mantissa g is in [2^-10, 2^-9), n
-// an integer near 1 / g from 512 to 1024, and z = g n - 1 is small: g taken in two parts makes it almost exact. The
-// table holds the middle term, with q = 9 up to n = 724 and 10 above, so that near 1 no large terms cancel.
+// is an integer near 1 / g from 512 to 1024, and z = g n - 1 is small; taking g in two parts makes it almost exact. The
+// middle term comes from a table, with q = 9 up to n = 724 and 10 above, so that no large terms cancel near 1. The
+// native forms take g in one part and drop two powers of z.
 #pragma once
 
 #include "log/logarithm.h"
@@ -13,7 +14,7 @@ struct double_log_rows {
   double P5, P4, P3, P2, P1;  // log(1 + z) by powers of z
   double LOG2;                // logarithm of 2
 };
-// Natural; of ln(1 + x) as well.
+// For the natural logarithm, and for ln(1 + x).
 inline constexpr double_log_rows log_table{
     .P5 = 0x3FC9999CACDB4D0A_f64,
     .P4 = 0xBFD0000148058EE1_f64,
@@ -28,13 +29,13 @@ LANEMATH_INLINE V scaled_mantissa(V x) {
   return with_exponent(x, -10);
 }
 
-// Of integers from 512 to 1024, in their table.
+// The table index of an integer from 512 to 1024.
 template <int W>
 LANEMATH_INLINE lanes<std::int32_t, W> index_of_integer(const lanes<float, W>& n) {
   return (bits(n) >> 14) - 0x11000;
 }
 
-// The factor 1 of the natural logarithm costs nothing.
+// The natural logarithm's factor 1 costs no multiplication.
 template <bool IsOne, class V>
 LANEMATH_INLINE V times(V x, double factor) {
   if constexpr (IsOne)
@@ -43,7 +44,7 @@ LANEMATH_INLINE V times(V x, double factor) {
     return x * factor;
 }
 
-// k, one less where the table's q is 10: the mask is -1.
+// k: the exponent, or one more where the q of the table is 9. The mask is -1 where q is 10.
 template <class E, class N>
 LANEMATH_INLINE E exponent_beside(E exponent, N n) {
   return exponent + 1 + (n > 724.0f);
@@ -79,7 +80,7 @@ LANEMATH_INLINE lanes<double, W> native_double_log(const lanes<double, W>& x) {
   const auto g = scaled_mantissa(x);
   return native_double_log<c, table>(g, exponent_of_positive(x), integer_near_reciprocal(g));
 }
-// Of a float, in double.
+// The logarithm of a float, in double.
 template <auto& c, auto& table, int W>
 LANEMATH_INLINE lanes<double, W> native_double_log(const lanes<float, W>& x) {
   const auto g = scaled_mantissa(x);

@@ -1,9 +1,9 @@
-// The rare routines of the logarithms. They are complete, though the kernels leave them only what is no positive normal
-// number, and large sums 1 + x: what serves the others, above all the ways near 1, is kept although no argument reaches
-// it. Near 1, log2f_rare and log10f_rare cancel down to 14 good bits; the others are good everywhere.
+// The rare routines of the logarithms. They are complete, although the kernels leave them only arguments that are not
+// positive normal numbers, and large sums 1 + x: the code for all other arguments, above all near 1, is never reached.
+// Near 1, cancellation leaves log2f_rare and log10f_rare only 14 good bits; the others are accurate everywhere.
 //
 // x = 2^k m with m in [1, 2); c is a reciprocal of m with so few bits that its product with g, the upper part of m, is
-// exact. What c m is off 1 goes into a polynomial, -log c comes from a table in two parts.
+// exact. The polynomial takes c m - 1; -log c comes from a table in two parts.
 #pragma once
 
 #include <optional>
@@ -16,7 +16,7 @@ namespace lanemath {
 
 namespace log_detail {
 
-// Adding it leaves m - 1 in 64ths, rounded, in the lowest bits.
+// Adding it rounds m - 1 to 64ths and leaves the result in the lowest bits.
 template <class T>
 constexpr T index_shifter;
 template <>
@@ -24,7 +24,7 @@ inline constexpr float index_shifter<float> = 0x1p17f + 1.0f;
 template <>
 inline constexpr double index_shifter<double> = 0x1p46 + 1.0;
 
-// The status of an argument that is no positive number below infinity.
+// The status of an argument that is not a finite positive number.
 template <class T>
 std::optional<status> of_special(T x, T& y) {
   constexpr T infinity = value_of<T>(format<T>::infinity);
@@ -46,7 +46,7 @@ struct reduced {
   T k, m, g;
   int i;  // m - 1 in 64ths, rounded
 };
-// `grid` leaves as many bits in g as its product with c has room for.
+// `grid` rounds g to so few bits that its product with c is exact.
 template <class T>
 reduced<T> reduce(T x, T grid, int correction) {
   const T m = value_of<T>((pattern_of(x) & format<T>::fraction) | pattern_of(one_v<T>));
@@ -56,12 +56,12 @@ reduced<T> reduce(T x, T grid, int correction) {
 
 template <class T>
 struct natural_rows {
-  T RESCALE;  // what denormals are multiplied by,
-  int SHIFT;  // a power of two
-  T NEAR;     // where x - 1 goes into the polynomial as it is
+  T RESCALE;  // the factor for denormals, a power of two
+  int SHIFT;  // then added to the exponent
+  T NEAR;     // up to this |x - 1| the polynomial takes x - 1 itself
   T GRID;
-  T LN2H, LN2L;              // ln 2 in two parts,
-  T DENORMAL_H, DENORMAL_L;  // and for denormals
+  T LN2H, LN2L;              // ln 2 in two parts
+  T DENORMAL_H, DENORMAL_L;  // the same for denormals
   T Q[7];
 };
 inline constexpr natural_rows<float> natural_single{
@@ -108,14 +108,15 @@ status natural(T x, T& y, const natural_rows<T>& rows, const T (&table)[65][3]) 
   return status::ordinary;
 }
 
-// To another base. Reciprocals are times SCALE, near 1 / ln of the base with few bits, so that z is already the
-// logarithm's leading term; the last coefficient of W makes up for what SCALE is off.
+// To another base. Reciprocals are scaled by SCALE, a number of few bits near 1 / ln of the base (256 times that in
+// single precision), so that z is nearly the leading term of the logarithm; the last coefficient of W corrects for the
+// difference.
 template <class T>
 struct based_rows {
   T RESCALE;
   int SHIFT;
   T NEAR, GRID, SCALE;
-  T LOG2H, LOG2L;  // the logarithm of 2 in two parts
+  T LOG2H, LOG2L;  // logarithm of 2 in two parts
   T W[8];
 };
 inline constexpr based_rows<float> log2f_rows{
@@ -127,7 +128,7 @@ inline constexpr based_rows<float> log2f_rows{
     .LOG2H = 1.0f,
     .LOG2L = 0.0f,
     .W = {0x9C1D865E_f32, 0x2081CD9D_f32, 0xA4DA74DC_f32, 0x293D1988_f32, 0xADAA8223_f32, 0x3223FE93_f32,
-          0xB6B1720F_f32, 0xBF7F0000_f32},  // the last one leaves z / 256
+          0xB6B1720F_f32, 0xBF7F0000_f32},  // the last one reduces z to z / 256
 };
 inline constexpr based_rows<float> log10f_rows{
     .RESCALE = 0x1p40f,
@@ -191,7 +192,7 @@ status to_base(T x, T& y, const based_rows<T>& rows, const T (&table)[65][3]) {
   return log_detail::to_base(*x, *y, log_detail::log10_rows, log10_reciprocals);
 }
 
-// Of 1 + x, rounded once.
+// The sum 1 + x is rounded once.
 [[gnu::noinline]] inline status log1pf_rare(const float* x, float* y) {
   const float w = float(double(*x) + 1.0);
   return logf_rare(&w, y);

@@ -1,8 +1,8 @@
 // ln x, single precision.
 //
-// x = 2^k (1 + r), 1 + r from 2/3 to 4/3; ln(1 + r) = r + q(r) r^2, q of degree 8 (default, _rm), 6 (_half) or 3
-// (_native); ln 2 in two parts in the default form. No table. Rare lanes: zeros, denormals, negative values, infinities
-// and NaNs.
+// x = 2^k (1 + r) with 1 + r from 2/3 to 4/3; ln(1 + r) = r + q(r) r^2, q of degree 8 (default, _rm), 6 (_half) or 3
+// (_native); the default form takes ln 2 in two parts. No table. Rare lanes: zeros, denormals, negative values,
+// infinities and NaNs.
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"
 

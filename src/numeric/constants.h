@@ -18,7 +18,7 @@ inline constexpr T inverse_pi = 0x3EA2F983_f32;
 template <>
 inline constexpr double inverse_pi<double> = 0x3FD45F306DC9C883_f64;
 
-// 1.5 * 2^23 or 2^52: a sum with it is rounded to an integer, which its low bits are.
+// 1.5 * 2^23 or 1.5 * 2^52: adding it rounds a number to an integer, which then stands in the low bits of the sum.
 template <class T>
 inline constexpr T integer_shifter = 0x1.8p23f;
 template <>

@@ -10,7 +10,7 @@ struct double_pair {
 
   constexpr double_pair(double high, double low = 0.0) : hi(high), lo(low) {}
   constexpr double_pair(const two_part<double>& v) : hi(v.hi), lo(v.lo) {}
-  // Of a larger and a smaller number.
+  // |large| >= |small|.
   static double_pair fast_sum(double large, double small) { return lanemath::fast_sum(large, small); }
   static double_pair sum(double a, double b) {
     const double s = a + b, t = s - a;

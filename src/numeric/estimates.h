@@ -1,11 +1,11 @@
-// The processor's estimates for doubles, and its root of one.
+// The processor's estimates for doubles, and its square root of a scalar.
 #pragma once
 
 #include "frame/frame.h"
 
 namespace lanemath {
 
-// By way of floats: what a float cannot hold gives a zero or an infinity.
+// Computed through floats: a value outside the range of floats gives zero or infinity.
 template <int W>
 LANEMATH_INLINE lanes<double, W> reciprocal_estimate(const lanes<double, W>& x) {
   return convert<double>(reciprocal_estimate(convert<float>(x)));
@@ -15,8 +15,7 @@ LANEMATH_INLINE lanes<double, W> reciprocal_root_estimate(const lanes<double, W>
   return convert<double>(reciprocal_root_estimate(convert<float>(x)));
 }
 
-// Of a normal number of any size, by the estimate of its leading bits as a float in [1, 2). The exponent is set by
-// integers.
+// For normal numbers of any size: estimates the leading bits as a float in [1, 2), and sets the exponent by integers.
 template <int W>
 LANEMATH_INLINE lanes<double, W> full_range_reciprocal_estimate(const lanes<double, W>& x) {
   const auto top = upper(x);

@@ -1,4 +1,4 @@
-// Results beyond the numbers, made by arithmetic, so that they follow the rounding direction in force.
+// Exceptional results, made by arithmetic so that they follow the current rounding direction.
 #pragma once
 
 #include <cmath>
@@ -7,17 +7,17 @@
 
 namespace lanemath {
 
-// What an operation does to make a NaN quiet.
+// A NaN made quiet, as arithmetic on it does.
 template <class T>
 T quieted(T x) {
-  return x * opaque(one_v<T>);  // not opaque(x) * 1, which GCC makes x of
+  return x * opaque(one_v<T>);  // GCC would simplify opaque(x) * 1 to x
 }
-// What the processor answers to an invalid operation.
+// The processor's result of an invalid operation.
 template <class T>
 T default_nan() {
   return opaque(zero_v<T>) / zero_v<T>;
 }
-// What it answers to a division by zero.
+// The processor's result of a division by zero.
 template <class T>
 T pole(T sign = one_v<T>) {
   return opaque(sign) / zero_v<T>;
@@ -29,7 +29,7 @@ T square(T v) {
   return v * v;
 }
 
-// Beyond the range, with the sign of a number: infinity and zero, or the last number before them.
+// Results beyond the range, with the sign of a number: infinity and zero, or the last number before them.
 template <class T>
 inline constexpr int half_beyond = sizeof(T) == 4 ? 100 : 1000;  // twice that exponent is out of range
 template <class T>

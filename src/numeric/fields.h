@@ -1,5 +1,5 @@
-// The fields of a floating format, for operations that take numbers apart. One text serves both precisions: what the
-// vector kernels look at is the top word of a lane, which is the whole of a float and the upper half of a double.
+// The fields of a floating-point format, for operations that take numbers apart. One text serves both precisions: the
+// vector kernels look at the top word of a lane, which is the whole of a float and the upper half of a double.
 #pragma once
 
 #include <bit>
@@ -60,7 +60,7 @@ constexpr bool is_finite(T x) {
   return magnitude_pattern(x) < format<T>::infinity;
 }
 
-// The power of two with this exponent field, and 2^k for the exponent k of a normal number.
+// The power of two with this exponent field; 2^k, where k is the exponent of a normal number.
 template <class T>
 constexpr T with_exponent_field(int field) {
   return value_of<T>(typename format<T>::pattern(field) << format<T>::fraction_bits);
@@ -70,8 +70,8 @@ constexpr T power_of_two(int k) {
   return with_exponent_field<T>(format<T>::bias + k);
 }
 
-// The magnitude of a finite number other than zero: mantissa * 2^exponent, the mantissa in [1, 2). The significand is
-// the mantissa as an integer, its implicit bit set, for denormals too.
+// The magnitude of a finite nonzero number: mantissa * 2^exponent, the mantissa in [1, 2). The significand is the
+// mantissa as an integer, its implicit bit set, for denormals too.
 template <class T>
 struct unpacked {
   using f = format<T>;
@@ -100,7 +100,6 @@ struct unpacked {
   }
 };
 
-// Of positive normal numbers.
 template <class T, int W>
 LANEMATH_INLINE lanes<std::int32_t, W> exponent_of_positive(const lanes<T, W>& x) {
   return (top_word(x) >> format<T>::top_shift) - format<T>::bias;
@@ -113,7 +112,7 @@ LANEMATH_INLINE lanes<T, W> with_exponent(const lanes<T, W>& x, int exponent) {
   return from_bits((bits(x) & I(format<T>::fraction)) | I(pattern_of(power_of_two<T>(exponent))));
 }
 
-// The word with a pattern's lowest bits.
+// The word with the lowest bits of a pattern.
 template <class T, int W>
 LANEMATH_INLINE lanes<std::int32_t, W> low_word(const lanes<T, W>& x) {
   if constexpr (sizeof(T) == 4)
@@ -122,13 +121,12 @@ LANEMATH_INLINE lanes<std::int32_t, W> low_word(const lanes<T, W>& x) {
     return lower(x);
 }
 
-// The number with these sign bits flipped.
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> flipped(const lanes<T, W>& x, const lanes<int_of_size<sizeof(T)>, W>& signs) {
   return from_bits(bits(x) ^ signs);
 }
 
-// Lanes whose word is not within [low, high] as an unsigned number: one subtraction and one signed comparison.
+// Lanes whose word, as an unsigned number, is outside [low, high]: one subtraction and one signed comparison.
 template <int W>
 LANEMATH_INLINE auto outside(const lanes<std::int32_t, W>& word, std::uint32_t low, std::uint32_t high) {
   constexpr std::uint32_t sign = 0x80000000;
@@ -141,8 +139,8 @@ LANEMATH_INLINE auto not_positive_normal(const lanes<T, W>& x) {
   return outside(top_word(x), format<T>::top_unit, format<T>::top_exponent - 1);
 }
 
-// Lanes that are zero, denormal, infinite or NaN: one unit added to the field makes it 0, or 1, under a mask without
-// the lowest bit.
+// Lanes that are zero, denormal, infinite or NaN. One unit added to their exponent field makes it 1 or 0; the mask
+// leaves out the lowest bit.
 template <class T, int W>
 LANEMATH_INLINE lanes<std::int32_t, W> not_normal(const lanes<T, W>& x) {
   using f = format<T>;

@@ -5,7 +5,7 @@
 
 namespace lanemath {
 
-// By Horner's rule, the coefficient of the highest power first, of which `Skipped` are left out.
+// Evaluates by Horner's rule. The coefficients begin with the highest power; the first `Skipped` are left out.
 template <std::size_t Skipped = 0, class V, class T, std::size_t N>
 LANEMATH_INLINE V horner(V x, const T (&coefficients)[N]) {
   V y = coefficients[Skipped];

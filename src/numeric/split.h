@@ -1,11 +1,10 @@
-// Numbers taken apart into a high part of few bits, whose products are exact, and the rest.
+// Splitting numbers into a high part of few bits, whose products are exact, and a remainder.
 #pragma once
 
 #include "numeric/fields.h"
 
 namespace lanemath {
 
-// Cut: the number without its lowest bits.
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> without_low_bits(const lanes<T, W>& x, int count) {
   using I = int_of_size<sizeof(T)>;
@@ -16,7 +15,7 @@ T without_low_bits(T x, int count) {
   return value_of<T>(pattern_of(x) & ~typename format<T>::pattern(0) << count);
 }
 
-// 2^n + 1, n half of the significand's bits.
+// 2^n + 1, where n is half the number of significand bits.
 template <class V>
 constexpr auto half_splitter() {
   if constexpr (std::is_same_v<V, float>)
@@ -29,7 +28,7 @@ constexpr auto half_splitter() {
     return half_splitter<typename V::value_type>();
 }
 
-// Rounded, by Veltkamp's method: half of the bits are left.
+// Rounds to half of the bits, by Veltkamp's method.
 template <class V, class T = decltype(half_splitter<V>())>
 LANEMATH_INLINE V high_part(V x, T splitter = half_splitter<V>()) {
   const V scaled = x * splitter;
@@ -41,14 +40,14 @@ LANEMATH_INLINE two_part<V> split(V x, T splitter = half_splitter<V>()) {
   return {hi, x - hi};
 }
 
-// a + b and what its rounding has lost, |a| >= |b|.
+// a + b and its rounding error, for |a| >= |b|.
 template <class V>
 LANEMATH_INLINE two_part<V> fast_sum(V a, V b) {
   const V sum = a + b;
   return {sum, b + (a - sum)};
 }
 
-// a b, and what its rounding has lost, by Dekker's method.
+// a b and its rounding error, by Dekker's method.
 template <class V>
 LANEMATH_INLINE two_part<V> exact_product(V a, V b) {
   const auto [ah, al] = split(a);
@@ -57,7 +56,7 @@ LANEMATH_INLINE two_part<V> exact_product(V a, V b) {
   return {p, ((ah * bh - p) + ah * bl + al * bh) + al * bl};
 }
 
-// 1 + v as two summands, the larger first; `lost_by` says what their sum w has lost, which may have been cut short.
+// 1 + v as two summands, the larger first. `lost_by(w)` is what w, their possibly truncated sum, lacks.
 template <class V>
 struct one_plus {
   static constexpr auto one = one_v<typename V::value_type>;

@@ -1,8 +1,8 @@
 // x^y, double precision.
 //
-// Default: log2 x in two doubles, by a table of 1025 short reciprocals with a scale near 1 / ln 2 and a polynomial; the
-// product with y exact in its high part; 2^v by a table of 128 entries and a polynomial. The native form: the
-// kernel of powf, not narrowed. Rare lanes in pairs of doubles.
+// Default: log2 x in two doubles, by a table of 1025 short reciprocals scaled by nearly 1 / ln 2 and a polynomial; its
+// product with y, exact in the high part; 2^v by a table of 128 entries and a polynomial. The native form: the kernel
+// of powf, not narrowed. Rare lanes are computed in pairs of doubles.
 #include "pow/power_double.h"
 #include "pow/power_rare_double.h"
 #include "pow/power_widened.h"

@@ -7,7 +7,7 @@
 
 namespace lanemath {
 
-// Cut, not rounded.
+// Truncated, not rounded.
 template <int W>
 LANEMATH_INLINE exponent_parts<lanes<double, W>> cut_exponent(const lanes<double, W>& y) {
   const auto hi = without_low_bits(y, 27);
@@ -20,11 +20,11 @@ inline constexpr std::int32_t RANGE = 0x408F3FFE;  // 999.9995
 template <int W>
 LANEMATH_INLINE auto double_power(const lanes<double, W>& x, const exponent_parts<lanes<double, W>>& y) {
   using V = lanes<double, W>;
-  constexpr double scale = 0x3FF7154740000000_f64;  // of the reciprocals, near 1 / ln 2
+  constexpr double scale = 0x3FF7154740000000_f64;  // scale of the reciprocals, near 1 / ln 2
 
   const auto i = ((upper(x) & 0x000FFE00) + 0x00000200) >> 10;
   const V m = with_exponent(x, 0);
-  // The exponent, one more for mantissas of the table's upper half.
+  // The exponent, plus one where the entry is in the upper half of the table.
   const auto biased = as<std::int64_t>(as<std::uint64_t>(bits(x) + 0x0008020000000000) >> 52);
   const V K = from_bits(biased | 0x4330000000000000) - 0x43300000000003FF_f64;
 
@@ -63,7 +63,7 @@ LANEMATH_INLINE auto double_power(const lanes<double, W>& x, const exponent_part
   return marked(g + q * (v * g), magnitude_above(P, RANGE));
 }
 
-// The default form of pow and of powr: they differ in the rare routine.
+// The default form of pow and powr, which differ in the rare routine.
 template <auto Routine>
 struct double_pow : power<double(double, double), Routine> {
   template <class V>

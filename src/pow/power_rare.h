@@ -1,5 +1,5 @@
-// The scalar routines of the powers in both precisions: the special cases, in the order that decides. What is left,
-// a finite base that is not zero and a finite exponent, goes to finite_power of the precision.
+// The scalar routines of the powers in both precisions: the special cases, in the order in which they take precedence.
+// All others have a nonzero finite base and a finite exponent, and go to finite_power of the precision.
 //
 // Infinities, zeros and NaNs are made by arithmetic.
 #pragma once
@@ -8,13 +8,13 @@
 
 namespace lanemath::powers {
 
-// The NaN of a sum: the first operand's if it is one.
+// The NaN that x + y gives: that of x if x is a NaN.
 template <class T>
 T nan_sum(T x, T y) {
   return quieted(is_nan(x) ? x : y);
 }
 
-enum class parity { none, odd, even };  // none: not an integer, or infinite
+enum class parity { none, odd, even };  // none: no integer, or infinite
 
 template <class T>
 parity parity_of(T y) {
@@ -24,12 +24,12 @@ parity parity_of(T y) {
   if (exponent > of::fraction_bits) return parity::even;
   const auto shifted = magnitude_pattern(y) << exponent;
   if (shifted & of::fraction) return parity::none;
-  // At exponent 0 the bit above the fraction belongs to the exponent of 1, which is odd.
+  // At exponent 0 this bit is the lowest one of the exponent field, which is set: 1 is odd.
   return shifted & of::implicit_bit ? parity::odd : parity::even;
 }
 inline parity parity_of(std::int32_t n) { return n & 1 ? parity::odd : parity::even; }
 
-// What pow and pown share: everything but the exponent's own kind. `of_finite` takes the result's sign as well.
+// What pow and pown share: everything but the type of the exponent. `of_finite` also takes the sign of the result.
 template <class T, class Y, class F>
 status power_lane(T x, Y exponent, T& z, F of_finite) {
   const T y = T(exponent);
@@ -63,7 +63,7 @@ status power_lane(T x, Y exponent, T& z, F of_finite) {
   return status::ordinary;
 }
 
-// powr: no base below zero, and a NaN wherever the limit depends on the path.
+// powr: no base below zero, and a NaN wherever the limit depends on the path to it.
 template <class T, class F>
 status powr_lane(T x, T y, T& z, F of_finite) {
   constexpr T infinity = std::numeric_limits<T>::infinity();
@@ -93,7 +93,7 @@ status powr_lane(T x, T y, T& z, F of_finite) {
   return status::ordinary;
 }
 
-// rootn. A root of a negative number is the root of its magnitude, the sign put back at the end.
+// rootn. The root of a negative number is that of its magnitude with the sign put back at the end.
 template <class T, class F>
 status rootn_lane(T x, std::int32_t n, T& z, F of_finite) {
   const bool odd = n & 1;
@@ -110,7 +110,7 @@ status rootn_lane(T x, std::int32_t n, T& z, F of_finite) {
   } else {
     const T sign = std::signbit(x) ? -one_v<T> : one_v<T>;
     x = std::fabs(x);
-    if (x == 1)  // kept although no argument reaches it: the kernels serve it
+    if (x == 1)  // never reached: the kernels serve it
       z = sign;
     else if (is_finite(x))
       z = of_finite(x) * sign;

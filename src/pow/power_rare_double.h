@@ -1,6 +1,6 @@
-// The scalar power of a finite base that is not zero and a finite exponent, in pairs of doubles: log2 |x| by the
-// kernel's tables and a series to about 2^-70, the product with the exponent, 2^v by a table of 128 pairs and a
-// series, one rounding at the result's own last place.
+// The scalar power of a nonzero finite base and a finite exponent, in pairs of doubles: log2 |x| to about 2^-70 by the
+// kernel's tables and a series, the product with the exponent, 2^v by a table of 128 pairs and a series, and one
+// rounding at the last place of the result.
 #pragma once
 
 #include "numeric/double_pair.h"
@@ -43,7 +43,7 @@ inline double_pair log2_of(double magnitude) {
   return double_pair::sum(second.hi, (((small + quadratic.lo) + w.lo) + (first.lo + second.lo)) + table_lo);
 }
 
-// (p.hi + p.lo) 2^n of a pair near 1 to 2, rounded once, denormals included.
+// (p.hi + p.lo) 2^n for a pair from about 1 to 2, rounded once, denormals included.
 inline double scaled(double_pair p, int n, double sign) {
   const auto by_exponent = [](double v, int k) { return value_of<double>(pattern_of(v) + (std::uint64_t(k) << 52)); };
 
@@ -60,7 +60,7 @@ inline double scaled(double_pair p, int n, double sign) {
 
 inline double finite_power(double x, double_pair y, double sign) {
   const auto log = log2_of(std::fabs(x));
-  // |y log2 x| of 2^11 and more, or too small to tell the result from 1.
+  // Either |y log2 x| is 2^11 or more, or it is so small that the result is next to 1.
   const int size = exponent_field(y.hi) + exponent_field(log.hi);
   if (size >= 2057)
     return (std::signbit(y.hi) != std::signbit(log.hi) ? underflowed<double>() : overflowed<double>()) * sign;

@@ -1,5 +1,5 @@
-// The scalar power of a finite base that is not zero and a finite exponent, in pairs of floats: log2 |x| by three
-// stages of short reciprocals and a cubic, 2^v by a table of 128 pairs and a cubic.
+// The scalar power of a nonzero finite base and a finite exponent, in pairs of floats: log2 |x| by three stages of
+// short reciprocals and a cubic, 2^v by a table of 128 pairs and a cubic.
 #pragma once
 
 #include "pow/power_rare.h"
@@ -8,12 +8,12 @@
 
 namespace lanemath::powers {
 
-// As the kernels have it.
+// The exponent as the kernels compute it.
 inline exponent_parts<float> of_one(const exponent_parts<lanes<float, 1>>& y) {
   return {y.value.g[0], y.hi.g[0], y.lo.g[0]};
 }
 
-// How the last sums go together: each operation has its own order.
+// How the last sums are made: each operation has its own order.
 enum class product_sum { before_rounding, high_only };
 enum class denormal_sum { scaled_then_signed, scaled_with_sign, each_scaled_with_sign };
 

@@ -1,4 +1,4 @@
-// The float kernels of the powers: in pairs of floats, and the short one.
+// The float kernels of the powers: one in pairs of floats, and a short one.
 #pragma once
 
 #include "log/logarithm_single.h"
@@ -8,7 +8,7 @@
 
 namespace lanemath {
 
-// Of an integer: what a float cannot hold of it goes to the low part.
+// Of an integer: the bits that a float cannot hold go to the low part.
 template <int W>
 LANEMATH_INLINE exponent_parts<lanes<float, W>> exponent_of(const lanes<std::int32_t, W>& n) {
   const auto y = convert<float>(n);
@@ -17,7 +17,7 @@ LANEMATH_INLINE exponent_parts<lanes<float, W>> exponent_of(const lanes<std::int
   return parts;
 }
 
-// e^r over a binade, in pairs.
+// The polynomial for e^r in split_power.
 struct split_exp_rows {
   float c0, c1, c2, c3, c4, c5;
 };
@@ -32,7 +32,7 @@ inline constexpr split_exp_rows split_exp_table{
 
 inline constexpr float LN2_HI = 0x3F317200_f32, LN2_LO = 0x35BFBE8E_f32, LOG2E = 0x3FB8AA3B_f32;
 
-// e^(y ln x) from the pattern of x, with the logarithm in two parts. Marked: beyond |y ln x| of the pattern `bound`.
+// e^(y ln x) from the pattern of x, with the logarithm in two parts. Marks |y ln x| above the pattern `bound`.
 template <int W>
 LANEMATH_INLINE auto split_power(const lanes<std::int32_t, W>& b, const exponent_parts<lanes<float, W>>& y,
                                  const split_exp_rows& c, std::int32_t bound) {
@@ -51,7 +51,7 @@ LANEMATH_INLINE auto split_power(const lanes<std::int32_t, W>& b, const exponent
   const V q = ((p * -0.25f + 0x3EAAAAAB_f32) * p + -0.5f) * (p * p);
   V H = E * 0x3F317000_f32 + a;
   V Lo = q + (E * 0x3805FDF4_f32 + B);
-  // Near 1 the high part is small, and what is left of m belongs to it.
+  // Near 1 the high part is small, so that the rest of m is added to it.
   const auto away_from_one = outside(b, 0x3F7E0001, 0x3F81FFFF);
   H = H + from_bits(bits(u) & ~away_from_one);
   Lo = Lo + from_bits(bits(u) & away_from_one);
@@ -80,7 +80,7 @@ inline constexpr short_exp_rows short_exp_table{
     .c2 = 0x3F00F2D6_f32,
     .c3 = 0x3E2963AC_f32,
 };
-// Of the ops with an integer exponent: the constant term is not 1.
+// For an integer exponent; the constant term is not 1.
 inline constexpr short_exp_rows short_exp_integer_table{
     .c0 = 0x3F7FFB0D_f32,
     .c1 = 0x3F7FFC0B_f32,
@@ -111,7 +111,7 @@ LANEMATH_INLINE auto short_power(const lanes<std::int32_t, W>& b, const lanes<fl
   return marked(from_bits(bits(e) + (bits(N) << 23)), magnitude_above(s, SHORT_RANGE));
 }
 
-// The native form of powf and of powrf: they differ in the rare routine.
+// The native form of powf and powrf, which differ in the rare routine.
 template <auto Routine>
 struct short_powf : power<float(float, float), Routine> {
   template <class V>

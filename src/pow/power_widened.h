@@ -1,5 +1,5 @@
-// The kernel that computes in double with a table of every reciprocal: the default of powf, and the native forms of
-// the double-precision powers.
+// The kernel that computes in double with a table for every integer reciprocal: the default form of powf, and the
+// native forms of the double-precision powers.
 #pragma once
 
 #include "log/logarithm_double.h"
@@ -28,9 +28,9 @@ LANEMATH_INLINE lanes<double, W> widened_exp(const lanes<double, W>& s) {
   return from_bits(bits(g + g * u) + ((bits(w) >> 11) << 52));
 }
 
-inline constexpr std::int32_t WIDENED_RANGE = 0x4086232A;  // 708.39, for results in double
+inline constexpr std::int32_t WIDENED_RANGE = 0x4086232A;  // 708.39, for double results
 
-// The native form of pow and of powr: they differ in the rare routine.
+// The native form of pow and powr, which differ in the rare routine.
 template <auto Routine>
 struct widened_pow : power<double(double, double), Routine> {
   template <class V>

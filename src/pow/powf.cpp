@@ -1,8 +1,8 @@
 // x^y, single precision.
 //
 // Default: y ln x in double, by a table of logarithms for every integer reciprocal and a cubic; e^s by a table of 2048
-// entries and a chord; one rounding to float, which makes infinities and denormals as well. The native form (_native,
-// _rm): polynomials in single floats. Rare lanes in pairs of floats.
+// entries and linear interpolation; one rounding to float, which also produces infinities and denormals. The native
+// form (also _rm): polynomials in single floats. Rare lanes are computed in pairs of floats.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"
 #include "pow/power_widened.h"
@@ -10,7 +10,7 @@
 namespace lanemath {
 namespace {
 
-constexpr std::int32_t RARE = 0x4059FE36;  // 103.972, 150 ln 2: infinities and denormals are within
+constexpr std::int32_t RARE = 0x4059FE36;  // 103.972, 150 ln 2: includes infinite and denormal results
 
 LANEMATH_RARE powf_rare(const float* px, const float* py, float* pz) {
   using namespace powers;

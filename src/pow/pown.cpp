@@ -1,5 +1,5 @@
 // x^n for an integer n, double precision: the kernels of pow on the magnitude of x; n is exact as a double. Rare lanes
-// in pairs of doubles.
+// are computed in pairs of doubles.
 #include "pow/power_double.h"
 #include "pow/power_rare_double.h"
 #include "pow/power_widened.h"

@@ -1,9 +1,9 @@
 // x^n for an integer n, single precision.
 //
-// Default: the kernel of powrf on the magnitude of x, with the bits of n that a float cannot hold in the exponent's
-// low part. The native form: polynomials in single floats. Neither has 1 as its constant term, so that x^0 and
-// 1^n are next to 1 and not 1. Where a result next to the normals is below them the exponent has no room. Rare lanes in
-// pairs of floats.
+// Default: the kernel of powrf on the magnitude of x; the bits of n that a float cannot hold are in the low part of the
+// exponent. The native form: polynomials in single floats. In neither is the constant term 1, so that x^0 and 1^n are
+// near 1 but not 1. A result that falls just below the normal numbers is inaccurate: the exponent field has no room for
+// it. Rare lanes are computed in pairs of floats.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"
 

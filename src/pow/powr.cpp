@@ -1,4 +1,4 @@
-// x^y for x >= 0, double precision: the kernels of pow; other special cases.
+// x^y for x >= 0, double precision: the kernels of pow, with other special cases.
 #include "pow/power_double.h"
 #include "pow/power_rare_double.h"
 #include "pow/power_widened.h"

@@ -1,7 +1,7 @@
 // x^y for x >= 0, single precision.
 //
-// Default: ln x in two floats, by a table of 65 short reciprocals and a cubic; the product with y in two parts; e^r by
-// a quintic. The native form (_half too): that of powf. Rare lanes in pairs of floats.
+// Default: ln x in two floats, by a table of 65 short reciprocals and a cubic; its product with y in two parts; e^r by
+// a quintic. The native form (also _half): that of powf. Rare lanes are computed in pairs of floats.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"
 

@@ -1,5 +1,5 @@
 // The n-th root of x, x^(1/n), double precision: the kernels of pow on the magnitude of x, with 1/n in two parts; the
-// native form takes 1/n in one. Rare lanes in pairs of doubles.
+// native form takes 1/n in one. Rare lanes are computed in pairs of doubles.
 #include "pow/power_double.h"
 #include "pow/power_rare_double.h"
 #include "pow/power_widened.h"

@@ -1,7 +1,7 @@
 // The n-th root of x, x^(1/n), single precision.
 //
-// Default: the kernel of powrf on the magnitude of x, with 1/n in two parts. The native form: that of pownf, with
-// 1/n. Rare lanes in pairs of floats.
+// Default: the kernel of powrf on the magnitude of x, with 1/n in two parts. The native form: that of pownf, with 1/n.
+// Rare lanes are computed in pairs of floats.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"
 

@@ -1,10 +1,10 @@
 // Cube root and its reciprocal, by one method.
 //
-// The exponent is divided by 3 with a multiplication. Its remainder m and the top five bits of the significand choose a
-// table entry, the root of c 2^m for c the middle of a cell; what the distance r from the middle adds is the binomial
-// series of (1 + r)^(1/3) or (1 + r)^(-1/3). The quotient becomes a power of two, which also carries the sign. In
-// single precision the entries have a low part; the native forms do without it and keep one term of four. In double the
-// native forms keep five terms of seven. Zeros, denormals, infinities and NaNs are rare.
+// The exponent is divided by 3 with a multiplication. Its remainder m and the top five bits of the significand select a
+// table entry, the root of c 2^m, where c is the middle of a cell; the distance r from the middle enters by the
+// binomial series of (1 + r)^(1/3) or (1 + r)^(-1/3). The quotient becomes a power of two, which also carries the sign.
+// In single precision the entries have a low part; the native forms do without it and keep one term of four. In double
+// precision the native forms keep five terms of seven. Zeros, denormals, infinities and NaNs are rare.
 #include "numeric/exceptional.h"
 #include "numeric/polynomial.h"
 #include "tables/roots.h"
@@ -33,7 +33,7 @@ struct layout : format<T> {
   static constexpr auto minus_middle = pattern(minus_one | implicit_bit >> 6);  // of the first cell
   static constexpr auto& minus_inverse_middle = chosen<T>(minus_inverse_middle_f32, minus_inverse_middle_f64);
 
-  // e / 3 for exponent fields, rounded down.
+  // e / 3 for an exponent field e, rounded down.
   static auto third(auto e) { return sizeof(T) == 4 ? (e * 1365) >> 12 : (e * 0x1556) >> 14; }
 };
 
@@ -62,7 +62,7 @@ LANEMATH_INLINE reduced<V> reduce(V x) {
   const auto scale_field =
       Power == root ? (sign | (at::bias - at::bias / 3)) + q : (sign | (at::bias + at::bias / 3)) - q;
   const auto scale_word = scale_field << at::top_shift;
-  // In rare lanes m may be negative: their index is cleared.
+  // In rare lanes m may be negative, so their index is cleared.
   const auto index = (m * 32 + cell) & ~not_normal(x);
   if constexpr (sizeof(T) == 4)
     return {r, from_bits(scale_word), index};
@@ -105,7 +105,7 @@ LANEMATH_INLINE lanes<double, W> evaluate(const lanes<double, W>& x) {
   const auto h = look_up(rows<Power>::table_f64, index) * scale;
   return h + horner<Skipped>(r, rows<Power>::wide) * (r * h);
 }
-// The same of one number.
+// The same for a scalar.
 template <int Power, class T>
 T evaluate_one(T x) {
   return evaluate<Power>(lanes<T, 1>(x)).g[0];
@@ -125,7 +125,7 @@ LANEMATH_RARE cbrt_rare(const T* px, T* py) {
   return status::ordinary;
 }
 
-// A float's in double, and narrowed.
+// A float is computed in double and narrowed.
 template <class T>
 LANEMATH_RARE rcbrt_rare(const T* px, T* py) {
   const T x = *px;

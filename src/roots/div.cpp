@@ -1,7 +1,7 @@
 // x / y.
 //
 // Default: the processor's division, correctly rounded. The native form in single precision is one multiplication by
-// the reciprocal's estimate of about 12 bits, nothing after it; divisors whose reciprocal is no normal float are rare.
+// the estimate of the reciprocal, of about 12 bits; divisors whose reciprocal is not a normal float are rare.
 #include "roots/reciprocal.h"
 
 namespace lanemath {
@@ -22,7 +22,7 @@ struct divide {
   }
 };
 
-// The rare routine only repeats the division: the test and the status tell a zero divisor.
+// The rare routine only repeats the division: its status reports a zero divisor.
 template <std::uint64_t Ignored>
 struct watched_divide : divide<double> {
   static constexpr auto rare = div_rare<double>;
@@ -47,7 +47,7 @@ LANEMATH_EXPORT(divf, divf_native, _native)
 LANEMATH_SAME(divf, _native, _half)
 LANEMATH_SAME(divf, _native, _rm)
 LANEMATH_EXPORT(div, watched_divide<0x800FFFFFFFFFFFFF>)
-// Other bits are left out than those of sign and significand, so that the mask differs and no result does.
+// Ignores bits other than those of the sign and significand: other lanes are marked, but no result differs.
 LANEMATH_EXPORT(div, watched_divide<0x3F8000003F800000>, _native)
 
 }  // namespace lanemath

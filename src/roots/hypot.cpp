@@ -1,10 +1,10 @@
 // sqrt(x^2 + y^2).
 //
-// The squares are added as they are; the estimate of the sum's reciprocal root, of about 12 bits, is refined: in single
-// precision by one coupled step for root and half of the reciprocal root and the residual of the root, in double by the
-// binomial series, of which the native form keeps two terms of four. Sums that come near the ends of the range go to
-// scalar routines, which round correctly. hypotf_native is the estimate times the sum, with no test: a sum that
-// overflows or is infinite gives a NaN, a denormal one +infinity.
+// The squares are added without scaling, and the estimate of the sum's reciprocal root, of about 12 bits, is refined:
+// in single precision by one coupled step for the root and half of the reciprocal root, then by the residual of the
+// root; in double by the binomial series, of which the native form keeps two terms of four. Sums near the ends of the
+// range go to scalar routines, which round correctly. hypotf_native is the estimate times the sum, with no test: a sum
+// that overflows or is infinite gives a NaN, a denormal one +infinity.
 #include "numeric/estimates.h"
 #include "numeric/polynomial.h"
 #include "roots/roots.h"
@@ -12,7 +12,7 @@
 namespace lanemath {
 namespace {
 
-// Infinities and NaNs, of which at least one argument is one. An infinity wins.
+// Pairs with an infinity, which takes precedence, or a NaN.
 template <class T>
 bool hypot_of_non_finite(T x, T y, T& z) {
   if (is_finite(x) && is_finite(y)) return false;
@@ -37,14 +37,14 @@ two_part<double> sum_of_squares(double a, double b) {
   return {hi, (bh - (hi - ah)) + (al + bl)};
 }
 
-// The root's nearest double, and the residual that is left.
+// The root rounded to double, and its residual.
 two_part<double> root_of(const two_part<double>& s) {
   const double y = scalar_square_root(s.hi);
   return {y, residual_of_square(s.hi, y) + s.lo};
 }
 
-// The squares of floats and their sum are exact in two doubles, and so the residual tells on which side of its nearest
-// double the root lies. The last bit is made to say that: then one rounding to float is correct.
+// The squares of floats and their sum are exact in two doubles, so that the sign of the residual shows on which side of
+// the nearest double the root lies. The last bit is set accordingly, and one rounding to float is then correct.
 LANEMATH_RARE hypotf_rare(const float* px, const float* py, float* pz) {
   if (hypot_of_non_finite(*px, *py, *pz)) return status::ordinary;
   const double x = std::fabs(*px), y = std::fabs(*py);
@@ -56,8 +56,9 @@ LANEMATH_RARE hypotf_rare(const float* px, const float* py, float* pz) {
   return status::ordinary;
 }
 
-// Near the ends of the range the larger argument is brought to [2, 4). Denormals are integers in units of the least of
-// them, and so is the root, by its pattern: the integer nearest to it is found in integers.
+// Near the ends of the range the larger argument is scaled to [2, 4). Denormal arguments are integers, in units of the
+// least denormal, and their patterns are these integers: the integer nearest to the root is found in integer
+// arithmetic.
 LANEMATH_RARE hypot_rare(const double* px, const double* py, double* pz) {
   if (hypot_of_non_finite(*px, *py, *pz)) return status::ordinary;
   const double x = std::fabs(*px), y = std::fabs(*py);
@@ -107,7 +108,7 @@ struct hypotf_native {
   }
 };
 
-// (1 + d)^(-1/2) - 1, divided by d: the last terms of four.
+// The last terms of the four of ((1 + d)^(-1/2) - 1) / d.
 template <std::size_t Terms>
 struct hypot_of_doubles {
   using signature = double(double, double);

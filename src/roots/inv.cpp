@@ -1,16 +1,16 @@
 // 1 / x.
 //
-// Default: the processor's division, correctly rounded. The native form in single precision: the reciprocal's estimate
-// as it is. The native form in double: the estimate for the significand, moved into a double's layout with the exponent
-// taken out by integer arithmetic, then one step of third order. It has no test: infinities, denormals and denormal
-// results get what that arithmetic gives; zeros and NaNs come out right.
+// Default: the processor's division, correctly rounded. The native form in single precision is the estimate of the
+// reciprocal. The native form in double: the estimate for the significand, widened and given its exponent by integer
+// arithmetic, then one third-order step. It has no test: infinities, denormals and denormal results get whatever that
+// arithmetic gives; zeros and NaNs come out right.
 #include "numeric/estimates.h"
 #include "roots/reciprocal.h"
 
 namespace lanemath {
 namespace {
 
-// A float's reciprocal is computed in double, so that a denormal result is rounded once.
+// The reciprocal of a float is computed in double, so that a denormal result is rounded once.
 template <class T>
 LANEMATH_RARE inv_rare(const T* px, T* py) {
   const double x = *px;
@@ -27,7 +27,7 @@ struct invert {
   }
 };
 
-// The rare routine only repeats the division, for the sake of the status.
+// The rare routine only repeats the division, for the status.
 struct inv_standard : invert<double> {
   static constexpr auto rare = inv_rare<double>;
   static auto rare_test(auto x) { return zero_without(x, 0x800FFFFFFFFFFFFF); }
@@ -36,7 +36,7 @@ struct inv_standard : invert<double> {
 struct invf_native {
   using signature = float(float);
   static constexpr auto rare = inv_rare<float>;
-  // Lower than the bound of a divisor: the estimates of these must not be denormals.
+  // Lower than the bound of div, so that no estimate is denormal.
   static auto rare_test(auto x) { return reciprocal_beyond(x, 0x7DFFE800); }
 
   template <class V>

@@ -1,10 +1,10 @@
 // 1 / square root.
 //
 // Single precision: the processor's estimate y, then e = y^2 x - 1 and the series of 1 / sqrt(1 + e). The default form
-// cuts y to few bits, so that y^2 is exact; the native form (_half too) makes one Newton step. Double: the estimate
-// is that of a float made of the significand and the exponent's parity, its power of two is made by integer arithmetic,
-// and the default form computes the residual with x in two parts. Rare lanes in double, from a table of seeds, the
-// result as a high and a low part.
+// truncates y to few bits, so that y^2 is exact; the native form (also _half) makes one Newton step. Double precision:
+// the estimate is taken of a float made of the significand and the parity of the exponent, and scaled by integer
+// arithmetic; the default form computes the residual with x in two parts. Rare lanes are computed in double from a
+// table of seeds, with the result as a high and a low part.
 #include "numeric/polynomial.h"
 #include "roots/roots.h"
 #include "tables/roots.h"
@@ -81,23 +81,23 @@ struct rsqrtf_native : rsqrtf_guards {
   }
 };
 
-// The lanes that pass have an upper word from Low to 0x7FCFFFFF.
+// Lanes whose upper word is not from Low to 0x7FCFFFFF are rare.
 template <std::uint32_t Low>
 struct rsqrt_guards {
   using signature = double(double);
   static constexpr auto rare = rsqrt_rare<double>;
   static auto rare_test(auto x) { return outside(upper(x), Low, 0x7FCFFFFF); }
 
-  // To the estimate's 12 bits.
+  // An estimate of about 12 bits.
   template <class V>
   static V estimate(V x) {
     const auto pattern = as<std::uint64_t>(x);
     const auto exponent = pattern & 0x7FF0000000000000;
     const auto even = ~exponent & 0x0010000000000000;
-    // A float with the significand, in [1, 2) for an odd exponent and in [2, 4) for an even one.
+    // A float with the same significand, in [1, 2) for an odd exponent and in [2, 4) for an even one.
     const auto v = ((pattern & 0x001FFFFFFFFFFFFF) >> 29) | ((even + 0x07F0000000000000) >> 29);
     const V r = convert<double>(reciprocal_root_estimate(from_bits(lower(v))));
-    // 2 to the power of minus half the exponent.
+    // Two to the power of minus half the exponent.
     return r * as<double>(((even + 0xBFD0000000000000) - exponent) >> 1);
   }
 };

@@ -1,10 +1,10 @@
 // Square root.
 //
-// Default: the processor's, correctly rounded. The native forms: x times the estimate of the reciprocal root, of about
-// 12 bits, nothing after it. _native has no test: in single precision zero and +infinity give a NaN, and denormals of
-// either sign +infinity; in double the estimate is that of x narrowed to float, so that what lies beyond a float's
-// range gives 0 or an infinity. _half hands such lanes to a scalar routine: a seed from a table, three rounds of a
-// coupled iteration for root and half of the reciprocal root, and a last step by the exact residual, in double.
+// Default: the processor's square root, correctly rounded. The native forms: x times the estimate of the reciprocal
+// root, of about 12 bits. _native has no test: in single precision zero and +infinity give a NaN, and denormals of
+// either sign +infinity; in double the estimate is that of x narrowed to float, so that values outside the range of
+// floats give 0 or infinity. _half leaves such lanes to a scalar routine in double: a seed from a table, three rounds
+// of a coupled iteration for the root and half of the reciprocal root, and a last step by the exact residual.
 #include "numeric/estimates.h"
 #include "roots/roots.h"
 #include "tables/roots.h"
@@ -64,7 +64,7 @@ struct sqrt_native {
   using signature = double(double);
   template <class V>
   static V kernel(V x) {
-    // Narrowing may cut a NaN's low bits: x's own are kept.
+    // Narrowing may drop low bits of a NaN: the product keeps those of x.
     return ordered_product(x, reciprocal_root_estimate(x));
   }
 };

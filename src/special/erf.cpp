@@ -1,8 +1,8 @@
 // The error function.
 //
-// Value and slope at the nearest point m of a grid of 1/128, and an expansion in d = |x| - m. From the last point on
-// the result is 1. _native: one term (erff) or three (erf) fewer. There are no rare lanes: a NaN gets through as the
-// second operand of a minimum.
+// Value and slope at the nearest point m of a grid of step 1/128, and an expansion in d = |x| - m. From the last point
+// on the result is 1. The native form: one term (erff) or three (erf) fewer. There are no rare lanes: a NaN passes
+// through as the second operand of a minimum.
 #include "numeric/fields.h"
 #include "special/erf_grid.h"
 

@@ -12,8 +12,8 @@ struct grid_point {
   V E, D;  // value and slope there
 };
 
-// `b` lies between 0 and the last point. One unit in the last place of the shifter is a step of the grid, so that the
-// sum's low bits are the index.
+// `b` is between 0 and the last point. One unit in the last place of the shifter is a step of the grid, so that the low
+// bits of the sum are the index.
 template <class V, class T, std::size_t Size>
 grid_point<V> nearest_point(const two_part<T> (&grid)[Size], T shifter, V b) {
   const V t = b + shifter;

@@ -1,11 +1,11 @@
 // The complementary error function, 1 - erf(x).
 //
 // Value and slope at the nearest point m of a grid and an expansion in d = |x| - m, as for erf. The table is scaled by
-// a power of two that keeps the far right tail normal, so that the last multiplication is the one rounding of a
-// denormal result. To the left of 0 the result is 2 - erfc(|x|): one more summand and the multiplier's sign. _native: a
-// grid of half as many points and a shorter expansion.
+// a power of two that keeps the far right tail normal, so that a denormal result is rounded only by the last
+// multiplication. Left of 0 the result is 2 - erfc(|x|): one more summand and the sign of the multiplier. The native
+// form: a grid of half as many points and a shorter expansion.
 //
-// Rare lanes: where the result rounds to zero, and NaNs.
+// Rare lanes: arguments whose result rounds to zero, and NaNs.
 #include "numeric/exceptional.h"
 #include "numeric/polynomial.h"
 #include "special/erf_grid.h"
@@ -13,11 +13,11 @@
 namespace lanemath::special {
 namespace {
 
-// From here on the result is rare: under half of the smallest denormal, but for the first float.
+// From here on the result is rare: less than half of the smallest denormal, except for the first float.
 constexpr float erfcf_bound = 0x4120DDFB_f32;
 constexpr double erfc_bound = 0x403B39DC41E48BFD_f64;
 
-// What follows from the table's scale of 2^48 or 2^128 and from the sign.
+// Constants that follow from the table's scale, 2^48 or 2^128.
 template <class T>
 struct erfc_scale;
 template <>
@@ -29,14 +29,14 @@ struct erfc_scale<double> {
   static constexpr double up = 0x1p128, down = 0x1p-128;
 };
 
-// x taken apart by a grid whose last point is `cap`, and the result put together.
+// Reduces x to a grid whose last point is `cap`, and assembles the result.
 template <class V>
 struct erfc_parts {
   using T = typename V::value_type;
   using scale = erfc_scale<T>;
 
   V k;  // 0 or minus twice the scale
-  V f;  // the scale undone, with the sign
+  V f;  // the inverse of the scale, with the sign of x
   grid_point<V> at;
   V d, w, z;
 
@@ -51,7 +51,7 @@ struct erfc_parts {
     w = at.m * d;
     z = d * d;
   }
-  // `drop` is how much the value falls from the grid point on.
+  // `drop` is the decrease of the value from the grid point on.
   LANEMATH_INLINE V result(V drop) const { return ((at.E - drop) + k) * f; }
 };
 
@@ -62,7 +62,7 @@ LANEMATH_RARE erfc_rare(const T* px, T* py) {
     *py = x != x ? x * x : zero_v<T>;
     return status::ordinary;
   }
-  if (sizeof(T) == 4 && double(x) < 0x40241BBF700DC3FB_f64) {  // one float
+  if (sizeof(T) == 4 && double(x) < 0x40241BBF700DC3FB_f64) {  // a single float
     *py = std::numeric_limits<T>::denorm_min();
     return status::ordinary;
   }

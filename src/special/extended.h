@@ -1,4 +1,4 @@
-// Arithmetic with the 64-bit significand of x87 registers, in which the gamma functions work lane by lane.
+// Arithmetic with the 64-bit significand of the x87 registers, which the gamma functions use lane by lane.
 #pragma once
 
 #include <cstring>
@@ -13,7 +13,7 @@ namespace lanemath::special {
 using extended = long double;
 static_assert(std::numeric_limits<extended>::digits == 64);
 
-// scale times a product of x^2 + a x + b: what keeps a polynomial of high degree as good as its factors.
+// scale times a product of factors x^2 + a x + b, which keeps a polynomial of high degree as accurate as its factors.
 template <class T, int Factors>
 struct quadratics {
   T scale;
@@ -28,8 +28,7 @@ T product_at(const quadratics<T, Factors>& c, T x) {
   return product;
 }
 
-// A polynomial, highest power first, as its even part plus x times its odd part, two chains that do not wait for each
-// other.
+// A polynomial, highest power first, as its even part plus x times its odd part: two independent chains.
 template <class C, std::size_t Size, class X>
 X even_and_odd(const C (&c)[Size], X x) {
   const X s = x * x;
@@ -39,7 +38,7 @@ X even_and_odd(const C (&c)[Size], X x) {
   return with_last + x * other;
 }
 
-// Runs a routine with the precision control of x87 at its full 64 bits. The control word is left as it was found.
+// Runs a routine with the x87 precision control at the full 64 bits, and restores the control word.
 template <auto Routine, class... Pointers>
 status at_full_precision(Pointers... lanes_of) {
   const std::uint16_t found = x87_control_word();
@@ -51,7 +50,7 @@ status at_full_precision(Pointers... lanes_of) {
   return status;
 }
 
-// The nearest integer where |x| is below 2^22 or 2^51, by a rounding constant in the lane's own precision.
+// The nearest integer for |x| below 2^22 or 2^51, by a rounding constant in the lane's own precision.
 template <class T>
 T nearest_integer(T x) {
   const T shifted = x + integer_shifter<T>;

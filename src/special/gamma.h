@@ -1,4 +1,4 @@
-// What the gamma functions share. None has a vector kernel: every lane goes through a scalar routine.
+// What the gamma functions share. They have no vector kernel: every lane goes through a scalar routine.
 #pragma once
 
 #include "numeric/exceptional.h"
@@ -15,11 +15,11 @@ inline extended within_octave(extended y, std::int32_t k) {
   return (y - power_of_two<double>(k)) * power_of_two<double>(-k);
 }
 
-// From here on every number is a whole one.
+// From here on every number is an integer.
 template <class T>
 inline constexpr T all_whole = sizeof(T) == 4 ? T(0x1p23) : T(0x1p52);
 
-// Whether x is a whole number, and whether its integer part is odd.
+// Whether x is an integer, and whether its integer part is odd.
 template <class T>
 struct integer_part {
   bool whole = true, odd = false;
@@ -31,7 +31,7 @@ struct integer_part {
   }
 };
 
-// log|gamma(x)| of one lane and the sign of gamma. `Lane` tells where the result is known and computes it elsewhere.
+// log|gamma(x)| of one lane and the sign of gamma. `Lane` knows the zeros and overflows and computes the rest.
 template <class Lane, class T>
 status log_gamma(T x, T& y, std::int32_t& sign) {
   sign = 1;

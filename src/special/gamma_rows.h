@@ -6,7 +6,7 @@
 
 namespace lanemath::special {
 
-// Where log-gamma is zero: a window, and a cubic about its middle, highest power first.
+// A zero of log-gamma: an interval around it, and a cubic about it, highest power first.
 struct lgammaf_root {
   double low, root, high;
   double c[4];

@@ -1,16 +1,16 @@
-// log|gamma(x)|, double precision, by itself and with the sign of gamma.
+// log|gamma(x)|, double precision, with or without the sign of gamma.
 //
-// Every lane by itself in x87 arithmetic at its full precision, in the manner of the single-precision routine: an
-// interval's or an octave's polynomial upward of 0.875, Stirling's formula from 512 on, walked up below, reflected
-// below -17, and expansions about the 26 zeros between -15 and -2. From 2.25 on the polynomials are products of
-// quadratics.
+// Each lane is computed by itself in x87 arithmetic at full precision, by the method of lgammaf.cpp: a polynomial for
+// each interval or octave from 0.875 up, Stirling's formula from 512 on; smaller arguments are walked up, those from
+// -17 on down reflected, and expansions serve the 26 zeros between -15 and -2. From 2.25 on the polynomials are
+// products of quadratics.
 #include "numeric/split.h"
 #include "special/gamma.h"
 
 namespace lanemath::special {
 namespace {
 
-// Where gamma is least, short of its last bits.
+// The argument of the minimum of gamma, without its last bits.
 constexpr extended minimum_of_gamma = 0xBB16C31AB5F1FC00p-63L;
 
 // From 0.875 to 512; `high` is the upper half of y as a double.
@@ -33,7 +33,7 @@ extended walked_up(double x) {
   return lgamma_of(y) - log_extended(std::fabs(product));
 }
 
-// Where the zeros are so near to the integers that the walk's product next to 1 must be known to more than its bits.
+// Here zeros are so close to the integers that the walk's product, near 1, must be known beyond its last bit.
 extended walked_up_exactly(double x) {
   extended y = x, product = 1.0L, lost = 0.0L;
   for (; y < 1.0L; y += 1.0L) {
@@ -82,7 +82,7 @@ extended on_positive_axis(double x) {
   return stirling(x);
 }
 
-// The largest argument of a finite result.
+// The largest argument whose result is finite.
 constexpr double overflow_bound = 0x7F5754D9278B51A7_f64;
 
 struct lgamma_lane {

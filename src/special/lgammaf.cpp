@@ -1,15 +1,15 @@
-// log|gamma(x)|, single precision, by itself and with the sign of gamma.
+// log|gamma(x)|, single precision, with or without the sign of gamma.
 //
-// Every lane by itself in x87 arithmetic. Upward of 1 a polynomial for each interval or octave, from 8192 on Stirling's
-// formula. Below 1 the argument is walked up, log|gamma(x)| = log|gamma(x + n)| - log|x ... (x + n - 1)|, and from -9
-// on down reflected. Next to its zeros on the negative axis an expansion of the function about the zero.
+// Each lane is computed by itself in x87 arithmetic: from 1 up a polynomial for each interval or octave, from 8192 on
+// Stirling's formula. Below 1 the argument is walked up, log|gamma(x)| = log|gamma(x + n)| - log|x ... (x + n - 1)|,
+// and from -9 on down reflected. Near the zeros between -4 and -2 the function is expanded about the zero.
 #include "special/gamma.h"
 
 namespace lanemath::special {
 namespace {
 
-// Polynomials, highest power first: in x between 1 and 1.25, in the distance from the minimum of gamma to 1.5, in x to
-// 1.75 and to 2, and to 4 the factor of x - 2.
+// Polynomials, highest power first: in x from 1 to 1.25, in the distance from the minimum of gamma up to 1.5, in x up
+// to 1.75 and up to 2, and the cofactor of x - 2 up to 4.
 constexpr double from_1[] = {0x3FAC8CDFBC14D340_f64, 0xBFE22092FC0EE4DC_f64, 0x40048D48C3A02F10_f64,
                              0xC01B63D2FD8B4838_f64, 0x4027CB007D9BF558_f64, 0xC02C6004CA309876_f64,
                              0x40288FCC5B1371AE_f64, 0xC01F4732F1F3E423_f64, 0x4004F39421765550_f64};
@@ -45,10 +45,10 @@ extended on_interval(extended y, std::int32_t high) {
   if (high >= 0x3FF80000) return even_and_odd(from_1_5, y);
   if (high >= 0x3FF40000) return even_and_odd(at_minimum, y - minimum_of_gamma);
   if (high >= 0x3FF00000) return even_and_odd(from_1, y);
-  return 0.0L;  // kept although no argument reaches it
+  return 0.0L;  // never reached
 }
 
-// Of what a walk or a reflection arrives at. Zero right above 2 as well, where the summand beside it is all.
+// log-gamma at the end of a walk or a reflection. It is taken as 0 just above 2 too, where the other summand dominates.
 extended lgamma_of(extended y) {
   const std::int32_t high = upper_half(double(y));
   return high == 0x40000000 ? 0.0L : on_interval(y, high);
@@ -89,7 +89,7 @@ extended on_positive_axis(float x) {
   return stirling(x);
 }
 
-// The largest finite result is just below.
+// The least argument that overflows.
 constexpr float overflow_bound = 0x7C44AF8E_f32;
 
 struct lgammaf_lane {

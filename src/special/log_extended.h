@@ -5,11 +5,11 @@
 
 namespace lanemath::special {
 
-// Of a positive finite number, neither 0 nor denormal in x87's own format. Error under 2^-63 relative.
+// For positive normal numbers of the x87 format; the relative error is below 2^-63.
 //
-// Near 1 by a polynomial in x - 1 whose second term is split so that its square is exact. Elsewhere x = 2^k m, and
-// m r - 1 is small for a reciprocal r from a table; the logarithms of 2 and of r have a high part that is a multiple of
-// 2^-50, so that k times the one plus the other is exact.
+// Near 1, a polynomial in x - 1, whose second term is split so that its square is exact. Elsewhere x = 2^k m, and a
+// table gives a reciprocal r of m, so that m r - 1 is small; the high parts of log 2 and log r are multiples of 2^-50,
+// so that k times the one plus the other is exact.
 [[gnu::noinline]] inline extended log_extended(extended x) {
   struct {
     std::uint64_t significand;
@@ -34,7 +34,7 @@ namespace lanemath::special {
   const auto k = extended(std::int32_t(pattern.exponent & 0x7FFF) - 0x3FFF);
   const auto j = pattern.significand >> 55 & 0xFF;
   const extended r = log_reciprocals[j];
-  // Both halves times r are exact, and so is the difference from 1.
+  // The products of both halves with r are exact, and so is the difference from 1.
   const auto top = extended(std::int64_t(pattern.significand >> 32)) * 0x1p-31L;
   const auto bottom = extended(std::int64_t(pattern.significand & 0xFFFFFFFF)) * 0x1p-63L;
   const extended f = (top * r - 1.0L) + bottom * r;

@@ -1,7 +1,7 @@
 // Gamma, double precision.
 //
-// Every lane by itself in x87 arithmetic at its full precision, in the manner of the single-precision routine: three
-// polynomials from 1 to 2, from 2 on a product of quadratics for each stretch of 16 integers.
+// Each lane is computed by itself in x87 arithmetic at full precision, by the method of tgammaf.cpp: three polynomials
+// from 1 to 2, and from 2 on a product of quadratics for each stretch of 16 integers.
 #include "special/tgamma.h"
 
 namespace lanemath::special {
@@ -15,7 +15,7 @@ struct tgamma_lane {
   static constexpr double least = -185.0;
   static constexpr status of_underflow = status::ordinary;
   static constexpr double overflow = 0x406573FAE561F648_f64;  // 171.62
-  // The last row is scaled down, and so is what its reciprocal must be.
+  // The last row is scaled down by this factor, and so must its reciprocal be.
   static constexpr double last_row = -176.0;
   static constexpr extended last_row_scale = 0xBA5D5869211696FFp-1106L;
 

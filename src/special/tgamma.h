@@ -1,12 +1,12 @@
-// The routine of gamma for both precisions.
+// The gamma routine of both precisions.
 #pragma once
 
 #include "special/gamma.h"
 
 namespace lanemath::special {
 
-// Gamma of one lane. `Lane` says the arithmetic to work in (`real`), the rows of its products of quadratics and how
-// many integers a row serves, gamma between 1 and 2 (`below_2`), sin(pi t) / pi (`sine`), and where the range ends.
+// Gamma of one lane. `Lane` gives the arithmetic type (`real`), the rows of its products of quadratics and how many
+// integers each row serves, gamma between 1 and 2 (`below_2`), sin(pi t) / pi (`sine`), and the ends of the range.
 template <class Lane, class T>
 status gamma(T x, T& y) {
   using real = typename Lane::real;
@@ -26,7 +26,7 @@ status gamma(T x, T& y) {
     return status::overflow;
   }
 
-  // The integer part by a rounding constant, taken as it comes where that is no longer exact.
+  // The integer part by a rounding constant, used even where it is no longer exact.
   const T nearest = nearest_integer(a);
   const T n = nearest > a ? nearest - one_v<T> : nearest;
   const auto whole = a < all_whole<T> ? std::int64_t(n) : 0;

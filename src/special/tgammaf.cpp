@@ -1,7 +1,7 @@
 // Gamma, single precision.
 //
-// Every lane by itself in double arithmetic: from 1 to 2 a polynomial for each quarter, from 2 on a product of
-// quadratics for each stretch of eight integers and the recurrence down to it. Below 0 reflected.
+// Each lane is computed by itself in double arithmetic: from 1 to 2 a polynomial for each quarter; from 2 on a product
+// of quadratics for each stretch of eight integers, with the recurrence down to it. Negative arguments are reflected.
 #include "special/tgamma.h"
 
 namespace lanemath::special {
@@ -45,7 +45,7 @@ struct tgammaf_lane {
   static constexpr float least = -43.0f;
   static constexpr status of_underflow = status::underflow;
   static constexpr double overflow = 0x4041852200000000_f64;  // 35.0401
-  // The last row is scaled down, and so is what its reciprocal must be.
+  // The last row is scaled down by this factor, and so must its reciprocal be.
   static constexpr float last_row = -40.0f;
   static constexpr double last_row_scale = 5.546450927971236e-46;
 

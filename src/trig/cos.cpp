@@ -1,5 +1,5 @@
-// cos x, double precision: the sine of pi/2 - |x|, with half a multiple of pi taken off instead of a whole one. The
-// bound of the short reduction is on that difference. Otherwise as the sine.
+// cos x, double precision, as sin(pi/2 - |x|): half-integer multiples of pi are taken off instead of whole ones. The
+// bound of the short reduction applies to that difference. Otherwise as the sine.
 #include "trig/sine_double.h"
 
 namespace lanemath {

@@ -1,5 +1,5 @@
-// cos x, single precision: the sine of x + pi/2, with half a multiple of pi taken off instead of a whole one, so that x
-// itself is reduced. Otherwise as the sine.
+// cos x, single precision, as sin(x + pi/2): half-integer multiples of pi are taken off instead of whole ones, so that
+// x itself is reduced. Otherwise as the sine.
 #include "trig/sine_single.h"
 
 namespace lanemath {

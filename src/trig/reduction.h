@@ -1,9 +1,9 @@
-// Reduction of arguments of any size, in vectors: a step j of so many in a turn and a remainder in two parts, so that
-// x is 2 pi j / steps + r + rl up to whole turns.
+// Reduction of arguments of any size, in vectors: an integer j that counts steps, of which a turn has a fixed number,
+// and a remainder in two parts, so that x is 2 pi j / steps + r + rl up to whole turns.
 //
-// The significand is multiplied, in integers, by a window of the bits of 1 / (2 pi) that the exponent selects: what
-// lies before the window makes whole turns only. The product is the argument's fraction of a turn. It is cut into three
-// floating numbers and multiplied by 2 pi in two parts. No branch, no loop over the bits.
+// The significand is multiplied, in integers, by a window of the bits of 1 / (2 pi) that the exponent selects; the bits
+// before the window contribute whole turns only. The product is the argument as a fraction of a turn. It is cut into
+// three floating-point numbers and multiplied by 2 pi in two parts. No branch, no loop over bits.
 #pragma once
 
 #include "numeric/split.h"
@@ -11,13 +11,13 @@
 
 namespace lanemath {
 
-// The fraction of a turn as bits behind the point, more significant word first.
+// The fraction of a turn as bits after the binary point, the more significant word first.
 template <class V>
 struct turn_fraction {
   V high, low;
 };
 
-// 64 bits. Of the products of 16-bit halves the least one is left out, and of the next two the lower half.
+// 64 bits. Of the products of 16-bit halves the least significant one is left out, and the lower half of the next two.
 template <int W>
 LANEMATH_INLINE turn_fraction<lanes<std::uint32_t, W>> fraction_of_turn(const lanes<float, W>& x) {
   const auto pattern = as<std::uint32_t>(x);
@@ -29,7 +29,7 @@ LANEMATH_INLINE turn_fraction<lanes<std::uint32_t, W>> fraction_of_turn(const la
   return {as<std::uint32_t>(upper(sum)), as<std::uint32_t>(lower(sum))};
 }
 
-// 128 bits, by products of 32-bit halves in the same way, carried by hand.
+// 128 bits, in the same way by products of 32-bit halves, with explicit carries.
 template <int W>
 LANEMATH_INLINE turn_fraction<lanes<std::uint64_t, W>> fraction_of_turn(const lanes<double, W>& x) {
   const auto pattern = as<std::uint64_t>(x);
@@ -58,7 +58,7 @@ struct reduction_rows<float> {
   static constexpr std::uint32_t SIGN = 0x80000000, ONE = 0x3F800000;
   static constexpr float SHIFTER = 0x1.8p15f;  // rounds to steps of 1/256
   static constexpr std::int32_t STEPS = 0xFF;
-  // Fields of the fraction behind the first one, each as a significand of the power of two beside it.
+  // The fields of the fraction after the first one; each becomes the significand of the power of two given here.
   static constexpr std::uint32_t MID = 0x34000000, LOW = 0x28800000;
   static constexpr int low_bits = 18;
   static constexpr int below_half = 12;
@@ -84,8 +84,8 @@ struct reduced_angle {
   lanes<T, W> r, rl;
 };
 
-// The shifter says the steps' size. A negative x makes a negative angle: j wraps. Whatever x holds, j is in range; what
-// infinities and NaNs give means nothing.
+// The shifter sets the size of the steps. A negative x gives a negative angle: j wraps. j is in range for every x; for
+// infinities and NaNs the result is meaningless.
 template <class T, int W>
 LANEMATH_INLINE reduced_angle<T, W> reduce_to_step(const lanes<T, W>& x, T shifter = reduction_rows<T>::SHIFTER) {
   using c = reduction_rows<T>;
@@ -103,7 +103,7 @@ LANEMATH_INLINE reduced_angle<T, W> reduce_to_step(const lanes<T, W>& x, T shift
   const auto j = low_word(shifted) & c::STEPS;
   const V d = t - (shifted - shifter);
 
-  // A field in the significand of a power of two, less that power, is the field as a number.
+  // A power of two with a field in its significand, minus that power, is the value of the field.
   const words mid_field = ((high & ones(above_mid)) << (c::significand - above_mid)) | (low >> c::low_bits);
   const words low_field = (low & ones(c::low_bits)) << (c::significand - c::low_bits);
   const V mid = number(mid_field | (g ^ c::MID)) - number(g ^ c::MID);

@@ -1,8 +1,8 @@
 // sin x, double precision.
 //
-// x = N pi + r, pi in four pieces, and an odd polynomial of degree 15; the native form has three pieces and degree 9.
-// Above 2^24 the default form reduces by a window of 1 / (2 pi), 512 steps in a turn and a table; the native form
-// leaves those lanes to the rare routine.
+// x = N pi + r with pi in four pieces, and an odd polynomial of degree 15; the native form has three pieces and degree
+// 9. Above 2^24 the default form reduces by a window of 1 / (2 pi) and uses a table of 512 steps in a turn; the native
+// form leaves those lanes to the rare routine.
 #include "trig/sine_double.h"
 
 namespace lanemath {

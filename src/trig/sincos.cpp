@@ -1,5 +1,5 @@
-// sin x and cos x, double precision. One multiple of pi serves both: the cosine's differs from the sine's by a half, on
-// the side that the sign of the remainder tells. Otherwise as the sine; the large stage starts at 2^23.
+// sin x and cos x, double precision, from one reduction: the cosine's multiple of pi is the sine's plus or minus a
+// half, by the sign of the remainder. Otherwise as the sine; the large-argument stage starts at 2^23.
 #include "trig/sine_double.h"
 
 namespace lanemath {

@@ -1,5 +1,5 @@
-// sin x and cos x, single precision. One multiple of pi serves both: the cosine's differs from the sine's by a half, on
-// the side that the sign of the remainder tells. Otherwise as the sine.
+// sin x and cos x, single precision, from one reduction: the cosine's multiple of pi is the sine's plus or minus a
+// half, by the sign of the remainder. Otherwise as the sine.
 #include "trig/sine_single.h"
 
 namespace lanemath {

@@ -1,4 +1,4 @@
-// What the sine and cosine of double precision share.
+// What the double-precision sine and cosine share.
 #pragma once
 
 #include "trig/sine_rare.h"
@@ -12,7 +12,7 @@ inline constexpr double native_pi_double[] = {0x400921FB40000000_f64, 0x3E84442D
 inline constexpr double native_c_double[] = {0x3EC5D4567512BBD5_f64, 0xBF29F67D9395D587_f64, 0x3F8110EA968A0185_f64,
                                              0xBFC55554AD3EAF1F_f64};
 
-// What the large stage computes from the remainder alone, and the sine of a step and the remainder.
+// What the large-argument stage computes from the remainder alone, and the sine of a step plus the remainder.
 template <class V>
 struct large_double {
   V r, rl, S, Cz;
@@ -37,7 +37,7 @@ struct large_double {
   }
 };
 
-// The large stage of an operation with one result; `quarter` steps more make a cosine of the sine.
+// The large-argument stage of an operation with one result. Adding `quarter` steps turns the sine into the cosine.
 template <int Quarter>
 struct double_large_stage {
   template <int W, class M>

@@ -1,8 +1,9 @@
-// Sine and cosine of one finite double of any size, for the rare routines: the argument is reduced to hi + lo and a
-// count of quadrants, in tiers by size, and 64 steps in a turn with a table and two polynomials do the rest.
+// Sine and cosine of one finite double of any size, for the rare routines. The argument is reduced to hi + lo and a
+// count of quadrants, in one of several ways by its size; a table of 64 steps in a turn and two polynomials do the
+// rest.
 //
-// What serves finite floats, and doubles up to 2^23, is kept although no argument reaches it: but for the native forms
-// of double precision, whose kernels end there, the kernels leave infinities and NaNs only.
+// The kernels leave only infinities and NaNs to these routines, except the native forms of double precision, whose
+// kernels end at 2^23 (sin: 2^24): the code for finite floats, and for doubles up to 2^23, is never reached.
 #pragma once
 
 #include "numeric/constants.h"
@@ -46,7 +47,7 @@ inline quadrant_and_rest reduce_middle(double a, double sign) {
   return {hi, w * sign + (v * sign - hi), sign < 0 ? -q : q};
 }
 
-// 2^30 and above: products with nine slices of 4 / pi, the whole turns taken off on the way.
+// 2^30 and above: products with nine slices of 4 / pi, with whole turns taken off on the way.
 inline quadrant_and_rest reduce_large(double a, double sign) {
   const std::int32_t e = exponent_field(a);
   const double y = value_of<double>((pattern_of(a) & 0x000FFFFFFFFFFFFF) | std::uint64_t(e - 200) << 52);
@@ -106,7 +107,7 @@ struct sine_and_cosine {
   double sine, cosine;
 };
 
-// Of finite x.
+// x is finite.
 inline sine_and_cosine scalar_sine_cosine(double x) {
   if (exponent_field(x) < 771) {
     const double a = std::fabs(x);
@@ -140,7 +141,6 @@ status sine_of_non_finite(T x, T& y) {
   return is_infinite(x) ? status::domain : status::ordinary;
 }
 
-// The rare routines.
 template <class T>
 LANEMATH_RARE sine_rare(const T* px, T* py) {
   if (!is_finite(*px)) return sine_of_non_finite(*px, *py);

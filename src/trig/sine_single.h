@@ -1,4 +1,4 @@
-// What the sine and cosine of single precision share.
+// What the single-precision sine and cosine share.
 #pragma once
 
 #include "trig/sine_rare.h"
@@ -11,7 +11,7 @@ constexpr std::int32_t LARGE_SINGLE = 0x461C4000;  // 10000: the short reduction
 inline constexpr float native_pi_single[] = {0x40490000_f32, 0x3A7DA000_f32, 0x34222169_f32};
 inline constexpr float pi_single[] = {0x40490000_f32, 0x3A7DA000_f32, 0x34222000_f32, 0x2CB4611A_f32};
 
-// What the large stage computes from the remainder alone.
+// What the large-argument stage computes from the remainder alone.
 template <class V>
 struct large_single {
   V r, rl, S3, Cz;
@@ -22,7 +22,7 @@ struct large_single {
     const V S = 0x3C08885C_f32 * z + 0xBE2AAAAB_f32;
     S3 = (S * z) * r;
   }
-  // The sine of a step and the remainder. The last sum is grouped in one way for a pair of results, in another for one.
+  // The sine of a step plus the remainder. The last sum is grouped differently for a pair of results and for one.
   template <bool Pair, int W>
   LANEMATH_INLINE V sine(const lanes<std::int32_t, W>& j) const {
     const auto [a, b, c, d] = look_up_row(sincos_256, j);
@@ -40,7 +40,7 @@ struct large_single {
   }
 };
 
-// Guards of an operation with one result: `quarter` steps more make a cosine of the sine.
+// The guards of an operation with one result. Adding `quarter` steps turns the sine into the cosine.
 template <auto Routine, int Quarter>
 struct single_guards : rare_above<float(float), Routine, LARGE_SINGLE> {
   template <int W, class M>

@@ -1,7 +1,7 @@
 // sin x, single precision.
 //
-// x = N pi + r, pi in pieces (four, in the native form three), and an odd polynomial of r. Above 10000 the reduction by
-// a window of 1 / (2 pi), 256 steps in a turn and a table.
+// x = N pi + r with pi in pieces (four, or three in the native form), and an odd polynomial in r. Above 10000,
+// reduction by a window of 1 / (2 pi) and a table of 256 steps in a turn.
 #include "trig/sine_single.h"
 
 namespace lanemath {

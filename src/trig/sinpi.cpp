@@ -1,8 +1,8 @@
 // sin(pi x) and cos(pi x), both precisions.
 //
-// Default: the argument's turn is cut into 128 steps without an error; a step's sine in two parts and short polynomials
-// for the rest d. Of the slope, pi times the step's cosine, a power of two is taken off: its product with d is exact.
-// The native forms: one polynomial up to 1/2.
+// Default: up to whole turns, x is exactly a multiple of 1/64 or 1/256 plus a remainder d. The result is the step's
+// sine from a table, in two parts, plus short polynomials in d. The slope, pi times the step's cosine, is split into a
+// power of two, whose product with d is exact, and the rest. The native forms: one polynomial up to 1/2.
 #include <iterator>
 
 #include "numeric/split.h"
@@ -34,8 +34,8 @@ struct of_pi<double> {
                                       0xC014ABBC166DBC5B_f64, 0x400921FB52068F99_f64};
 };
 
-// The sine of pi x or, a quarter of a turn later, the cosine; x is not negative. A large one's sum is a multiple of 2
-// still, whatever it rounds to: d is 0 then.
+// The sine of pi x or, a quarter of a turn later, the cosine, for x >= 0. For a large x the sum with WHOLE_TURNS is a
+// multiple of 2 however it is rounded, and d is 0.
 template <bool Cosine, class V>
 LANEMATH_INLINE V sine_of_pi(const V& x) {
   using c = of_pi<typename V::value_type>;
@@ -64,7 +64,7 @@ struct sinpi_form {
   static V kernel(V x) {
     if constexpr (Native) {
       const V f = within_a_turn(magnitude(x));
-      // The sum makes +0 of -0: a zero has the sign of x.
+      // The addition turns -0 into +0, so that a zero gets the sign of x.
       return flipped(flipped(native_sine(distance_to_whole(magnitude(f))), sign_of(f)) + zero_v<T>, sign_of(x));
     } else {
       return flipped(sine_of_pi<false>(magnitude(x)), sign_of(x));

@@ -1,8 +1,8 @@
 // tan x, double precision.
 //
-// x = N pi/2 + r, pi/2 in four pieces and r in two parts, and an odd polynomial; in odd quadrants the negative
-// reciprocal. Above 2^20 the reduction by a window of 1 / (2 pi), to quarters of a turn. The native form: r in one
-// part, fewer terms.
+// x = N pi/2 + r with pi/2 in four pieces and r in two parts, and an odd polynomial; in odd quadrants its negative
+// reciprocal. Above 2^20, reduction by a window of 1 / (2 pi) to quarters of a turn. The native form: r in one part,
+// fewer terms.
 #include <tuple>
 
 #include "trig/sine_double.h"
@@ -27,8 +27,7 @@ static constexpr double tan_native_c[] = {0x3FEFFFFFFF5EC8D8_f64, 0x3FD5555658CA
 
 LANEMATH_RARE tan_rare(const double* px, double* py) { return sine_of_non_finite(*px, *py); }
 
-// a - b, and what the rounding took: exact, since a is a multiple of the last place of b whenever it is the smaller
-// one.
+// a - b and its rounding error: exact, because a is a multiple of the last place of b wherever it is the smaller one.
 template <class V>
 LANEMATH_INLINE two_part<V> difference(const V& a, const V& b) {
   const V d = a - b;
@@ -43,7 +42,7 @@ LANEMATH_INLINE auto odd_ones(const lanes<I, W>& n) {
 }
 
 struct accurate {
-  // The remainder in two parts, and which quadrants are odd.
+  // The remainder in two parts, and a mask of the odd quadrants.
   template <class V>
   static auto reduce(const V& a) {
     const V t = a * INVERSE_HALF_PI + integer_shifter<double>, n = t - integer_shifter<double>;
@@ -79,7 +78,7 @@ template <class Form>
 struct tan_form {
   using signature = double(double);
   static constexpr auto rare = tan_rare;
-  // Two groups side by side wait for one another's spills.
+  // Two groups side by side would wait for each other's spills.
   template <int W>
   static lanes<double, W> kernel(lanes<double, W> x) {
     const auto group = [](const auto& v) LANEMATH_LAMBDA {

@@ -1,8 +1,8 @@
 // tan x, single precision.
 //
-// x = N pi/2 + r, pi/2 in pieces (four, in the native form three), and a quotient of two polynomials, upside down in
-// odd quadrants. Above 8256 the reduction by a window of 1 / (2 pi) and a table of 128 steps in half a turn: next to
-// the pole the pole's term apart, by a reciprocal.
+// x = N pi/2 + r with pi/2 in pieces (four, or three in the native form), and a quotient of two polynomials, inverted
+// in odd quadrants. Above 8256, reduction by a window of 1 / (2 pi) and a table of 128 steps in half a turn; next to
+// the pole its term is computed separately, by a reciprocal.
 #include "trig/sine_single.h"
 #include "trig/tangent.h"
 

@@ -1,4 +1,4 @@
-// What the tangents of x and of pi x share: the last steps, from the tangent of the remainder in two parts.
+// What the tangents of x and of pi x share: the last steps, from the remainder's tangent in two parts.
 #pragma once
 
 #include <bit>
@@ -8,8 +8,8 @@
 
 namespace lanemath {
 
-// c[First] + c[First + 1] z + ..., `Count` terms; by halves, since a chain of so many steps takes longer than the work.
-// powers[k] is z to the power 2^k.
+// c[First] + c[First + 1] z + ..., `Count` terms, by halves: one chain of so many steps would take longer than the
+// arithmetic. powers[k] is z to the power 2^k.
 template <std::size_t First, std::size_t Count, class V, class T, std::size_t Size>
 LANEMATH_INLINE V terms(const V (&powers)[4], const T (&c)[Size]) {
   if constexpr (Count == 1) {
@@ -26,7 +26,7 @@ LANEMATH_INLINE V polynomial_by_halves(const V& z, const T (&c)[Size]) {
   return terms<0, Size>({z, square, fourth, fourth * fourth}, c);
 }
 
-// 1 / (high + low), |low| far below |high|: the quotient's upper part and a correction.
+// 1 / (high + low), |low| far below |high|: the upper part of the quotient plus a correction.
 template <class V>
 LANEMATH_INLINE V reciprocal(const V& high, const V& low) {
   using T = typename V::value_type;

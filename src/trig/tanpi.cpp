@@ -1,7 +1,7 @@
 // tan(pi x), both precisions.
 //
-// A distance r of at most 1/4 to a multiple of 1/2; 4 r, which is exact, an odd polynomial for the rest; next to the
-// poles the reciprocal of that. The native forms: one part, fewer terms.
+// r is the distance, at most 1/4, to a multiple of 1/2. The tangent of pi r is 4 r, which is exact, plus an odd
+// polynomial; next to the poles its reciprocal is taken. The native forms: one part, fewer terms.
 #include "trig/pi_scaled.h"
 #include "trig/tangent.h"
 
@@ -51,7 +51,7 @@ struct tanpi_form {
       const V at_pole = select(r == zero_v<T>, V(std::numeric_limits<T>::infinity()), reciprocal(high, low));
       y = select(past_quarter, at_pole, high + low);
     }
-    // The second and fourth quarter of a turn; of the whole numbers the odd ones.
+    // Negative in the second and fourth quarter of a turn and, for the sign of a zero, at odd integers.
     const auto negative = sign_of(f) ^ sign_of(half_v<T> - a);
     const auto odd = (a == one_v<T>)&sign_mask<T>;
     return flipped(y, (negative | odd) ^ sign_of(x));

@@ -17,7 +17,7 @@ LANEMATH_INLINE auto parity(const lanes<T, W>& shifted) {
   return bits(shifted) << int(8 * sizeof(T) - 1);
 }
 
-// a less n times pi, which comes in pieces of few bits.
+// a - n pi; pi is given in pieces of few bits.
 template <class V, class T, std::size_t Size>
 LANEMATH_INLINE V less_multiples(V a, const V& n, const T (&pieces)[Size], std::size_t first = 0,
                                  std::size_t end = Size) {
@@ -25,13 +25,12 @@ LANEMATH_INLINE V less_multiples(V a, const V& n, const T (&pieces)[Size], std::
   return a;
 }
 
-// Sine by an odd polynomial of the remainder.
 template <class V, class T, std::size_t Size>
 LANEMATH_INLINE V odd_sine(const V& r, const V& signed_r, const T (&c)[Size]) {
   const V z = r * r;
   return signed_r + (z * horner(z, c)) * signed_r;
 }
-// The native one of single precision: its last coefficient is only near 1.
+// The native form of single precision: the last coefficient is only near 1.
 template <class V>
 LANEMATH_INLINE V odd_sine(const V& r, const V& signed_r, const float (&c)[3]) {
   const V z = r * r;
@@ -48,7 +47,7 @@ LANEMATH_INLINE V sine(const V& x) {
   return flipped(odd_sine(r, flipped(r, parity(t)), C), sign_of(x));
 }
 
-// One multiple of pi for sine and cosine of a magnitude: the remainders, and their signs.
+// One multiple of pi for the sine and cosine of a magnitude: the remainders and their signs.
 template <auto& Pi, class V>
 struct two_remainders {
   using T = typename V::value_type;
@@ -68,7 +67,7 @@ struct two_remainders {
   }
 };
 
-// The large-argument stage, a group at a time: its results go into the marked lanes. Infinities and NaNs stay marked.
+// The large-argument stage, one group at a time. Its results go into the marked lanes; infinities and NaNs stay marked.
 template <class F, class T, int W, class M>
 LANEMATH_INLINE void large_stage(F stage, const lanes<T, W>& x, lanes<T, W>& y, M& rare) {
   y = select(rare, by_pieces<16 / int(sizeof(T)), W>(stage, x), y);
