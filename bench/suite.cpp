@@ -98,8 +98,9 @@ void suite::print_heading() {
   fmt::print(
       "Nanoseconds. gap: how many times width 4 the slowest width costs, narrow widths per call, wide ones per lane.\n"
       "cycles: per lane at width 4. rare: per lane at width 4 where one lane in {} is rare. latency: of width 1.\n"
-      "Peers: per lane on the same arguments, and how many times that is of ours at width 4. Beside conversions and\n"
-      "integer divisions stands a loop of plain C++ in the C library's place, compiled for the same instructions.\n\n",
+      "Peers: per lane on the same arguments, and as a multiple of ours at width 4. For conversions and integer "
+      "divisions\n"
+      "the C library's column has a loop of plain C++, compiled for the same instructions.\n\n",
       rare_every);
   fmt::print("{:18}{:^28}{:^21}{:30}{:^21}{:^22}\n", "", "call at width", "lane at width", "", "SLEEF, 128 bits",
              "C library");

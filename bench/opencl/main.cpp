@@ -187,11 +187,11 @@ int main(int argc, char** argv) try {
     return 0;
   }
   CLI::App app{
-      "Times the built-ins of OpenCL kernels: the runtime's own ones beside those of lanemath.\n"
+      "Times the built-ins of OpenCL kernels: the runtime's own against lanemath's.\n"
       "Names and types may be patterns: 'native_*', 'convert_*(double)', 'float*'."};
   options given;
   app.add_option("builtins", given.names, "What to measure, all if none is named");
-  app.add_option("--type", given.types, "Only these types, parted by commas: float,double4")
+  app.add_option("--type", given.types, "Only these types, separated by commas: float,double4")
       ->delimiter(',')
       ->allow_extra_args(false);
   app.add_option("--json", given.json_path, "Write all that was measured to this file as JSON");

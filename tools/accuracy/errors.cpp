@@ -159,7 +159,7 @@ void write_errors(const std::string& path, std::vector<error_record> records) {
 void replace_file(const std::string& path, const std::string& text) {
   std::string temporary = path + ".XXXXXX";
   const int file = mkstemp(temporary.data());
-  if (file < 0) throw std::runtime_error("cannot write beside " + path);
+  if (file < 0) throw std::runtime_error("cannot write a file next to " + path);
   bool good = true;
   for (std::size_t done = 0; good && done < text.size();) {
     const auto n = write(file, text.data() + done, text.size() - done);
