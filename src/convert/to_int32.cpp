@@ -1,6 +1,8 @@
 // Floating-point lanes to 32-bit integers. The rounding instruction makes the lane integral in the direction of the
 // name, so that the conversion instruction after it is exact in every current direction; a value that does not fit
 // gives 0x80000000. All lanes are settled in straight-line code.
+//
+// Looks odd and is meant, see docs/design.md: negative values without saturation, NaNs.
 #include "convert/convert.h"
 
 namespace lanemath {

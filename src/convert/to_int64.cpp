@@ -2,6 +2,8 @@
 // the integer is built from the fields of the magnitude, m * 2^k. Below 2^23 (float) or 2^52 (double), m is the
 // fraction of the magnitude's sum with that number and k is 0; above, m is the significand and k the excess of the
 // exponent. The sign goes into m before the shift. All lanes are settled in straight-line code.
+//
+// Looks odd and is meant, see docs/design.md: negative values without saturation.
 #include <type_traits>
 
 #include "convert/convert.h"

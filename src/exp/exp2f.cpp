@@ -4,6 +4,8 @@
 // The native form (also _half): a cubic whose constant term is not 1. The default form at width 1 works in double with
 // a table of 256 entries; the one at width 4 has a table of 64 entries and a monic quadratic. Rare lanes are computed
 // in double.
+//
+// Looks odd and is meant, see docs/design.md: overflow in other directions, NaNs.
 #include "exp/exponential_rare.h"
 
 namespace lanemath {

@@ -3,6 +3,8 @@
 //
 // Lanes that need no such care (a zero factor or summand, a factor of magnitude one, infinities, NaNs) are computed as
 // a plain product and sum, in the direction of MXCSR.
+//
+// Looks odd and is meant, see docs/design.md: -0 that becomes +0, and two rounding directions.
 #include <utility>
 
 #include "numeric/exceptional.h"

@@ -3,6 +3,8 @@
 // Where the quotient has few bits it is a truncated division; the remainder follows by exact products with the two
 // parts of y, and |y| is added back where the division was rounded up to the next integer. Rare lanes go through long
 // division.
+//
+// Looks odd and is meant, see docs/design.md: the sign of a zero remainder.
 #include "fpmanip/long_division.h"
 
 namespace lanemath {

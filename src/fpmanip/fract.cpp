@@ -1,6 +1,8 @@
 // fract: x - floor(x), kept below 1, and floor(x).
 //
 // Rounded once, to nearest, except that a tiny negative x gives the largest number below 1.
+//
+// Looks odd and is meant, see docs/design.md: a sum of the two results that is not x.
 #include <cmath>
 
 #include "numeric/fields.h"

@@ -4,6 +4,8 @@
 // Where the quotient has few bits it is a division rounded in the current direction; the remainder follows by exact
 // products with the two parts of y, and by a step of |y| where more than half of |y| remains. In the default direction
 // n is therefore the nearest integer, ties to even. Rare lanes go through long division, whatever the direction.
+//
+// Looks odd and is meant, see docs/design.md: the quotient of remquo.
 #include "fpmanip/long_division.h"
 
 namespace lanemath {

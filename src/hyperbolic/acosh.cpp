@@ -3,6 +3,8 @@
 // default and native, use the method in inverse_hyperbolic_standalone.h.
 //
 // v has no second part, which shows where the logarithm is least accurate, just below 2^-8.
+//
+// Looks odd and is meant, see docs/design.md: NaNs and neighbours at width 4.
 #include "hyperbolic/inverse_hyperbolic.h"
 #include "hyperbolic/inverse_hyperbolic_standalone.h"
 

@@ -1,6 +1,8 @@
 // asinh x, both precisions, by the method in inverse_hyperbolic.h: v = |x| + T with T = sqrt(1 + x^2) - 1, from x^2 in
 // two parts. Near 0 a series replaces the root. The native form has a shorter logarithm. asinhf at width 4 and asinh at
 // width 2, default and native, use the method in inverse_hyperbolic_standalone.h.
+//
+// Looks odd and is meant, see docs/design.md: NaNs and neighbours at width 4.
 #include "hyperbolic/inverse_hyperbolic.h"
 #include "hyperbolic/inverse_hyperbolic_standalone.h"
 

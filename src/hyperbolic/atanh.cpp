@@ -1,5 +1,7 @@
 // atanh x, both precisions, by the method in inverse_hyperbolic.h: half of the logarithm of 1 + v with v = 2 |x| / (1 -
 // |x|). The native form has a shorter logarithm.
+//
+// Looks odd and is meant, see docs/design.md: +0 at -0.
 #include "hyperbolic/inverse_hyperbolic.h"
 
 namespace lanemath {

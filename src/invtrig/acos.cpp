@@ -2,6 +2,8 @@
 //
 // For |x| < 1/2, pi/2 - x - x Q(x²); above it 2 sqrt(h) (1 + Q(h)) with h = (1 - |x|) / 2, or pi minus that. The native
 // form: a shorter polynomial, and in double the root from a float estimate. Beyond 1 the result is a NaN.
+//
+// Looks odd and is meant, see docs/design.md: signs of NaNs.
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {

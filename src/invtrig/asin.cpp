@@ -2,6 +2,8 @@
 //
 // For |x| < 1/2, x + x Q(x²); above it pi/2 - 2 sqrt(h) (1 + Q(h)) with h = (1 - |x|) / 2: no table, no branch. The
 // native form: a shorter polynomial, and in double the root from a float estimate. Beyond 1 the result is a NaN.
+//
+// Looks odd and is meant, see docs/design.md: signs and payloads of NaNs.
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {

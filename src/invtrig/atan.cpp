@@ -4,6 +4,8 @@
 // of |x| and 1 by the larger, with other coefficients. Double: atan(c) from a table of quarters below 7.875, and
 // atan((|x| - c) / (1 + |x| c)) by a short polynomial; at width 2 a long polynomial and no table. The native form: an
 // estimated reciprocal, which fails only at infinity.
+//
+// Looks odd and is meant, see docs/design.md: signs and payloads of NaNs.
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"
 

@@ -5,6 +5,8 @@
 // step of its own; one lane with x zero, or with x or y infinite or a NaN, sends all four to a scalar routine in
 // double. The default double form at width 2 differs only in its scalar routine, for lanes with x or y zero, infinite
 // or a NaN.
+//
+// Looks odd and is meant, see docs/design.md: neighbours at width 4.
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"
 

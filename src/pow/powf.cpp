@@ -3,6 +3,8 @@
 // Default: y ln x in double, by a table of logarithms for every integer reciprocal and a cubic; e^s by a table of 2048
 // entries and linear interpolation; one rounding to float, which also produces infinities and denormals. The native
 // form (also _rm): polynomials in single floats. Rare lanes are computed in pairs of floats.
+//
+// Looks odd and is meant, see docs/design.md: the sign of an underflow.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"
 #include "pow/power_widened.h"

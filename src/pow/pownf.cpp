@@ -4,6 +4,8 @@
 // exponent. The native form: polynomials in single floats. In neither is the constant term 1, so that x^0 and 1^n are
 // near 1 but not 1. A result that falls just below the normal numbers is inaccurate: the exponent field has no room for
 // it. Rare lanes are computed in pairs of floats.
+//
+// Looks odd and is meant, see docs/design.md: x^0 and results next to the normal numbers.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"
 

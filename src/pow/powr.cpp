@@ -1,4 +1,6 @@
 // x^y for x >= 0, double precision: the kernels of pow, with other special cases.
+//
+// Looks odd and is meant, see docs/design.md: NaNs.
 #include "pow/power_double.h"
 #include "pow/power_rare_double.h"
 #include "pow/power_widened.h"

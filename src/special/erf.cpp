@@ -3,6 +3,8 @@
 // Value and slope at the nearest point m of a grid of step 1/128, and an expansion in d = |x| - m. From the last point
 // on the result is 1. The native form: one term (erff) or three (erf) fewer. There are no rare lanes: a NaN passes
 // through as the second operand of a minimum.
+//
+// Looks odd and is meant, see docs/design.md: +0 at -0 in the native form of erf.
 #include "numeric/fields.h"
 #include "special/erf_grid.h"
 

@@ -3,6 +3,8 @@
 // Each lane is computed by itself in x87 arithmetic: from 1 up a polynomial for each interval or octave, from 8192 on
 // Stirling's formula. Below 1 the argument is walked up, log|gamma(x)| = log|gamma(x + n)| - log|x ... (x + n - 1)|,
 // and from -9 on down reflected. Near the zeros between -4 and -2 the function is expanded about the zero.
+//
+// Looks odd and is meant, see docs/design.md: odd integers below -2^22.
 #include "special/gamma.h"
 
 namespace lanemath::special {

@@ -3,6 +3,8 @@
 // Default: up to whole turns, x is exactly a multiple of 1/64 or 1/256 plus a remainder d. The result is the step's
 // sine from a table, in two parts, plus short polynomials in d. The slope, pi times the step's cosine, is split into a
 // power of two, whose product with d is exact, and the rest. The native forms: one polynomial up to 1/2.
+//
+// Looks odd and is meant, see docs/design.md: native results above 1.
 #include <iterator>
 
 #include "numeric/split.h"

@@ -2,6 +2,8 @@
 //
 // r is the distance, at most 1/4, to a multiple of 1/2. The tangent of pi r is 4 r, which is exact, plus an odd
 // polynomial; next to the poles its reciprocal is taken. The native forms: one part, fewer terms.
+//
+// Looks odd and is meant, see docs/design.md: signs at whole numbers.
 #include "trig/pi_scaled.h"
 #include "trig/tangent.h"
 
