@@ -1,7 +1,9 @@
 // Writes the lookup tables of one family of operations as a C++ header, to standard output: those made by a rule, and
 // those that were fitted, from the .fit files of a folder.
 #include <cstdio>
+#include <cstdlib>
 #include <map>
+#include <memory>
 #include <string>
 
 #include "table_writer.h"
@@ -48,8 +50,8 @@ int main(int argc, char** argv) try {
   const auto fits = read_fits(argv[2]);
   const auto& [write, include, space] = found->second;
   // All of it or nothing.
-  char* text;
-  std::size_t size;
+  char* text = nullptr;
+  std::size_t size = 0;
   std::FILE* memory = open_memstream(&text, &size);
   if (!memory) throw std::runtime_error("no memory");
   {
@@ -57,6 +59,7 @@ int main(int argc, char** argv) try {
     write(out);
   }
   std::fclose(memory);
+  const std::unique_ptr<char, void (*)(void*)> header(text, std::free);
   if (std::fwrite(text, 1, size, stdout) != size || std::fflush(stdout) != 0)
     throw std::runtime_error("the header cannot be written");
 } catch (const std::exception& error) {
