@@ -4,6 +4,9 @@
 // added to the exponent field. The native form: a table of 128 entries, a quadratic and an unsplit ln 2. The default
 // form at width 2 has a table of 64 mantissas and a polynomial of degree 5 in two halves, and settles every lane
 // itself. Rare lanes use a table of high and low parts.
+//
+// Largest errors found, in ulp:
+//   exp: default, other widths 3.17276; _native 2.97179e7; default, width 2 2.97408
 #include "exp/exponential_rare.h"
 
 namespace lanemath {

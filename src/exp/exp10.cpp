@@ -3,6 +3,9 @@
 // Default: x = (n / 128) log10(2) + r with n = 128 k + j; 2^(j/128) from a table, 10^r by a polynomial of degree 5, k
 // added to the exponent field. The native form: 2^(x log2(10)) by a polynomial of degree 6 over a whole binade. Rare
 // lanes use a table of high and low parts.
+//
+// Largest errors found, in ulp:
+//   exp10: default 1.00354; _native 1.52766e7
 #include "exp/exponential_rare.h"
 
 namespace lanemath {

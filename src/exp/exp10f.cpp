@@ -3,6 +3,9 @@
 // Default: x = (n / 128) log10(2) + r with n = 128 k + j; 2^(j/128) from a table of high and low parts, 10^r by a
 // quadratic, k added to the exponent field. The native form (also _half and _rm): 2^(x log2(10)) by a cubic over a
 // whole binade. Rare lanes are computed in double.
+//
+// Largest errors found, in ulp:
+//   exp10f: default 0.55642; _native, _half, _rm 1304.27
 #include "exp/exponential_rare.h"
 
 namespace lanemath {

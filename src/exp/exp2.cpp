@@ -4,6 +4,9 @@
 // degree 4, k added to the exponent field. The native form: a polynomial of degree 6 over a whole binade. The default
 // form at width 2 evaluates its polynomial in halves, multiplies by the power of two, and has a scalar routine of its
 // own for large arguments. Rare lanes use a table of high and low parts; denormal results are rounded twice.
+//
+// Largest errors found, in ulp:
+//   exp2: default, other widths 1.64225; _native 1.5276e7; default, width 2 2.61522
 #include "exp/exponential_rare.h"
 
 namespace lanemath {

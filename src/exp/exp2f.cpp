@@ -5,6 +5,10 @@
 // a table of 256 entries; the one at width 4 has a table of 64 entries and a monic quadratic. Rare lanes are computed
 // in double.
 //
+// Largest errors found, in ulp:
+//   exp2f: default, _rm, other widths 1.10173; _native, _half 1230.28; default, width 1 0.506904; default, width 4
+//     2.55476
+//
 // Looks odd and is meant, see docs/design.md: overflow in other directions, NaNs.
 #include "exp/exponential_rare.h"
 

@@ -3,6 +3,9 @@
 // Default: x = (n / 128) ln 2 + r with n = 128 k + j; 2^(j/128) from a table of high and low parts, e^r by a quadratic,
 // 2^k by a multiplication. The native form (also _half): a cubic over a whole binade. _rm: ln 2 in two parts and a
 // quintic, no table. Rare lanes are computed in double.
+//
+// Largest errors found, in ulp:
+//   expf: default 0.568234; _native, _half 2168.9; _rm 2.93242
 #include "exp/exponential_rare.h"
 
 namespace lanemath {

@@ -2,6 +2,9 @@
 //
 // Default: 2^(j/128) from a table in two parts, e^r - 1 by a polynomial of degree 5. The native form: 2^(j/128) in one
 // part, ln 2 unsplit, e^r - 1 by a cubic. Rare lanes use a table of high and low parts.
+//
+// Largest errors found, in ulp:
+//   expm1: default 2.96224; _native 5.18915e6
 #include "exp/expm1.h"
 
 namespace lanemath {

@@ -2,6 +2,9 @@
 //
 // Default: 2^(j/64) from a table in two parts, e^r - 1 by a cubic. The native form: 2^(j/32) in one part, ln 2 unsplit,
 // e^r - 1 by a quadratic. Rare lanes are computed in double.
+//
+// Largest errors found, in ulp:
+//   expm1f: default 1.80163; _native 283.698
 #include "exp/expm1.h"
 
 namespace lanemath {

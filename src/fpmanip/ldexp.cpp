@@ -1,4 +1,8 @@
 // ldexp: x times 2^n, rounded once, and only if the result is denormal.
+//
+// Largest errors found, in ulp:
+//   ldexp: default 0.5
+//   ldexpf: default 0.5
 #include "numeric/exceptional.h"
 
 namespace lanemath {

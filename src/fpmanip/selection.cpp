@@ -3,6 +3,10 @@
 // Exact, except for the one rounding of fdim's subtraction. Ties of zeros depend on the order of the operands: fmax and
 // fmin give the second, maxmag and minmag the first. A NaN loses to a number, except in fdim; of two NaNs the second is
 // the result, signalling or not.
+//
+// Largest errors found, in ulp:
+//   fdim: default 0.5
+//   fdimf: default 0.5
 #include "numeric/fields.h"
 
 namespace lanemath {

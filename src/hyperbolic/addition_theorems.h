@@ -49,34 +49,29 @@ inline double half_exp(double a) {
 template <class T>
 inline constexpr double half_exp_overflow = sizeof(T) == 4 ? 89.4159927368164 : 710.475860073944;
 
-template <class T>
-status cosh_rare_lane(const T* px, T* py) {
+// A rare lane of sinh, which is odd, or of cosh.
+template <bool Odd, class T>
+status rare_lane(const T* px, T* py) {
   const double x = *px, a = std::fabs(x);
   if (!is_finite(x)) {
-    *py = T(x * x);
+    *py = T(Odd ? x + x : x * x);
     return status::ordinary;
   }
+  const T sign = Odd ? *px : one_v<T>;
   if (a >= half_exp_overflow<T>) {
-    *py = overflowed<T>();
+    *py = overflowed(sign);
     return status::overflow;
   }
-  *py = T(half_exp(a));
+  *py = T(std::copysign(half_exp(a), double(sign)));
   return status::ordinary;
 }
-
 template <class T>
 status sinh_rare_lane(const T* px, T* py) {
-  const double x = *px, a = std::fabs(x);
-  if (!is_finite(x)) {
-    *py = T(x + x);
-    return status::ordinary;
-  }
-  if (a >= half_exp_overflow<T>) {
-    *py = overflowed(*px);
-    return status::overflow;
-  }
-  *py = T(std::copysign(half_exp(a), x));
-  return status::ordinary;
+  return rare_lane<true>(px, py);
+}
+template <class T>
+status cosh_rare_lane(const T* px, T* py) {
+  return rare_lane<false>(px, py);
 }
 
 }  // namespace lanemath

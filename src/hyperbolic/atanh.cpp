@@ -1,6 +1,10 @@
 // atanh x, both precisions, by the method in inverse_hyperbolic.h: half of the logarithm of 1 + v with v = 2 |x| / (1 -
 // |x|). The native form has a shorter logarithm.
 //
+// Largest errors found, in ulp:
+//   atanh: default 1.59301 (2.4 on any processor); _native 263402 (700000 on any processor)
+//   atanhf: default 2.09292 (2.2 on any processor); _native 1468.35 (1470 on any processor)
+//
 // Looks odd and is meant, see docs/design.md: +0 at -0.
 #include "hyperbolic/inverse_hyperbolic.h"
 

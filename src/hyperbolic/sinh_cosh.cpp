@@ -1,6 +1,10 @@
 // sinh x and cosh x, double precision, by the method in addition_theorems.h. sinh: A = (n / 128) ln 2; the table holds
 // 2^(-j/128) / 2 and the difference between 2^(j/128) / 2 and it, so that nothing is lost where A is small. cosh: A =
 // (n / 256) ln 2; both powers come from one table, read from its two ends, and sinh r is shorter.
+//
+// Largest errors found, in ulp:
+//   sinh: default, _native 2.11755
+//   cosh: default, _native 1.53384
 #include "hyperbolic/addition_theorems.h"
 #include "tables/hyperbolic.h"
 

@@ -1,5 +1,9 @@
 // sinh x and cosh x, single precision, by the method in addition_theorems.h: A = n ln 2, so that the powers of two are
 // exact and no table is needed. The native forms have shorter polynomials.
+//
+// Largest errors found, in ulp:
+//   sinhf: default 2.02372; _native 1079.17
+//   coshf: default 1.84142; _native 380.607
 #include "hyperbolic/addition_theorems.h"
 
 namespace lanemath {

@@ -2,6 +2,10 @@
 // binades, so that the exponent and leading bits of x number them. Single precision: a cubic in |x|, computed in
 // double. Double precision: degree 10 in |x| minus the centre of the interval; the error is largest in the first
 // interval, the only one without a constant term.
+//
+// Largest errors found, in ulp:
+//   tanh: default, _native 1.24992
+//   tanhf: default, _native 1.02651
 #include <cmath>
 
 #include "frame/frame.h"

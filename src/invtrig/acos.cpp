@@ -3,6 +3,10 @@
 // For |x| < 1/2, pi/2 - x - x Q(x²); above it 2 sqrt(h) (1 + Q(h)) with h = (1 - |x|) / 2, or pi minus that. The native
 // form: a shorter polynomial, and in double the root from a float estimate. Beyond 1 the result is a NaN.
 //
+// Largest errors found, in ulp:
+//   acos: default 1.31955; _native 4.85337e6 (6.4e6 on any processor)
+//   acosf: default 1.23813; _native 532.466
+//
 // Looks odd and is meant, see docs/design.md: signs of NaNs.
 #include "invtrig/arc_sine.h"
 

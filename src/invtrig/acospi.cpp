@@ -2,6 +2,10 @@
 //
 // As the arc cosine, with the polynomial of the arc sine divided by pi, to which 1/pi is added. The native form: a
 // shorter polynomial, and in double the root from a float estimate. Exact at 1 and -1; beyond them a NaN.
+//
+// Largest errors found, in ulp:
+//   acospi: default 2.34769; _native 4.56437e6 (6.1e6 on any processor)
+//   acospif: default 2.45723; _native 531.57
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {

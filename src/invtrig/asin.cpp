@@ -3,6 +3,10 @@
 // For |x| < 1/2, x + x Q(x²); above it pi/2 - 2 sqrt(h) (1 + Q(h)) with h = (1 - |x|) / 2: no table, no branch. The
 // native form: a shorter polynomial, and in double the root from a float estimate. Beyond 1 the result is a NaN.
 //
+// Largest errors found, in ulp:
+//   asin: default 2.16182; _native 4.74009e6 (6.3e6 on any processor)
+//   asinf: default 2.27419; _native 535.234
+//
 // Looks odd and is meant, see docs/design.md: signs and payloads of NaNs.
 #include "invtrig/arc_sine.h"
 

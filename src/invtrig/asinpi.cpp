@@ -3,6 +3,10 @@
 // As the arc sine, with a polynomial of its own; the factor 1/pi of the linear term is applied in the outer sum. The
 // native form: a shorter polynomial that includes 1/pi, and in double the root from a float estimate. Exact at 1 and
 // -1; beyond them a NaN.
+//
+// Largest errors found, in ulp:
+//   asinpi: default 3.01476; _native 6.03526e6 (7.6e6 on any processor)
+//   asinpif: default 3.20773; _native 681.042
 #include "invtrig/arc_sine.h"
 
 namespace lanemath {

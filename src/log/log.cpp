@@ -1,4 +1,7 @@
 // ln x, double precision, by the method in logarithm_double.h.
+//
+// Largest errors found, in ulp:
+//   log: default 1.56149 (1.6 on any processor); _native 2.0947e6 (5.5e6 on any processor)
 #include "log/logarithm_double.h"
 #include "log/logarithm_rare.h"
 

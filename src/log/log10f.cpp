@@ -5,6 +5,9 @@
 // table that also takes off the bias, and a cubic in t, whose first term is t. The native form (also _half): x = 2^k (1
 // + r) with 1 + r from 2/3 to 4/3, and a polynomial of degree 5. Rare lanes: zeros, denormals, negative values,
 // infinities and NaNs.
+//
+// Largest errors found, in ulp:
+//   log10f: default 0.770281 (0.8 on any processor); _native, _half 995.725
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"
 #include "numeric/split.h"

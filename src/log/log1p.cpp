@@ -4,6 +4,10 @@
 // its mantissa g and n, an integer near 1 / g, is exact; ln(1 + x) is the sum of the biased exponent times ln 2, -ln n
 // from a table that also takes off the bias, and a short polynomial in z = (w + l) n 2^j - 1, where 2^j scales w to g.
 // The native form: the native logarithm of w, with l added to its residual. The result takes the sign of x, for -0.
+//
+// Largest errors found, in ulp:
+//   log1p: default 0.744526 (0.8 on any processor); _native 2.0947e6 (5.5e6 on any processor)
+//   log1pf: default 1.00001; _native 1567.74
 #include "log/logarithm_double.h"
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"

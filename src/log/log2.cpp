@@ -2,6 +2,10 @@
 //
 // The default form at width 2 differs: it subtracts from m in [1, 2) the nearest multiple of 1/128, whose reciprocal
 // and logarithm are in a table, and settles every special lane itself.
+//
+// Largest errors found, in ulp:
+//   log2: default, other widths 2.08002 (2.1 on any processor); _native 2.42558e6 (6.4e6 on any processor); default,
+//     width 2 2.0716
 #include "log/log2_rare.h"
 #include "log/logarithm_double.h"
 

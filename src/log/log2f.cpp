@@ -3,6 +3,9 @@
 // x = 2^k (1 + r) with 1 + r from 2/3 to 4/3; log2(1 + r) = r p(r), p of degree 8 by pairs of coefficients (default,
 // _rm) or of degree 4 by Horner's rule (_native, _half). No table. The error is largest where the exponent and a
 // mantissa below 1 cancel. Rare lanes: zeros, denormals, negative values, infinities and NaNs.
+//
+// Largest errors found, in ulp:
+//   log2f: default, _rm 2.61176; _native, _half 893.54
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"
 

@@ -3,6 +3,9 @@
 // x = 2^k (1 + r) with 1 + r from 2/3 to 4/3; ln(1 + r) = r + q(r) r^2, q of degree 8 (default, _rm), 6 (_half) or 3
 // (_native); the default form takes ln 2 in two parts. No table. Rare lanes: zeros, denormals, negative values,
 // infinities and NaNs.
+//
+// Largest errors found, in ulp:
+//   logf: default, _rm 1.53371; _native 1567.74; _half 3.96472
 #include "log/logarithm_rare.h"
 #include "log/logarithm_single.h"
 

@@ -3,6 +3,9 @@
 // Default: log2 x in two doubles, by a table of 1025 short reciprocals scaled by nearly 1 / ln 2 and a polynomial; its
 // product with y, exact in the high part; 2^v by a table of 128 entries and a polynomial. The native form: the kernel
 // of powf, not narrowed. Rare lanes are computed in pairs of doubles.
+//
+// Largest errors found, in ulp:
+//   pow: default 1.61979; _native 2.16583e9 (5.7e9 on any processor)
 #include "pow/power_double.h"
 #include "pow/power_rare_double.h"
 #include "pow/power_widened.h"

@@ -4,6 +4,9 @@
 // entries and linear interpolation; one rounding to float, which also produces infinities and denormals. The native
 // form (also _rm): polynomials in single floats. Rare lanes are computed in pairs of floats.
 //
+// Largest errors found, in ulp:
+//   powf: default 1.09398 (1.1 on any processor); _native, _rm 4397.44
+//
 // Looks odd and is meant, see docs/design.md: the sign of an underflow.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"

@@ -1,5 +1,8 @@
 // x^n for an integer n, double precision: the kernels of pow on the magnitude of x; n is exact as a double. Rare lanes
 // are computed in pairs of doubles.
+//
+// Largest errors found, in ulp:
+//   pown: default 1.61979; _native 2.15213e9 (5.7e9 on any processor)
 #include "pow/power_double.h"
 #include "pow/power_rare_double.h"
 #include "pow/power_widened.h"

@@ -5,6 +5,9 @@
 // near 1 but not 1. A result that falls just below the normal numbers is inaccurate: the exponent field has no room for
 // it. Rare lanes are computed in pairs of floats.
 //
+// Largest errors found, in ulp:
+//   pownf: default 8015.4; _native 4983.81
+//
 // Looks odd and is meant, see docs/design.md: x^0 and results next to the normal numbers.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"

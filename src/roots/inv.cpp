@@ -4,6 +4,10 @@
 // reciprocal. The native form in double: the estimate for the significand, widened and given its exponent by integer
 // arithmetic, then one third-order step. It has no test: infinities, denormals and denormal results get whatever that
 // arithmetic gives; zeros and NaNs come out right.
+//
+// Largest errors found, in ulp:
+//   inv: default 0.5; _native 236159 (447000 on any processor)
+//   invf: default 0.5; _native, _half, _rm 4762.28 (6150 on any processor)
 #include "numeric/estimates.h"
 #include "roots/reciprocal.h"
 

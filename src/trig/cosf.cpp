@@ -1,5 +1,8 @@
 // cos x, single precision, as sin(x + pi/2): half-integer multiples of pi are taken off instead of whole ones, so that
 // x itself is reduced. Otherwise as the sine.
+//
+// Largest errors found, in ulp:
+//   cosf: default 2.51701; _native, _half, _rm 2536.05
 #include "trig/sine_single.h"
 
 namespace lanemath {

@@ -3,6 +3,9 @@
 // x = N pi + r with pi in four pieces, and an odd polynomial of degree 15; the native form has three pieces and degree
 // 9. Above 2^24 the default form reduces by a window of 1 / (2 pi) and uses a table of 512 steps in a turn; the native
 // form leaves those lanes to the rare routine.
+//
+// Largest errors found, in ulp:
+//   sin: default 3.76891; _native 6.14232e7
 #include "trig/sine_double.h"
 
 namespace lanemath {

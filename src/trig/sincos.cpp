@@ -1,5 +1,9 @@
 // sin x and cos x, double precision, from one reduction: the cosine's multiple of pi is the sine's plus or minus a
 // half, by the sign of the remainder. Otherwise as the sine; the large-argument stage starts at 2^23.
+//
+// Largest errors found, in ulp:
+//   sincos: default 3.62671; _native 6.14232e7
+//   sincosreg: default 3.62671; _native 6.14232e7
 #include "trig/sine_double.h"
 
 namespace lanemath {

@@ -1,5 +1,9 @@
 // sin x and cos x, single precision, from one reduction: the cosine's multiple of pi is the sine's plus or minus a
 // half, by the sign of the remainder. Otherwise as the sine.
+//
+// Largest errors found, in ulp:
+//   sincosf: default 2.83095; _native, _rm 2524.62
+//   sincosregf: default 2.83095; _native 2524.62
 #include "trig/sine_single.h"
 
 namespace lanemath {

@@ -2,6 +2,9 @@
 //
 // x = N pi + r with pi in pieces (four, or three in the native form), and an odd polynomial in r. Above 10000,
 // reduction by a window of 1 / (2 pi) and a table of 256 steps in a turn.
+//
+// Largest errors found, in ulp:
+//   sinf: default 2.58117; _native, _half, _rm 2524.39
 #include "trig/sine_single.h"
 
 namespace lanemath {

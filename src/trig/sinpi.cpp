@@ -4,6 +4,12 @@
 // sine from a table, in two parts, plus short polynomials in d. The slope, pi times the step's cosine, is split into a
 // power of two, whose product with d is exact, and the rest. The native forms: one polynomial up to 1/2.
 //
+// Largest errors found, in ulp:
+//   sinpi: default 0.929706; _native 4.78642e7
+//   sinpif: default 1.05769; _native 1816.27
+//   cospi: default 0.943476; _native 4.78642e7
+//   cospif: default 1.04242; _native 1816.01
+//
 // Looks odd and is meant, see docs/design.md: native results above 1.
 #include <iterator>
 

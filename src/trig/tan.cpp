@@ -3,6 +3,9 @@
 // x = N pi/2 + r with pi/2 in four pieces and r in two parts, and an odd polynomial; in odd quadrants its negative
 // reciprocal. Above 2^20, reduction by a window of 1 / (2 pi) to quarters of a turn. The native form: r in one part,
 // fewer terms.
+//
+// Largest errors found, in ulp:
+//   tan: default 1.26779; _native 1.05655e7
 #include <tuple>
 
 #include "trig/sine_double.h"

@@ -3,6 +3,9 @@
 // x = N pi/2 + r with pi/2 in pieces (four, or three in the native form), and a quotient of two polynomials, inverted
 // in odd quadrants. Above 8256, reduction by a window of 1 / (2 pi) and a table of 128 steps in half a turn; next to
 // the pole its term is computed separately, by a reciprocal.
+//
+// Largest errors found, in ulp:
+//   tanf: default 3.94385; _native, _half, _rm 923.474
 #include "trig/sine_single.h"
 #include "trig/tangent.h"
 

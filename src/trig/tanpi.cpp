@@ -3,6 +3,10 @@
 // r is the distance, at most 1/4, to a multiple of 1/2. The tangent of pi r is 4 r, which is exact, plus an odd
 // polynomial; next to the poles its reciprocal is taken. The native forms: one part, fewer terms.
 //
+// Largest errors found, in ulp:
+//   tanpi: default 1.24574; _native 1.05655e7
+//   tanpif: default 1.25317; _native 741.345
+//
 // Looks odd and is meant, see docs/design.md: signs at whole numbers.
 #include "trig/pi_scaled.h"
 #include "trig/tangent.h"

@@ -1,11 +1,13 @@
-// What is made from the file of errors, and what keeps it true: the tables of the accuracy document, and a new
-// measurement at every recorded place.
+// What is made from the file of errors, and what keeps it true: the tables of the accuracy document, the figures in the
+// heads of source files, and a new measurement at every recorded place.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <fstream>
+#include <regex>
+#include <set>
 #include <sstream>
 
 #include "accuracy/errors.h"
@@ -123,18 +125,87 @@ std::string with_tables(const std::string& text) {
   return made;
 }
 
-int document(const std::string& path, bool only_compare) {
+std::string text_of_file(const std::string& path) {
   std::ifstream in(path);
   std::ostringstream text;
   if (!(text << in.rdbuf())) throw std::runtime_error("cannot read " + path);
-  const auto made = with_tables(text.str());
-  if (made == text.str()) return 0;
+  return text.str();
+}
+
+int document(const std::string& path, bool only_compare) {
+  const auto text = text_of_file(path), made = with_tables(text);
+  if (made == text) return 0;
   if (only_compare) {
     fmt::print("{} is not what `lanemath-errors document` makes of {}\n", path, errors_path);
     return 1;
   }
   replace_file(path, made);
   return 0;
+}
+
+// The largest errors of the operations that a source file exports, as a paragraph of its head.
+std::string errors_in(const std::string& source) {
+  const std::regex line(R"(LANEMATH_EXPORT(?:_AT|_BUT)?\((?:\d+, )?(\w+))");
+  std::set<std::size_t> exported;
+  for (std::sregex_iterator found(source.begin(), source.end(), line), end; found != end; ++found)
+    exported.insert(index_of(found->str(1)));
+
+  std::string made;
+  const auto& records = recorded_errors();
+  for (const auto index : exported) {
+    std::string text, row = "//  ";
+    for (const auto& r : records)
+      if (r.index == index && r.part.empty())
+        text += fmt::format("{}{} {}{}", text.empty() ? "" : "; ",
+                            std::regex_replace(form_text(r, records), std::regex("`"), ""), text_of_error(r.error),
+                            r.anywhere ? fmt::format(" ({} on any processor)", text_of_error(*r.anywhere)) : "");
+    if (text.empty()) continue;
+    std::istringstream words(fmt::format("{}: {}", catalogue[index].name(), text));
+    for (std::string word; words >> word; row += ' ' + word)
+      if (row.size() + 1 + word.size() > 120) {
+        made += row + '\n';
+        row = "//    ";
+      }
+    made += row + '\n';
+  }
+  return made.empty() ? made : "// Largest errors found, in ulp:\n" + made;
+}
+
+// The source with that paragraph in its head, behind the method.
+std::string with_head(const std::string& source) {
+  std::vector<std::string> paragraphs(1);
+  std::istringstream in(source);
+  std::string rest;
+  bool in_head = true;
+  for (std::string line; std::getline(in, line);) {
+    in_head = in_head && line.starts_with("//");
+    if (!in_head)
+      rest += line + '\n';
+    else if (line == "//")
+      paragraphs.emplace_back();
+    else
+      paragraphs.back() += line + '\n';
+  }
+  std::erase_if(paragraphs, [](const auto& p) { return p.starts_with("// Largest errors found"); });
+  if (const auto errors = errors_in(source); !errors.empty())
+    paragraphs.insert(
+        std::find_if(paragraphs.begin(), paragraphs.end(), [](const auto& p) { return p.starts_with("// Looks odd"); }),
+        errors);
+  return fmt::format("{}{}", fmt::join(paragraphs, "//\n"), rest);
+}
+
+int heads(const std::vector<std::string>& paths, bool only_compare) {
+  int different = 0;
+  for (const auto& path : paths) {
+    const auto text = text_of_file(path), made = with_head(text);
+    if (made == text) continue;
+    ++different;
+    if (only_compare)
+      fmt::print("{}: its head does not state the recorded errors\n", path);
+    else
+      replace_file(path, made);
+  }
+  return only_compare && different ? 1 : 0;
 }
 
 }  // namespace
@@ -149,7 +220,12 @@ int main(int argc, char** argv) try {
   auto* documenting = app.add_subcommand("document", "make the tables of the accuracy document");
   documenting->add_option("FILE", path, "the document")->required();
   documenting->add_flag("--check", only_compare, "write nothing; fail where the document would change");
+  std::vector<std::string> sources;
+  auto* heading = app.add_subcommand("heads", "state the errors in the heads of source files");
+  heading->add_option("FILES", sources, "source files that export functions")->required()->check(CLI::ExistingFile);
+  heading->add_flag("--check", only_compare, "write nothing; fail where a head would change");
   CLI11_PARSE(app, argc, argv);
+  if (*heading) return heads(sources, only_compare);
   return *checking ? check(harness::library(library)) : document(path, only_compare);
 } catch (const std::exception& e) {
   fmt::print(stderr, "{}: {}\n", argv[0], e.what());
