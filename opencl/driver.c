@@ -1,6 +1,6 @@
 // The driver to which the launcher points the OpenCL loader, in place of the runtime's. It loads the library for the
-// kernels, and the runtime from the private folder around this file, whose kernel libraries call the library. A layer of
-// the loader could not do that: it is loaded after the runtimes.
+// kernels, and the runtime from the private folder around this file, whose kernel libraries call the library. A layer
+// of the loader could not do that: it is loaded after the runtimes.
 //
 // Neither program binaries nor compiled kernels may be taken for those of the runtime's own built-ins. So the driver's
 // version names the library too, for programs that keep binaries, and the runtime keeps its kernels in a cache of ours.
@@ -16,10 +16,10 @@
 
 typedef void* find_function(const char* name);
 
-static const char* cache;             // the runtime's cache of compiled kernels
-static char fingerprint[16 + 1];      // of the kernel libraries
-static cl_platform_id platform;       // the runtime's only one
-static cl_icd_dispatch below;         // its functions
+static const char* cache;         // the runtime's cache of compiled kernels
+static char fingerprint[16 + 1];  // of the kernel libraries
+static cl_platform_id platform;   // the runtime's only one
+static cl_icd_dispatch below;     // its functions
 static find_function* find_in_runtime;
 
 // The runtime asks for the cache's name once, when it looks for devices. Only then does the environment hold ours: a
@@ -83,7 +83,7 @@ static const char* load_over(const char* folder, const char* runtime) {
   if (!cache || !*cache) return "the variable LANEMATH_KERNEL_CACHE is missing: use lanemath-opencl";
   cache = strdup(cache);
 
-  char path[PATH_MAX];
+  char path[PATH_MAX + 64];
   snprintf(path, sizeof path, "%s/fingerprint", folder);
   FILE* const file = fopen(path, "r");
   const int read = file && fscanf(file, "%16s", fingerprint) == 1;
@@ -106,7 +106,7 @@ static const char* load_over(const char* folder, const char* runtime) {
 
 static void load(void) {
   Dl_info self;
-  char folder[PATH_MAX], runtime[PATH_MAX], installed[PATH_MAX];
+  char folder[PATH_MAX], runtime[PATH_MAX + 64], installed[PATH_MAX];
   if (!dladdr(&platform, &self) || !realpath(self.dli_fname, folder)) return;
   *strrchr(folder, '/') = '\0';
   snprintf(runtime, sizeof runtime, "%s/" LANEMATH_RUNTIME, folder);

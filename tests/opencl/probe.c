@@ -30,10 +30,11 @@ int main(void) {
   CHECK(clGetDeviceInfo(device, CL_DRIVER_VERSION, sizeof version, version, &again) == CL_SUCCESS && again == size);
   CHECK(clGetDeviceInfo(NULL, CL_DRIVER_VERSION, sizeof version, version, NULL) == CL_INVALID_DEVICE);
 
-  const char* source = "kernel void powers(global float* x) {\n"
-                       "  const size_t i = get_global_id(0);\n"
-                       "  x[i] = pow(1.0f + 0.37f * i, 3.3f);\n"
-                       "}\n";
+  const char* source =
+      "kernel void powers(global float* x) {\n"
+      "  const size_t i = get_global_id(0);\n"
+      "  x[i] = pow(1.0f + 0.37f * i, 3.3f);\n"
+      "}\n";
   const cl_program program = clCreateProgramWithSource(context, 1, &source, NULL, &error);
   CHECK(clBuildProgram(program, 1, &device, NULL, NULL, NULL) == CL_SUCCESS);
   const cl_kernel kernel = clCreateKernel(program, "powers", &error);
