@@ -13,7 +13,7 @@ kernel_cache::kernel_cache() {
   auto name = (std::filesystem::temp_directory_path() / "lanemath-conformance-XXXXXX").string();
   if (!mkdtemp(name.data())) throw std::runtime_error("cannot make a folder " + name);
   folder_ = name;
-  setenv("POCL_CACHE_DIR", name.c_str(), true);
+  setenv("LANEMATH_KERNEL_CACHE", name.c_str(), true);
   setenv("POCL_LEAVE_KERNEL_COMPILER_TEMP_FILES", "1", true);
 }
 
