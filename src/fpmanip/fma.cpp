@@ -104,8 +104,8 @@ struct exact_sum {
     int field = (kept_product ? p.exponent : s.exponent) + (126 - point);
     if (upper_half(sum) == 0) {
       if (sum == 0) return direction == rounding::down ? -zero_v<T> : zero_v<T>;
-      sum <<= 64;
-      field -= 64;
+      sum <<= 63;
+      field -= 63;
     }
     const int up = __builtin_clzll(upper_half(sum)) - 1;
     sum = shifted_left(sum, up);
