@@ -1,5 +1,6 @@
-// fma: x y + z with one rounding, lane by lane in integer arithmetic: the exact product, the exact aligned sum, and one
-// rounding in the direction of the x87 control word.
+// fma: x y + z with one rounding, in the direction of the x87 control word. Double lanes are computed in integer
+// arithmetic: the exact product, the exact aligned sum, and one rounding. Ordinary float lanes that are rounded to
+// nearest are computed in double arithmetic, the others as double lanes are.
 //
 // Lanes that need no such care (a zero factor or summand, a factor of magnitude one, infinities, NaNs) are computed as
 // a plain product and sum, in the direction of MXCSR.
@@ -9,8 +10,6 @@
 //   fmaf: default, _rm 0.5
 //
 // Looks odd and is meant, see docs/design.md: -0 that becomes +0, and two rounding directions.
-#include <utility>
-
 #include "numeric/exceptional.h"
 #include "numeric/x87.h"
 
@@ -21,151 +20,193 @@ enum class rounding : std::uint16_t { nearest = 0, down = 0x400, up = 0x800, zer
 
 LANEMATH_INLINE rounding x87_rounding() { return rounding(x87_control_word() & 0xC00); }
 
-// Arithmetic done only for its flags.
-template <class T>
-LANEMATH_INLINE void raise_flags_of(T result) {
-  asm volatile("" ::"x"(result));
+using wide = unsigned __int128;
+
+LANEMATH_INLINE std::uint64_t upper_half(wide v) { return std::uint64_t(v >> 64); }
+
+// Shifted by 0 to 63. Shifts of 128 bits by a variable that may be larger cost twice as much.
+LANEMATH_INLINE wide shifted_left(wide v, int count) {
+  const std::uint64_t upper = upper_half(v), lower = std::uint64_t(v);
+  return wide(upper << count | lower >> 1 >> (63 - count)) << 64 | lower << count;
+}
+// Shifted by 0 and more. The lowest bit is sticky: it is set if any bit was lost.
+LANEMATH_INLINE wide shifted_right(wide v, int count) {
+  if (count >= 64) {
+    if (count >= 128) return v != 0;
+    const wide kept = v >> count;
+    return kept | (kept << count != v);
+  }
+  const std::uint64_t upper = upper_half(v), lower = std::uint64_t(v);
+  const bool lost = lower << 1 << (63 - count) != 0;
+  return wide(upper >> count) << 64 | (lower >> count | upper << 1 << (63 - count) | lost);
 }
 
 template <class T>
 struct exact_sum {
   using f = format<T>;
   using pattern = typename f::pattern;
-  // Holds a product of two significands and enough bits below it that whatever is shifted out beyond them matters only
-  // as a sticky bit.
-  using wide = std::conditional_t<sizeof(T) == 4, std::uint64_t, unsigned __int128>;
 
-  static constexpr int wide_bits = 8 * sizeof(wide);
-  static constexpr int point = wide_bits - 2;  // the place of an operand's leading bit: a sum may carry above it
-  static constexpr int below_fraction = point - f::fraction_bits;
+  // The place of an operand's leading bit, or one below that of a product. A sum may carry above them, and has its sign
+  // at the top. Below a product there is so much room that what is shifted out matters only as a sticky bit.
+  static constexpr int point = 124;
 
   // A magnitude of significand / 2^point * 2^(exponent - bias).
   struct operand {
     wide significand;
     int exponent;
-    bool negative;
+    pattern sign;
   };
 
-  static int leading_zeros(wide v) {
-    if constexpr (sizeof(wide) == 8)
-      return __builtin_clzll(v);
-    else if (const auto upper_half = std::uint64_t(v >> 64); upper_half != 0)
-      return __builtin_clzll(upper_half);
-    else
-      return 64 + __builtin_clzll(std::uint64_t(v));
+  LANEMATH_INLINE static operand product(T x, T y) {
+    const unpacked<T> a(x), b(y);
+    constexpr int up = point / 2 - f::fraction_bits;
+    return {wide(std::uint64_t(a.significand) << up) * (std::uint64_t(b.significand) << up),
+            a.exponent + b.exponent + f::bias, (pattern_of(x) ^ pattern_of(y)) & f::sign};
+  }
+  LANEMATH_INLINE static operand summand(T z) {
+    const unpacked<T> c(z);
+    return {wide(std::uint64_t(c.significand) << (point - 64 - f::fraction_bits)) << 64, c.exponent + f::bias,
+            pattern_of(z) & f::sign};
   }
 
-  static wide shifted_right(wide v, int count) {
-    if (count >= wide_bits) return v != 0;
-    const wide kept = v >> count;
-    return kept | wide(kept << count != v);
-  }
-
-  static operand unpack(T x) {
-    const unpacked<T> magnitude(x);
-    return {magnitude.significand, magnitude.exponent + f::bias, std::signbit(x)};
-  }
-
-  static operand product(const operand& x, const operand& y) {
-    operand p{wide(x.significand * y.significand), x.exponent + y.exponent - f::bias, x.negative != y.negative};
-    // The leading bit of the product is at 2 * fraction_bits or one above.
-    const bool above = p.significand >> (2 * f::fraction_bits + 1) != 0;
-    p.exponent += above;
-    p.significand <<= point - 2 * f::fraction_bits - above;
-    return p;
-  }
-
-  static T signed_value(pattern magnitude, bool negative) { return value_of<T>(magnitude | (negative ? f::sign : 0)); }
-
-  static T rounded(operand sum, rounding direction) {
-    int field = sum.exponent;
-    const T sign = signed_value(pattern_of(one_v<T>), sum.negative);
-    if (field >= f::top_field) return overflowed(sign);
+  // A significand whose leading bit is at 62, with a sticky bit at the bottom.
+  LANEMATH_INLINE static T rounded(std::uint64_t significand, int field, pattern sign, rounding direction) {
+    if (field >= f::top_field) return overflowed(value_of<T>(sign));
     if (field <= 0) {
-      sum.significand = shifted_right(sum.significand, 1 - field);
-      field = 0;
+      significand = std::uint64_t(shifted_right(significand, 1 - field));
+      field = 1;  // without the implicit bit, the field is 0
     }
-    // The fraction and, left-aligned, the bits below it.
-    auto magnitude = pattern(sum.significand >> below_fraction);
-    const wide rest = sum.significand << (wide_bits - below_fraction);
-    constexpr wide half = wide(1) << (wide_bits - 1);
-    if (field > 0) magnitude += pattern(field - 1) << f::fraction_bits;
-    if (rest == 0) return signed_value(magnitude, sum.negative);
-    if constexpr (sizeof(T) == 8) raise_flags_of(one_v<T> + opaque(std::numeric_limits<T>::min()));
-
-    const bool away = direction == rounding::nearest ? rest > half || (rest == half && magnitude % 2 == 1)
-                                                     : direction == (sum.negative ? rounding::down : rounding::up);
-    const pattern before = magnitude;
-    magnitude += away;
-    if (magnitude == f::infinity) return overflowed(sign);
-    // In the directions up and down a result is tiny if it would be so with an unbounded exponent range.
-    const bool directed = direction == rounding::up || direction == rounding::down;
-    const bool tiny = !directed ? magnitude < f::implicit_bit || (magnitude == f::implicit_bit && rest == half)
-                      : away    ? before < f::fraction || (before == f::fraction && rest < half)
-                                : before < f::implicit_bit;
-    if (tiny) raise_flags_of(underflowed<T>());
-    return signed_value(magnitude, sum.negative);
+    constexpr int round_bits = 62 - f::fraction_bits;
+    constexpr std::uint64_t below = (std::uint64_t(1) << round_bits) - 1;
+    std::uint64_t more = 0;
+    if (direction == rounding::nearest)
+      more = below / 2 + (significand >> round_bits & 1);
+    else if (direction == (sign != 0 ? rounding::down : rounding::up))
+      more = below;
+    const auto magnitude = (pattern(field - 1) << f::fraction_bits) + pattern((significand + more) >> round_bits);
+    if (magnitude == f::infinity) return overflowed(value_of<T>(sign));
+    return value_of<T>(magnitude | sign);
   }
 
-  static T of(T x, T y, T z, rounding direction) {
-    operand large = product(unpack(x), unpack(y)), small = unpack(z);
-    small.significand <<= below_fraction;
-    if (large.exponent < small.exponent || (large.exponent == small.exponent && large.significand < small.significand))
-      std::swap(large, small);
-    small.significand = shifted_right(small.significand, large.exponent - small.exponent);
+  LANEMATH_INLINE static T of(T x, T y, T z, rounding direction) {
+    const operand p = product(x, y), s = summand(z);
+    const int apart = p.exponent - s.exponent;
+    const bool kept_product = apart >= 0;
+    const wide kept = kept_product ? p.significand : s.significand;
+    const wide moved = shifted_right(kept_product ? s.significand : p.significand, kept_product ? apart : -apart);
 
-    operand sum = large;
-    if (large.negative == small.negative) {
-      sum.significand += small.significand;
-      if (sum.significand >> (point + 1) != 0) {
-        sum.significand = shifted_right(sum.significand, 1);
-        ++sum.exponent;
-      }
-    } else {
-      sum.significand -= small.significand;
-      if (sum.significand == 0) return signed_value(0, direction == rounding::down);
-      const int up = leading_zeros(sum.significand) - (wide_bits - 1 - point);
-      sum.significand <<= up;
-      sum.exponent -= up;
+    const wide flip = -wide(p.sign != s.sign);
+    wide sum = kept + ((moved ^ flip) - flip);
+    const auto turned = pattern(upper_half(sum) >> 63);
+    const wide turn = -wide(turned);
+    sum = (sum ^ turn) - turn;
+    const pattern sign = (kept_product ? p.sign : s.sign) ^ turned << (8 * sizeof(T) - 1);
+    int field = (kept_product ? p.exponent : s.exponent) + (126 - point);
+    if (upper_half(sum) == 0) {
+      if (sum == 0) return direction == rounding::down ? -zero_v<T> : zero_v<T>;
+      sum <<= 63;
+      field -= 63;
     }
-    return rounded(sum, direction);
+    const int up = __builtin_clzll(upper_half(sum)) - 1;
+    sum = shifted_left(sum, up);
+    return rounded(upper_half(sum) | (std::uint64_t(sum) != 0), field - up, sign, direction);
   }
 };
 
+// Whether the lane needs no exact sum, and has its result.
 template <class T>
-LANEMATH_RARE fma_rare(const T* px, const T* py, const T* pz, T* result) {
+bool is_settled(T x, T y, T z, T& result) {
   using f = format<T>;
-  const rounding direction = x87_rounding();
-  const T x = *px, y = *py, z = *pz;
   const auto ax = magnitude_pattern(x), ay = magnitude_pattern(y), az = magnitude_pattern(z);
-  constexpr auto one = pattern_of(one_v<T>);
-  const auto trivial = [](auto a) { return a == 0 || a == one; };
-
+  const auto trivial = [](auto a) { return a == 0 || a == pattern_of(one_v<T>); };
   if (is_nan(x) || is_nan(y))
-    *result = quieted(is_nan(x) ? x : y);
+    result = quieted(is_nan(x) ? x : y);
   else if (is_nan(z))
-    *result = quieted(z);
+    result = quieted(z);
   else if (az == f::infinity && ax != f::infinity && ay != f::infinity)
-    *result = z;
+    result = z;
   else if (ax == f::infinity || ay == f::infinity || trivial(ax) || trivial(ay) || az == 0)
-    *result = x * y + z;
+    result = x * y + z;
   else
-    *result = exact_sum<T>::of(x, y, z, direction);
-  return status::ordinary;
+    return false;
+  return true;
 }
 
 template <class T>
-struct fma {
-  using signature = T(T, T, T);
+LANEMATH_INLINE status fma_rare(const T* px, const T* py, const T* pz, T* result) {
+  using f = format<T>;
+  const T x = *px, y = *py, z = *pz;
+  // One test for what is most common: normal numbers, none of them a factor of magnitude one.
+  const auto normal = [](T v) { return magnitude_pattern(v) - f::implicit_bit < f::infinity - f::implicit_bit; };
+  const auto is_one = [](T v) { return magnitude_pattern(v) == pattern_of(one_v<T>); };
+  const bool usual = int(normal(x)) & normal(y) & normal(z) & !is_one(x) & !is_one(y);
+  if (!usual && is_settled(x, y, z, *result)) [[unlikely]]
+    return status::ordinary;
+  *result = exact_sum<T>::of(x, y, z, x87_rounding());
+  return status::ordinary;
+}
+
+// Double lanes have no wider format to be computed in.
+struct fma_in_integers {
+  using signature = double(double, double, double);
   static constexpr bool always_scalar = true;
-  static constexpr auto rare = fma_rare<T>;
-  static auto kernel(auto x, auto y, auto z) { return x * y + z; }
+  static constexpr auto rare = fma_rare<double>;
+  static auto kernel(auto x, auto, auto) { return x; }
+};
+
+// Float lanes: in double the product is exact, and the sum's error tells on which side of it the exact sum lies. That
+// holds in every direction of MXCSR, so the sum can be cut off to an odd number, which rounds as the exact sum does.
+struct fmaf_in_doubles {
+  using signature = float(float, float, float);
+  static constexpr int groups_at_once = 1;
+  static constexpr auto rare = fma_rare<float>;
+
+  template <class V>
+  static V rounded(const lanes<std::uint64_t, V::width>& sum) {
+    constexpr int dropped = 29;
+    const auto whole = (sum + (std::uint64_t(1) << (dropped - 1)) - 1 + (sum >> dropped & 1)) >> dropped;
+    constexpr auto rebias = std::int32_t(0xC0000000);  // (1023 - 127) * 2^23, modulo 2^32
+    return from_bits((lower(whole) - rebias) | (top_word(sum) & sign_mask<float>));
+  }
+
+  template <class V>
+  static auto marked_kernel(V x, V y, V z) {
+    using M = lanes<std::int32_t, V::width>;
+    const auto product = convert<double>(x) * convert<double>(y), summand = convert<double>(z);
+    const auto sum = product + summand;
+    const auto in_order = magnitude(product) >= magnitude(summand);
+    const auto larger = select(in_order, product, summand), smaller = select(in_order, summand, product);
+    const auto error = smaller - (sum - larger);
+    const auto inexact = as<std::uint64_t>(error != 0);
+    const auto too_large = as<std::uint64_t>(bits(error) ^ bits(sum)) >> 63;
+    const auto odd = (as<std::uint64_t>(sum) - (too_large & inexact)) | (inexact & 1);
+    const M nonzero = narrow_mask(sum != 0);
+    const auto exact = where(nonzero, rounded<V>(odd));
+    // Denormal results, and those that round to infinity, perhaps.
+    const M beyond = outside(top_word(odd) & 0x7FFFFFFF, 0x38100000, 0x47EFFFFE) & nonzero;
+
+    // The same lanes as in the routine: the plain form is exact, but for one rounding.
+    M plain = bits(magnitude(z)) == 0, special = abnormal(z);
+    for (const V& factor : {x, y}) {
+      const auto a = bits(magnitude(factor));
+      plain = plain | (a == 0) | (a == std::bit_cast<std::int32_t>(1.0f));
+      special = special | abnormal(factor);
+    }
+    const M other_direction = x87_rounding() == rounding::nearest ? 0 : -1;
+    return marked(select(plain, x * y + z, exact), special | (beyond & ~plain) | other_direction);
+  }
+
+  // Denormals, infinities and NaNs.
+  template <class V>
+  static auto abnormal(V x) {
+    return not_normal(x) & ~(bits(magnitude(x)) == 0);
+  }
 };
 
 }  // namespace
 
-LANEMATH_EXPORT(fmaf, fma<float>)
+LANEMATH_EXPORT(fmaf, fmaf_in_doubles)
 LANEMATH_SAME(fmaf, , _rm)
-LANEMATH_EXPORT(fma, fma<double>)
+LANEMATH_EXPORT(fma, fma_in_integers)
 
 }  // namespace lanemath

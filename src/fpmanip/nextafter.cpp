@@ -32,21 +32,19 @@ struct nextafter {
   using signature = T(T, T);
   static constexpr auto rare = nextafter_rare<T>;
 
-  // Up where y is larger in magnitude and the signs are equal.
+  // Up where y is larger in magnitude and the signs are equal; nowhere if x and y are equal.
   template <class V>
   static V kernel(V x, V y) {
     const auto different_sign = sign_of(from_bits(bits(x) ^ bits(y)));
     const auto up = (magnitude(x) < magnitude(y)) & (different_sign == 0);
-    return from_bits(bits(x) - 1 + (up & 2));
+    const auto equal = bits(x) == bits(y);
+    return from_bits(bits(x) - 1 + (up & 2) - equal);
   }
-  // Float lanes are also rare where the signs are equal, double lanes where x and y are equal.
+  // Zero or denormal x, or a NaN. Against a normal or infinite x, any y will do.
   template <class V>
   static auto rare_test(V x, V y) {
-    const auto rare = not_normal(x) | not_normal(y) | not_normal(kernel(x, y));
-    if constexpr (sizeof(T) == 4)
-      return rare | ~(bits(x) ^ bits(y)) >> 31;
-    else
-      return rare | narrow_mask(bits(x) == bits(y));
+    using f = format<T>;
+    return narrow_mask(unordered(x, y)) | ((top_word(x) & f::top_exponent) == 0);
   }
 };
 

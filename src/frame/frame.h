@@ -172,8 +172,13 @@ namespace frame_detail {
 // Runs the rare routine on every marked lane, in ascending order.
 template <auto Routine, class... Pointers>
 [[gnu::noinline, gnu::cold]] void rare_loop(unsigned mask, Pointers... lanes_of) {
-  for (int i = 0; i < 32; ++i)
-    if (mask >> i & 1) Routine(lanes_of + i...);
+  for (; mask != 0; mask &= mask - 1) Routine(lanes_of + __builtin_ctz(mask)...);
+}
+// Runs it on all lanes.
+template <auto Routine, int W, class... Pointers>
+LANEMATH_INLINE void every_lane(Pointers... lanes_of) {
+#pragma GCC unroll 1
+  for (int i = 0; i < W; ++i) Routine(lanes_of + i...);
 }
 
 template <class T, int W>
@@ -181,20 +186,20 @@ LANEMATH_INLINE T* scratch(lanes<T, W>& v) {
   return reinterpret_cast<T*>(&v);
 }
 
-// Puts the scalar routine's results into the marked lanes. It works on copies, so that only they have an address and
+// Has a loop put the scalar routine's results into the lanes. It works on copies, so that only they have an address and
 // the straight path keeps its values in registers. Two results are copied separately, because compilers copy a
 // structure of many groups by calling memcpy.
-template <class Op, class Y, class... X>
-LANEMATH_INLINE void mend(unsigned mask, Y& y, X... x) {
+template <class Loop, class Y, class... X>
+LANEMATH_INLINE void mend(Loop loop, Y& y, X... x) {
   if constexpr (requires { y.second; }) {
     auto first = y.first;
     auto second = y.second;
-    rare_loop<Op::rare>(mask, scratch(x)..., scratch(first), scratch(second));
+    loop(scratch(x)..., scratch(first), scratch(second));
     y.first = first;
     y.second = second;
   } else {
     auto copy = y;
-    rare_loop<Op::rare>(mask, scratch(x)..., scratch(copy));
+    loop(scratch(x)..., scratch(copy));
     y = copy;
   }
 }
@@ -217,7 +222,8 @@ LANEMATH_INLINE void settle(M rare, Y& y, const X&... x) {
       Op::fix_up(x..., y, rare);
     else if constexpr (requires { Op::fix_up(x..., y.first, y.second, rare); })
       Op::fix_up(x..., y.first, y.second, rare);
-    if (const unsigned mask = mask_bits(rare)) mend<Op>(mask, y, x...);
+    if (const unsigned mask = mask_bits(rare))
+      mend([mask](auto... lanes_of) LANEMATH_LAMBDA { rare_loop<Op::rare>(mask, lanes_of...); }, y, x...);
   }
 }
 
@@ -236,7 +242,7 @@ template <class Op, int W, int Piece, class... X>
 LANEMATH_INLINE auto evaluate_tested(const X&... x) -> decltype(by_pieces<Piece, W>(kernel_of<Op>(), x...)) {
   decltype(by_pieces<Piece, W>(kernel_of<Op>(), x...)) y = by_pieces<Piece, W>(kernel_of<Op>(), x...);
   if constexpr (requires { Op::always_scalar; })
-    mend<Op>((1u << W) - 1, y, x...);
+    mend([](auto... lanes_of) LANEMATH_LAMBDA { every_lane<Op::rare, W>(lanes_of...); }, y, x...);
   else if constexpr (requires { Op::rare_test(x...); })
     settle<Op>(by_pieces<Piece, W>([](const auto&... v) LANEMATH_LAMBDA { return Op::rare_test(v...); }, x...), y,
                x...);

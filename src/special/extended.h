@@ -38,13 +38,16 @@ X even_and_odd(const C (&c)[Size], X x) {
   return with_last + x * other;
 }
 
-// Runs a routine with the x87 precision control at the full 64 bits, and restores the control word.
+// The x87 precision control at the full 64 bits.
+inline constexpr std::uint16_t full_precision = 0x300;
+inline bool is_at_full_precision() { return (x87_control_word() & full_precision) == full_precision; }
+
+// Runs a routine with it, and restores the control word.
 template <auto Routine, class... Pointers>
 status at_full_precision(Pointers... lanes_of) {
   const std::uint16_t found = x87_control_word();
-  constexpr std::uint16_t precision = 0x300;
-  if ((found & precision) == precision) return Routine(lanes_of...);
-  set_x87_control_word(found | precision);
+  if ((found & full_precision) == full_precision) return Routine(lanes_of...);
+  set_x87_control_word(found | full_precision);
   const auto status = Routine(lanes_of...);
   set_x87_control_word(found);
   return status;

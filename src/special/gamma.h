@@ -11,7 +11,8 @@ inline constexpr extended half_log_2_pi = 0xEB3F8E4325F5A535p-64L;
 inline std::int32_t upper_half(double x) { return std::int32_t(pattern_of(x) >> 32); }
 
 // (y - 2^k) / 2^k
-inline extended within_octave(extended y, std::int32_t k) {
+template <class Real>
+Real within_octave(Real y, std::int32_t k) {
   return (y - power_of_two<double>(k)) * power_of_two<double>(-k);
 }
 

@@ -1,7 +1,8 @@
 // log|gamma(x)|, single precision, with or without the sign of gamma.
 //
 // Each lane is computed by itself in x87 arithmetic: from 1 up a polynomial for each interval or octave, from 8192 on
-// Stirling's formula. Below 1 the argument is walked up, log|gamma(x)| = log|gamma(x + n)| - log|x ... (x + n - 1)|,
+// Stirling's formula. Where the polynomial's value in double arithmetic shows what x87 arithmetic would be rounded to,
+// it serves. Below 1 the argument is walked up, log|gamma(x)| = log|gamma(x + n)| - log|x ... (x + n - 1)|,
 // and from -9 on down reflected. Near the zeros between -4 and -2 the function is expanded about the zero.
 //
 // Largest errors found, in ulp:
@@ -41,17 +42,18 @@ constexpr double reflection[] = {0xBFD58731A486E820_f64, 0xBFA4452CC28E15A9_f64,
 constexpr double minimum_of_gamma = 0x3FF762D86356BE3F_f64;
 
 // From 1 to 8192; `high` is the upper half of y as a double.
-extended on_interval(extended y, std::int32_t high) {
+template <class Real>
+Real on_interval(Real y, std::int32_t high) {
   if (high >= 0x40100000) {
     const auto k = (high >> 20) - 0x401;
     return even_and_odd(lgammaf_octaves[k], within_octave(y, k + 2));
   }
-  if (high >= 0x40000000) return (y - 2.0L) * even_and_odd(to_4, y);
+  if (high >= 0x40000000) return (y - 2.0) * even_and_odd(to_4, y);
   if (high >= 0x3FFC0000) return even_and_odd(to_2, y);
   if (high >= 0x3FF80000) return even_and_odd(from_1_5, y);
   if (high >= 0x3FF40000) return even_and_odd(at_minimum, y - minimum_of_gamma);
   if (high >= 0x3FF00000) return even_and_odd(from_1, y);
-  return 0.0L;  // never reached
+  return 0.0;  // never reached
 }
 
 // log-gamma at the end of a walk or a reflection. It is taken as 0 just above 2 too, where the other summand dominates.
@@ -89,10 +91,19 @@ extended on_negative_axis(float x) {
   return x > -9.0f ? walked_up(x) : reflected(x);
 }
 
+// Whether an error of 2^-40 in y, which is larger than any of the polynomials makes in double arithmetic, cannot change
+// the float that y rounds to in any direction: y is at least 2^-6, and neither near a float nor halfway between two.
+bool rounds_safely(double y) {
+  constexpr std::uint64_t margin = 1 << 18, half_step = 1 << 28;
+  return std::fabs(y) >= 0x1p-6 && ((pattern_of(y) + margin) & (half_step - 1)) > 2 * margin;
+}
+
 extended on_positive_axis(float x) {
   if (x < 1.0f) return lgamma_of(x + 1.0L) - log_of(x);
-  if (x < 8192.0f) return on_interval(x, upper_half(double(x)));
-  return stirling(x);
+  if (x >= 8192.0f) return stirling(x);
+  const std::int32_t high = upper_half(double(x));
+  if (const auto y = on_interval<double>(x, high); rounds_safely(y) && is_at_full_precision()) return y;
+  return on_interval<extended>(x, high);
 }
 
 // The least argument that overflows.

@@ -32,7 +32,7 @@ struct cos_form {
 };
 
 struct cos_standard : cos_form<pi_double, cos_c>, double_large_stage<128> {};
-struct cos_native : cos_form<native_pi_double, native_c_double> {};
+struct cos_native : cos_form<native_pi_double, native_c_double>, double_native_stage<true> {};
 
 }  // namespace
 

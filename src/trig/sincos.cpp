@@ -27,7 +27,17 @@ struct sincos_form {
   static auto rare_test(auto x) { return ~(magnitude(x) <= 0x1p23); }
 };
 
-struct sincos_native : sincos_form<native_pi_double, native_c_double> {};
+struct sincos_native : sincos_form<native_pi_double, native_c_double> {
+  template <int W, class M>
+  static void fix_up(lanes<double, W> x, lanes<double, W>& sine, lanes<double, W>& cosine, M& rare) {
+    if (!any(rare & (magnitude(x) <= native_largest))) return;
+    const auto stage = [](const auto& v) LANEMATH_LAMBDA {
+      const auto at = native_large(v);
+      return two_results{at.sine(), at.cosine()};
+    };
+    large_stage(stage, x, sine, cosine, rare, native_largest);
+  }
+};
 struct sincos_standard : sincos_form<pi_double, sincos_c> {
   template <int W, class M>
   static void fix_up(lanes<double, W> x, lanes<double, W>& sine, lanes<double, W>& cosine, M& rare) {

@@ -54,4 +54,23 @@ struct double_large_stage {
   }
 };
 
+// The native forms take the routine's road, which in vectors ends below 2^30.
+inline constexpr double native_largest = 0x1.fffffffffffffp29;
+template <class V>
+LANEMATH_INLINE sine_by_steps<V> native_large(const V& x) {
+  return sine_by_steps<V>(reduce_middle<true>(magnitude(x), with_bits(V(1.0), sign_of(x))));
+}
+template <bool Cosine>
+struct double_native_stage {
+  template <int W, class M>
+  static void fix_up(lanes<double, W> x, lanes<double, W>& y, M& rare) {
+    if (!any(rare & (magnitude(x) <= native_largest))) return;
+    const auto stage = [](const auto& v) LANEMATH_LAMBDA {
+      const auto at = native_large(v);
+      return Cosine ? at.cosine() : at.sine();
+    };
+    large_stage(stage, x, y, rare, native_largest);
+  }
+};
+
 }  // namespace lanemath

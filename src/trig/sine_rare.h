@@ -3,7 +3,8 @@
 // rest.
 //
 // The kernels leave only infinities and NaNs to these routines, except the native forms of double precision, whose
-// kernels end at 2^23 (sin: 2^24): the code for finite floats, and for doubles up to 2^23, is never reached.
+// kernels end at 2^23 (sin: 2^24): the code for finite floats, and for doubles up to 2^23, is never reached. What lies
+// below 2^30 the native forms compute in whole vectors, by the same steps.
 #pragma once
 
 #include "numeric/constants.h"
@@ -13,42 +14,43 @@
 
 namespace lanemath {
 
+template <class V>
 struct quadrant_and_rest {
-  double hi, lo;
-  std::int32_t quadrant;
+  V hi, lo;
+  lanes<std::int32_t, V::width> quadrant;
 };
+using scalar = lanes<double, 1>;
 
 // 2^17 <= a < 2^30: the nearest even multiple of pi/4, from a product with 4 / pi.
-inline quadrant_and_rest reduce_middle(double a, double sign) {
-  const double product = 0x3FF45F306DC9C883_f64 * a;
-  const auto top = std::uint32_t((pattern_of(product) << 11 | 0x8000000000000000) >> 32);
-  const std::uint32_t f = top >> ((30 - exponent_field(product)) & 31);
-  const double n = double(std::int64_t(f) + (f & 1));
-  const std::int32_t q = std::int32_t((f + 1) >> 1);
-  double v, w;
-  if (exponent_field(a) >= 1046) {
-    const double b1 = a - 0x3FE921FA00000000_f64 * n;
-    const double pb = 0x3EA5444300000000_f64 * n, b2 = b1 - pb;
-    const double pc = 0xBD373DCA00000000_f64 * n, b3 = b2 - pc;
-    const double c1 = b1 - b2 - pb + (b2 - b3 - pc);
-    const double b4 = b3 + c1, pd = 0xBBF3B39A00000000_f64 * n;
+template <bool Above23, class V>
+LANEMATH_INLINE quadrant_and_rest<V> reduce_middle(const V& a, const V& sign) {
+  const auto f = truncate(0x3FF45F306DC9C883_f64 * a);
+  const V n = convert<double>(f + (f & 1));
+  V v, w;
+  if constexpr (Above23) {
+    const V b1 = a - 0x3FE921FA00000000_f64 * n;
+    const V pb = 0x3EA5444300000000_f64 * n, b2 = b1 - pb;
+    const V pc = 0xBD373DCA00000000_f64 * n, b3 = b2 - pc;
+    const V c1 = b1 - b2 - pb + (b2 - b3 - pc);
+    const V b4 = b3 + c1, pd = 0xBBF3B39A00000000_f64 * n;
     v = b4 - pd;
     w = b3 - b4 + c1 + (b4 - v - pd);
     w = w - n * 0x3A845C06E0E68948_f64;
   } else {
-    const double b1 = a - 0x3FE921FB54000000_f64 * n;
-    const double pb = 0x3E010B4612000000_f64 * n, b2 = b1 - pb;
-    const double pc = 0xBC2676733C000000_f64 * n;
+    const V b1 = a - 0x3FE921FB54000000_f64 * n;
+    const V pb = 0x3E010B4612000000_f64 * n, b2 = b1 - pb;
+    const V pc = 0xBC2676733C000000_f64 * n;
     v = b2 - pc;
     w = b1 - b2 - pb + (b2 - v - pc);
     w = w - n * 0x3A61701B839A2520_f64;
   }
-  const double hi = v * sign + w * sign;
-  return {hi, w * sign + (v * sign - hi), sign < 0 ? -q : q};
+  const V hi = v * sign + w * sign;
+  const auto q = (f + 1) >> 1, minus = top_word(sign) >> 31;
+  return {hi, w * sign + (v * sign - hi), (q ^ minus) - minus};
 }
 
 // 2^30 and above: products with nine slices of 4 / pi, with whole turns taken off on the way.
-inline quadrant_and_rest reduce_large(double a, double sign) {
+inline quadrant_and_rest<scalar> reduce_large(double a, double sign) {
   const std::int32_t e = exponent_field(a);
   const double y = value_of<double>((pattern_of(a) & 0x000FFFFFFFFFFFFF) | std::uint64_t(e - 200) << 52);
   const double yh = without_low_bits(y, 27), yl = y - yh;
@@ -92,16 +94,46 @@ inline quadrant_and_rest reduce_large(double a, double sign) {
   const double A = 0x3FE921FB40000000_f64, B = 0x3E64442D18469899_f64;  // pi/4
   const double t = A * L + (L + H) * B, P = H * A;
   const auto [hi, lo] = fast_sum(P, t);
-  return {hi * sign, lo * sign, sign < 0 ? std::int32_t(0u - std::uint32_t(q)) : q};
+  return {scalar(hi * sign), scalar(lo * sign), sign < 0 ? std::int32_t(0u - std::uint32_t(q)) : q};
 }
 
-inline quadrant_and_rest reduce_scalar(double x) {
+inline quadrant_and_rest<scalar> reduce_scalar(double x) {
   const std::int32_t e = exponent_field(x);
   if (e < 1040) return {x, 0.0, 0};
   const double a = std::fabs(x);
   const double sign = std::copysign(1.0, x);
-  return e <= 1052 ? reduce_middle(a, sign) : reduce_large(a, sign);
+  if (e > 1052) return reduce_large(a, sign);
+  return e >= 1046 ? reduce_middle<true, scalar>(a, sign) : reduce_middle<false, scalar>(a, sign);
 }
+
+// The sine of hi + lo and a count of quadrants, and that of a quadrant more, which is the cosine.
+template <class V>
+struct sine_by_steps {
+  lanes<std::int32_t, V::width> j;
+  V r, rr, S, C;
+
+  LANEMATH_INLINE explicit sine_by_steps(const quadrant_and_rest<V>& x) {
+    const V t = x.hi * 0x40245F306DC9C883_f64 + integer_shifter<double>;  // 32 / pi
+    const V n = t - integer_shifter<double>;
+    const V r1 = x.hi - n * 0x3FB921FB54400000_f64, pm = n * 0x3D90B4611A600000_f64;
+    r = r1 - pm;
+    j = low_word(t) + (x.quadrant << 4);
+    rr = r1 - r - pm - n * 0x3B63198A2E037073_f64 + x.lo;
+    const V z = r * r;
+    S = (((0x3EC71DE3A556C734_f64 * z + 0xBF2A01A01A01A01A_f64) * z + 0x3F81111111111111_f64) * z +
+         0xBFC5555555555555_f64) *
+        z * r;
+    C = (((0x3EFA01A01A01A01A_f64 * z + 0xBF56C16C16C16C17_f64) * z + 0x3FA5555555555555_f64) * z + -0.5) * z;
+  }
+  LANEMATH_INLINE V at(const lanes<std::int32_t, V::width>& step) const {
+    const auto [a, b, c, d] = look_up_row(sincos_64, step & 63);
+    const V m1 = d * r, m2 = a * r, h1 = b + m1, h2 = h1 + m2, e2 = m2 + (h1 - h2);
+    const V G0 = a + d;
+    return h2 + (rr * (G0 - r * b) + c + (b - h1 + m1) + e2 + S * G0 + C * b);
+  }
+  LANEMATH_INLINE V sine() const { return at(j); }
+  LANEMATH_INLINE V cosine() const { return at(j + 16); }
+};
 
 struct sine_and_cosine {
   double sine, cosine;
@@ -114,25 +146,8 @@ inline sine_and_cosine scalar_sine_cosine(double x) {
     const double sine = x == 0 ? x : (0x1p55 * x - x) * 0x1p-55;
     return {sine, 1.0 - a};
   }
-  const auto [hi, lo, q] = reduce_scalar(x);
-  const double t = hi * 0x40245F306DC9C883_f64 + integer_shifter<double>;  // 32 / pi
-  const double n = t - integer_shifter<double>;
-  const double r1 = hi - n * 0x3FB921FB54400000_f64, pm = n * 0x3D90B4611A600000_f64, r = r1 - pm;
-  const std::uint32_t j = std::uint32_t(pattern_of(t)) + 16 * std::uint32_t(q);
-  const double rr = r1 - r - pm - n * 0x3B63198A2E037073_f64 + lo;
-  const double z = r * r;
-  const double S = (((0x3EC71DE3A556C734_f64 * z + 0xBF2A01A01A01A01A_f64) * z + 0x3F81111111111111_f64) * z +
-                    0xBFC5555555555555_f64) *
-                   z * r;
-  const double C =
-      (((0x3EFA01A01A01A01A_f64 * z + 0xBF56C16C16C16C17_f64) * z + 0x3FA5555555555555_f64) * z + -0.5) * z;
-  const auto at = [&](std::uint32_t step) {
-    const auto& [a, b, c, d] = sincos_64[step & 63];
-    const double m1 = d * r, m2 = a * r, h1 = b + m1, h2 = h1 + m2, e2 = m2 + (h1 - h2);
-    const double G0 = a + d;
-    return h2 + (rr * (G0 - r * b) + c + (b - h1 + m1) + e2 + S * G0 + C * b);
-  };
-  return {at(j), at(j + 16)};
+  const sine_by_steps at(reduce_scalar(x));
+  return {at.sine().g[0], at.cosine().g[0]};
 }
 
 template <class T>

@@ -67,18 +67,21 @@ struct two_remainders {
   }
 };
 
-// The large-argument stage, one group at a time. Its results go into the marked lanes; infinities and NaNs stay marked.
+// The large-argument stage, one group at a time. Its results go into the marked lanes; what is beyond its largest
+// argument stays marked, as infinities and NaNs do.
 template <class F, class T, int W, class M>
-LANEMATH_INLINE void large_stage(F stage, const lanes<T, W>& x, lanes<T, W>& y, M& rare) {
+LANEMATH_INLINE void large_stage(F stage, const lanes<T, W>& x, lanes<T, W>& y, M& rare,
+                                 T largest = std::numeric_limits<T>::max()) {
   y = select(rare, by_pieces<16 / int(sizeof(T)), W>(stage, x), y);
-  rare = ~(magnitude(x) <= std::numeric_limits<T>::max());
+  rare = ~(magnitude(x) <= largest);
 }
 template <class F, class T, int W, class M>
-LANEMATH_INLINE void large_stage(F stage, const lanes<T, W>& x, lanes<T, W>& sine, lanes<T, W>& cosine, M& rare) {
+LANEMATH_INLINE void large_stage(F stage, const lanes<T, W>& x, lanes<T, W>& sine, lanes<T, W>& cosine, M& rare,
+                                 T largest = std::numeric_limits<T>::max()) {
   const auto y = by_pieces<16 / int(sizeof(T)), W>(stage, x);
   sine = select(rare, y.first, sine);
   cosine = select(rare, y.second, cosine);
-  rare = ~(magnitude(x) <= std::numeric_limits<T>::max());
+  rare = ~(magnitude(x) <= largest);
 }
 
 }  // namespace lanemath

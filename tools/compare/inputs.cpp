@@ -48,6 +48,14 @@ class ordinary {
   std::uint64_t kept_;  // of its sign and fraction
 };
 
+// A last argument near the first, or near the product of the others with its sign changed: where sums cancel.
+template <class T>
+std::uint64_t meeting(const arguments& a, int arity, std::mt19937_64& random) {
+  using bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
+  const auto value = [&](int i) { return std::bit_cast<T>(bits(a[i])); };
+  return bits(std::bit_cast<bits>(arity == 2 ? value(0) : -(value(0) * value(1))) + random() % 5 - 2);
+}
+
 }  // namespace
 
 std::vector<arguments> fixed_inputs(const signature& s) {
@@ -81,6 +89,11 @@ std::vector<arguments> random_inputs(const signature& s, std::size_t count, std:
       for (std::size_t n = from; n < to; ++n)
         all[n][i] = kind == 0 ? cut(s.arguments[i], random()) : usual.draw(random);
     }
+    if (const lane last = s.arguments[arity - 1]; kind == 1 && arity > 1 && last == s.arguments[0])
+      for (std::size_t n = from; n < to; n += 2)
+        if (is_floating(last))
+          all[n][arity - 1] =
+              last == lane::f32 ? meeting<float>(all[n], arity, random) : meeting<double>(all[n], arity, random);
     if (kind < 2) continue;
     for (std::size_t sixteen = from; sixteen + 16 <= to; sixteen += 16) {
       const int i = int(random() % arity);
