@@ -26,3 +26,9 @@ with_pkg_config() {
   read -ra flags <<< "$(PKG_CONFIG_PATH=$2/pkgconfig pkg-config --cflags --libs lanemath)"
   "$1" -Wall -Wextra -Werror "$here/consumer.c" "${flags[@]}" -lm -o "$3"
 }
+
+# make_packages BUILD_FOLDER: Debian packages of it, into the folder $packages.
+make_packages() {
+  packages=$work/packages
+  (cd "$work" && quietly cpack --config "$1/CPackConfig.cmake" -B "$packages")
+}
