@@ -29,14 +29,16 @@ set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
 
 # The kernel libraries are made from those of one version of the runtime, and fit no other.
 if(TARGET lanemath-opencl-library)
-  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${LANEMATH_POCL})
-  cmake_path(GET LANEMATH_POCL FILENAME runtime_file)
-  execute_process(COMMAND dpkg-query --show --showformat "\${Package} (= \${Version})" libpocl2
-    OUTPUT_VARIABLE runtime_package ERROR_QUIET)
+  execute_process(COMMAND dpkg-query --search ${LANEMATH_POCL} OUTPUT_VARIABLE runtime ERROR_QUIET)
+  string(REGEX REPLACE "[:,].*" "" runtime "${runtime}")
+  execute_process(COMMAND dpkg-query --show --showformat "\${Package} (= \${Version})" "${runtime}"
+    OUTPUT_VARIABLE runtime ERROR_QUIET)
+endif()
+if(runtime)
   list(APPEND CPACK_COMPONENTS_ALL opencl)
   set(CPACK_DEBIAN_OPENCL_PACKAGE_NAME lanemath-opencl)
   set(CPACK_DEBIAN_OPENCL_PACKAGE_SECTION libs)
-  set(CPACK_DEBIAN_OPENCL_PACKAGE_DEPENDS "liblanemath3 (= ${PROJECT_VERSION}), pocl-opencl-icd, ${runtime_package}")
+  set(CPACK_DEBIAN_OPENCL_PACKAGE_DEPENDS "liblanemath3 (= ${PROJECT_VERSION}), pocl-opencl-icd, ${runtime}")
   set(CPACK_COMPONENT_OPENCL_DESCRIPTION
     "${description}This package runs OpenCL programs with their maths built-ins answered by it.")
 endif()

@@ -1,5 +1,5 @@
 # Kernels are compiled and linked by their own flags: others would change their instructions and bits. In the folder that
-# calls this, only those flags of the caller's remain that concern the tools, warnings or debugging.
+# calls this, only those flags of the caller's remain that concern the tools, warnings or debugging; LANEMATH_DROPPED_FLAGS are the others.
 macro(lanemath_use_own_flags)
   string(JOIN "|" kept
     -g[^\ ]* -O[0-3gsz]? -DNDEBUG -w -W.[^,][^\ ]* -pipe
@@ -23,9 +23,6 @@ macro(lanemath_use_own_flags)
   foreach(setting IN LISTS settings)
     set(${setting} "")
   endforeach()
-  if(dropped)
-    list(REMOVE_DUPLICATES dropped)
-    list(JOIN dropped " " dropped)
-    message(STATUS "lanemath: kernels have flags of their own, and not ${dropped}")
-  endif()
+  list(REMOVE_DUPLICATES dropped)
+  list(JOIN dropped " " LANEMATH_DROPPED_FLAGS)
 endmacro()
