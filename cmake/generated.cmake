@@ -1,5 +1,5 @@
-# What the host programs generate for the library (tables, export list, public headers) is kept in the repository too, in
-# kept/, so that the library can be built with a compiler alone. The target `keep` refreshes it.
+# What the host programs generate for the library (tables, export list, public headers) is also kept in the repository,
+# in kept/, so that the library can be built with a compiler alone.
 if(LANEMATH_GENERATE)
   set(LANEMATH_GENERATED ${PROJECT_BINARY_DIR}/generated)
 else()
@@ -21,7 +21,7 @@ function(lanemath_generate file program)
   set_property(GLOBAL APPEND PROPERTY LANEMATH_GENERATED_FILES ${file})
 endfunction()
 
-# The target `lanemath-keep`, which puts what was generated into kept/.
+# The target `lanemath-keep` refreshes kept/.
 function(lanemath_keep_generated)
   if(NOT LANEMATH_GENERATE)
     return()
@@ -31,7 +31,6 @@ function(lanemath_keep_generated)
   add_custom_target(lanemath-keep COMMAND ${CMAKE_COMMAND} -E rm -rf ${kept} VERBATIM)
   add_dependencies(lanemath-keep lanemath-table-headers lanemath-export-list lanemath-public-header)
   foreach(file IN LISTS files)
-    cmake_path(GET file PARENT_PATH folder)
     add_custom_command(TARGET lanemath-keep POST_BUILD
       COMMAND ${CMAKE_COMMAND} -E copy ${LANEMATH_GENERATED}/${file} ${kept}/${file} VERBATIM)
   endforeach()

@@ -27,7 +27,8 @@ install(SCRIPT ${CMAKE_CURRENT_BINARY_DIR}/install_pkg_config.cmake COMPONENT de
 install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT license)
 if(TARGET lanemath-opencl-library)
-  install(FILES ${PROJECT_SOURCE_DIR}/opencl/lanemath-opencl.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT opencl)
+  install(FILES ${PROJECT_SOURCE_DIR}/opencl/lanemath-opencl.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
+    COMPONENT opencl)
 endif()
 if(PROJECT_IS_TOP_LEVEL)
   include(cmake/debian.cmake)

@@ -1,5 +1,6 @@
-# Kernels are compiled and linked by their own flags: others would change their instructions and bits. In the folder that
-# calls this, only those flags of the caller's remain that concern the tools, warnings or debugging; LANEMATH_DROPPED_FLAGS are the others.
+# Kernels are compiled and linked by their own flags: others would change their instructions and bits. In the folder
+# that calls this, only those of the caller's flags remain that concern tools, warnings or debugging.
+# LANEMATH_DROPPED_FLAGS are the others.
 macro(lanemath_use_own_flags)
   string(JOIN "|" kept
     -g[^\ ]* -O[0-3gsz]? -DNDEBUG -w -W.[^,][^\ ]* -pipe

@@ -11,11 +11,11 @@ quietly() {
   "$@" > "$work/log" 2>&1 || { cat "$work/log"; echo "failed: $*"; exit 1; }
 }
 
-# configure NAME SOURCES ARGUMENT...: in a folder of that name, with $cc and $cxx and without any package. Its log stays.
+# configure NAME SOURCES ARGUMENT...: in a folder of that name, with $cc and $cxx and no package. The log stays there.
 configure() {
   local folder=$work/$1 from=$2 absent=()
   shift 2
-  for package in MPFR fmt CLI11 GTest benchmark SLEEF OpenCL; do absent+=(-DCMAKE_DISABLE_FIND_PACKAGE_$package=ON); done
+  for package in MPFR fmt CLI11 GTest benchmark SLEEF; do absent+=(-DCMAKE_DISABLE_FIND_PACKAGE_$package=ON); done
   quietly cmake -G Ninja -S "$from" -B "$folder" "${absent[@]}" \
     -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_BUILD_TYPE=Release "$@"
   cp "$work/log" "$folder"
