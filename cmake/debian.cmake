@@ -2,7 +2,7 @@
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "lanemath developers <developers@lanemath.invalid>" CACHE STRING "The packages' maintainer")
 set(CPACK_DEB_COMPONENT_INSTALL ON)
-set(CPACK_COMPONENTS_ALL library development)
+set(CPACK_COMPONENTS_ALL)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
@@ -11,21 +11,25 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "vectorised maths functions for OpenCL ker
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/debian/finish.cmake)
 set(CPACK_LANEMATH_DEBIAN_FILES ${CMAKE_CURRENT_LIST_DIR}/debian)
 
-set(description "lanemath computes exp, sin, pow and the like on vectors of 2, 3, 4, 8 and 16
+# lanemath_package(COMPONENT PACKAGE SECTION DEPENDS DESCRIPTION)
+macro(lanemath_package component package section depends description)
+  list(APPEND CPACK_COMPONENTS_ALL ${component})
+  string(TOUPPER ${component} upper)
+  set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package})
+  set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${section})
+  set(CPACK_DEBIAN_${upper}_PACKAGE_DEPENDS "${depends}")
+  set(CPACK_COMPONENT_${upper}_DESCRIPTION "lanemath computes exp, sin, pow and the like on vectors of 2, 3, 4, 8 and 16
 floats or doubles, with the same bits on every x86-64 processor with SSE4.1.
 .
-")
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME liblanemath3)
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+This package ${description}.")
+endmacro()
+
+set(same_library "liblanemath3 (= ${PROJECT_VERSION})")
+lanemath_package(library liblanemath3 libs "" "holds the shared library")
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA
   ${CMAKE_CURRENT_LIST_DIR}/debian/shlibs ${CMAKE_CURRENT_LIST_DIR}/debian/triggers)
-set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "${description}This package holds the shared library.")
-
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME liblanemath-dev)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "liblanemath3 (= ${PROJECT_VERSION})")
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
-  "${description}This package holds the headers and the files for CMake and pkg-config.")
+lanemath_package(development liblanemath-dev libdevel "${same_library}"
+  "holds the headers and the files for CMake and pkg-config")
 
 # The kernel libraries are made from those of one version of the runtime, and fit no other.
 if(TARGET lanemath-opencl-library)
@@ -35,11 +39,7 @@ if(TARGET lanemath-opencl-library)
     OUTPUT_VARIABLE runtime ERROR_QUIET)
 endif()
 if(runtime)
-  list(APPEND CPACK_COMPONENTS_ALL opencl)
-  set(CPACK_DEBIAN_OPENCL_PACKAGE_NAME lanemath-opencl)
-  set(CPACK_DEBIAN_OPENCL_PACKAGE_SECTION libs)
-  set(CPACK_DEBIAN_OPENCL_PACKAGE_DEPENDS "liblanemath3 (= ${PROJECT_VERSION}), pocl-opencl-icd, ${runtime}")
-  set(CPACK_COMPONENT_OPENCL_DESCRIPTION
-    "${description}This package runs OpenCL programs with their maths built-ins answered by it.")
+  lanemath_package(opencl lanemath-opencl libs "${same_library}, pocl-opencl-icd, ${runtime}"
+    "runs OpenCL programs with their maths built-ins answered by it")
 endif()
 include(CPack)

@@ -1,3 +1,6 @@
+if(TARGET lanemath::lanemath)
+  return()
+endif()
 include(${CMAKE_CURRENT_LIST_DIR}/lanemath-targets.cmake)
 
 # A program linked with the library remembers where it is, unless the loader looks there anyway or the project wants no
