@@ -1,5 +1,6 @@
 # What the tests of the installed library share.
-set -euo pipefail
+set -Eeuo pipefail
+trap 'echo "failed: $BASH_COMMAND"' ERR
 here=$(cd "$(dirname "$0")" && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -20,6 +21,7 @@ configure() {
     -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_BUILD_TYPE=Release "$@"
   cp "$work/log" "$folder"
 }
+
 # with_pkg_config COMPILER LIBRARY_FOLDER PROGRAM: builds the consumer as pkg-config says.
 with_pkg_config() {
   local flags
