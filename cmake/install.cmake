@@ -1,23 +1,35 @@
-# Installs the library, the public headers, a CMake package and a pkg-config file; CPack packs them for Debian.
+# Installs the library, the public headers, a CMake package and a pkg-config file, by components.
 include(CMakePackageConfigHelpers)
 
-install(TARGETS lanemath EXPORT lanemath-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/lanemath ${PROJECT_BINARY_DIR}/generated/include/lanemath
-  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+# Programs that were linked with the library look for the name recorded in it, which does not begin with `lib`. The
+# loader's cache would pass over such a file; a link that does begin so brings it in. The other link is for -llanemath.
+set(links ${CMAKE_CURRENT_BINARY_DIR}/lib)
+file(MAKE_DIRECTORY ${links})
+foreach(link liblanemath.so liblanemath.so.3.5)
+  file(CREATE_LINK __ocl_lanemath_h8.so.3.5 ${links}/${link} SYMBOLIC)
+endforeach()
+install(TARGETS lanemath EXPORT lanemath-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library)
+install(FILES ${links}/liblanemath.so.3.5 DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library)
+install(FILES ${links}/liblanemath.so DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/lanemath ${LANEMATH_GENERATED}/include/lanemath
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/lanemath)
-install(EXPORT lanemath-targets NAMESPACE lanemath:: FILE lanemath-config.cmake DESTINATION ${package_dir})
-write_basic_package_version_file(lanemath-config-version.cmake COMPATIBILITY SameMinorVersion)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/lanemath-config-version.cmake DESTINATION ${package_dir})
+install(EXPORT lanemath-targets NAMESPACE lanemath:: DESTINATION ${package_dir} COMPONENT development)
+write_basic_package_version_file(lanemath-config-version.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/lanemath-config.cmake ${CMAKE_CURRENT_BINARY_DIR}/lanemath-config-version.cmake
+  DESTINATION ${package_dir} COMPONENT development)
 
-configure_file(${CMAKE_CURRENT_LIST_DIR}/lanemath.pc.in lanemath.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/lanemath.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+# Only installing knows the prefix.
+configure_file(${CMAKE_CURRENT_LIST_DIR}/install_pkg_config.cmake.in install_pkg_config.cmake @ONLY)
+install(SCRIPT ${CMAKE_CURRENT_BINARY_DIR}/install_pkg_config.cmake COMPONENT development)
 
-set(CPACK_PACKAGE_NAME lanemath)
-set(CPACK_PACKAGE_CONTACT "lanemath developers <lanemath@localhost>")
-set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
-install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
-set(CPACK_GENERATOR DEB)
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS pocl-opencl-icd)
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-include(CPack)
+install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT license)
+if(TARGET lanemath-opencl-library)
+  install(FILES ${PROJECT_SOURCE_DIR}/opencl/lanemath-opencl.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
+    COMPONENT opencl)
+endif()
+if(PROJECT_IS_TOP_LEVEL)
+  include(cmake/debian.cmake)
+endif()

@@ -1,0 +1,11 @@
+# SLEEF, a peer in the benchmark: SLEEF::SLEEF.
+include(FindPackageHandleStandardArgs)
+find_path(SLEEF_INCLUDE_DIR sleef.h)
+find_library(SLEEF_LIBRARY sleef)
+mark_as_advanced(SLEEF_INCLUDE_DIR SLEEF_LIBRARY)
+find_package_handle_standard_args(SLEEF REQUIRED_VARS SLEEF_LIBRARY SLEEF_INCLUDE_DIR)
+if(SLEEF_FOUND AND NOT TARGET SLEEF::SLEEF)
+  add_library(SLEEF::SLEEF INTERFACE IMPORTED)
+  target_include_directories(SLEEF::SLEEF INTERFACE ${SLEEF_INCLUDE_DIR})
+  target_link_libraries(SLEEF::SLEEF INTERFACE ${SLEEF_LIBRARY})
+endif()

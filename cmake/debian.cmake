@@ -1,0 +1,45 @@
+# CPack makes Debian packages of the components: library, development files, OpenCL part.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_CONTACT "lanemath developers <developers@lanemath.invalid>" CACHE STRING "The packages' maintainer")
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "vectorised maths functions for OpenCL kernels, C and C++")
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/debian/finish.cmake)
+set(CPACK_LANEMATH_DEBIAN_FILES ${CMAKE_CURRENT_LIST_DIR}/debian)
+
+# lanemath_package(COMPONENT PACKAGE SECTION DEPENDS DESCRIPTION)
+macro(lanemath_package component package section depends description)
+  list(APPEND CPACK_COMPONENTS_ALL ${component})
+  string(TOUPPER ${component} upper)
+  set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package})
+  set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${section})
+  set(CPACK_DEBIAN_${upper}_PACKAGE_DEPENDS "${depends}")
+  set(CPACK_COMPONENT_${upper}_DESCRIPTION "lanemath computes exp, sin, pow and the like on vectors of 2, 3, 4, 8 and 16
+floats or doubles, with the same bits on every x86-64 processor with SSE4.1.
+.
+This package ${description}.")
+endmacro()
+
+set(same_library "liblanemath3 (= ${PROJECT_VERSION})")
+lanemath_package(library liblanemath3 libs "" "holds the shared library")
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA
+  ${CMAKE_CURRENT_LIST_DIR}/debian/shlibs ${CMAKE_CURRENT_LIST_DIR}/debian/triggers)
+lanemath_package(development liblanemath-dev libdevel "${same_library}"
+  "holds the headers and the files for CMake and pkg-config")
+
+# The kernel libraries are made from those of one version of the runtime, and fit no other.
+if(TARGET lanemath-opencl-library)
+  execute_process(COMMAND dpkg-query --search ${LANEMATH_POCL} OUTPUT_VARIABLE runtime ERROR_QUIET)
+  string(REGEX REPLACE "[:,].*" "" runtime "${runtime}")
+  execute_process(COMMAND dpkg-query --show --showformat "\${Package} (= \${Version})" "${runtime}"
+    OUTPUT_VARIABLE runtime ERROR_QUIET)
+endif()
+if(runtime)
+  lanemath_package(opencl lanemath-opencl libs "libc6, ${same_library}, pocl-opencl-icd, ${runtime}"
+    "runs OpenCL programs with their maths built-ins answered by it")
+endif()
+include(CPack)

@@ -1,0 +1,38 @@
+# The library needs none of these packages. A part that needs a missing one is left out, with a word about it.
+list(APPEND CMAKE_MODULE_PATH ${CMAKE_CURRENT_LIST_DIR})
+
+# lanemath_needs(PART [PACKAGE DEBIAN_PACKAGE]...): switches the option LANEMATH_<PART> off if a package is missing.
+function(lanemath_needs part)
+  set(missing)
+  while(LANEMATH_${part} AND ARGN)
+    list(POP_FRONT ARGN package debian_package)
+    find_package(${package} QUIET)
+    if(NOT ${package}_FOUND)
+      list(APPEND missing "${package} (Debian package ${debian_package})")
+    endif()
+  endwhile()
+  if(missing)
+    list(JOIN missing ", " missing)
+    message(STATUS "lanemath: not found: ${missing}; so LANEMATH_${part} is off")
+    set(LANEMATH_${part} OFF PARENT_SCOPE)
+  endif()
+endfunction()
+
+# lanemath_needs_part(PART OTHER): the same if the other part is left out.
+function(lanemath_needs_part part other)
+  if(LANEMATH_${part} AND NOT LANEMATH_${other})
+    message(STATUS "lanemath: LANEMATH_${other} is off; so LANEMATH_${part} is off")
+    set(LANEMATH_${part} OFF PARENT_SCOPE)
+  endif()
+endfunction()
+
+if(CMAKE_CROSSCOMPILING)
+  set(LANEMATH_GENERATE OFF)
+endif()
+lanemath_needs(GENERATE MPFR libmpfr-dev fmt libfmt-dev)
+lanemath_needs(TOOLS MPFR libmpfr-dev fmt libfmt-dev CLI11 libcli11-dev)
+lanemath_needs(TESTS GTest libgtest-dev)
+lanemath_needs_part(TESTS TOOLS)
+lanemath_needs(BENCHMARK benchmark libbenchmark-dev SLEEF libsleef-dev)
+lanemath_needs_part(BENCHMARK TOOLS)
+lanemath_needs_part(OPENCL GENERATE)
