@@ -251,10 +251,10 @@ void write_loop_entries(std::FILE* out, const instruction_set& on) {
 }  // namespace
 
 void write_companion(std::FILE* out, std::string_view file) {
-  if (file == "arrays.h") return write_arrays_header(out);
-  if (file == "arrays.hpp") return write_spans_header(out);
+  if (file == "lanemath/arrays.h") return write_arrays_header(out);
+  if (file == "lanemath/arrays.hpp") return write_spans_header(out);
   if (file == "arrays.inc") return write_array_functions(out);
-  if (file == "loops.h") return write_loops_header(out);
+  if (file == "lanemath/loops.h") return write_loops_header(out);
   for (const auto& on : instruction_sets)
     if (file == fmt::format("loops-{}.inc", on.letter)) return write_loop_entries(out, on);
   throw std::invalid_argument(fmt::format("the companion has no file {}", file));
