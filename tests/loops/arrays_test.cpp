@@ -98,16 +98,6 @@ TEST(Arrays, HaveTheBitsOfWidth16AndStayInBounds) {
   EXPECT_EQ(called, std::size_t(pair_count()));
 }
 
-TEST(Arrays, OfUnalignedElements) {
-  std::vector<std::byte> bytes(101 * sizeof(double) + 1);
-  auto* x = reinterpret_cast<double*>(bytes.data() + 1);
-  std::vector<double> aligned(101, 0.25), y(101);
-  std::memcpy(bytes.data() + 1, aligned.data(), 101 * sizeof(double));
-  lanemath_exp_array(x, x, 101);
-  lanemath_exp_array(aligned.data(), y.data(), 101);
-  EXPECT_EQ(std::memcmp(bytes.data() + 1, y.data(), 101 * sizeof(double)), 0);
-}
-
 template <class T>
 std::vector<T> results(void (*f)(const T*, T*, std::size_t), const std::vector<T>& x) {
   std::vector<T> y(x.size());

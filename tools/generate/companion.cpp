@@ -61,14 +61,14 @@ std::string array_prototype(const operation& o, variant v) {
   return fmt::format("void {}({}, size_t n)", array_function(o, v), parameters(o.sig, "const {}* {}", "{}* {}"));
 }
 
-// What an array function computes.
+// What an array function computes, and how exactly.
 std::string array_brief(const operation& o, variant v) {
   std::string text = brief_of(o);
   for (std::string_view place : {"through the pointer", "as a pair"})
     if (const auto at = text.find(place); at != text.npos)
       text.replace(at, place.size(), place.starts_with("as") ? "in result and second" : "in second");
-  text += fmt::format("; {}{}", v == variant::standard ? "the default form" : "the form ", suffix(v));
-  if (const auto bound = bound_of(o, v, 16)) text += *bound == 0 ? ", exact" : fmt::format(", within {:g} ulp", *bound);
+  if (v != variant::standard) text += fmt::format("; the form {}", suffix(v));
+  if (const auto bound = bound_of(o, v, 16).value_or(0)) text += fmt::format(", within {:g} ulp", bound);
   return text;
 }
 
@@ -79,11 +79,11 @@ void write_arrays_header(std::FILE* out) {
  *     lanemath_expf_array(x, y, n);                y[i] = e^x[i] for n elements
  *     lanemath_sincosf_array_native(x, y, z, n);   sines and cosines
  *
- * They are in the library lanemath_loops. Arrays may have any address and any length, 0 included. Nothing outside
- * them is touched. A result may take the place of an argument if the elements have the same size; apart from that,
- * results overlap nothing. An element's result does not depend on where it stands: it has the bits of the function of
- * width 16, which are those of every width without an algorithm of its own. <lanemath/lanemath.h> states arguments and
- * special values. */
+ * They are in the library lanemath_loops. Arrays may have any length, 0 included, and need no alignment beyond that of
+ * their elements. Nothing outside them is touched. A result may take the place of an argument whose elements have the
+ * same size; apart from that, results overlap nothing. An element's result does not depend on where it stands: it has
+ * the bits of the function of width 16, which are those of every width without an algorithm of its own.
+ * <lanemath/lanemath.h> states arguments and special values. */
 #ifndef LANEMATH_ARRAYS_H
 #define LANEMATH_ARRAYS_H
 

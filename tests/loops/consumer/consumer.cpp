@@ -1,6 +1,6 @@
 // A program that a user of the installed package might write: the integral of e^-x over 0 to 20.
-#include <lanemath/arrays.hpp>
 #include <lanemath/loops.h>
+#include <lanemath/arrays.hpp>
 
 #include <cmath>
 #include <cstdio>
