@@ -173,8 +173,11 @@ void write_loops_header(std::FILE* out) {
  *
  * At -O3, or -O2 -ftree-vectorize, such a loop calls a vector form of the function, from the library lanemath_loops.
  * Every element has the bits of the function of width 1, whatever the instruction set. The loop must call the function
- * on every pass, outside of conditions. Functions with two results are not vectorised, nor does any other compiler
- * vectorise these loops; <lanemath/arrays.h> serves both.
+ * on every pass, outside of conditions. Functions with two results are not vectorised, and compilers other than GCC
+ * vectorise none of these loops; <lanemath/arrays.h> serves both.
+ *
+ * Where no vectors with the bits of width 1 fit a register, lanes are computed one by one, and the loop can be slower
+ * by a quarter than without this header: exp, atan and a few others in double precision for SSE2, exp2f everywhere.
  *
  * The functions are declared to depend on nothing but their arguments. Functions that follow the rounding direction in
  * force, and all others if it is not to nearest, may therefore be moved across fesetround and the like: do not include
