@@ -68,7 +68,7 @@ std::string array_brief(const operation& o, variant v) {
     if (const auto at = text.find(place); at != text.npos)
       text.replace(at, place.size(), place.starts_with("as") ? "in result and second" : "in second");
   if (v != variant::standard) text += fmt::format("; the form {}", suffix(v));
-  if (const auto bound = bound_of(o, v, 16).value_or(0)) text += fmt::format(", within {:g} ulp", bound);
+  if (const double bound = bound_of(o, v, 16).value_or(0); bound > 0) text += fmt::format(", within {:g} ulp", bound);
   return text;
 }
 
