@@ -46,7 +46,7 @@ void by_hand(const T* x, T* y, std::size_t n, Call call) {
   }
 }
 
-// Arguments are named x in both calls; `v` and `a` are of one element's type.
+// Arguments besides x come after a comma of their own.
 #define TIME(operation, T, ...)                                                                                    \
   void operation##_array(benchmark::State& state) {                                                                \
     time_on_arrays<T>(state,                                                                                       \

@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "accuracy/errors.h"
@@ -64,9 +66,8 @@ std::string array_prototype(const operation& o, variant v) {
 // What an array function computes, and how exactly.
 std::string array_brief(const operation& o, variant v) {
   std::string text = brief_of(o);
-  for (std::string_view place : {"through the pointer", "as a pair"})
-    if (const auto at = text.find(place); at != text.npos)
-      text.replace(at, place.size(), place.starts_with("as") ? "in result and second" : "in second");
+  for (auto [place, here] : {std::pair("through the pointer", "in second"), {"as a pair", "in result and second"}})
+    if (const auto at = text.find(place); at != text.npos) text.replace(at, std::strlen(place), here);
   if (v != variant::standard) text += fmt::format("; the form {}", suffix(v));
   if (const double bound = bound_of(o, v, 16).value_or(0); bound > 0) text += fmt::format(", within {:g} ulp", bound);
   return text;
