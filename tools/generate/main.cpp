@@ -35,6 +35,8 @@ int main(int argc, char** argv) try {
     write_export_list(stdout);
   } else if (what == "public-header" && argc == 3) {
     write_public_header(stdout, argv[2]);
+  } else if (what == "companion" && argc == 3) {
+    write_companion(stdout, argv[2]);
   } else if (what == "opencl-kinds" && argc == 2) {
     for (const auto& on : machines)
       if (!on.features.empty()) fmt::print("{} {}\n", on.kind, on.features);
@@ -45,10 +47,11 @@ int main(int argc, char** argv) try {
   } else if (what == "opencl-crossings" && argc == 4) {
     write_opencl_crossings(stdout, machine_of_kind(argv[2]), lines_of(argv[3]));
   } else {
-    fmt::print(stderr,
-               "usage: {} export-list | public-header FAMILY | opencl-kinds | opencl-processor KIND |\n"
-               "       opencl-builtins KIND EXPORTED_NAMES | opencl-crossings KIND EXPORTED_NAMES\n",
-               argv[0]);
+    fmt::print(
+        stderr,
+        "usage: {} export-list | public-header FAMILY | companion FILE | opencl-kinds |\n"
+        "       opencl-processor KIND | opencl-builtins KIND EXPORTED_NAMES | opencl-crossings KIND EXPORTED_NAMES\n",
+        argv[0]);
     return 2;
   }
   return std::fflush(stdout) == 0 ? 0 : 1;

@@ -31,12 +31,6 @@ std::vector<std::string_view> types(const signature& s) {
   return all;
 }
 
-std::string conversion_brief(const operation& o) {
-  const auto rounding = std::array{"to nearest even", "down", "up", "toward zero"}.at(std::size_t(o.rounding));
-  return fmt::format("{} to {}, rounded {}{}", type_name(o.sig.arguments[0]), type_name(o.sig.result), rounding,
-                     o.saturates ? ", clamped to the range of the result" : "");
-}
-
 std::string call(const operation& o) {
   constexpr std::array names{"x", "y", "z"};
   std::vector<std::string> parameters;
@@ -70,6 +64,13 @@ std::string bound_text(const operation& o) {
 
 }  // namespace
 
+std::string brief_of(const operation& o) {
+  if (!o.brief.empty()) return std::string(o.brief);
+  const auto rounding = std::array{"to nearest even", "down", "up", "toward zero"}.at(std::size_t(o.rounding));
+  return fmt::format("{} to {}, rounded {}{}", type_name(o.sig.arguments[0]), type_name(o.sig.result), rounding,
+                     o.saturates ? ", clamped to the range of the result" : "");
+}
+
 void write_public_header(std::FILE* out, const char* family_name) {
   const auto text = std::find_if(std::begin(families), std::end(families),
                                  [&](const family_text& f) { return f.file == family_name; });
@@ -87,8 +88,7 @@ void write_public_header(std::FILE* out, const char* family_name) {
              text->title, about, guard, guard);
   for (const auto& o : catalogue) {
     if (o.group != text->group) continue;
-    fmt::print(out, "\n/* {}\n * {}.{} */\n", call(o), o.brief.empty() ? conversion_brief(o) : std::string(o.brief),
-               bound_text(o));
+    fmt::print(out, "\n/* {}\n * {}.{} */\n", call(o), brief_of(o), bound_text(o));
     for (auto v : variants)
       if (o.has(v))
         fmt::print(out, "LANEMATH_DECLARE({}, {}, {}, {})\n", shape(o.sig), o.name(), suffix(v),
