@@ -1,6 +1,7 @@
 // Writes what is made from the catalogue to standard output.
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <exception>
 #include <fstream>
 #include <set>
@@ -9,15 +10,19 @@
 #include <string_view>
 
 #include "generate.h"
+#include "harness/files.h"
 #include "opencl.h"
 
 namespace {
 
-std::set<std::string> lines_of(const char* path) {
+using namespace lanemath;
+
+std::set<std::string> exported_names_in(const char* path) {
   std::ifstream in(path);
-  if (!in) throw std::runtime_error(fmt::format("cannot read {}", path));
   std::set<std::string> lines;
   for (std::string line; std::getline(in, line);) lines.insert(line);
+  if (in.bad() || std::ranges::none_of(lines, [](const auto& line) { return line.starts_with(symbol_prefix); }))
+    throw std::runtime_error(fmt::format("no exported names in {}", path));
   return lines;
 }
 
@@ -41,9 +46,9 @@ int main(int argc, char** argv) try {
   } else if (what == "opencl-processor" && argc == 3) {
     fmt::print("{}\n", machine_of_kind(argv[2]).processor);
   } else if (what == "opencl-builtins" && argc == 4) {
-    write_opencl_builtins(stdout, machine_of_kind(argv[2]), lines_of(argv[3]));
+    write_opencl_builtins(stdout, machine_of_kind(argv[2]), exported_names_in(argv[3]));
   } else if (what == "opencl-crossings" && argc == 4) {
-    write_opencl_crossings(stdout, machine_of_kind(argv[2]), lines_of(argv[3]));
+    write_opencl_crossings(stdout, machine_of_kind(argv[2]), exported_names_in(argv[3]));
   } else {
     fmt::print(stderr,
                "usage: {} export-list | public-header FAMILY | opencl-kinds | opencl-processor KIND |\n"
@@ -51,7 +56,7 @@ int main(int argc, char** argv) try {
                argv[0]);
     return 2;
   }
-  return std::fflush(stdout) == 0 ? 0 : 1;
+  harness::finish_output();
 } catch (const std::exception& e) {
   fmt::print(stderr, "{}: {}\n", argv[0], e.what());
   return 1;
