@@ -8,7 +8,9 @@
 #include <sstream>
 
 #include "harness/harness.h"
+#include "harness/rounding.h"
 #include "reference/operations.h"
+#include "support/lanes_of.h"
 #include "support/library.h"
 
 namespace lanemath {
@@ -98,6 +100,26 @@ TEST(FunctionReference, StatesTheSpecialValuesOfEveryForm) {
         }
     }
     EXPECT_GT(checked, 0) << o.name();
+  }
+}
+
+// As the overview says.
+TEST(FunctionReference, SaysWhichFunctionsIgnoreTheRoundingDirection) {
+  for (std::size_t index = 0; index < catalogue.size(); ++index) {
+    const auto& o = catalogue[index];
+    const auto named = {"ceil", "floor", "trunc", "round", "fabs", "copysign", "fmax", "fmin", "maxmag", "minmag"};
+    const bool converts = o.group == family::conversion && !is_floating(o.sig.result);
+    if (!converts && o.group != family::integer_division && std::ranges::find(named, o.base_name()) == named.end())
+      continue;
+    const auto tuples = testing::mixed_tuples(o, 192);
+    for (int width : widths) {
+      const auto f = testing::library().find(index, variant::standard, width).value();
+      const auto usual = harness::evaluate(o, f, width, tuples);
+      for (const auto& direction : harness::directions) {
+        const harness::rounding in_force(direction.mode);
+        EXPECT_EQ(harness::evaluate(o, f, width, tuples), usual) << o.name() << width << ' ' << direction.name;
+      }
+    }
   }
 }
 
