@@ -226,8 +226,11 @@ int main(int argc, char** argv) try {
   heading->add_option("FILES", sources, "source files that export functions")->required()->check(CLI::ExistingFile);
   heading->add_flag("--check", only_compare, "write nothing; fail where a head would change");
   CLI11_PARSE(app, argc, argv);
-  if (*heading) return heads(sources, only_compare);
-  return *checking ? check(harness::library(library)) : document(path, only_compare);
+  const int status = *heading    ? heads(sources, only_compare)
+                     : *checking ? check(harness::library(library))
+                                 : document(path, only_compare);
+  harness::finish_output();
+  return status;
 } catch (const std::exception& e) {
   fmt::print(stderr, "{}: {}\n", argv[0], e.what());
   return 2;

@@ -135,6 +135,25 @@ void add_accuracy(const std::vector<const operation*>& operations, document& pag
           : "All widths have the same bits, lane by lane."});
 }
 
+void add_speed(const std::vector<const operation*>& operations, const std::map<std::string, speeds>& known,
+               document& page) {
+  table t{{"Form", "Width 1", "Width 4", "Width 8", "Width 16"}, {}};
+  for (const auto* o : operations)
+    for (auto v : variants)
+      if (const auto form = fmt::format("{}{}", o->name(), suffix(v)); known.contains(form)) {
+        const auto& row = known.at(form);
+        t.rows.push_back({form, row[0], row[1], row[2], row[3]});
+      }
+  if (t.rows.empty()) return;
+  page.blocks.insert(
+      page.blocks.end(),
+      {heading{"Speed"},
+       paragraph{
+           "Nanoseconds per lane on one machine, an AMD EPYC (Zen 3), which was busy for some of the pages: compare "
+           "within a page. performance.md has all figures, and those of other libraries."},
+       t});
+}
+
 void add_other_names(const std::vector<const operation*>& operations, document& page) {
   const auto& o = *operations[0];
   page.blocks.push_back(heading{"Other names"});
@@ -154,6 +173,15 @@ void add_other_names(const std::vector<const operation*>& operations, document& 
     page.blocks.push_back(paragraph{names.empty() ? "In OpenCL C no built-in function calls it."
                                                   : fmt::format("In OpenCL C: {}.", list(names))});
   }
+  if (o.group != family::conversion) {
+    lines names;
+    for (auto v : variants)
+      if (std::ranges::any_of(operations, [&](const auto* each) { return each->has(v); }))
+        names.push_back(fmt::format(
+            "`lanemath::{}{}`", v == variant::standard ? "" : fmt::format("{}::", suffix(v).substr(1)), o.base_name()));
+    page.blocks.push_back(
+        paragraph{fmt::format("In C++, with `lanemath/lanemath.hpp`, for scalars and vectors: {}.", list(names))});
+  }
   page.blocks.push_back(
       paragraph{fmt::format("The exported symbols are `{}<operation><width><variant>`, such as `{}{}4`.", symbol_prefix,
                             symbol_prefix, o.name())});
@@ -169,7 +197,8 @@ void add_trap(const operation& o, document& page) {
                                   name_of(o), other.name(), width, name_of(o))});
 }
 
-document page_about(const description& text, const std::vector<const operation*>& operations) {
+document page_about(const description& text, const std::vector<const operation*>& operations,
+                    const std::map<std::string, speeds>& speed) {
   const auto& o = *operations[0];
   document page{"lanemath_" + text.page, {}, brief_of(operations), 3, {}};
   code synopsis{{"#include <lanemath/lanemath.h>", ""}};
@@ -196,6 +225,7 @@ document page_about(const description& text, const std::vector<const operation*>
   for (const auto* each : operations) add_trap(*each, page);
   add_special_values(text, o, page);
   add_accuracy(operations, page);
+  add_speed(operations, speed, page);
   add_other_names(operations, page);
   page.blocks.push_back(heading{std::string(family_of(o).title)});
   std::string about(family_of(o).about);
@@ -206,7 +236,8 @@ document page_about(const description& text, const std::vector<const operation*>
 
 }  // namespace
 
-std::vector<document> function_pages(const std::vector<description>& descriptions) {
+std::vector<document> function_pages(const std::vector<description>& descriptions,
+                                     const std::map<std::string, speeds>& speed) {
   std::vector<document> pages;
   std::map<family, lines> of_family;
   std::vector<family> groups;
@@ -214,7 +245,7 @@ std::vector<document> function_pages(const std::vector<description>& description
     std::vector<const operation*> operations;
     for (const auto& o : catalogue)
       if (page_of(o) == text.page) operations.push_back(&o);
-    pages.push_back(page_about(text, operations));
+    pages.push_back(page_about(text, operations, speed));
     groups.push_back(operations[0]->group);
     of_family[groups.back()].push_back(pages.back().name);
   }

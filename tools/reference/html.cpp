@@ -9,7 +9,8 @@ namespace {
 
 constexpr std::string_view style =
     R"(:root { color-scheme: light dark; }
-body { font: 1rem/1.5 sans-serif; max-width: 50rem; margin: 0 auto; padding: 1rem; }
+body { font: 1rem/1.5 sans-serif; max-width: 50rem; margin: 0 auto; padding: 1rem; overflow-wrap: anywhere; }
+table { overflow-wrap: normal; }
 code, pre { font-family: monospace; }
 pre, .wide { overflow-x: auto; }
 pre { padding: 0.5rem; border: 1px solid; }
@@ -42,7 +43,9 @@ std::string inline_of(std::string_view text) {
   return out;
 }
 
-std::string link_to(const std::string& page) { return fmt::format("<a href=\"{0}.html\">{0}</a>", page); }
+std::string link_to(const std::string& page) {
+  return fmt::format("<a href=\"{}.html\">{}</a>", page == "lanemath" ? "index" : page, page);
+}
 
 std::string block_of(const heading& h) { return fmt::format("<h2>{}</h2>\n", inline_of(h.text)); }
 std::string block_of(const paragraph& p) { return fmt::format("<p>{}</p>\n", inline_of(p.text)); }
