@@ -9,9 +9,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <new>
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 namespace lanemath::harness {
 
@@ -84,6 +86,43 @@ inline void check_writable(const std::string& path) {
 // Throws if anything that was printed did not arrive.
 inline void finish_output() {
   if (std::fflush(stdout) != 0 || std::ferror(stdout)) files_detail::fail("to standard output");
+}
+
+// What a program writes, all of it or nothing.
+class whole_output {
+ public:
+  whole_output() : memory_(open_memstream(&text_, &size_)) {
+    if (!memory_) throw std::bad_alloc();
+  }
+  ~whole_output() {
+    if (memory_) std::fclose(memory_);
+    std::free(text_);
+  }
+  whole_output(const whole_output&) = delete;
+  whole_output& operator=(const whole_output&) = delete;
+
+  std::FILE* stream() const { return memory_; }
+
+  // To a file, or to standard output if the path is empty.
+  void write(const std::string& path) {
+    const bool failed = std::ferror(memory_);
+    if (std::fclose(std::exchange(memory_, nullptr)) != 0 || failed) throw std::bad_alloc();
+    if (!path.empty()) return replace_file(path, {text_, size_});
+    std::fwrite(text_, 1, size_, stdout);
+    finish_output();
+  }
+
+ private:
+  char* text_ = nullptr;
+  std::size_t size_ = 0;
+  std::FILE* memory_;
+};
+
+// The file after `--output` at the end of the arguments, which are removed; empty if there is none.
+inline std::string take_output_path(int& argc, char** argv) {
+  if (argc < 3 || argv[argc - 2] != std::string_view("--output")) return "";
+  argc -= 2;
+  return argv[argc + 1];
 }
 
 // A file that is installed with the program, at this place relative to the program's folder; a program that is not

@@ -1,4 +1,4 @@
-// Writes what is made from the catalogue to standard output.
+// Writes what is made from the catalogue.
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -35,28 +35,31 @@ const machine& machine_of_kind(std::string_view kind) {
 }  // namespace
 
 int main(int argc, char** argv) try {
+  const auto path = harness::take_output_path(argc, argv);
+  harness::whole_output out;
   const std::string_view what = argc > 1 ? argv[1] : "";
   if (what == "export-list" && argc == 2) {
-    write_export_list(stdout);
+    write_export_list(out.stream());
   } else if (what == "public-header" && argc == 3) {
-    write_public_header(stdout, argv[2]);
+    write_public_header(out.stream(), argv[2]);
   } else if (what == "opencl-kinds" && argc == 2) {
     for (const auto& on : machines)
-      if (!on.features.empty()) fmt::print("{} {}\n", on.kind, on.features);
+      if (!on.features.empty()) fmt::print(out.stream(), "{} {}\n", on.kind, on.features);
   } else if (what == "opencl-processor" && argc == 3) {
-    fmt::print("{}\n", machine_of_kind(argv[2]).processor);
+    fmt::print(out.stream(), "{}\n", machine_of_kind(argv[2]).processor);
   } else if (what == "opencl-builtins" && argc == 4) {
-    write_opencl_builtins(stdout, machine_of_kind(argv[2]), exported_names_in(argv[3]));
+    write_opencl_builtins(out.stream(), machine_of_kind(argv[2]), exported_names_in(argv[3]));
   } else if (what == "opencl-crossings" && argc == 4) {
-    write_opencl_crossings(stdout, machine_of_kind(argv[2]), exported_names_in(argv[3]));
+    write_opencl_crossings(out.stream(), machine_of_kind(argv[2]), exported_names_in(argv[3]));
   } else {
     fmt::print(stderr,
                "usage: {} export-list | public-header FAMILY | opencl-kinds | opencl-processor KIND |\n"
-               "       opencl-builtins KIND EXPORTED_NAMES | opencl-crossings KIND EXPORTED_NAMES\n",
+               "       opencl-builtins KIND EXPORTED_NAMES | opencl-crossings KIND EXPORTED_NAMES\n"
+               "       [--output FILE]\n",
                argv[0]);
     return 2;
   }
-  harness::finish_output();
+  out.write(path);
 } catch (const std::exception& e) {
   fmt::print(stderr, "{}: {}\n", argv[0], e.what());
   return 1;
