@@ -33,14 +33,14 @@ inline std::string target_of(const std::string& path) {
   return std::filesystem::is_symlink(path) ? std::filesystem::weakly_canonical(path).string() : path;
 }
 
-inline bool write_and_close(int file, std::string_view text) {
+inline bool write_and_close(int file, std::string_view text, bool sync = false) {
   while (!text.empty()) {
     const auto n = write(file, text.data(), text.size());
     if (n < 0 && errno == EINTR) continue;
     if (n < 0) break;
     text.remove_prefix(std::size_t(n));
   }
-  const int failure = text.empty() ? 0 : errno;
+  const int failure = text.empty() && (!sync || fsync(file) == 0) ? 0 : errno;
   const bool closed = close(file) == 0;
   if (failure) errno = failure;
   return closed && !failure;
@@ -59,7 +59,7 @@ inline void replace_file(const std::string& path, std::string_view text) {
   std::string temporary = target + ".XXXXXX";
   const int file = mkostemp(temporary.data(), O_CLOEXEC);
   if (file < 0) files_detail::fail(path);
-  if (fchmod(file, 0644) == 0 && files_detail::write_and_close(file, text) &&
+  if (fchmod(file, 0644) == 0 && files_detail::write_and_close(file, text, true) &&
       std::rename(temporary.c_str(), target.c_str()) == 0)
     return;
   const int failure = errno;

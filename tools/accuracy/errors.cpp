@@ -40,8 +40,6 @@ double error_in(std::string_view text) {
   return value;
 }
 
-std::string_view name_of(variant v) { return v == variant::standard ? "default" : suffix(v).substr(1); }
-
 std::size_t operation_in(std::string_view text) {
   for (std::size_t i = 0; i < catalogue.size(); ++i)
     if (catalogue[i].name() == text) return i;
@@ -114,6 +112,8 @@ void check_together(const std::vector<error_record>& records) {
 }
 
 }  // namespace
+
+std::string_view name_of(variant v) { return v == variant::standard ? "default" : suffix(v).substr(1); }
 
 int own_width(const operation& o, variant v, int width) { return o.is_standalone(width, v) ? width : 0; }
 

@@ -15,6 +15,9 @@ namespace lanemath::accuracy {
 
 using arguments = std::array<std::uint64_t, 3>;  // bit patterns
 
+// As the file and users of the tool name it: default, native ...
+std::string_view name_of(variant v);
+
 // The width of a standalone form; 0 for the forms that share the code of the other widths.
 int own_width(const operation& o, variant v, int width);
 

@@ -47,8 +47,6 @@ class progress_bar {
   std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
 };
 
-std::string name_of(variant v) { return v == variant::standard ? "default" : std::string(suffix(v).substr(1)); }
-
 class report {
  public:
   report(std::string csv, std::string record, std::string part)
@@ -181,7 +179,7 @@ void list(const std::vector<form>& forms) {
   for (auto f = forms.begin(); f != forms.end();) {
     const auto index = f->index;
     const auto ranges = ranges_of(*f->exact);
-    std::vector<std::string> its_variants;
+    std::vector<std::string_view> its_variants;
     for (; f != forms.end() && f->index == index; ++f)
       if (its_variants.empty() || its_variants.back() != name_of(f->v)) its_variants.push_back(name_of(f->v));
     fmt::print("{:<10} variants: {:<26} ranges: {}\n", catalogue[index].name(),

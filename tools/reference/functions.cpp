@@ -44,7 +44,7 @@ std::string prototype(const operation& o) {
                      name_of(o), list(parameters));
 }
 
-std::string value(std::string text) {
+std::string value(const std::string& text) {
   const bool negative = text.starts_with('-');
   const std::map<std::string, std::string> words{
       {"inf", "infinity"}, {"nan", "NaN"}, {"max", "largest finite"}, {"least", "least denormal"}};
@@ -121,8 +121,7 @@ void add_accuracy(const std::vector<const operation*>& operations, document& pag
     }
   page.blocks.push_back(
       paragraph{"The bound is what is promised on every processor, in units in the last place; beside it stands the "
-                "largest error "
-                "that was found."});
+                "largest error that was found."});
   page.blocks.push_back(std::move(t));
   if (unguarded)
     page.blocks.push_back(paragraph{
