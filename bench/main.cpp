@@ -1,11 +1,16 @@
 // Measures every exported function, and what other libraries have for the same task, on the same arguments.
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "harness/files.h"
 #include "harness/names.h"
 #include "suite.h"
 
@@ -13,13 +18,26 @@ namespace {
 
 using namespace lanemath;
 
+// Google Benchmark's flags that say how to measure. The others say what to measure or how to show it, which is this
+// program's own business.
+constexpr std::array passed_on{"min_time", "min_warmup_time", "repetitions", "enable_random_interleaving",
+                               "context",  "perf_counters"};
+
+void check_flags(const std::vector<std::string>& flags) {
+  for (const auto& flag : flags)
+    if (std::ranges::none_of(passed_on,
+                             [&](auto name) { return flag.starts_with(fmt::format("--benchmark_{}=", name)); }))
+      throw std::runtime_error(fmt::format("{} is not supported: --help shows what is", flag));
+}
+
 // The runs of one operation alternate in random order, so that a busy moment of the machine does not affect only one of
 // them.
-void initialise(const char* program, const std::vector<std::string>& more_flags) {
-  std::vector<std::string> flags{program, "--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=9",
+void initialise(char* program, const std::vector<std::string>& more_flags) {
+  std::vector<std::string> flags{"--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=9",
                                  "--benchmark_min_time=0.01"};
   flags.insert(flags.end(), more_flags.begin(), more_flags.end());
-  std::vector<char*> arguments;
+  // The program's name is kept for the JSON file, as a pointer.
+  std::vector<char*> arguments{program};
   for (auto& flag : flags) arguments.push_back(flag.data());
   int count = int(arguments.size());
   benchmark::Initialize(&count, arguments.data());
@@ -31,15 +49,19 @@ void initialise(const char* program, const std::vector<std::string>& more_flags)
 int main(int argc, char** argv) try {
   CLI::App app{
       "Times every exported function of the library, and the functions of SLEEF and of the C library for the same\n"
-      "task. Flags of Google Benchmark (--benchmark_...) are passed on."};
+      "task. Flags of Google Benchmark that say how to measure are passed on: " +
+      fmt::format("--benchmark_{}=...", fmt::join(passed_on, "=..., --benchmark_"))};
   std::vector<std::string> patterns;
-  std::string library_path = LANEMATH_LIBRARY, json_path;
-  app.add_option("operations", patterns, "What to measure, all if none is named: expf, expf_native, 'exp*'...");
+  std::string library_path = harness::default_library(), json_path;
+  app.add_option("operations", patterns,
+                 "What to measure, all if none is named: expf, expf_native, 'exp*'... A name with a width, such as\n"
+                 "expf4, stands for all widths, which share a row");
   app.add_option("--library", library_path, "The library to measure")->capture_default_str();
-  app.add_option("--benchmark_out", json_path, "Write all that was measured to this file as JSON");
+  app.add_option("--benchmark_out", json_path, "Write all that was measured to this file as JSON, in the end");
   app.allow_extras();
   CLI11_PARSE(app, argc, argv);
-  harness::check_names(patterns);
+  const harness::selection chosen(patterns);
+  check_flags(app.remaining());
   initialise(argv[0], app.remaining());
 
   const harness::library library(library_path);
@@ -47,7 +69,7 @@ int main(int argc, char** argv) try {
   bool any = false;
   for (std::size_t i = 0; i < catalogue.size(); ++i)
     for (auto v : variants) {
-      if (!catalogue[i].has(v) || !harness::wanted(patterns, catalogue[i], v)) continue;
+      if (!chosen.has(i, v)) continue;
       bench::suite suite(library, i, v);
       if (!suite.exported()) continue;
       if (!any) suite.print_heading();
@@ -55,12 +77,15 @@ int main(int argc, char** argv) try {
       suite.register_benchmarks();
       benchmark::RunSpecifiedBenchmarks(&results);
       benchmark::ClearRegisteredBenchmarks();
+      if (results.empty()) throw std::runtime_error("nothing was measured");
       suite.print_row(results);
     }
   if (!any) {
     fmt::print(stderr, "{}: the library exports nothing of that name\n", argv[0]);
     return 2;
   }
+  results.write();
+  harness::finish_output();
 } catch (const std::exception& e) {
   fmt::print(stderr, "{}: {}\n", argv[0], e.what());
   return 1;

@@ -1,21 +1,21 @@
 #include "results.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
-#include <stdexcept>
+
+#include "harness/files.h"
 
 namespace lanemath::bench {
 
-results::results(const std::string& json_path) {
+results::results(const std::string& json_path) : json_path_(json_path) {
   if (json_path.empty()) return;
-  json_file_.open(json_path);
-  if (!json_file_) throw std::runtime_error(fmt::format("cannot write {}", json_path));
-  json_.emplace().SetOutputStream(&json_file_);
+  harness::check_writable(json_path);
+  json_.emplace().SetOutputStream(&json_text_);
 }
 
-results::~results() {
-  if (json_ && context_reported_) json_->Finalize();
+void results::write() {
+  if (!json_) return;
+  json_->Finalize();
+  harness::replace_file(json_path_, json_text_.view());
 }
 
 std::optional<double> results::nanoseconds(const std::string& benchmark) const {

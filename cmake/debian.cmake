@@ -1,4 +1,4 @@
-# CPack makes Debian packages of the components: library, development files, OpenCL part.
+# CPack makes Debian packages of the components: library, development files, documentation, tools, OpenCL part.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "lanemath developers <developers@lanemath.invalid>" CACHE STRING "The packages' maintainer")
 set(CPACK_DEB_COMPONENT_INSTALL ON)
@@ -30,6 +30,14 @@ set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA
   ${CMAKE_CURRENT_LIST_DIR}/debian/shlibs ${CMAKE_CURRENT_LIST_DIR}/debian/triggers)
 lanemath_package(development liblanemath-dev libdevel "${same_library}"
   "holds the headers and the files for CMake and pkg-config")
+
+if(TARGET lanemath-reference)
+  lanemath_package(documentation lanemath-doc doc "" "holds the function reference and documents")
+endif()
+if(LANEMATH_TOOLS)
+  lanemath_package(tools lanemath-tools math "${same_library}" "measures the library's errors and speed")
+  set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
+endif()
 
 # The kernel libraries are made from those of one version of the runtime, and fit no other.
 if(TARGET lanemath-opencl-library)

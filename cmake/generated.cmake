@@ -16,7 +16,7 @@ function(lanemath_generate file program)
   cmake_path(GET output PARENT_PATH folder)
   file(MAKE_DIRECTORY ${folder})
   add_custom_command(OUTPUT ${output}
-    COMMAND ${program} ${arg_UNPARSED_ARGUMENTS} > ${output}
+    COMMAND ${program} ${arg_UNPARSED_ARGUMENTS} --output ${output}
     DEPENDS ${program} ${arg_DEPENDS} VERBATIM)
   set_property(GLOBAL APPEND PROPERTY LANEMATH_GENERATED_FILES ${file})
 endfunction()

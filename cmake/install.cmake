@@ -26,9 +26,29 @@ install(SCRIPT ${CMAKE_CURRENT_BINARY_DIR}/install_pkg_config.cmake COMPONENT de
 
 install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT license)
+
+set(docs ${PROJECT_SOURCE_DIR}/docs)
+file(GLOB documents ${docs}/*.md)
+install(FILES ${documents} ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
+  COMPONENT documentation)
+if(TARGET lanemath-reference)
+  install(DIRECTORY ${PROJECT_BINARY_DIR}/reference/html DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
+  install(DIRECTORY ${PROJECT_BINARY_DIR}/reference/man/ DESTINATION ${CMAKE_INSTALL_MANDIR} COMPONENT documentation)
+endif()
+foreach(tool lanemath-accuracy lanemath-compare lanemath-benchmark)
+  if(TARGET ${tool})
+    install(TARGETS ${tool} DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+    install(FILES ${docs}/man/${tool}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+  endif()
+endforeach()
+if(LANEMATH_TOOLS)
+  install(FILES ${PROJECT_SOURCE_DIR}/tools/accuracy/errors.csv DESTINATION ${CMAKE_INSTALL_DATADIR}/lanemath
+    COMPONENT tools)
+endif()
 if(TARGET lanemath-opencl-library)
-  install(FILES ${PROJECT_SOURCE_DIR}/opencl/lanemath-opencl.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
-    COMPONENT opencl)
+  install(FILES ${docs}/man/lanemath-opencl.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT opencl)
+  install(DIRECTORY ${PROJECT_SOURCE_DIR}/opencl/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation
+    PATTERN CMakeLists.txt EXCLUDE)
 endif()
 if(PROJECT_IS_TOP_LEVEL)
   include(cmake/debian.cmake)

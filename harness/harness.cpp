@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "frame/abi.h"
+#include "harness/files.h"
 
 namespace lanemath::harness {
 namespace {
@@ -91,6 +92,8 @@ constexpr auto invokers = []<std::size_t... I>(std::index_sequence<I...>) {
 std::string symbol(const operation& o, int width, variant v) {
   return fmt::format("{}{}{}{}", symbol_prefix, o.name(), width, suffix(v));
 }
+
+std::string default_library() { return installed_or_built(LANEMATH_INSTALLED_LIBRARY, LANEMATH_BUILT_LIBRARY); }
 
 library::library(const std::string& path) : handle_(dlopen(path.c_str(), RTLD_NOW | RTLD_GLOBAL)) {
   if (!handle_) throw std::runtime_error(dlerror());

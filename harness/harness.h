@@ -37,6 +37,9 @@ class function {
 
 std::string symbol(const operation& o, int width, variant v);
 
+// The path of the library that was installed or built with this program.
+std::string default_library();
+
 // A loaded library. Its functions live as long as it does.
 class library {
  public:

@@ -1,17 +1,16 @@
 #include "accuracy/errors.h"
 
 #include <fmt/format.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
 #include <tuple>
+
+#include "harness/files.h"
 
 namespace lanemath {
 namespace accuracy {
@@ -40,8 +39,6 @@ double error_in(std::string_view text) {
   if (!(value >= 0) || std::isinf(value)) throw std::runtime_error(fmt::format("no error in ulp: {}", text));
   return value;
 }
-
-std::string_view name_of(variant v) { return v == variant::standard ? "default" : suffix(v).substr(1); }
 
 std::size_t operation_in(std::string_view text) {
   for (std::size_t i = 0; i < catalogue.size(); ++i)
@@ -116,6 +113,8 @@ void check_together(const std::vector<error_record>& records) {
 
 }  // namespace
 
+std::string_view name_of(variant v) { return v == variant::standard ? "default" : suffix(v).substr(1); }
+
 int own_width(const operation& o, variant v, int width) { return o.is_standalone(width, v) ? width : 0; }
 
 bool error_record::has(variant v) const { return std::find(variants.begin(), variants.end(), v) != variants.end(); }
@@ -153,30 +152,15 @@ void write_errors(const std::string& path, std::vector<error_record> records) {
   });
   std::string text = std::string(head) + '\n';
   for (const auto& r : records) text += line_of(r);
-  replace_file(path, text);
+  harness::replace_file(path, text);
 }
 
-void replace_file(const std::string& path, const std::string& text) {
-  std::string temporary = path + ".XXXXXX";
-  const int file = mkstemp(temporary.data());
-  if (file < 0) throw std::runtime_error("cannot write a file next to " + path);
-  bool good = true;
-  for (std::size_t done = 0; good && done < text.size();) {
-    const auto n = write(file, text.data() + done, text.size() - done);
-    good = n > 0;
-    done += good ? std::size_t(n) : 0;
-  }
-  good = fchmod(file, 0644) == 0 && good;
-  good = fsync(file) == 0 && good;
-  good = close(file) == 0 && good;
-  if (good && std::rename(temporary.c_str(), path.c_str()) == 0) return;
-  std::remove(temporary.c_str());
-  throw std::runtime_error("cannot write " + path);
+const std::string& errors_path() {
+  static const auto path = harness::installed_or_built(LANEMATH_INSTALLED_ERRORS, LANEMATH_ERRORS);
+  return path;
 }
-
-const char* const errors_path = LANEMATH_ERRORS;
 const std::vector<error_record>& recorded_errors() {
-  static const auto records = read_errors(errors_path);
+  static const auto records = read_errors(errors_path());
   return records;
 }
 

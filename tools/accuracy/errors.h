@@ -15,6 +15,9 @@ namespace lanemath::accuracy {
 
 using arguments = std::array<std::uint64_t, 3>;  // bit patterns
 
+// As the file and users of the tool name it: default, native ...
+std::string_view name_of(variant v);
+
 // The width of a standalone form; 0 for the forms that share the code of the other widths.
 int own_width(const operation& o, variant v, int width);
 
@@ -41,8 +44,8 @@ struct error_record {
 // The file's lines. A malformed file throws std::runtime_error, which names the line.
 std::vector<error_record> read_errors(const std::string& path);
 void write_errors(const std::string& path, std::vector<error_record> records);
-// The path of the file in the source folder, and its lines.
-extern const char* const errors_path;
+// The path of the file, in the source folder or installed, and its lines.
+const std::string& errors_path();
 const std::vector<error_record>& recorded_errors();
 
 // Enters a measured error: if it is larger than that of its line of `records`, it replaces it, with its place. The
@@ -55,9 +58,6 @@ arguments place_in(std::string_view text, const signature& sig);
 // The error rounded up to so many significant digits; the error as text.
 double rounded_up(double error, int digits);
 std::string text_of_error(double error);
-
-// Replaces a file by way of a temporary one in the same folder, so that it is complete at every moment.
-void replace_file(const std::string& path, const std::string& text);
 
 }  // namespace lanemath::accuracy
 

@@ -1,17 +1,21 @@
 // The error of exported functions against MPFR, as a table and as CSV.
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdio>
-#include <fstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "accuracy/errors.h"
 #include "accuracy/measure.h"
+#include "harness/files.h"
+#include "harness/names.h"
 
 namespace {
 
@@ -45,14 +49,11 @@ class progress_bar {
 
 class report {
  public:
-  report(const std::string& csv, std::string record, std::string part)
-      : record_(std::move(record)), part_(std::move(part)) {
+  report(std::string csv, std::string record, std::string part)
+      : csv_path_(std::move(csv)), record_(std::move(record)), part_(std::move(part)) {
+    if (!csv_path_.empty()) harness::check_writable(csv_path_);
     fmt::print("{:<10} {:<8} {:>5} {:<10} {:>10} {:>12}  {}\n", "operation", "variant", "width", "range", "error/ulp",
                "rounded", "at");
-    if (csv.empty()) return;
-    csv_.open(csv);
-    if (!csv_) throw std::runtime_error("cannot write " + csv);
-    csv_ << "operation,variant,width,range,lanes,largest_error_ulp,correctly_rounded,input\n";
   }
 
   void add(const operation& o, variant v, int width, std::string_view range, const tally& t) {
@@ -60,12 +61,10 @@ class report {
     const double share = double(t.correctly_rounded) / double(t.lanes);
     fmt::print("{:<10} {:<8} {:>5} {:<10} {:>10.4f} {:>10.4f} %  {}\n", o.name(), name, width, range, t.largest_error,
                share * 100, text_of(o, t.input));
-    std::fflush(stdout);
-    if (csv_.is_open()) {
-      csv_ << fmt::format("{},{},{},{},{},{},{},\"{}\"\n", o.name(), name, width, range, t.lanes, t.largest_error,
-                          share, text_of(o, t.input));
-      if (!csv_.flush()) throw std::runtime_error("cannot write the CSV file");
-    }
+    harness::finish_output();
+    csv_ += fmt::format("{},{},{},{},{},{},{},\"{}\"\n", o.name(), name, width, range, t.lanes, t.largest_error, share,
+                        text_of(o, t.input));
+    empty_ = false;
     const auto bound = bound_of(o, v, width);
     const bool anything = range == "bounds" || range == "patterns" || range == "all";
     if (anything && o.is_unguarded(v)) return;
@@ -89,100 +88,184 @@ class report {
       write_errors(record_, std::move(records));
     }
   }
+  void finish() const {
+    if (empty_) throw std::runtime_error("nothing was measured");
+    if (!csv_path_.empty()) harness::replace_file(csv_path_, csv_);
+  }
   bool within_bounds() const { return within_bounds_; }
 
  private:
+  std::string csv_path_, csv_ = "operation,variant,width,range,lanes,largest_error_ulp,correctly_rounded,input\n";
   std::string record_, part_;
-  std::ofstream csv_;
-  bool within_bounds_ = true;
+  bool empty_ = true, within_bounds_ = true;
 };
 
-bool wanted(const std::vector<std::string>& of, std::string_view name) {
-  return of.empty() || std::find(of.begin(), of.end(), name) != of.end();
+struct request {
+  std::vector<std::string> names, variants, ranges;
+  std::vector<int> widths;
+  bool exhaustive = false;
+};
+
+// What can be measured.
+struct form {
+  std::size_t index;
+  variant v;
+  int width;
+  const reference* exact;
+  harness::function f;
+};
+
+bool wanted(const auto& of, const auto& one) { return of.empty() || std::ranges::find(of, one) != of.end(); }
+
+std::vector<std::string> ranges_of(const reference& r) {
+  std::vector<std::string> names;
+  for (const auto& range : r.ranges) names.emplace_back(range.name);
+  names.insert(names.end(), {"bounds", "patterns"});
+  return names;
+}
+
+// The forms that these names and the rest of the request ask for, at least one.
+std::vector<form> forms_of(const std::vector<std::string>& names, const request& asked, const harness::library& from) {
+  constexpr std::array lacking{
+      "has no such variant or width", "has no reference to be measured against", "is not exported by this library",
+      "cannot be measured over all floats: that takes one float and a fast reference", "has no such range"};
+  std::size_t furthest = 0;
+  std::vector<form> found;
+  const harness::selection named(names);
+  for (std::size_t index = 0; index < catalogue.size(); ++index)
+    for (auto v : variants)
+      for (int width : widths) {
+        if (!named.has(index, v, width) || !wanted(asked.variants, name_of(v)) || !wanted(asked.widths, width))
+          continue;
+        const auto* exact = find_reference(catalogue[index]);
+        const auto f = from.find(index, v, width);
+        const bool sweeps = exact && exact->fast && catalogue[index].sig == signature{lane::f32, {lane::f32}};
+        const bool ranges =
+            exact && (asked.ranges.empty() ||
+                      std::ranges::any_of(ranges_of(*exact), [&](const auto& r) { return wanted(asked.ranges, r); }));
+        std::size_t stage = 1;
+        for (bool passed : {exact != nullptr, f.has_value(), sweeps || !asked.exhaustive, ranges}) {
+          if (!passed) break;
+          ++stage;
+        }
+        furthest = std::max(furthest, stage);
+        if (stage == lacking.size()) found.push_back({index, v, width, exact, *f});
+      }
+  if (found.empty())
+    throw std::runtime_error(fmt::format("{} {} (--list shows what there is)",
+                                         names.empty() ? "any operation" : names[0], lacking[furthest]));
+  return found;
+}
+
+// What the whole request asks for. Throws if any part of it asks for nothing.
+std::vector<form> forms_of(const request& asked, const harness::library& from) {
+  for (const auto& name : asked.names) forms_of({name}, asked, from);
+  auto all = forms_of(asked.names, asked, from);
+  const auto demand = [&](const auto& each_asked, const char* noun, auto has) {
+    for (const auto& one : each_asked)
+      if (std::ranges::none_of(all, [&](const form& f) { return has(f, one); }))
+        throw std::runtime_error(fmt::format("none of these has the {} {}", noun, one));
+  };
+  demand(asked.variants, "variant", [](const form& f, const auto& name) { return name_of(f.v) == name; });
+  demand(asked.widths, "width", [](const form& f, int width) { return f.width == width; });
+  demand(asked.ranges, "range", [](const form& f, const auto& name) {
+    const auto names = ranges_of(*f.exact);
+    return std::ranges::find(names, name) != names.end();
+  });
+  return all;
+}
+
+void list(const std::vector<form>& forms) {
+  for (auto f = forms.begin(); f != forms.end();) {
+    const auto index = f->index;
+    const auto ranges = ranges_of(*f->exact);
+    std::vector<std::string_view> its_variants;
+    for (; f != forms.end() && f->index == index; ++f)
+      if (its_variants.empty() || its_variants.back() != name_of(f->v)) its_variants.push_back(name_of(f->v));
+    fmt::print("{:<10} variants: {:<26} ranges: {}\n", catalogue[index].name(),
+               fmt::format("{}", fmt::join(its_variants, ", ")), fmt::join(ranges, ", "));
+  }
 }
 
 }  // namespace
 
 int main(int argc, char** argv) try {
-  CLI::App app{"Error in units in the last place of lanemath's functions, against MPFR."};
-  std::vector<std::string> operations, names, ranges;
-  std::vector<int> chosen_widths;
-  std::string path = LANEMATH_LIBRARY, csv, record, part, place;
+  CLI::App app{
+      "Error in units in the last place of lanemath's functions, against MPFR.\n"
+      "Ends with 0 if all errors are within the stated bounds, with 1 if not, with 2 if it cannot measure."};
+  request asked;
+  std::string path = harness::default_library(), csv, record, part, place;
   std::size_t samples = 100'000;
   std::uint64_t seed = 1;
-  bool exhaustive = false, climbing = false;
-  app.add_option("operations", operations, "operations to measure, such as expf (default: all that are built)");
-  app.add_option("-w,--width", chosen_widths, "widths, separated by commas")
+  bool climbing = false, listing = false;
+  app.add_option("operations", asked.names,
+                 "what to measure, such as expf, expf_native, expf4 or 'exp*' (default: all that can be measured)");
+  app.add_option("-w,--width", asked.widths, "widths, separated by commas")
       ->check(CLI::IsMember({1, 2, 3, 4, 8, 16}))
       ->delimiter(',')
       ->allow_extra_args(false);
-  app.add_option("-v,--variant", names, "accuracy variants: default, native, half, rm")
+  app.add_option("-v,--variant", asked.variants, "accuracy variants: default, native, half, rm")
       ->check(CLI::IsMember({"default", "native", "half", "rm"}))
       ->delimiter(',')
       ->allow_extra_args(false);
-  app.add_option("-r,--range", ranges, "ranges by name; `patterns` and `bounds` exist for every operation")
-      ->delimiter(',')
-      ->allow_extra_args(false);
-  app.add_option("-n,--samples", samples, "lanes per range")->check(CLI::PositiveNumber)->capture_default_str();
+  auto* ranges =
+      app.add_option("-r,--range", asked.ranges,
+                     "ranges by name, separated by commas; `patterns` and `bounds` exist for every operation")
+          ->delimiter(',')
+          ->allow_extra_args(false);
+  app.add_flag("--list", listing, "name the operations, variants and ranges that can be measured");
+  app.add_option("-n,--samples", samples, "lanes per range")
+      ->check(CLI::Range(std::size_t(1), std::size_t(1'000'000'000)))
+      ->capture_default_str();
   app.add_option("-s,--seed", seed, "of the random numbers")->capture_default_str();
-  app.add_flag("-e,--exhaustive", exhaustive, "all 2^32 inputs of one-argument float operations, instead of ranges");
+  app.add_flag("-e,--exhaustive", asked.exhaustive,
+               "all 2^32 inputs of one-argument float operations, instead of ranges")
+      ->excludes(ranges);
   auto* at = app.add_option("--at", place, "one place instead of ranges, by bit patterns: \"0x3F7FB84A 0x47982860\"")
-                 ->excludes("--exhaustive");
+                 ->excludes("--exhaustive", ranges);
   app.add_flag("-c,--climb", climbing, "search around the recorded places of all arguments, instead of ranges")
-      ->excludes("--exhaustive", "--at");
+      ->excludes("--exhaustive", "--at", ranges);
   auto* recording = app.add_option("--record", record, "put errors larger than those in this file of errors into it")
                         ->check(CLI::ExistingFile);
   app.add_option("--part", part, "of which arguments the recorded errors are, in words (default: all)")
       ->needs(recording);
-  app.add_option("--csv", csv, "also write the table to this file");
-  app.add_option("-l,--library", path, "the library to measure");
+  app.add_option("--csv", csv, "also write the table to this file, once it is complete");
+  app.add_option("-l,--library", path, "the library to measure")->capture_default_str();
   CLI11_PARSE(app, argc, argv);
-  for (const auto& name : operations)
-    if (std::none_of(catalogue.begin(), catalogue.end(), [&](const operation& o) { return o.name() == name; })) {
-      fmt::print(stderr, "{}: no operation {}\n", argv[0], name);
-      return 2;
-    }
 
   const harness::library library(path);
+  const auto forms = forms_of(asked, library);
+  if (listing) {
+    list(forms);
+    harness::finish_output();
+    return 0;
+  }
   const auto records = record.empty() ? recorded_errors() : read_errors(record);
   report table(csv, record, part);
-  for (std::size_t index = 0; index < catalogue.size(); ++index) {
-    const auto& o = catalogue[index];
-    const auto* reference = find_reference(o);
-    if (!reference || !wanted(operations, o.name())) continue;
-    for (auto v : variants) {
-      if (!wanted(names, v == variant::standard ? "default" : suffix(v).substr(1))) continue;
-      for (int width : widths) {
-        if (!chosen_widths.empty() && !std::count(chosen_widths.begin(), chosen_widths.end(), width)) continue;
-        const auto f = library.find(index, v, width);
-        if (!f) continue;
-        const auto on = [&](std::string_view range, const std::vector<arguments>& inputs) {
-          if (wanted(ranges, range)) table.add(o, v, width, range, measure(o, *reference, *f, width, inputs));
-        };
-        if (exhaustive) {
-          if (!reference->fast || o.sig != signature{lane::f32, {lane::f32}}) continue;
-          progress_bar bar(fmt::format("{}{} at width {}", o.name(), suffix(v), width));
-          const auto found = measure_all_floats(*reference, *f, width, [&](double share) { bar.show(share); });
-          bar.clear();
-          table.add(o, v, width, "all", found);
-          continue;
-        }
-        if (*at) {
-          table.add(o, v, width, "a place", measure_at(o, *reference, *f, width, place_in(place, o.sig)));
-          continue;
-        }
-        if (climbing) {
-          for (const auto& line : records)
-            if (line.part.empty() && line.at && line.is_of(o, v, width) && !o.is_unguarded(v))
-              table.add(o, v, width, "climb", climb(o, *reference, *f, width, *line.at, samples, seed));
-          continue;
-        }
-        for (const auto& r : reference->ranges) on(r.name, sample(o, r, samples, seed));
-        on("bounds", around_bounds(o, *reference, samples, seed));
-        on("patterns", sample_patterns(o, samples, seed));
-      }
+  for (const auto& one : forms) {
+    const auto& o = catalogue[one.index];
+    const auto add = [&](std::string_view range, const tally& t) { table.add(o, one.v, one.width, range, t); };
+    if (asked.exhaustive) {
+      progress_bar bar(fmt::format("{}{} at width {}", o.name(), suffix(one.v), one.width));
+      const auto found = measure_all_floats(*one.exact, one.f, one.width, [&](double share) { bar.show(share); });
+      bar.clear();
+      add("all", found);
+    } else if (*at) {
+      add("a place", measure_at(o, *one.exact, one.f, one.width, place_in(place, o.sig)));
+    } else if (climbing) {
+      for (const auto& line : records)
+        if (line.part.empty() && line.at && line.is_of(o, one.v, one.width) && !o.is_unguarded(one.v))
+          add("climb", climb(o, *one.exact, one.f, one.width, *line.at, samples, seed));
+    } else {
+      const auto on = [&](std::string_view range, auto inputs) {
+        if (wanted(asked.ranges, range)) add(range, measure(o, *one.exact, one.f, one.width, inputs()));
+      };
+      for (const auto& r : one.exact->ranges) on(r.name, [&] { return sample(o, r, samples, seed); });
+      on("bounds", [&] { return around_bounds(o, *one.exact, samples, seed); });
+      on("patterns", [&] { return sample_patterns(o, samples, seed); });
     }
   }
+  table.finish();
   return table.within_bounds() ? 0 : 1;
 } catch (const std::exception& e) {
   fmt::print(stderr, "{}: {}\n", argv[0], e.what());

@@ -13,6 +13,7 @@
 #include "accuracy/errors.h"
 #include "accuracy/measure.h"
 #include "generate/families.h"
+#include "harness/files.h"
 
 namespace {
 
@@ -136,10 +137,10 @@ int document(const std::string& path, bool only_compare) {
   const auto text = text_of_file(path), made = with_tables(text);
   if (made == text) return 0;
   if (only_compare) {
-    fmt::print("{} is not what `lanemath-errors document` makes of {}\n", path, errors_path);
+    fmt::print("{} is not what `lanemath-errors document` makes of {}\n", path, errors_path());
     return 1;
   }
-  replace_file(path, made);
+  harness::replace_file(path, made);
   return 0;
 }
 
@@ -203,7 +204,7 @@ int heads(const std::vector<std::string>& paths, bool only_compare) {
     if (only_compare)
       fmt::print("{}: its head does not state the recorded errors\n", path);
     else
-      replace_file(path, made);
+      harness::replace_file(path, made);
   }
   return only_compare && different ? 1 : 0;
 }
@@ -213,7 +214,7 @@ int heads(const std::vector<std::string>& paths, bool only_compare) {
 int main(int argc, char** argv) try {
   CLI::App app{"The recorded errors of lanemath's functions."};
   app.require_subcommand(1);
-  std::string library = LANEMATH_LIBRARY, path;
+  std::string library = harness::default_library(), path;
   bool only_compare = false;
   auto* checking = app.add_subcommand("check", "measure every recorded place again");
   checking->add_option("-l,--library", library, "the library to measure");
@@ -225,8 +226,11 @@ int main(int argc, char** argv) try {
   heading->add_option("FILES", sources, "source files that export functions")->required()->check(CLI::ExistingFile);
   heading->add_flag("--check", only_compare, "write nothing; fail where a head would change");
   CLI11_PARSE(app, argc, argv);
-  if (*heading) return heads(sources, only_compare);
-  return *checking ? check(harness::library(library)) : document(path, only_compare);
+  const int status = *heading    ? heads(sources, only_compare)
+                     : *checking ? check(harness::library(library))
+                                 : document(path, only_compare);
+  harness::finish_output();
+  return status;
 } catch (const std::exception& e) {
   fmt::print(stderr, "{}: {}\n", argv[0], e.what());
   return 2;

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "harness/files.h"
 #include "harness/names.h"
 #include "harness/rounding.h"
 #include "inputs.h"
@@ -47,14 +48,14 @@ int main(int argc, char** argv) try {
   bool all_directions = false;
   app.add_option("first", first_path, "a library")->required();
   app.add_option("second", second_path, "the library to compare it with")->required();
-  app.add_option("operations", patterns, "what to compare, all if none is named: expf, expf_native, 'exp*'...");
+  app.add_option("operations", patterns, "what to compare, all if none is named: expf, expf_native, expf4, 'exp*'...");
   app.add_option("-n,--lanes", lanes, "random lanes per function, besides a fixed set")
       ->check(CLI::Range(std::size_t(1), std::size_t(1) << 40))
       ->capture_default_str();
   app.add_option("-s,--seed", seed, "of the random numbers")->capture_default_str();
   app.add_flag("-d,--directions", all_directions, "also in the other three rounding directions");
   CLI11_PARSE(app, argc, argv);
-  harness::check_names(patterns);
+  const harness::selection chosen(patterns);
 
   // Absolute paths, because the loader mistakes a bare file name for the recorded name of a library that is loaded
   // already.
@@ -65,8 +66,8 @@ int main(int argc, char** argv) try {
     const auto& o = catalogue[index];
     std::vector<form> forms;
     for (auto v : variants) {
-      if (!o.has(v) || !harness::wanted(patterns, o, v)) continue;
       for (int width : widths) {
+        if (!chosen.has(index, v, width)) continue;
         const auto one = first.find(index, v, width), other = second.find(index, v, width);
         if (one && other) forms.push_back({v, width, *one, *other});
         if (bool(one) == bool(other)) continue;
@@ -97,6 +98,7 @@ int main(int argc, char** argv) try {
   if (compared == 0) throw std::runtime_error("the libraries have no function in common that is asked for");
   fmt::print("{} functions compared over {} lanes: {} differ, {} in one library only\n", compared, lanes_compared,
              differing, missing);
+  harness::finish_output();
   return differing + missing == 0 ? 0 : 1;
 } catch (const std::exception& e) {
   fmt::print(stderr, "{}: {}\n", argv[0], e.what());

@@ -1,6 +1,7 @@
-// Writes what is made from the catalogue to standard output.
+// Writes what is made from the catalogue.
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <exception>
 #include <fstream>
 #include <set>
@@ -9,15 +10,19 @@
 #include <string_view>
 
 #include "generate.h"
+#include "harness/files.h"
 #include "opencl.h"
 
 namespace {
 
-std::set<std::string> lines_of(const char* path) {
+using namespace lanemath;
+
+std::set<std::string> exported_names_in(const char* path) {
   std::ifstream in(path);
-  if (!in) throw std::runtime_error(fmt::format("cannot read {}", path));
   std::set<std::string> lines;
   for (std::string line; std::getline(in, line);) lines.insert(line);
+  if (in.bad() || std::ranges::none_of(lines, [](const auto& line) { return line.starts_with(symbol_prefix); }))
+    throw std::runtime_error(fmt::format("no exported names in {}", path));
   return lines;
 }
 
@@ -30,31 +35,34 @@ const machine& machine_of_kind(std::string_view kind) {
 }  // namespace
 
 int main(int argc, char** argv) try {
+  const auto path = harness::take_output_path(argc, argv);
+  harness::whole_output out;
   const std::string_view what = argc > 1 ? argv[1] : "";
   if (what == "export-list" && argc == 2) {
-    write_export_list(stdout);
+    write_export_list(out.stream());
   } else if (what == "public-header" && argc == 3) {
-    write_public_header(stdout, argv[2]);
+    write_public_header(out.stream(), argv[2]);
   } else if (what == "companion" && argc == 3) {
-    write_companion(stdout, argv[2]);
+    write_companion(out.stream(), argv[2]);
   } else if (what == "opencl-kinds" && argc == 2) {
     for (const auto& on : machines)
-      if (!on.features.empty()) fmt::print("{} {}\n", on.kind, on.features);
+      if (!on.features.empty()) fmt::print(out.stream(), "{} {}\n", on.kind, on.features);
   } else if (what == "opencl-processor" && argc == 3) {
-    fmt::print("{}\n", machine_of_kind(argv[2]).processor);
+    fmt::print(out.stream(), "{}\n", machine_of_kind(argv[2]).processor);
   } else if (what == "opencl-builtins" && argc == 4) {
-    write_opencl_builtins(stdout, machine_of_kind(argv[2]), lines_of(argv[3]));
+    write_opencl_builtins(out.stream(), machine_of_kind(argv[2]), exported_names_in(argv[3]));
   } else if (what == "opencl-crossings" && argc == 4) {
-    write_opencl_crossings(stdout, machine_of_kind(argv[2]), lines_of(argv[3]));
+    write_opencl_crossings(out.stream(), machine_of_kind(argv[2]), exported_names_in(argv[3]));
   } else {
     fmt::print(
         stderr,
         "usage: {} export-list | public-header FAMILY | companion FILE | opencl-kinds |\n"
-        "       opencl-processor KIND | opencl-builtins KIND EXPORTED_NAMES | opencl-crossings KIND EXPORTED_NAMES\n",
+        "       opencl-processor KIND | opencl-builtins KIND EXPORTED_NAMES | opencl-crossings KIND EXPORTED_NAMES\n"
+        "       [--output FILE]\n",
         argv[0]);
     return 2;
   }
-  return std::fflush(stdout) == 0 ? 0 : 1;
+  out.write(path);
 } catch (const std::exception& e) {
   fmt::print(stderr, "{}: {}\n", argv[0], e.what());
   return 1;

@@ -1,11 +1,10 @@
-// Writes the lookup tables of one family of operations as a C++ header, to standard output: those made by a rule, and
-// those that were fitted, from the .fit files of a folder.
+// Writes the lookup tables of one family of operations as a C++ header: those made by a rule, and those that were
+// fitted, from the .fit files of a folder.
 #include <cstdio>
-#include <cstdlib>
 #include <map>
-#include <memory>
 #include <string>
 
+#include "harness/files.h"
 #include "table_writer.h"
 
 void write_exp_tables(table_writer&);
@@ -40,28 +39,22 @@ const std::map<std::string, family> families{
 }  // namespace
 
 int main(int argc, char** argv) try {
+  const auto path = lanemath::harness::take_output_path(argc, argv);
   const auto found = argc == 3 ? families.find(argv[1]) : families.end();
   if (found == families.end()) {
-    fmt::print(stderr, "usage: {} FAMILY FOLDER-OF-FITS\nfamilies:", argv[0]);
+    fmt::print(stderr, "usage: {} FAMILY FOLDER-OF-FITS [--output HEADER]\nfamilies:", argv[0]);
     for (const auto& [name, of] : families) fmt::print(stderr, " {}", name);
     fmt::print(stderr, "\n");
     return 2;
   }
   const auto fits = read_fits(argv[2]);
   const auto& [write, include, space] = found->second;
-  // All of it or nothing.
-  char* text = nullptr;
-  std::size_t size = 0;
-  std::FILE* memory = open_memstream(&text, &size);
-  if (!memory) throw std::runtime_error("no memory");
+  lanemath::harness::whole_output header;
   {
-    table_writer out(memory, fits, include, space);
+    table_writer out(header.stream(), fits, include, space);
     write(out);
   }
-  std::fclose(memory);
-  const std::unique_ptr<char, void (*)(void*)> header(text, std::free);
-  if (std::fwrite(text, 1, size, stdout) != size || std::fflush(stdout) != 0)
-    throw std::runtime_error("the header cannot be written");
+  header.write(path);
 } catch (const std::exception& error) {
   fmt::print(stderr, "lanemath-tables: {}\n", error.what());
   return 1;
