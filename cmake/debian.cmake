@@ -33,6 +33,7 @@ lanemath_package(development liblanemath-dev libdevel "${same_library}"
 
 if(TARGET lanemath-reference)
   lanemath_package(documentation lanemath-doc doc "" "holds the function reference and documents")
+  set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_ARCHITECTURE all)
 endif()
 if(LANEMATH_TOOLS)
   lanemath_package(tools lanemath-tools math "${same_library}" "measures the library's errors and speed")
