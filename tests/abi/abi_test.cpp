@@ -2,6 +2,8 @@
 // functions return.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
 #include <cstring>
 #include <sstream>
@@ -27,16 +29,23 @@ std::vector<std::string> callers() {
   return all;
 }
 
-class Caller : public ::testing::TestWithParam<std::string> {};
+class Caller : public ::testing::TestWithParam<std::string> {
+ protected:
+  void SetUp() override {
+    const std::string& path = GetParam();
+    const auto instructions = path.substr(path.rfind('-') + 1, path.rfind('.') - path.rfind('-') - 1);
+    if (!processor_has(instructions)) GTEST_SKIP() << "this processor lacks " << instructions;
+    caller = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    ASSERT_TRUE(caller) << dlerror();
+  }
+  void TearDown() override {
+    if (caller) dlclose(caller);
+  }
+  void* caller = nullptr;
+};
 
 TEST_P(Caller, GetsEveryLaneOfEveryShape) {
-  const std::string& path = GetParam();
-  const auto instructions = path.substr(path.rfind('-') + 1, path.rfind('.') - path.rfind('-') - 1);
-  if (!processor_has(instructions)) GTEST_SKIP() << "this processor lacks " << instructions;
   const harness::library probe(LANEMATH_PROBE);
-  void* caller = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-  ASSERT_TRUE(caller) << dlerror();
-
   std::size_t called = 0;
   for (std::size_t index = 0; index < catalogue.size(); ++index)
     for (int width : widths) {
@@ -68,7 +77,56 @@ TEST_P(Caller, GetsEveryLaneOfEveryShape) {
       }
     }
   EXPECT_EQ(called, 22u * widths.size());
-  dlclose(caller);
+}
+
+// A page between two that cannot be touched.
+class lone_page {
+ public:
+  lone_page() {
+    if (all_ == MAP_FAILED || mprotect(begin(), size(), PROT_READ | PROT_WRITE)) throw std::bad_alloc();
+  }
+  ~lone_page() { munmap(all_, 3 * size()); }
+  lone_page(const lone_page&) = delete;
+  lone_page& operator=(const lone_page&) = delete;
+  std::byte* begin() const { return static_cast<std::byte*>(all_) + size(); }
+  std::byte* end() const { return begin() + size(); }
+
+ private:
+  static std::size_t size() { return std::size_t(sysconf(_SC_PAGESIZE)); }
+  void* all_ = mmap(nullptr, 3 * size(), PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+};
+
+// At both ends of a page, and at any alignment next to bytes that must stay.
+TEST_P(Caller, LoadsStoresAndFillsExactlyTheLanes) {
+  const lone_page from, to;
+  for (auto l : {lane::f32, lane::f64, lane::i32, lane::u32, lane::i64, lane::u64})
+    for (int width : widths) {
+      const auto type = fmt::format("{}{}", type_name(l), width);
+      const auto call = [&](const char* what, const void* in, void* out) {
+        reinterpret_cast<void (*)(const void*, void*)>(dlsym(caller, (what + type).c_str()))(in, out);
+      };
+      ASSERT_TRUE(dlsym(caller, ("copy_" + type).c_str()) && dlsym(caller, ("fill_" + type).c_str())) << type;
+      const std::size_t size = size_of(l), bytes = size * width;
+      std::vector<std::byte> lanes(bytes), filled(bytes);
+      for (std::size_t i = 0; i < bytes; ++i) lanes[i] = std::byte(i + 1), filled[i] = std::byte(i % size + 1);
+
+      const auto expect_copy = [&](std::byte* in, std::byte* out) {
+        std::memcpy(in, lanes.data(), bytes);
+        call("copy_", in, out);
+        EXPECT_EQ(std::memcmp(out, lanes.data(), bytes), 0) << type;
+        call("fill_", lanes.data(), out);
+        EXPECT_EQ(std::memcmp(out, filled.data(), bytes), 0) << type;
+      };
+      expect_copy(from.begin(), to.begin());
+      expect_copy(from.end() - bytes, to.end() - bytes);
+      for (std::size_t shift = 1; shift <= 16; ++shift) {
+        std::array<std::byte, 256> in, out;
+        out.fill(std::byte(0xEE));
+        expect_copy(&in[shift], &out[shift]);
+        for (std::size_t i = 0; i < out.size(); ++i)
+          if (i < shift || i >= shift + bytes) ASSERT_EQ(out[i], std::byte(0xEE)) << type << " at " << i - shift;
+      }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Compilers, Caller, ::testing::ValuesIn(callers()), [](const auto& info) {

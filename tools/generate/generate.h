@@ -5,3 +5,4 @@
 
 void write_export_list(std::FILE* out);                        // for the linker
 void write_public_header(std::FILE* out, const char* family);  // include/lanemath/<family>.h
+void write_vectors_header(std::FILE* out);                     // include/lanemath/vectors.h

@@ -35,6 +35,8 @@ int main(int argc, char** argv) try {
     write_export_list(stdout);
   } else if (what == "public-header" && argc == 3) {
     write_public_header(stdout, argv[2]);
+  } else if (what == "vectors-header" && argc == 2) {
+    write_vectors_header(stdout);
   } else if (what == "opencl-kinds" && argc == 2) {
     for (const auto& on : machines)
       if (!on.features.empty()) fmt::print("{} {}\n", on.kind, on.features);
@@ -46,8 +48,9 @@ int main(int argc, char** argv) try {
     write_opencl_crossings(stdout, machine_of_kind(argv[2]), lines_of(argv[3]));
   } else {
     fmt::print(stderr,
-               "usage: {} export-list | public-header FAMILY | opencl-kinds | opencl-processor KIND |\n"
-               "       opencl-builtins KIND EXPORTED_NAMES | opencl-crossings KIND EXPORTED_NAMES\n",
+               "usage: {} export-list | public-header FAMILY | vectors-header | opencl-kinds |\n"
+               "       opencl-processor KIND | opencl-builtins KIND EXPORTED_NAMES |\n"
+               "       opencl-crossings KIND EXPORTED_NAMES\n",
                argv[0]);
     return 2;
   }
