@@ -167,14 +167,14 @@ LANEMATH_END
     (void)0;                                    \
   })
 /* Three lanes of 64 bits. */
-#define LANEMATH_LOAD_THREE(lane, from)                                      \
-  __extension__({                                                            \
-    const lanemath_##lane* const lanemath_from = (from);                     \
-    lanemath_##lane##2 lanemath_parts[2] = {{0, 0}, {lanemath_from[2], 0}};  \
-    memcpy(&lanemath_parts[0], lanemath_from, sizeof lanemath_parts[0]);     \
-    lanemath_##lane##3 lanemath_result;                                      \
-    lanemath_join(&lanemath_result, lanemath_parts, sizeof lanemath_result); \
-    lanemath_result;                                                         \
+#define LANEMATH_LOAD_THREE(lane, from)                                                    \
+  __extension__({                                                                          \
+    const lanemath_##lane* const lanemath_from = (from);                                   \
+    lanemath_##lane##2 lanemath_parts[2] = {{0, 0}, {lanemath_from[2], lanemath_from[2]}}; \
+    memcpy(&lanemath_parts[0], lanemath_from, sizeof lanemath_parts[0]);                   \
+    lanemath_##lane##3 lanemath_result;                                                    \
+    lanemath_join(&lanemath_result, lanemath_parts, sizeof lanemath_result);               \
+    lanemath_result;                                                                       \
   })
 #define LANEMATH_STORE_THREE(lane, to, v)                                                                    \
   __extension__({                                                                                            \

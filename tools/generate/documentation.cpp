@@ -1,12 +1,16 @@
 #include "documentation.h"
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
+#include <algorithm>
 #include <array>
 #include <sstream>
 #include <vector>
 
 #include "accuracy/errors.h"
+#include "families.h"
+#include "names.h"
 
 namespace lanemath {
 
@@ -45,8 +49,6 @@ std::string comment(std::string_view opening, const std::string& text) {
   return all + " */\n";
 }
 
-}  // namespace
-
 std::string brief_of(const operation& o) {
   if (o.group != family::conversion) return std::string(o.brief);
   const auto rounding = std::array{"to nearest even", "down", "up", "toward zero"}.at(std::size_t(o.rounding));
@@ -54,6 +56,7 @@ std::string brief_of(const operation& o) {
                      o.saturates ? ", clamped to the range of the result" : "");
 }
 
+// How the variant relates to its neighbours.
 std::string relation_of(const operation& o, variant v, int width) {
   std::string text;
   if (const auto other = o.served_by(width, v); other != v)
@@ -69,6 +72,43 @@ std::string bound_text(const operation& o, variant v, int width) {
   if (!bound) return "";
   return is_exact(o.group) && *bound == 0 ? " Exact, or rounded once."
                                           : fmt::format(" Largest error {:g} ulp.", *bound);
+}
+
+std::string_view file_of(family group) {
+  return std::find_if(std::begin(families), std::end(families), [=](const auto& f) { return f.group == group; })->file;
+}
+
+}  // namespace
+
+std::string description(const operation& o, variant v, int width) {
+  const auto lanes = width == 1 ? "one" : fmt::format("{} lanes of", width);
+  return fmt::format("{}; {} {}.{}{} Domain and special values: at the head of <lanemath/{}.h>.", brief_of(o), lanes,
+                     type_name(o.sig.arguments[0]), relation_of(o, v, width), bound_text(o, v, width),
+                     file_of(o.group));
+}
+
+std::string description_for_cpp(const operation& o, variant v) {
+  auto brief = brief_of(o);
+  constexpr std::string_view in_c = " through the pointer";
+  if (const auto at = brief.find(in_c); at != brief.npos)
+    brief.replace(at, in_c.size(), fmt::format(" as .{}", results_of(o).second));
+  std::vector<std::string> errors;
+  for (const auto& p : catalogue) {
+    if (p.base_name() != o.base_name() || p.group != o.group || !p.has(v)) continue;
+    // One width without an algorithm of its own stands for all that share its bound.
+    bool shared = false;
+    for (int width : widths) {
+      const bool own = p.is_standalone(width, v);
+      const auto bound = bound_of(p, v, width);
+      if (!bound || *bound == 0 || (!own && shared)) continue;
+      shared |= !own;
+      errors.push_back(fmt::format("{:g} for {}{}", *bound, type_name(p.sig.arguments[0]),
+                                   own ? fmt::format(" at width {}", width) : ""));
+    }
+  }
+  return fmt::format("{}.{} Domain and special values: at the head of <lanemath/{}.h>.", brief,
+                     errors.empty() ? "" : fmt::format(" Largest error in ulp: {}.", fmt::join(errors, ", ")),
+                     file_of(o.group));
 }
 
 std::string documentation(const std::string& text) { return comment("/**", text); }

@@ -7,12 +7,10 @@
 
 namespace lanemath {
 
-// What the operation computes.
-std::string brief_of(const operation& o);
-// How a variant relates to its neighbours, at a width.
-std::string relation_of(const operation& o, variant v, int width);
-// The largest error, or that there is none; empty if none is stated.
-std::string bound_text(const operation& o, variant v, int width);
+// What it computes, on which lanes, with which error; and where to read on.
+std::string description(const operation& o, variant v, int width);
+// The same in general, for both precisions and all widths.
+std::string description_for_cpp(const operation& o, variant v);
 
 // A comment in the style of documentation generators, in lines of up to 120 characters.
 std::string documentation(const std::string& text);

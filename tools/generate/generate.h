@@ -6,3 +6,5 @@
 void write_export_list(std::FILE* out);                        // for the linker
 void write_public_header(std::FILE* out, const char* family);  // include/lanemath/<family>.h
 void write_vectors_header(std::FILE* out);                     // include/lanemath/vectors.h
+void write_cpp_header(std::FILE* out);                         // include/lanemath/lanemath.hpp
+void write_cpp_calls(std::FILE* out);                          // for tests/abi/caller.cpp

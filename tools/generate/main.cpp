@@ -37,6 +37,10 @@ int main(int argc, char** argv) try {
     write_public_header(stdout, argv[2]);
   } else if (what == "vectors-header" && argc == 2) {
     write_vectors_header(stdout);
+  } else if (what == "cpp-header" && argc == 2) {
+    write_cpp_header(stdout);
+  } else if (what == "cpp-calls" && argc == 2) {
+    write_cpp_calls(stdout);
   } else if (what == "opencl-kinds" && argc == 2) {
     for (const auto& on : machines)
       if (!on.features.empty()) fmt::print("{} {}\n", on.kind, on.features);
@@ -48,8 +52,8 @@ int main(int argc, char** argv) try {
     write_opencl_crossings(stdout, machine_of_kind(argv[2]), lines_of(argv[3]));
   } else {
     fmt::print(stderr,
-               "usage: {} export-list | public-header FAMILY | vectors-header | opencl-kinds |\n"
-               "       opencl-processor KIND | opencl-builtins KIND EXPORTED_NAMES |\n"
+               "usage: {} export-list | public-header FAMILY | vectors-header | cpp-header | cpp-calls |\n"
+               "       opencl-kinds | opencl-processor KIND | opencl-builtins KIND EXPORTED_NAMES |\n"
                "       opencl-crossings KIND EXPORTED_NAMES\n",
                argv[0]);
     return 2;

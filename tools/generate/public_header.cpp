@@ -47,11 +47,7 @@ void write_function(std::FILE* out, const operation& o, variant v, int width) {
     border.push_back(fmt::format("lanemath_{}*", types.back()));
   }
 
-  const auto lanes =
-      std::string(width == 1 ? "one " : fmt::format("{} lanes of ", width)).append(type_name(s.arguments[0]));
-  const auto comment =
-      documentation(fmt::format("{}; {}.{}{} Domain and special values: at the head of this file.", brief_of(o), lanes,
-                                relation_of(o, v, width), bound_text(o, v, width)));
+  const auto comment = documentation(description(o, v, width));
   const auto prototype =
       fmt::format("lanemath_{}{} lanemath_{}({})", types[0], pair, name, fmt::join(parameters, ", "));
   if (!wide) {

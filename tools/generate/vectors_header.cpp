@@ -15,24 +15,23 @@ using namespace lanemath;
 
 void write_types(std::FILE* out, lane l, int width) {
   const std::string name(type_name(l)), vector = fmt::format("lanemath_{}{}", name, width);
-  const auto bytes = size_of(l) * width;
-  if (width == 1) {
+  const auto bytes = size_of(l) * padded(width);
+  if (width == 1)
     fmt::print(out, "{}typedef lanemath_{} {};\n", documentation(fmt::format("One {}.", name)), name, vector);
-  } else if (width == 3) {
-    fmt::print(out, "{}typedef lanemath_{}4 {};\n",
-               documentation(fmt::format("Three lanes of {}, with the room of four.", name)), name, vector);
-    fmt::print(out, "typedef lanemath_alias_{0}4 lanemath_alias_{0}3;\n", name);
-    for (auto kind : {"", "_pair"})
-      fmt::print(out, "typedef lanemath_border_{0}4{1} lanemath_border_{0}3{1};\n", name, kind);
-    fmt::print(out, "typedef lanemath_{0}4_pair lanemath_{0}3_pair;\n", name);
+  else
+    // Three lanes have attributes of their own: a typedef of the typedef of four would lose the alignment.
+    fmt::print(
+        out,
+        "{0}typedef lanemath_{1} {2} __attribute__((vector_size({3}), aligned({4})));\n"
+        "typedef lanemath_{1} lanemath_alias_{1}{5} "
+        "__attribute__((vector_size({3}), aligned(1), may_alias));\n",
+        documentation(fmt::format("{} lanes of {}{}.", width, name, width == 3 ? ", with the room of four" : "")), name,
+        vector, bytes, std::min<std::size_t>(bytes, 16), width);
+  if (width == 3) {
+    for (auto type : {"lanemath_{0}{1}_pair", "lanemath_border_{0}{1}", "lanemath_border_{0}{1}_pair"})
+      fmt::print(out, "typedef {} {};\n", fmt::format(fmt::runtime(type), name, 4),
+                 fmt::format(fmt::runtime(type), name, 3));
     return;
-  } else {
-    fmt::print(out,
-               "{0}typedef lanemath_{1} {2} __attribute__((vector_size({3}), aligned({4})));\n"
-               "typedef lanemath_{1} lanemath_alias_{1}{5} "
-               "__attribute__((vector_size({3}), aligned(1), may_alias));\n",
-               documentation(fmt::format("{} lanes of {}.", width, name)), name, vector, bytes,
-               std::min<std::size_t>(bytes, 16), width);
   }
   if (is_wide(l, width))
     fmt::print(out,
@@ -82,7 +81,8 @@ void write_helpers(std::FILE* out, lane l, int width) {
     return;
   }
   if (width == 3) {
-    write_function(out, load, fmt::format("  const {} v = {{from[0], from[1], from[2], 0}};\n  return v;\n", vector));
+    write_function(out, load,
+                   fmt::format("  const {} v = {{from[0], from[1], from[2], from[2]}};\n  return v;\n", vector));
     write_function(out, store, "  to[0] = v[0];\n  to[1] = v[1];\n  to[2] = v[2];\n");
   } else {
     write_function(out, load, fmt::format("  {} v;\n  memcpy(&v, from, sizeof v);\n  return v;\n", vector));
@@ -100,8 +100,8 @@ void write_vectors_header(std::FILE* out) {
   fmt::print(out,
              "{}#ifndef LANEMATH_VECTORS_H\n#define LANEMATH_VECTORS_H\n\n#include <lanemath/types.h>\n\n"
              "#pragma GCC system_header\n\nLANEMATH_BEGIN\n",
-             head("Vector types, and what loads, stores and fills them. Loading three lanes reads three, with 0 as the "
-                  "fourth, and storing writes three.\n\nlanemath_<type>_pair holds two vectors. "
+             head("Vector types, and what loads, stores and fills them. Loading three lanes reads three, and "
+                  "repeats the last as the fourth; storing writes three.\n\nlanemath_<type>_pair holds two vectors. "
                   "lanemath_border_<type> is how a type crosses the library's border, "
                   "and lanemath_alias_<type> is a vector anywhere in memory."));
   for (auto l : {lane::f32, lane::f64, lane::i32, lane::u32, lane::i64, lane::u64}) {
