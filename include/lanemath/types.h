@@ -91,9 +91,16 @@ LANEMATH_END
 
 /* Calls of functions with wide vectors, and the loading, storing and filling of these, as expressions. The types are
  * those of the result, of the arguments, and of what the pointer points to. */
+#ifdef __AVX__
 #define LANEMATH_VALUE(name, T, value) \
   lanemath_border_##T name;            \
   *(lanemath_alias_##T*)&name = (value)
+#else /* where GCC makes better code of this */
+#define LANEMATH_VALUE(name, T, value)       \
+  const lanemath_##T name##_given = (value); \
+  lanemath_border_##T name;                  \
+  memcpy(&name, &name##_given, sizeof name)
+#endif
 #define LANEMATH_CALL(R, call)                                            \
   const lanemath_border_##R lanemath_returned = __ocl_lanemath_h8_##call; \
   lanemath_##R lanemath_result;                                           \

@@ -45,7 +45,7 @@ struct c;
     LANEMATH_FUNCTION void fill(T x) { v_ = lanemath_fill_##type##W(x); }              \
     LANEMATH_FUNCTION border out() const {                                             \
       border b;                                                                        \
-      *(lanemath_alias_##type##W*)&b = v_;                                             \
+      memcpy(&b, &v_, sizeof b);                                                       \
       return b;                                                                        \
     }                                                                                  \
     LANEMATH_FUNCTION void in(const void* b) { lanemath_join(&v_, b, sizeof v_); }     \

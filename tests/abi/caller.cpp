@@ -72,6 +72,18 @@ static void put(void* to, const V& v) {
 #define CONVERSION(...) ALL(CONVERSION_AT, __VA_ARGS__)
 #include "calls.inc"
 
+#define ACCESS_AT(W, T, type)                                                          \
+  EXPORT void copy_##type##W(const void* from, void* to) { put(to, get<T, W>(from)); } \
+  EXPORT void fill_##type##W(const void* from, void* to) {                             \
+    put(to, fill<lanemath::vector<T, W>>(*static_cast<const T*>(from)));               \
+  }
+ALL(ACCESS_AT, float, float)
+ALL(ACCESS_AT, double, double)
+ALL(ACCESS_AT, std::int32_t, int)
+ALL(ACCESS_AT, std::uint32_t, uint)
+ALL(ACCESS_AT, std::int64_t, long)
+ALL(ACCESS_AT, std::uint64_t, ulong)
+
 // What generic code relies on, for one type at one width; true if all of it holds.
 template <class T, int W>
 static bool holds() {
