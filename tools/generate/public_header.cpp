@@ -56,12 +56,13 @@ void write_function(std::FILE* out, const operation& o, variant v, int width) {
   }
   const auto call =
       fmt::format("LANEMATH_{}({}, {}, {})", shape(s), name, fmt::join(types, ", "), fmt::join(names, ", "));
+  // The macro holds the documentation too, for editors that show the definition of what they point at.
   fmt::print(out,
              "lanemath_border_{}{} {}{}({});\n"
              "{}LANEMATH_INLINE {} {{\n  return {};\n}}\n"
-             "#define lanemath_{}({}) {}\n",
+             "#define lanemath_{}({}) \\\n{} \\\n  {}\n",
              types[0], pair, symbol_prefix, name, fmt::join(border, ", "), comment, prototype, call, name,
-             fmt::join(names, ", "), call);
+             fmt::join(names, ", "), std::string_view(comment).substr(0, comment.size() - 1), call);
 }
 
 }  // namespace
