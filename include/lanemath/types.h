@@ -47,9 +47,9 @@ typedef uint64_t lanemath_ulong;
 typedef float lanemath_float;
 typedef double lanemath_double;
 
-/* Copies a vector that was just stored in pieces of 16 bytes, as the library stores its results. A load whose bytes are
- * in several such stores would wait for all of them, three times as long as for one. So a caller with wider registers
- * loads pieces and joins them. */
+/* Copies a vector that was just stored in pieces of 16 bytes, as the library stores its results. A wider load, whose
+ * bytes are in several such stores, would have to wait until all of them have reached the cache. So a caller with wider
+ * registers loads pieces and joins them. */
 typedef double lanemath_piece16 __attribute__((vector_size(16), aligned(1), may_alias));
 #if defined(__AVX__) && defined(__has_builtin)
 #if __has_builtin(__builtin_shufflevector)

@@ -2,7 +2,8 @@
 // <lanemath/lanemath.hpp>.
 //
 // A class, because compilers warn about functions that take or return C's wide vectors by value, and cannot tell C's
-// vectors of three lanes from those of four.
+// vectors of three lanes from those of four. It converts from and to C's vectors; functions take these too, and draw
+// the warning if they are wide.
 #ifndef LANEMATH_VECTOR_HPP
 #define LANEMATH_VECTOR_HPP
 
@@ -216,7 +217,6 @@ using vector_of = lanemath::vector<lane_type_t<V>, width_of<V>::value>;
 // As wide as V, of other lanes.
 template <class V, class T>
 using with_lanes = lanemath::vector<T, width_of<V>::value>;
-
 // As wide as V and with lanes as large, floating.
 template <class V>
 using floating = with_lanes<V, typename std::conditional<sizeof(lane_type_t<V>) == 4, float, double>::type>;

@@ -41,5 +41,23 @@ TEST(Headers, DeclareEveryFunctionOnceByNameWithItsDocumentation) {
   EXPECT_EQ(found.size(), functions + types * helpers * widths.size());
 }
 
+TEST(Headers, DocumentEveryOperationInCpp) {
+  std::ifstream in(std::string(LANEMATH_HEADERS) + "/lanemath.hpp");
+  const std::regex function(R"(^LANEMATH_FUNCTION .* (\w+)\(V x)");
+  std::multiset<std::string> found;
+  std::array<std::string, 2> before;
+  for (std::string line; std::getline(in, line); before = {before[1], line}) {
+    std::smatch match;
+    if (before[0].ends_with("*/") && before[1] == "template <class V>" && std::regex_search(line, match, function))
+      found.insert(match[1]);
+  }
+  std::set<std::pair<std::string_view, variant>> due;
+  for (const auto& o : catalogue)
+    for (auto v : variants)
+      if (o.has(v) && o.group != family::conversion) due.emplace(o.base_name(), v);
+  EXPECT_EQ(found.size(), due.size());
+  for (const auto& [name, v] : due) EXPECT_TRUE(found.contains(std::string(name))) << name;
+}
+
 }  // namespace
 }  // namespace lanemath::testing
