@@ -1,17 +1,22 @@
-/* Lane types of lanemath, and the macros that declare its functions. Include <lanemath/lanemath.h>.
+/* What the declarations of lanemath are written with. Include <lanemath/lanemath.h>.
  *
  * lanemath_<type><width> is a vector of 2, 3, 4, 8 or 16 lanes of float, double, int, uint, long (64 bits) or
  * ulong, built with the vector extensions of GCC and Clang: the usual operators and v[i] work. A vector of three
  * has the size of a vector of four; the library ignores its last lane, and so should the caller. Vectors of more
  * than 16 bytes are aligned to 16, as malloc's memory is.
  *
- * The library takes vectors wider than 16 bytes in memory, whatever instructions the caller is compiled for. A
- * compiler that may use AVX would pass them in registers instead, so they cross the border as structures, and
- * each function is an inline wrapper that converts them.
+ * A function without such a wide vector is declared under its name in the library. The library takes wide vectors in
+ * memory, whatever instructions the caller is compiled for. A compiler that may use AVX would pass them in registers,
+ * so they cross the border as structures, and their functions are inline.
+ *
+ * Compilers warn about a call, even an inlined one, that passes a vector wider than the instructions that are switched
+ * on: between functions that are compiled differently it would fail. So each inline function is also a macro that
+ * passes none. Like the C library's, it steps aside for (lanemath_expf8)(x), which may also stand outside of functions.
  */
 #ifndef LANEMATH_TYPES_H
 #define LANEMATH_TYPES_H
 
+#include <stddef.h>
 #include <stdint.h>
 #include <string.h>
 
@@ -19,13 +24,11 @@
 #error "lanemath needs an x86-64 target and GCC, Clang or a compiler that is like them"
 #endif
 
-#define LANEMATH_WRAPPER static inline __attribute__((always_inline, unused))
+/* Whatever warnings the caller asks for, none is about the text of these headers. */
+#pragma GCC system_header
 
-/* Compilers warn that passing or returning a wide vector depends on AVX. Here nothing depends on it, because the
- * wrappers are always inlined. The warnings point at the caller's lines, so they are switched off there too. */
-#ifndef __AVX512F__
-#pragma GCC diagnostic ignored "-Wpsabi"
-#endif
+#define LANEMATH_INLINE static inline __attribute__((always_inline, unused))
+#define LANEMATH_NAMED(name) __asm__("__ocl_lanemath_h8_" name)
 
 #ifdef __cplusplus
 #define LANEMATH_BEGIN extern "C" {
@@ -35,6 +38,8 @@
 #define LANEMATH_END
 #endif
 
+LANEMATH_BEGIN
+
 typedef int32_t lanemath_int;
 typedef uint32_t lanemath_uint;
 typedef int64_t lanemath_long;
@@ -42,123 +47,160 @@ typedef uint64_t lanemath_ulong;
 typedef float lanemath_float;
 typedef double lanemath_double;
 
-LANEMATH_BEGIN
+/* Copies a vector that was just stored in pieces of 16 bytes, as the library stores its results. A wider load, whose
+ * bytes are in several such stores, would have to wait until all of them have reached the cache. So a caller with wider
+ * registers loads pieces and joins them. */
+typedef double lanemath_piece16 __attribute__((vector_size(16), aligned(1), may_alias));
+#if defined(__AVX__) && defined(__has_builtin)
+#if __has_builtin(__builtin_shufflevector)
+#define LANEMATH_JOINS /* GCC does so from 12 on. */
+typedef double lanemath_piece32 __attribute__((vector_size(32), aligned(1), may_alias));
+typedef double lanemath_piece64 __attribute__((vector_size(64), aligned(1), may_alias));
 
-/* For each vector type: the type itself; lanemath_border_<type>, as it crosses the border; the conversions between
- * the two; and lanemath_<type>_pair, two vectors by value. */
-#define LANEMATH_WAY(to, from, name) \
-  LANEMATH_WRAPPER to name(from v) { \
-    to r;                            \
-    memcpy(&r, &v, sizeof r);        \
-    return r;                        \
-  }
-#define LANEMATH_CROSSING(type)                                                 \
-  typedef struct {                                                              \
-    lanemath_##type first, second;                                              \
-  } lanemath_##type##_pair;                                                     \
-  typedef struct {                                                              \
-    lanemath_border_##type first, second;                                       \
-  } lanemath_border_##type##_pair;                                              \
-  LANEMATH_WAY(lanemath_border_##type, lanemath_##type, lanemath_export_##type) \
-  LANEMATH_WAY(lanemath_##type, lanemath_border_##type, lanemath_import_##type) \
-  LANEMATH_WAY(lanemath_##type##_pair, lanemath_border_##type##_pair, lanemath_import_##type##_pair)
+LANEMATH_INLINE lanemath_piece32 lanemath_join32(const char* from) {
+  lanemath_piece16 low = *(const lanemath_piece16*)from, high = *(const lanemath_piece16*)(from + 16);
+  __asm__("" : "+x"(low), "+x"(high)); /* Clang would load both at once. */
+  return __builtin_shufflevector(low, high, 0, 1, 2, 3);
+}
+LANEMATH_INLINE void lanemath_join64(char* to, const char* from) {
+  const lanemath_piece32 low = lanemath_join32(from), high = lanemath_join32(from + 32);
+#ifdef __AVX512F__
+  *(lanemath_piece64*)to = __builtin_shufflevector(low, high, 0, 1, 2, 3, 4, 5, 6, 7);
+#else
+  *(lanemath_piece32*)to = low;
+  *(lanemath_piece32*)(to + 32) = high;
+#endif
+}
+#endif
+#endif
 
-#define LANEMATH_SCALAR(type)                        \
-  typedef lanemath_##type lanemath_##type##1;        \
-  typedef lanemath_##type lanemath_border_##type##1; \
-  LANEMATH_CROSSING(type##1)
-#define LANEMATH_VECTOR(type, width, alignment)  \
-  typedef lanemath_##type lanemath_##type##width \
-      __attribute__((vector_size(width * sizeof(lanemath_##type)), aligned(alignment)));
-#define LANEMATH_NARROW(type, width)                            \
-  LANEMATH_VECTOR(type, width, width * sizeof(lanemath_##type)) \
-  typedef lanemath_##type##width lanemath_border_##type##width; \
-  LANEMATH_CROSSING(type##width)
-#define LANEMATH_WIDE(type, width)                              \
-  LANEMATH_VECTOR(type, width, 16)                              \
-  typedef struct {                                              \
-    lanemath_##type lane[width];                                \
-  } __attribute__((aligned(16))) lanemath_border_##type##width; \
-  LANEMATH_CROSSING(type##width)
-#define LANEMATH_THREE(type)                     \
-  typedef lanemath_##type##4 lanemath_##type##3; \
-  typedef lanemath_##type##4_pair lanemath_##type##3_pair;
-
-#define LANEMATH_TYPES_32(type) \
-  LANEMATH_SCALAR(type)         \
-  LANEMATH_NARROW(type, 2)      \
-  LANEMATH_NARROW(type, 4)      \
-  LANEMATH_WIDE(type, 8)        \
-  LANEMATH_WIDE(type, 16)       \
-  LANEMATH_THREE(type)
-#define LANEMATH_TYPES_64(type) \
-  LANEMATH_SCALAR(type)         \
-  LANEMATH_NARROW(type, 2)      \
-  LANEMATH_WIDE(type, 4)        \
-  LANEMATH_WIDE(type, 8)        \
-  LANEMATH_WIDE(type, 16)       \
-  LANEMATH_THREE(type)
-
-LANEMATH_TYPES_32(float)
-LANEMATH_TYPES_32(int)
-LANEMATH_TYPES_32(uint)
-LANEMATH_TYPES_64(double)
-LANEMATH_TYPES_64(long)
-LANEMATH_TYPES_64(ulong)
+/* For 8 bytes to 128. */
+LANEMATH_INLINE void lanemath_join(void* to, const void* from, size_t bytes) {
+#ifdef LANEMATH_JOINS
+  char* const t = (char*)to;
+  const char* const f = (const char*)from;
+  if (bytes == 32) *(lanemath_piece32*)t = lanemath_join32(f);
+  if (bytes >= 64) lanemath_join64(t, f);
+  if (bytes == 128) lanemath_join64(t + 64, f + 64);
+  if (bytes >= 32) return;
+#endif
+  memcpy(to, from, bytes);
+}
 
 LANEMATH_END
 
-/* The shapes of functions. LANEMATH_DECLARE(shape, operation, variant, types...) declares the six widths of one
- * accuracy variant; the types are those of the result, the arguments and, if there is one, the second result. */
-#define LANEMATH_SYMBOL(name) __ocl_lanemath_h8_##name
+/* Calls of functions with wide vectors, and the loading, storing and filling of these, as expressions. The types are
+ * those of the result, of the arguments, and of what the pointer points to. */
+#ifdef __AVX__
+#define LANEMATH_VALUE(name, T, value) \
+  lanemath_border_##T name;            \
+  *(lanemath_alias_##T*)&name = (value)
+#else /* where GCC makes better code of this */
+#define LANEMATH_VALUE(name, T, value)       \
+  const lanemath_##T name##_given = (value); \
+  lanemath_border_##T name;                  \
+  memcpy(&name, &name##_given, sizeof name)
+#endif
+#define LANEMATH_CALL(R, call)                                            \
+  const lanemath_border_##R lanemath_returned = __ocl_lanemath_h8_##call; \
+  lanemath_##R lanemath_result;                                           \
+  lanemath_join(&lanemath_result, &lanemath_returned, sizeof lanemath_result)
 
-#define LANEMATH_UNARY(name, w, R, A)                                                \
-  lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w);              \
-  LANEMATH_WRAPPER lanemath_##R##w lanemath_##name(lanemath_##A##w x) {              \
-    return lanemath_import_##R##w(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x))); \
-  }
-#define LANEMATH_BINARY(name, w, R, A, B)                                                                       \
-  lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w);                 \
-  LANEMATH_WRAPPER lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y) {                      \
-    return lanemath_import_##R##w(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y))); \
-  }
-#define LANEMATH_TERNARY(name, w, R, A, B, C)                                                                    \
-  lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w,                   \
-                                               lanemath_border_##C##w);                                          \
-  LANEMATH_WRAPPER lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y, lanemath_##C##w z) {    \
-    return lanemath_import_##R##w(                                                                               \
-        LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y), lanemath_export_##C##w(z))); \
-  }
-#define LANEMATH_UNARY_POINTER(name, w, R, A, P)                                                    \
-  lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, void*);                      \
-  LANEMATH_WRAPPER lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##P##w* second) {    \
-    return lanemath_import_##R##w(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), (void*)second)); \
-  }
-#define LANEMATH_BINARY_POINTER(name, w, R, A, B, P)                                                                \
-  lanemath_border_##R##w LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w, void*);              \
-  LANEMATH_WRAPPER lanemath_##R##w lanemath_##name(lanemath_##A##w x, lanemath_##B##w y, lanemath_##P##w* second) { \
-    return lanemath_import_##R##w(                                                                                  \
-        LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y), (void*)second));                \
-  }
-#define LANEMATH_UNARY_PAIR(name, w, R, A)                                                  \
-  lanemath_border_##R##w##_pair LANEMATH_SYMBOL(name)(lanemath_border_##A##w);              \
-  LANEMATH_WRAPPER lanemath_##R##w##_pair lanemath_##name(lanemath_##A##w x) {              \
-    return lanemath_import_##R##w##_pair(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x))); \
-  }
-#define LANEMATH_BINARY_PAIR(name, w, R, A, B)                                                                         \
-  lanemath_border_##R##w##_pair LANEMATH_SYMBOL(name)(lanemath_border_##A##w, lanemath_border_##B##w);                 \
-  LANEMATH_WRAPPER lanemath_##R##w##_pair lanemath_##name(lanemath_##A##w x, lanemath_##B##w y) {                      \
-    return lanemath_import_##R##w##_pair(LANEMATH_SYMBOL(name)(lanemath_export_##A##w(x), lanemath_export_##B##w(y))); \
-  }
+#define LANEMATH_UNARY(name, R, A, x)   \
+  __extension__({                       \
+    LANEMATH_VALUE(lanemath_x, A, x);   \
+    LANEMATH_CALL(R, name(lanemath_x)); \
+    lanemath_result;                    \
+  })
+#define LANEMATH_BINARY(name, R, A, B, x, y)        \
+  __extension__({                                   \
+    LANEMATH_VALUE(lanemath_x, A, x);               \
+    LANEMATH_VALUE(lanemath_y, B, y);               \
+    LANEMATH_CALL(R, name(lanemath_x, lanemath_y)); \
+    lanemath_result;                                \
+  })
+#define LANEMATH_TERNARY(name, R, A, B, C, x, y, z)             \
+  __extension__({                                               \
+    LANEMATH_VALUE(lanemath_x, A, x);                           \
+    LANEMATH_VALUE(lanemath_y, B, y);                           \
+    LANEMATH_VALUE(lanemath_z, C, z);                           \
+    LANEMATH_CALL(R, name(lanemath_x, lanemath_y, lanemath_z)); \
+    lanemath_result;                                            \
+  })
+#define LANEMATH_UNARY_POINTER(name, R, A, P, x, second) \
+  __extension__({                                        \
+    LANEMATH_VALUE(lanemath_x, A, x);                    \
+    lanemath_##P* const lanemath_second = (second);      \
+    LANEMATH_CALL(R, name(lanemath_x, lanemath_second)); \
+    lanemath_result;                                     \
+  })
+#define LANEMATH_BINARY_POINTER(name, R, A, B, P, x, y, second)      \
+  __extension__({                                                    \
+    LANEMATH_VALUE(lanemath_x, A, x);                                \
+    LANEMATH_VALUE(lanemath_y, B, y);                                \
+    lanemath_##P* const lanemath_second = (second);                  \
+    LANEMATH_CALL(R, name(lanemath_x, lanemath_y, lanemath_second)); \
+    lanemath_result;                                                 \
+  })
+/* Both results of the pair are of type R. */
+#define LANEMATH_PAIR_CALL(R, call)                                                              \
+  const lanemath_border_##R##_pair lanemath_returned = __ocl_lanemath_h8_##call;                 \
+  lanemath_##R##_pair lanemath_result;                                                           \
+  lanemath_join(&lanemath_result.first, &lanemath_returned.first, sizeof lanemath_result.first); \
+  lanemath_join(&lanemath_result.second, &lanemath_returned.second, sizeof lanemath_result.second)
+#define LANEMATH_UNARY_PAIR(name, R, A, x)   \
+  __extension__({                            \
+    LANEMATH_VALUE(lanemath_x, A, x);        \
+    LANEMATH_PAIR_CALL(R, name(lanemath_x)); \
+    lanemath_result;                         \
+  })
+#define LANEMATH_BINARY_PAIR(name, R, A, B, x, y)        \
+  __extension__({                                        \
+    LANEMATH_VALUE(lanemath_x, A, x);                    \
+    LANEMATH_VALUE(lanemath_y, B, y);                    \
+    LANEMATH_PAIR_CALL(R, name(lanemath_x, lanemath_y)); \
+    lanemath_result;                                     \
+  })
 
-/* clang-format off */
-#define LANEMATH_DECLARE(shape, operation, variant, ...)    \
-  LANEMATH_##shape(operation##1##variant, 1, __VA_ARGS__)   \
-  LANEMATH_##shape(operation##2##variant, 2, __VA_ARGS__)   \
-  LANEMATH_##shape(operation##3##variant, 4, __VA_ARGS__)   \
-  LANEMATH_##shape(operation##4##variant, 4, __VA_ARGS__)   \
-  LANEMATH_##shape(operation##8##variant, 8, __VA_ARGS__)   \
-  LANEMATH_##shape(operation##16##variant, 16, __VA_ARGS__)
-/* clang-format on */
+#define LANEMATH_LOAD(lane, type, from)                              \
+  __extension__({                                                    \
+    const lanemath_##lane* const lanemath_from = (from);             \
+    (lanemath_##type) * (const lanemath_alias_##type*)lanemath_from; \
+  })
+#define LANEMATH_STORE(lane, type, to, v)       \
+  __extension__({                               \
+    lanemath_##lane* const lanemath_to = (to);  \
+    *(lanemath_alias_##type*)lanemath_to = (v); \
+    (void)0;                                    \
+  })
+/* Three lanes of 64 bits. */
+#define LANEMATH_LOAD_THREE(lane, from)                                                    \
+  __extension__({                                                                          \
+    const lanemath_##lane* const lanemath_from = (from);                                   \
+    lanemath_##lane##2 lanemath_parts[2] = {{0, 0}, {lanemath_from[2], lanemath_from[2]}}; \
+    memcpy(&lanemath_parts[0], lanemath_from, sizeof lanemath_parts[0]);                   \
+    lanemath_##lane##3 lanemath_result;                                                    \
+    lanemath_join(&lanemath_result, lanemath_parts, sizeof lanemath_result);               \
+    lanemath_result;                                                                       \
+  })
+#define LANEMATH_STORE_THREE(lane, to, v)                                                                    \
+  __extension__({                                                                                            \
+    lanemath_##lane* const lanemath_to = (to);                                                               \
+    const lanemath_##lane##3 lanemath_v = (v);                                                               \
+    for (int lanemath_i = 0; lanemath_i < 3; ++lanemath_i) lanemath_to[lanemath_i] = lanemath_v[lanemath_i]; \
+  })
+/* From a filled vector of 16 bytes. */
+#define LANEMATH_FILL(part, type, value)                                                 \
+  __extension__({                                                                        \
+    const lanemath_##part lanemath_part = (value);                                       \
+    lanemath_##part lanemath_parts[sizeof(lanemath_##type) / 16];                        \
+    for (size_t lanemath_i = 0; lanemath_i < sizeof(lanemath_##type) / 16; ++lanemath_i) \
+      lanemath_parts[lanemath_i] = lanemath_part;                                        \
+    lanemath_##type lanemath_result;                                                     \
+    lanemath_join(&lanemath_result, lanemath_parts, sizeof lanemath_result);             \
+    lanemath_result;                                                                     \
+  })
+
+#include <lanemath/vectors.h>
 
 #endif

@@ -2,6 +2,8 @@
 // functions return.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
 #include <cstring>
 #include <sstream>
@@ -19,65 +21,150 @@ bool processor_has(std::string_view instructions) {
   return true;
 }
 
-// The callers' files, as <compiler>-<instructions>.so.
-std::vector<std::string> callers() {
+// The callers' files, as <compiler>-<instructions>.so, from a list.
+std::vector<std::string> callers(const char* listed) {
   std::vector<std::string> all;
-  std::istringstream list(LANEMATH_CALLERS);
+  std::istringstream list(listed);
   for (std::string path; std::getline(list, path, ':');) all.push_back(path);
   return all;
 }
 
-class Caller : public ::testing::TestWithParam<std::string> {};
+class Caller : public ::testing::TestWithParam<std::string> {
+ protected:
+  void SetUp() override {
+    const std::string& path = GetParam();
+    const auto instructions = path.substr(path.rfind('-') + 1, path.rfind('.') - path.rfind('-') - 1);
+    if (!processor_has(instructions)) GTEST_SKIP() << "this processor lacks " << instructions;
+    caller = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    ASSERT_TRUE(caller) << dlerror();
+  }
+  void TearDown() override {
+    if (caller) dlclose(caller);
+  }
+  void* caller = nullptr;
+};
 
-TEST_P(Caller, GetsEveryLaneOfEveryShape) {
-  const std::string& path = GetParam();
-  const auto instructions = path.substr(path.rfind('-') + 1, path.rfind('.') - path.rfind('-') - 1);
-  if (!processor_has(instructions)) GTEST_SKIP() << "this processor lacks " << instructions;
-  const harness::library probe(LANEMATH_PROBE);
-  void* caller = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-  ASSERT_TRUE(caller) << dlerror();
+// Compares what a caller gets with what the function returns. Returns whether the caller has such a call.
+bool compare(void* caller, std::size_t index, variant v, int width, const harness::library& library) {
+  const auto& o = catalogue[index];
+  const auto name = fmt::format("{}{}{}", o.name(), width, suffix(v));
+  const auto address = dlsym(caller, ("call_" + name).c_str());
+  if (!address) return false;
+  const auto call = reinterpret_cast<call_function>(address);
+  const auto tuples = mixed_tuples(o, 16 * 3 * 20);
+  const auto due = harness::evaluate(o, library.find(index, v, width).value(), width, tuples);
 
-  std::size_t called = 0;
-  for (std::size_t index = 0; index < catalogue.size(); ++index)
-    for (int width : widths) {
-      const auto& o = catalogue[index];
-      const auto address = dlsym(caller, fmt::format("call_{}{}", o.name(), width).c_str());
-      if (!address) continue;
-      ++called;
-      const auto call = reinterpret_cast<call_function>(address);
-      const auto f = probe.find(index, variant::standard, width);
-      ASSERT_TRUE(f) << o.name();
-      const auto tuples = mixed_tuples(o, 16 * 3 * 20);
-      const auto due = harness::evaluate(o, *f, width, tuples);
-
-      for (std::size_t n = 0; n < tuples.size(); n += width) {
-        alignas(128) std::array<std::array<std::byte, 128>, 5> buffers{};
-        for (int lane = 0; lane < width; ++lane)
-          for (int i = 0; i < o.sig.arity(); ++i) {
-            const auto size = size_of(o.sig.arguments[i]);
-            std::memcpy(&buffers[i][lane * size], &tuples[n + lane][i], size);
-          }
-        call(&buffers[0], &buffers[1], &buffers[2], &buffers[3], &buffers[4]);
-        for (int lane = 0; lane < width; ++lane) {
-          outcome got;
-          const auto size = size_of(o.sig.result), second_size = size_of(o.sig.second);
-          std::memcpy(&got.first, &buffers[3][lane * size], size);
-          if (second_size) std::memcpy(&got.second, &buffers[4][lane * second_size], second_size);
-          ASSERT_EQ(got, due[n + lane]) << o.name() << width << " lane " << lane;
-        }
+  for (std::size_t n = 0; n < tuples.size(); n += width) {
+    alignas(128) std::array<std::array<std::byte, 128>, 5> buffers{};
+    for (int lane = 0; lane < width; ++lane)
+      for (int i = 0; i < o.sig.arity(); ++i) {
+        const auto size = size_of(o.sig.arguments[i]);
+        std::memcpy(&buffers[i][lane * size], &tuples[n + lane][i], size);
       }
+    call(&buffers[0], &buffers[1], &buffers[2], &buffers[3], &buffers[4]);
+    for (int lane = 0; lane < width; ++lane) {
+      outcome got;
+      const auto size = size_of(o.sig.result), second_size = size_of(o.sig.second);
+      std::memcpy(&got.first, &buffers[3][lane * size], size);
+      if (second_size) std::memcpy(&got.second, &buffers[4][lane * second_size], second_size);
+      EXPECT_EQ(got, due[n + lane]) << name << " lane " << lane << " of " << text_of(o, tuples[n + lane]);
+      if (got != due[n + lane]) return true;
     }
-  EXPECT_EQ(called, 22u * widths.size());
-  dlclose(caller);
+  }
+  return true;
 }
 
-INSTANTIATE_TEST_SUITE_P(Compilers, Caller, ::testing::ValuesIn(callers()), [](const auto& info) {
+TEST_P(Caller, GetsEveryLaneOfEveryShape) {
+  const harness::library probe(LANEMATH_PROBE);
+  std::size_t called = 0;
+  for (std::size_t index = 0; index < catalogue.size(); ++index)
+    for (int width : widths) called += compare(caller, index, variant::standard, width, probe);
+  EXPECT_EQ(called, 22u * widths.size());
+}
+
+// A page between two that cannot be touched.
+class lone_page {
+ public:
+  lone_page() {
+    if (all_ == MAP_FAILED || mprotect(begin(), size(), PROT_READ | PROT_WRITE)) throw std::bad_alloc();
+  }
+  ~lone_page() { munmap(all_, 3 * size()); }
+  lone_page(const lone_page&) = delete;
+  lone_page& operator=(const lone_page&) = delete;
+  std::byte* begin() const { return static_cast<std::byte*>(all_) + size(); }
+  std::byte* end() const { return begin() + size(); }
+
+ private:
+  static std::size_t size() { return std::size_t(sysconf(_SC_PAGESIZE)); }
+  void* all_ = mmap(nullptr, 3 * size(), PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+};
+
+// At both ends of a page, and at any alignment next to bytes that must stay.
+void expect_exact_access(void* caller) {
+  const lone_page from, to;
+  for (auto l : {lane::f32, lane::f64, lane::i32, lane::u32, lane::i64, lane::u64})
+    for (int width : widths) {
+      const auto type = fmt::format("{}{}", type_name(l), width);
+      const auto call = [&](const char* what, const void* in, void* out) {
+        reinterpret_cast<void (*)(const void*, void*)>(dlsym(caller, (what + type).c_str()))(in, out);
+      };
+      ASSERT_TRUE(dlsym(caller, ("copy_" + type).c_str()) && dlsym(caller, ("fill_" + type).c_str())) << type;
+      const std::size_t size = size_of(l), bytes = size * width;
+      std::vector<std::byte> lanes(bytes), filled(bytes);
+      for (std::size_t i = 0; i < bytes; ++i) lanes[i] = std::byte(i + 1), filled[i] = std::byte(i % size + 1);
+
+      const auto expect_copy = [&](std::byte* in, std::byte* out) {
+        std::memcpy(in, lanes.data(), bytes);
+        call("copy_", in, out);
+        EXPECT_EQ(std::memcmp(out, lanes.data(), bytes), 0) << type;
+        call("fill_", lanes.data(), out);
+        EXPECT_EQ(std::memcmp(out, filled.data(), bytes), 0) << type;
+      };
+      expect_copy(from.begin(), to.begin());
+      expect_copy(from.end() - bytes, to.end() - bytes);
+      for (std::size_t shift = 1; shift <= 16; ++shift) {
+        std::array<std::byte, 256> in, out;
+        out.fill(std::byte(0xEE));
+        expect_copy(&in[shift], &out[shift]);
+        for (std::size_t i = 0; i < out.size(); ++i)
+          EXPECT_TRUE((i >= shift && i < shift + bytes) || out[i] == std::byte(0xEE)) << type << " at " << i - shift;
+      }
+    }
+}
+
+TEST_P(Caller, LoadsStoresAndFillsExactlyTheLanes) { expect_exact_access(caller); }
+
+class CppCaller : public Caller {
+ protected:
+  bool call(const char* name) const {
+    const auto address = dlsym(caller, name);
+    return address && reinterpret_cast<bool (*)()>(address)();
+  }
+};
+
+TEST_P(CppCaller, GetsEveryLaneOfEveryFunction) {
+  const harness::library library(LANEMATH_LIBRARY);
+  for (std::size_t index = 0; index < catalogue.size(); ++index)
+    for (auto v : variants)
+      for (int width : widths)
+        EXPECT_EQ(compare(caller, index, v, width, library), catalogue[index].has(v)) << catalogue[index].name();
+}
+
+TEST_P(CppCaller, LoadsStoresAndFillsExactlyTheLanes) { expect_exact_access(caller); }
+
+TEST_P(CppCaller, WorksOverAllTypesAndWidths) { EXPECT_TRUE(call("generic_code_works")); }
+
+TEST_P(CppCaller, FindsResultsByName) { EXPECT_TRUE(call("names_are_right")); }
+
+std::string name_of(const ::testing::TestParamInfo<std::string>& info) {
   std::string name = info.param.substr(info.param.rfind('/') + 1);
   name = name.substr(0, name.rfind('.'));
   std::replace_if(
       name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
   return name;
-});
+}
+INSTANTIATE_TEST_SUITE_P(Compilers, Caller, ::testing::ValuesIn(callers(LANEMATH_CALLERS)), name_of);
+INSTANTIATE_TEST_SUITE_P(Compilers, CppCaller, ::testing::ValuesIn(callers(LANEMATH_CPP_CALLERS)), name_of);
 
 }  // namespace
 }  // namespace lanemath::testing

@@ -98,3 +98,23 @@ CALL(UNARY, cvtfptoi64rtesatf, long, float)
 CALL(UNARY, cvti64tofprtef, float, long)
 CALL(UNARY, cvti32tofprte, double, int)
 CALL(UNARY, cvtfp64tofp32rte, float, double)
+
+/* Loading, storing and filling. */
+#define ACCESS(type, width)                                                                      \
+  EXPORT void copy_##type##width(const void* from, void* to) {                                   \
+    const lanemath_##type##width v = lanemath_load_##type##width((const lanemath_##type*)from);  \
+    lanemath_store_##type##width((lanemath_##type*)to, v);                                       \
+  }                                                                                              \
+  EXPORT void fill_##type##width(const void* from, void* to) {                                   \
+    const lanemath_##type##width v = lanemath_fill_##type##width(*(const lanemath_##type*)from); \
+    lanemath_store_##type##width((lanemath_##type*)to, v);                                       \
+  }
+#define ACCESS_ALL(type) \
+  ACCESS(type, 1) ACCESS(type, 2) ACCESS(type, 3) ACCESS(type, 4) ACCESS(type, 8) ACCESS(type, 16)
+
+ACCESS_ALL(float)
+ACCESS_ALL(double)
+ACCESS_ALL(int)
+ACCESS_ALL(uint)
+ACCESS_ALL(long)
+ACCESS_ALL(ulong)

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "accuracy/errors.h"
+#include "documentation.h"
 #include "generate.h"
 #include "opencl_forms.h"
 
@@ -192,14 +193,8 @@ void write_loops_header(std::FILE* out) {
 
 LANEMATH_BEGIN
 
-/* A function is declared under its own name, or is an inline call of the one in the library. */
-#ifdef LANEMATH_NAMED
 #define LANEMATH_LOOP(result, name, ...) \
   result lanemath_##name(__VA_ARGS__) __attribute__((simd("notinbranch"), const));
-#else
-#define LANEMATH_LOOP(result, name, ...) \
-  result __ocl_lanemath_h8_##name(__VA_ARGS__) __attribute__((simd("notinbranch"), const));
-#endif
 )");
   for_each_loop_function([&](const operation& o, variant v) {
     fmt::print(out, "LANEMATH_LOOP({}, {}1{}, {})\n", c_type(o.sig.result), o.name(), suffix(v), argument_types(o.sig));

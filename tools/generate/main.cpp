@@ -44,6 +44,12 @@ int main(int argc, char** argv) try {
     write_public_header(out.stream(), argv[2]);
   } else if (what == "companion" && argc == 3) {
     write_companion(out.stream(), argv[2]);
+  } else if (what == "vectors-header" && argc == 2) {
+    write_vectors_header(out.stream());
+  } else if (what == "cpp-header" && argc == 2) {
+    write_cpp_header(out.stream());
+  } else if (what == "cpp-calls" && argc == 2) {
+    write_cpp_calls(out.stream());
   } else if (what == "opencl-kinds" && argc == 2) {
     for (const auto& on : machines)
       if (!on.features.empty()) fmt::print(out.stream(), "{} {}\n", on.kind, on.features);
@@ -54,12 +60,11 @@ int main(int argc, char** argv) try {
   } else if (what == "opencl-crossings" && argc == 4) {
     write_opencl_crossings(out.stream(), machine_of_kind(argv[2]), exported_names_in(argv[3]));
   } else {
-    fmt::print(
-        stderr,
-        "usage: {} export-list | public-header FAMILY | companion FILE | opencl-kinds |\n"
-        "       opencl-processor KIND | opencl-builtins KIND EXPORTED_NAMES | opencl-crossings KIND EXPORTED_NAMES\n"
-        "       [--output FILE]\n",
-        argv[0]);
+    fmt::print(stderr,
+               "usage: {} export-list | public-header FAMILY | vectors-header | cpp-header | cpp-calls |\n"
+               "       companion FILE | opencl-kinds | opencl-processor KIND |\n"
+               "       opencl-builtins KIND EXPORTED_NAMES | opencl-crossings KIND EXPORTED_NAMES [--output FILE]\n",
+               argv[0]);
     return 2;
   }
   out.write(path);

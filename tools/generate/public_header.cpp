@@ -1,4 +1,4 @@
-// The public header of one family: documentation and declarations.
+// The public header of one family: every function with its documentation.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
@@ -9,9 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "accuracy/errors.h"
+#include "documentation.h"
 #include "families.h"
 #include "generate.h"
+#include "names.h"
 
 namespace {
 
@@ -23,53 +24,48 @@ std::string_view shape(const signature& s) {
   return s.arity() == 1 ? "UNARY_PAIR" : "BINARY_PAIR";
 }
 
-// The types that a declaration of this shape takes: result, arguments, what the pointer points to.
-std::vector<std::string_view> types(const signature& s) {
-  std::vector<std::string_view> all{type_name(s.result)};
-  for (int i = 0; i < s.arity(); ++i) all.push_back(type_name(s.arguments[i]));
-  if (s.how == delivery::pointer) all.push_back(type_name(s.second));
-  return all;
-}
+// One function: a declaration, or an inline definition and the macro of the same text.
+void write_function(std::FILE* out, const operation& o, variant v, int width) {
+  const auto& s = o.sig;
+  const auto vector = [&](lane l) { return vector_name(l, width); };
+  const auto name = fmt::format("{}{}{}", o.name(), width, suffix(v));
 
-std::string call(const operation& o) {
-  constexpr std::array names{"x", "y", "z"};
-  std::vector<std::string> parameters;
-  for (int i = 0; i < o.sig.arity(); ++i)
-    parameters.push_back(fmt::format("{} {}", type_name(o.sig.arguments[i]), names[i]));
-  if (o.sig.how == delivery::pointer) parameters.push_back(fmt::format("{}* second", type_name(o.sig.second)));
-  const auto result = o.sig.how == delivery::pair ? fmt::format("({0}, {0})", type_name(o.sig.result))
-                                                  : std::string(type_name(o.sig.result));
-  return fmt::format("{} {}({})", result, o.name(), fmt::join(parameters, ", "));
-}
-
-std::string bound_text(const operation& o) {
-  if (is_exact(o.group) && bound_of(o, variant::standard, 1) == 0) return "";
-  std::vector<std::string> forms;
-  for (auto v : variants) {
-    if (!o.has(v)) continue;
-    const auto name = v == variant::standard ? "default" : suffix(v);
-    // One width without an algorithm of its own stands for all that share its bound.
-    for (int width : widths)
-      if (!o.is_standalone(width, v)) {
-        if (const auto bound = bound_of(o, v, width)) forms.push_back(fmt::format("{} {:g}", name, *bound));
-        break;
-      }
-    for (int width : widths)
-      if (o.is_standalone(width, v))
-        if (const auto bound = bound_of(o, v, width))
-          forms.push_back(fmt::format("{} at width {} {:g}", name, width, *bound));
+  std::string_view pair = s.how == delivery::pair ? "_pair" : "";
+  bool wide = is_wide(s.result, width);
+  std::vector<std::string> types{vector(s.result)}, names, parameters, border;
+  for (int i = 0; i < s.arity(); ++i) {
+    wide |= is_wide(s.arguments[i], width);
+    types.push_back(vector(s.arguments[i]));
+    names.emplace_back(std::array{"x", "y", "z"}[i]);
+    parameters.push_back(fmt::format("lanemath_{} {}", types.back(), names.back()));
+    border.push_back("lanemath_border_" + types.back());
   }
-  return forms.empty() ? "" : fmt::format("\n * Largest error in ulp: {}.", fmt::join(forms, "; "));
+  if (s.how == delivery::pointer) {
+    types.push_back(vector(s.second));
+    names.emplace_back(results_of(o).second);
+    parameters.push_back(fmt::format("lanemath_{}* {}", types.back(), names.back()));
+    border.push_back(fmt::format("lanemath_{}*", types.back()));
+  }
+
+  const auto comment = documentation(description(o, v, width));
+  const auto prototype =
+      fmt::format("lanemath_{}{} lanemath_{}({})", types[0], pair, name, fmt::join(parameters, ", "));
+  if (!wide) {
+    fmt::print(out, "{}{} LANEMATH_NAMED(\"{}\");\n", comment, prototype, name);
+    return;
+  }
+  const auto call =
+      fmt::format("LANEMATH_{}({}, {}, {})", shape(s), name, fmt::join(types, ", "), fmt::join(names, ", "));
+  // The macro holds the documentation too, for editors that show the definition of what they point at.
+  fmt::print(out,
+             "lanemath_border_{}{} {}{}({});\n"
+             "{}LANEMATH_INLINE {} {{\n  return {};\n}}\n"
+             "#define lanemath_{}({}) \\\n{} \\\n  {}\n",
+             types[0], pair, symbol_prefix, name, fmt::join(border, ", "), comment, prototype, call, name,
+             fmt::join(names, ", "), std::string_view(comment).substr(0, comment.size() - 1), call);
 }
 
 }  // namespace
-
-std::string brief_of(const operation& o) {
-  if (!o.brief.empty()) return std::string(o.brief);
-  const auto rounding = std::array{"to nearest even", "down", "up", "toward zero"}.at(std::size_t(o.rounding));
-  return fmt::format("{} to {}, rounded {}{}", type_name(o.sig.arguments[0]), type_name(o.sig.result), rounding,
-                     o.saturates ? ", clamped to the range of the result" : "");
-}
 
 void write_public_header(std::FILE* out, const char* family_name) {
   const auto text = std::find_if(std::begin(families), std::end(families),
@@ -78,21 +74,18 @@ void write_public_header(std::FILE* out, const char* family_name) {
 
   std::string guard = fmt::format("LANEMATH_{}_H", family_name);
   std::transform(guard.begin(), guard.end(), guard.begin(), [](unsigned char c) { return std::toupper(c); });
-  std::string about(text->about);
-  for (std::size_t at = 0; (at = about.find('\n', at)) != about.npos; at += 4) about.replace(at, 1, "\n * ");
-
   fmt::print(out,
-             "/* {}.\n *\n * {}\n *\n"
-             " * Each function exists at widths 1, 2, 3, 4, 8 and 16, as lanemath_<operation><width><variant>. */\n"
-             "#ifndef {}\n#define {}\n\n#include <lanemath/types.h>\n\nLANEMATH_BEGIN\n",
-             text->title, about, guard, guard);
-  for (const auto& o : catalogue) {
-    if (o.group != text->group) continue;
-    fmt::print(out, "\n/* {}\n * {}.{} */\n", call(o), brief_of(o), bound_text(o));
-    for (auto v : variants)
-      if (o.has(v))
-        fmt::print(out, "LANEMATH_DECLARE({}, {}, {}, {})\n", shape(o.sig), o.name(), suffix(v),
-                   fmt::join(types(o.sig), ", "));
-  }
+             "{}#ifndef {}\n#define {}\n\n#include <lanemath/types.h>\n\n#pragma GCC system_header\n\nLANEMATH_BEGIN\n",
+             head(fmt::format("{}.\n\n{}\n\nEach function exists at widths 1, 2, 3, 4, 8 and 16, as "
+                              "lanemath_<operation><width><variant>.",
+                              text->title, text->about)),
+             guard, guard);
+  for (const auto& o : catalogue)
+    if (o.group == text->group)
+      for (auto v : variants)
+        if (o.has(v)) {
+          fmt::print(out, "\n");
+          for (int width : widths) write_function(out, o, v, width);
+        }
   fmt::print(out, "\nLANEMATH_END\n\n#endif\n");
 }

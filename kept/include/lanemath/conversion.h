@@ -1,11 +1,12 @@
 /* Conversions.
  *
  * Between lanes of 32 and 64 bits, floating and integer, with the rounding in the name: rte to nearest even, rtn
- * down, rtp up, rtz toward zero. Floating to integer: the same whatever the current rounding direction. sat clamps to
- * the integer type's range and gives 0 for a NaN, except with 32-bit unsigned results, where a NaN with its sign clear
- * gives the largest integer. Without sat, NaNs and values that do not fit give 0x80000000 or 0x8000000000000000, and
- * unsigned results are the magnitude of the rounded value. Integer to floating: rte follows the current direction; the
- * others require that it is to nearest. double to float: rte follows the current direction, the others do not.
+ * down, rtp up, rtz toward zero. Floating to integer: the same whatever the current rounding direction. sat clamps
+ * to the integer type's range and gives 0 for a NaN, except with 32-bit unsigned results, where a NaN with its sign
+ * clear gives the largest integer. Without sat, NaNs and values that do not fit give 0x80000000 or
+ * 0x8000000000000000, and unsigned results are the magnitude of the rounded value. Integer to floating: rte follows
+ * the current direction; the others require that it is to nearest. double to float: rte follows the current
+ * direction, the others do not.
  *
  * Each function exists at widths 1, 2, 3, 4, 8 and 16, as lanemath_<operation><width><variant>. */
 #ifndef LANEMATH_CONVERSION_H
@@ -13,407 +14,4373 @@
 
 #include <lanemath/types.h>
 
+#pragma GCC system_header
+
 LANEMATH_BEGIN
 
-/* int cvtfptoi32rtesat(double x)
- * double to int, rounded to nearest even, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtesat, , int, double)
-
-/* int cvtfptoi32rtesatf(float x)
- * float to int, rounded to nearest even, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtesatf, , int, float)
-
-/* int cvtfptoi32rtenosat(double x)
- * double to int, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtenosat, , int, double)
-
-/* int cvtfptoi32rtenosatf(float x)
- * float to int, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtenosatf, , int, float)
-
-/* int cvtfptoi32rtnsat(double x)
- * double to int, rounded down, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtnsat, , int, double)
-
-/* int cvtfptoi32rtnsatf(float x)
- * float to int, rounded down, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtnsatf, , int, float)
-
-/* int cvtfptoi32rtnnosat(double x)
- * double to int, rounded down. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtnnosat, , int, double)
-
-/* int cvtfptoi32rtnnosatf(float x)
- * float to int, rounded down. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtnnosatf, , int, float)
-
-/* int cvtfptoi32rtpsat(double x)
- * double to int, rounded up, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtpsat, , int, double)
-
-/* int cvtfptoi32rtpsatf(float x)
- * float to int, rounded up, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtpsatf, , int, float)
-
-/* int cvtfptoi32rtpnosat(double x)
- * double to int, rounded up. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtpnosat, , int, double)
-
-/* int cvtfptoi32rtpnosatf(float x)
- * float to int, rounded up. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtpnosatf, , int, float)
-
-/* int cvtfptoi32rtzsat(double x)
- * double to int, rounded toward zero, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtzsat, , int, double)
-
-/* int cvtfptoi32rtzsatf(float x)
- * float to int, rounded toward zero, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtzsatf, , int, float)
-
-/* int cvtfptoi32rtznosat(double x)
- * double to int, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtznosat, , int, double)
-
-/* int cvtfptoi32rtznosatf(float x)
- * float to int, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvtfptoi32rtznosatf, , int, float)
-
-/* uint cvtfptou32rtesat(double x)
- * double to uint, rounded to nearest even, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtesat, , uint, double)
-
-/* uint cvtfptou32rtesatf(float x)
- * float to uint, rounded to nearest even, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtesatf, , uint, float)
-
-/* uint cvtfptou32rtenosat(double x)
- * double to uint, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtenosat, , uint, double)
-
-/* uint cvtfptou32rtenosatf(float x)
- * float to uint, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtenosatf, , uint, float)
-
-/* uint cvtfptou32rtnsat(double x)
- * double to uint, rounded down, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtnsat, , uint, double)
-
-/* uint cvtfptou32rtnsatf(float x)
- * float to uint, rounded down, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtnsatf, , uint, float)
-
-/* uint cvtfptou32rtnnosat(double x)
- * double to uint, rounded down. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtnnosat, , uint, double)
-
-/* uint cvtfptou32rtnnosatf(float x)
- * float to uint, rounded down. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtnnosatf, , uint, float)
-
-/* uint cvtfptou32rtpsat(double x)
- * double to uint, rounded up, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtpsat, , uint, double)
-
-/* uint cvtfptou32rtpsatf(float x)
- * float to uint, rounded up, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtpsatf, , uint, float)
-
-/* uint cvtfptou32rtpnosat(double x)
- * double to uint, rounded up. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtpnosat, , uint, double)
-
-/* uint cvtfptou32rtpnosatf(float x)
- * float to uint, rounded up. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtpnosatf, , uint, float)
-
-/* uint cvtfptou32rtzsat(double x)
- * double to uint, rounded toward zero, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtzsat, , uint, double)
-
-/* uint cvtfptou32rtzsatf(float x)
- * float to uint, rounded toward zero, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtzsatf, , uint, float)
-
-/* uint cvtfptou32rtznosat(double x)
- * double to uint, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtznosat, , uint, double)
-
-/* uint cvtfptou32rtznosatf(float x)
- * float to uint, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvtfptou32rtznosatf, , uint, float)
-
-/* long cvtfptoi64rtesat(double x)
- * double to long, rounded to nearest even, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtesat, , long, double)
-
-/* long cvtfptoi64rtesatf(float x)
- * float to long, rounded to nearest even, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtesatf, , long, float)
-
-/* long cvtfptoi64rtenosat(double x)
- * double to long, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtenosat, , long, double)
-
-/* long cvtfptoi64rtenosatf(float x)
- * float to long, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtenosatf, , long, float)
-
-/* long cvtfptoi64rtnsat(double x)
- * double to long, rounded down, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtnsat, , long, double)
-
-/* long cvtfptoi64rtnsatf(float x)
- * float to long, rounded down, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtnsatf, , long, float)
-
-/* long cvtfptoi64rtnnosat(double x)
- * double to long, rounded down. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtnnosat, , long, double)
-
-/* long cvtfptoi64rtnnosatf(float x)
- * float to long, rounded down. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtnnosatf, , long, float)
-
-/* long cvtfptoi64rtpsat(double x)
- * double to long, rounded up, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtpsat, , long, double)
-
-/* long cvtfptoi64rtpsatf(float x)
- * float to long, rounded up, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtpsatf, , long, float)
-
-/* long cvtfptoi64rtpnosat(double x)
- * double to long, rounded up. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtpnosat, , long, double)
-
-/* long cvtfptoi64rtpnosatf(float x)
- * float to long, rounded up. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtpnosatf, , long, float)
-
-/* long cvtfptoi64rtzsat(double x)
- * double to long, rounded toward zero, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtzsat, , long, double)
-
-/* long cvtfptoi64rtzsatf(float x)
- * float to long, rounded toward zero, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtzsatf, , long, float)
-
-/* long cvtfptoi64rtznosat(double x)
- * double to long, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtznosat, , long, double)
-
-/* long cvtfptoi64rtznosatf(float x)
- * float to long, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvtfptoi64rtznosatf, , long, float)
-
-/* ulong cvtfptou64rtesat(double x)
- * double to ulong, rounded to nearest even, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtesat, , ulong, double)
-
-/* ulong cvtfptou64rtesatf(float x)
- * float to ulong, rounded to nearest even, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtesatf, , ulong, float)
-
-/* ulong cvtfptou64rtenosat(double x)
- * double to ulong, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtenosat, , ulong, double)
-
-/* ulong cvtfptou64rtenosatf(float x)
- * float to ulong, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtenosatf, , ulong, float)
-
-/* ulong cvtfptou64rtnsat(double x)
- * double to ulong, rounded down, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtnsat, , ulong, double)
-
-/* ulong cvtfptou64rtnsatf(float x)
- * float to ulong, rounded down, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtnsatf, , ulong, float)
-
-/* ulong cvtfptou64rtnnosat(double x)
- * double to ulong, rounded down. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtnnosat, , ulong, double)
-
-/* ulong cvtfptou64rtnnosatf(float x)
- * float to ulong, rounded down. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtnnosatf, , ulong, float)
-
-/* ulong cvtfptou64rtpsat(double x)
- * double to ulong, rounded up, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtpsat, , ulong, double)
-
-/* ulong cvtfptou64rtpsatf(float x)
- * float to ulong, rounded up, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtpsatf, , ulong, float)
-
-/* ulong cvtfptou64rtpnosat(double x)
- * double to ulong, rounded up. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtpnosat, , ulong, double)
-
-/* ulong cvtfptou64rtpnosatf(float x)
- * float to ulong, rounded up. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtpnosatf, , ulong, float)
-
-/* ulong cvtfptou64rtzsat(double x)
- * double to ulong, rounded toward zero, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtzsat, , ulong, double)
-
-/* ulong cvtfptou64rtzsatf(float x)
- * float to ulong, rounded toward zero, clamped to the range of the result. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtzsatf, , ulong, float)
-
-/* ulong cvtfptou64rtznosat(double x)
- * double to ulong, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtznosat, , ulong, double)
-
-/* ulong cvtfptou64rtznosatf(float x)
- * float to ulong, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvtfptou64rtznosatf, , ulong, float)
-
-/* double cvti32tofprte(int x)
- * int to double, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvti32tofprte, , double, int)
-
-/* float cvti32tofprtef(int x)
- * int to float, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvti32tofprtef, , float, int)
-
-/* double cvti32tofprtn(int x)
- * int to double, rounded down. */
-LANEMATH_DECLARE(UNARY, cvti32tofprtn, , double, int)
-
-/* float cvti32tofprtnf(int x)
- * int to float, rounded down. */
-LANEMATH_DECLARE(UNARY, cvti32tofprtnf, , float, int)
-
-/* double cvti32tofprtp(int x)
- * int to double, rounded up. */
-LANEMATH_DECLARE(UNARY, cvti32tofprtp, , double, int)
-
-/* float cvti32tofprtpf(int x)
- * int to float, rounded up. */
-LANEMATH_DECLARE(UNARY, cvti32tofprtpf, , float, int)
-
-/* double cvti32tofprtz(int x)
- * int to double, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvti32tofprtz, , double, int)
-
-/* float cvti32tofprtzf(int x)
- * int to float, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvti32tofprtzf, , float, int)
-
-/* double cvtu32tofprte(uint x)
- * uint to double, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvtu32tofprte, , double, uint)
-
-/* float cvtu32tofprtef(uint x)
- * uint to float, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvtu32tofprtef, , float, uint)
-
-/* double cvtu32tofprtn(uint x)
- * uint to double, rounded down. */
-LANEMATH_DECLARE(UNARY, cvtu32tofprtn, , double, uint)
-
-/* float cvtu32tofprtnf(uint x)
- * uint to float, rounded down. */
-LANEMATH_DECLARE(UNARY, cvtu32tofprtnf, , float, uint)
-
-/* double cvtu32tofprtp(uint x)
- * uint to double, rounded up. */
-LANEMATH_DECLARE(UNARY, cvtu32tofprtp, , double, uint)
-
-/* float cvtu32tofprtpf(uint x)
- * uint to float, rounded up. */
-LANEMATH_DECLARE(UNARY, cvtu32tofprtpf, , float, uint)
-
-/* double cvtu32tofprtz(uint x)
- * uint to double, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvtu32tofprtz, , double, uint)
-
-/* float cvtu32tofprtzf(uint x)
- * uint to float, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvtu32tofprtzf, , float, uint)
-
-/* double cvti64tofprte(long x)
- * long to double, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvti64tofprte, , double, long)
-
-/* float cvti64tofprtef(long x)
- * long to float, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvti64tofprtef, , float, long)
-
-/* double cvti64tofprtn(long x)
- * long to double, rounded down. */
-LANEMATH_DECLARE(UNARY, cvti64tofprtn, , double, long)
-
-/* float cvti64tofprtnf(long x)
- * long to float, rounded down. */
-LANEMATH_DECLARE(UNARY, cvti64tofprtnf, , float, long)
-
-/* double cvti64tofprtp(long x)
- * long to double, rounded up. */
-LANEMATH_DECLARE(UNARY, cvti64tofprtp, , double, long)
-
-/* float cvti64tofprtpf(long x)
- * long to float, rounded up. */
-LANEMATH_DECLARE(UNARY, cvti64tofprtpf, , float, long)
-
-/* double cvti64tofprtz(long x)
- * long to double, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvti64tofprtz, , double, long)
-
-/* float cvti64tofprtzf(long x)
- * long to float, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvti64tofprtzf, , float, long)
-
-/* double cvtu64tofprte(ulong x)
- * ulong to double, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvtu64tofprte, , double, ulong)
-
-/* float cvtu64tofprtef(ulong x)
- * ulong to float, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvtu64tofprtef, , float, ulong)
-
-/* double cvtu64tofprtn(ulong x)
- * ulong to double, rounded down. */
-LANEMATH_DECLARE(UNARY, cvtu64tofprtn, , double, ulong)
-
-/* float cvtu64tofprtnf(ulong x)
- * ulong to float, rounded down. */
-LANEMATH_DECLARE(UNARY, cvtu64tofprtnf, , float, ulong)
-
-/* double cvtu64tofprtp(ulong x)
- * ulong to double, rounded up. */
-LANEMATH_DECLARE(UNARY, cvtu64tofprtp, , double, ulong)
-
-/* float cvtu64tofprtpf(ulong x)
- * ulong to float, rounded up. */
-LANEMATH_DECLARE(UNARY, cvtu64tofprtpf, , float, ulong)
-
-/* double cvtu64tofprtz(ulong x)
- * ulong to double, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvtu64tofprtz, , double, ulong)
-
-/* float cvtu64tofprtzf(ulong x)
- * ulong to float, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvtu64tofprtzf, , float, ulong)
-
-/* float cvtfp64tofp32rte(double x)
- * double to float, rounded to nearest even. */
-LANEMATH_DECLARE(UNARY, cvtfp64tofp32rte, , float, double)
-
-/* float cvtfp64tofp32rtn(double x)
- * double to float, rounded down. */
-LANEMATH_DECLARE(UNARY, cvtfp64tofp32rtn, , float, double)
-
-/* float cvtfp64tofp32rtp(double x)
- * double to float, rounded up. */
-LANEMATH_DECLARE(UNARY, cvtfp64tofp32rtp, , float, double)
-
-/* float cvtfp64tofp32rtz(double x)
- * double to float, rounded toward zero. */
-LANEMATH_DECLARE(UNARY, cvtfp64tofp32rtz, , float, double)
+/** double to int, rounded to nearest even, clamped to the range of the result; one double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtesat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi32rtesat1");
+/** double to int, rounded to nearest even, clamped to the range of the result; 2 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtesat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi32rtesat2");
+lanemath_border_int3 __ocl_lanemath_h8_cvtfptoi32rtesat3(lanemath_border_double3);
+/** double to int, rounded to nearest even, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int3 lanemath_cvtfptoi32rtesat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtesat3, int3, double3, x);
+}
+#define lanemath_cvtfptoi32rtesat3(x) \
+/** double to int, rounded to nearest even, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtesat3, int3, double3, x)
+lanemath_border_int4 __ocl_lanemath_h8_cvtfptoi32rtesat4(lanemath_border_double4);
+/** double to int, rounded to nearest even, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int4 lanemath_cvtfptoi32rtesat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtesat4, int4, double4, x);
+}
+#define lanemath_cvtfptoi32rtesat4(x) \
+/** double to int, rounded to nearest even, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtesat4, int4, double4, x)
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtesat8(lanemath_border_double8);
+/** double to int, rounded to nearest even, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtesat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtesat8, int8, double8, x);
+}
+#define lanemath_cvtfptoi32rtesat8(x) \
+/** double to int, rounded to nearest even, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtesat8, int8, double8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtesat16(lanemath_border_double16);
+/** double to int, rounded to nearest even, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtesat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtesat16, int16, double16, x);
+}
+#define lanemath_cvtfptoi32rtesat16(x) \
+/** double to int, rounded to nearest even, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtesat16, int16, double16, x)
+
+/** float to int, rounded to nearest even, clamped to the range of the result; one float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtesatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi32rtesatf1");
+/** float to int, rounded to nearest even, clamped to the range of the result; 2 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtesatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi32rtesatf2");
+/** float to int, rounded to nearest even, clamped to the range of the result; 3 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int3 lanemath_cvtfptoi32rtesatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptoi32rtesatf3");
+/** float to int, rounded to nearest even, clamped to the range of the result; 4 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int4 lanemath_cvtfptoi32rtesatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptoi32rtesatf4");
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtesatf8(lanemath_border_float8);
+/** float to int, rounded to nearest even, clamped to the range of the result; 8 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtesatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtesatf8, int8, float8, x);
+}
+#define lanemath_cvtfptoi32rtesatf8(x) \
+/** float to int, rounded to nearest even, clamped to the range of the result; 8 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtesatf8, int8, float8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtesatf16(lanemath_border_float16);
+/** float to int, rounded to nearest even, clamped to the range of the result; 16 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtesatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtesatf16, int16, float16, x);
+}
+#define lanemath_cvtfptoi32rtesatf16(x) \
+/** float to int, rounded to nearest even, clamped to the range of the result; 16 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtesatf16, int16, float16, x)
+
+/** double to int, rounded to nearest even; one double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtenosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi32rtenosat1");
+/** double to int, rounded to nearest even; 2 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtenosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi32rtenosat2");
+lanemath_border_int3 __ocl_lanemath_h8_cvtfptoi32rtenosat3(lanemath_border_double3);
+/** double to int, rounded to nearest even; 3 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int3 lanemath_cvtfptoi32rtenosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtenosat3, int3, double3, x);
+}
+#define lanemath_cvtfptoi32rtenosat3(x) \
+/** double to int, rounded to nearest even; 3 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtenosat3, int3, double3, x)
+lanemath_border_int4 __ocl_lanemath_h8_cvtfptoi32rtenosat4(lanemath_border_double4);
+/** double to int, rounded to nearest even; 4 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int4 lanemath_cvtfptoi32rtenosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtenosat4, int4, double4, x);
+}
+#define lanemath_cvtfptoi32rtenosat4(x) \
+/** double to int, rounded to nearest even; 4 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtenosat4, int4, double4, x)
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtenosat8(lanemath_border_double8);
+/** double to int, rounded to nearest even; 8 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtenosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtenosat8, int8, double8, x);
+}
+#define lanemath_cvtfptoi32rtenosat8(x) \
+/** double to int, rounded to nearest even; 8 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtenosat8, int8, double8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtenosat16(lanemath_border_double16);
+/** double to int, rounded to nearest even; 16 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtenosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtenosat16, int16, double16, x);
+}
+#define lanemath_cvtfptoi32rtenosat16(x) \
+/** double to int, rounded to nearest even; 16 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtenosat16, int16, double16, x)
+
+/** float to int, rounded to nearest even; one float. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtenosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi32rtenosatf1");
+/** float to int, rounded to nearest even; 2 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtenosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi32rtenosatf2");
+/** float to int, rounded to nearest even; 3 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_int3 lanemath_cvtfptoi32rtenosatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptoi32rtenosatf3");
+/** float to int, rounded to nearest even; 4 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_int4 lanemath_cvtfptoi32rtenosatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptoi32rtenosatf4");
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtenosatf8(lanemath_border_float8);
+/** float to int, rounded to nearest even; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtenosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtenosatf8, int8, float8, x);
+}
+#define lanemath_cvtfptoi32rtenosatf8(x) \
+/** float to int, rounded to nearest even; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtenosatf8, int8, float8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtenosatf16(lanemath_border_float16);
+/** float to int, rounded to nearest even; 16 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtenosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtenosatf16, int16, float16, x);
+}
+#define lanemath_cvtfptoi32rtenosatf16(x) \
+/** float to int, rounded to nearest even; 16 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtenosatf16, int16, float16, x)
+
+/** double to int, rounded down, clamped to the range of the result; one double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtnsat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi32rtnsat1");
+/** double to int, rounded down, clamped to the range of the result; 2 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtnsat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi32rtnsat2");
+lanemath_border_int3 __ocl_lanemath_h8_cvtfptoi32rtnsat3(lanemath_border_double3);
+/** double to int, rounded down, clamped to the range of the result; 3 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int3 lanemath_cvtfptoi32rtnsat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtnsat3, int3, double3, x);
+}
+#define lanemath_cvtfptoi32rtnsat3(x) \
+/** double to int, rounded down, clamped to the range of the result; 3 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtnsat3, int3, double3, x)
+lanemath_border_int4 __ocl_lanemath_h8_cvtfptoi32rtnsat4(lanemath_border_double4);
+/** double to int, rounded down, clamped to the range of the result; 4 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int4 lanemath_cvtfptoi32rtnsat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtnsat4, int4, double4, x);
+}
+#define lanemath_cvtfptoi32rtnsat4(x) \
+/** double to int, rounded down, clamped to the range of the result; 4 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtnsat4, int4, double4, x)
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtnsat8(lanemath_border_double8);
+/** double to int, rounded down, clamped to the range of the result; 8 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtnsat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtnsat8, int8, double8, x);
+}
+#define lanemath_cvtfptoi32rtnsat8(x) \
+/** double to int, rounded down, clamped to the range of the result; 8 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtnsat8, int8, double8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtnsat16(lanemath_border_double16);
+/** double to int, rounded down, clamped to the range of the result; 16 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtnsat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtnsat16, int16, double16, x);
+}
+#define lanemath_cvtfptoi32rtnsat16(x) \
+/** double to int, rounded down, clamped to the range of the result; 16 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtnsat16, int16, double16, x)
+
+/** float to int, rounded down, clamped to the range of the result; one float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtnsatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi32rtnsatf1");
+/** float to int, rounded down, clamped to the range of the result; 2 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtnsatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi32rtnsatf2");
+/** float to int, rounded down, clamped to the range of the result; 3 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int3 lanemath_cvtfptoi32rtnsatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptoi32rtnsatf3");
+/** float to int, rounded down, clamped to the range of the result; 4 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int4 lanemath_cvtfptoi32rtnsatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptoi32rtnsatf4");
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtnsatf8(lanemath_border_float8);
+/** float to int, rounded down, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtnsatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtnsatf8, int8, float8, x);
+}
+#define lanemath_cvtfptoi32rtnsatf8(x) \
+/** float to int, rounded down, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtnsatf8, int8, float8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtnsatf16(lanemath_border_float16);
+/** float to int, rounded down, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtnsatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtnsatf16, int16, float16, x);
+}
+#define lanemath_cvtfptoi32rtnsatf16(x) \
+/** float to int, rounded down, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtnsatf16, int16, float16, x)
+
+/** double to int, rounded down; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtnnosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi32rtnnosat1");
+/** double to int, rounded down; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtnnosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi32rtnnosat2");
+lanemath_border_int3 __ocl_lanemath_h8_cvtfptoi32rtnnosat3(lanemath_border_double3);
+/** double to int, rounded down; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int3 lanemath_cvtfptoi32rtnnosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtnnosat3, int3, double3, x);
+}
+#define lanemath_cvtfptoi32rtnnosat3(x) \
+/** double to int, rounded down; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtnnosat3, int3, double3, x)
+lanemath_border_int4 __ocl_lanemath_h8_cvtfptoi32rtnnosat4(lanemath_border_double4);
+/** double to int, rounded down; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int4 lanemath_cvtfptoi32rtnnosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtnnosat4, int4, double4, x);
+}
+#define lanemath_cvtfptoi32rtnnosat4(x) \
+/** double to int, rounded down; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtnnosat4, int4, double4, x)
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtnnosat8(lanemath_border_double8);
+/** double to int, rounded down; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtnnosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtnnosat8, int8, double8, x);
+}
+#define lanemath_cvtfptoi32rtnnosat8(x) \
+/** double to int, rounded down; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtnnosat8, int8, double8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtnnosat16(lanemath_border_double16);
+/** double to int, rounded down; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtnnosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtnnosat16, int16, double16, x);
+}
+#define lanemath_cvtfptoi32rtnnosat16(x) \
+/** double to int, rounded down; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtnnosat16, int16, double16, x)
+
+/** float to int, rounded down; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtnnosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi32rtnnosatf1");
+/** float to int, rounded down; 2 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtnnosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi32rtnnosatf2");
+/** float to int, rounded down; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int3 lanemath_cvtfptoi32rtnnosatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptoi32rtnnosatf3");
+/** float to int, rounded down; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int4 lanemath_cvtfptoi32rtnnosatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptoi32rtnnosatf4");
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtnnosatf8(lanemath_border_float8);
+/** float to int, rounded down; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtnnosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtnnosatf8, int8, float8, x);
+}
+#define lanemath_cvtfptoi32rtnnosatf8(x) \
+/** float to int, rounded down; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtnnosatf8, int8, float8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtnnosatf16(lanemath_border_float16);
+/** float to int, rounded down; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtnnosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtnnosatf16, int16, float16, x);
+}
+#define lanemath_cvtfptoi32rtnnosatf16(x) \
+/** float to int, rounded down; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtnnosatf16, int16, float16, x)
+
+/** double to int, rounded up, clamped to the range of the result; one double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtpsat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi32rtpsat1");
+/** double to int, rounded up, clamped to the range of the result; 2 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtpsat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi32rtpsat2");
+lanemath_border_int3 __ocl_lanemath_h8_cvtfptoi32rtpsat3(lanemath_border_double3);
+/** double to int, rounded up, clamped to the range of the result; 3 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int3 lanemath_cvtfptoi32rtpsat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtpsat3, int3, double3, x);
+}
+#define lanemath_cvtfptoi32rtpsat3(x) \
+/** double to int, rounded up, clamped to the range of the result; 3 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtpsat3, int3, double3, x)
+lanemath_border_int4 __ocl_lanemath_h8_cvtfptoi32rtpsat4(lanemath_border_double4);
+/** double to int, rounded up, clamped to the range of the result; 4 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int4 lanemath_cvtfptoi32rtpsat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtpsat4, int4, double4, x);
+}
+#define lanemath_cvtfptoi32rtpsat4(x) \
+/** double to int, rounded up, clamped to the range of the result; 4 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtpsat4, int4, double4, x)
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtpsat8(lanemath_border_double8);
+/** double to int, rounded up, clamped to the range of the result; 8 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtpsat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtpsat8, int8, double8, x);
+}
+#define lanemath_cvtfptoi32rtpsat8(x) \
+/** double to int, rounded up, clamped to the range of the result; 8 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtpsat8, int8, double8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtpsat16(lanemath_border_double16);
+/** double to int, rounded up, clamped to the range of the result; 16 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtpsat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtpsat16, int16, double16, x);
+}
+#define lanemath_cvtfptoi32rtpsat16(x) \
+/** double to int, rounded up, clamped to the range of the result; 16 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtpsat16, int16, double16, x)
+
+/** float to int, rounded up, clamped to the range of the result; one float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtpsatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi32rtpsatf1");
+/** float to int, rounded up, clamped to the range of the result; 2 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtpsatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi32rtpsatf2");
+/** float to int, rounded up, clamped to the range of the result; 3 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_int3 lanemath_cvtfptoi32rtpsatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptoi32rtpsatf3");
+/** float to int, rounded up, clamped to the range of the result; 4 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_int4 lanemath_cvtfptoi32rtpsatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptoi32rtpsatf4");
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtpsatf8(lanemath_border_float8);
+/** float to int, rounded up, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtpsatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtpsatf8, int8, float8, x);
+}
+#define lanemath_cvtfptoi32rtpsatf8(x) \
+/** float to int, rounded up, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtpsatf8, int8, float8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtpsatf16(lanemath_border_float16);
+/** float to int, rounded up, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtpsatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtpsatf16, int16, float16, x);
+}
+#define lanemath_cvtfptoi32rtpsatf16(x) \
+/** float to int, rounded up, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtpsatf16, int16, float16, x)
+
+/** double to int, rounded up; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtpnosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi32rtpnosat1");
+/** double to int, rounded up; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtpnosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi32rtpnosat2");
+lanemath_border_int3 __ocl_lanemath_h8_cvtfptoi32rtpnosat3(lanemath_border_double3);
+/** double to int, rounded up; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int3 lanemath_cvtfptoi32rtpnosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtpnosat3, int3, double3, x);
+}
+#define lanemath_cvtfptoi32rtpnosat3(x) \
+/** double to int, rounded up; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtpnosat3, int3, double3, x)
+lanemath_border_int4 __ocl_lanemath_h8_cvtfptoi32rtpnosat4(lanemath_border_double4);
+/** double to int, rounded up; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int4 lanemath_cvtfptoi32rtpnosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtpnosat4, int4, double4, x);
+}
+#define lanemath_cvtfptoi32rtpnosat4(x) \
+/** double to int, rounded up; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtpnosat4, int4, double4, x)
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtpnosat8(lanemath_border_double8);
+/** double to int, rounded up; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtpnosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtpnosat8, int8, double8, x);
+}
+#define lanemath_cvtfptoi32rtpnosat8(x) \
+/** double to int, rounded up; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtpnosat8, int8, double8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtpnosat16(lanemath_border_double16);
+/** double to int, rounded up; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtpnosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtpnosat16, int16, double16, x);
+}
+#define lanemath_cvtfptoi32rtpnosat16(x) \
+/** double to int, rounded up; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtpnosat16, int16, double16, x)
+
+/** float to int, rounded up; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtpnosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi32rtpnosatf1");
+/** float to int, rounded up; 2 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtpnosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi32rtpnosatf2");
+/** float to int, rounded up; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int3 lanemath_cvtfptoi32rtpnosatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptoi32rtpnosatf3");
+/** float to int, rounded up; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int4 lanemath_cvtfptoi32rtpnosatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptoi32rtpnosatf4");
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtpnosatf8(lanemath_border_float8);
+/** float to int, rounded up; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtpnosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtpnosatf8, int8, float8, x);
+}
+#define lanemath_cvtfptoi32rtpnosatf8(x) \
+/** float to int, rounded up; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtpnosatf8, int8, float8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtpnosatf16(lanemath_border_float16);
+/** float to int, rounded up; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtpnosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtpnosatf16, int16, float16, x);
+}
+#define lanemath_cvtfptoi32rtpnosatf16(x) \
+/** float to int, rounded up; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtpnosatf16, int16, float16, x)
+
+/** double to int, rounded toward zero, clamped to the range of the result; one double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtzsat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi32rtzsat1");
+/** double to int, rounded toward zero, clamped to the range of the result; 2 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtzsat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi32rtzsat2");
+lanemath_border_int3 __ocl_lanemath_h8_cvtfptoi32rtzsat3(lanemath_border_double3);
+/** double to int, rounded toward zero, clamped to the range of the result; 3 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int3 lanemath_cvtfptoi32rtzsat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtzsat3, int3, double3, x);
+}
+#define lanemath_cvtfptoi32rtzsat3(x) \
+/** double to int, rounded toward zero, clamped to the range of the result; 3 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtzsat3, int3, double3, x)
+lanemath_border_int4 __ocl_lanemath_h8_cvtfptoi32rtzsat4(lanemath_border_double4);
+/** double to int, rounded toward zero, clamped to the range of the result; 4 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int4 lanemath_cvtfptoi32rtzsat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtzsat4, int4, double4, x);
+}
+#define lanemath_cvtfptoi32rtzsat4(x) \
+/** double to int, rounded toward zero, clamped to the range of the result; 4 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtzsat4, int4, double4, x)
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtzsat8(lanemath_border_double8);
+/** double to int, rounded toward zero, clamped to the range of the result; 8 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtzsat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtzsat8, int8, double8, x);
+}
+#define lanemath_cvtfptoi32rtzsat8(x) \
+/** double to int, rounded toward zero, clamped to the range of the result; 8 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtzsat8, int8, double8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtzsat16(lanemath_border_double16);
+/** double to int, rounded toward zero, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtzsat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtzsat16, int16, double16, x);
+}
+#define lanemath_cvtfptoi32rtzsat16(x) \
+/** double to int, rounded toward zero, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtzsat16, int16, double16, x)
+
+/** float to int, rounded toward zero, clamped to the range of the result; one float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtzsatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi32rtzsatf1");
+/** float to int, rounded toward zero, clamped to the range of the result; 2 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtzsatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi32rtzsatf2");
+/** float to int, rounded toward zero, clamped to the range of the result; 3 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int3 lanemath_cvtfptoi32rtzsatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptoi32rtzsatf3");
+/** float to int, rounded toward zero, clamped to the range of the result; 4 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_int4 lanemath_cvtfptoi32rtzsatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptoi32rtzsatf4");
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtzsatf8(lanemath_border_float8);
+/** float to int, rounded toward zero, clamped to the range of the result; 8 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtzsatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtzsatf8, int8, float8, x);
+}
+#define lanemath_cvtfptoi32rtzsatf8(x) \
+/** float to int, rounded toward zero, clamped to the range of the result; 8 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtzsatf8, int8, float8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtzsatf16(lanemath_border_float16);
+/** float to int, rounded toward zero, clamped to the range of the result; 16 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtzsatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtzsatf16, int16, float16, x);
+}
+#define lanemath_cvtfptoi32rtzsatf16(x) \
+/** float to int, rounded toward zero, clamped to the range of the result; 16 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtzsatf16, int16, float16, x)
+
+/** double to int, rounded toward zero; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtznosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi32rtznosat1");
+/** double to int, rounded toward zero; 2 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtznosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi32rtznosat2");
+lanemath_border_int3 __ocl_lanemath_h8_cvtfptoi32rtznosat3(lanemath_border_double3);
+/** double to int, rounded toward zero; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int3 lanemath_cvtfptoi32rtznosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtznosat3, int3, double3, x);
+}
+#define lanemath_cvtfptoi32rtznosat3(x) \
+/** double to int, rounded toward zero; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtznosat3, int3, double3, x)
+lanemath_border_int4 __ocl_lanemath_h8_cvtfptoi32rtznosat4(lanemath_border_double4);
+/** double to int, rounded toward zero; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int4 lanemath_cvtfptoi32rtznosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtznosat4, int4, double4, x);
+}
+#define lanemath_cvtfptoi32rtznosat4(x) \
+/** double to int, rounded toward zero; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtznosat4, int4, double4, x)
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtznosat8(lanemath_border_double8);
+/** double to int, rounded toward zero; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtznosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtznosat8, int8, double8, x);
+}
+#define lanemath_cvtfptoi32rtznosat8(x) \
+/** double to int, rounded toward zero; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtznosat8, int8, double8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtznosat16(lanemath_border_double16);
+/** double to int, rounded toward zero; 16 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtznosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtznosat16, int16, double16, x);
+}
+#define lanemath_cvtfptoi32rtznosat16(x) \
+/** double to int, rounded toward zero; 16 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtznosat16, int16, double16, x)
+
+/** float to int, rounded toward zero; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_int1 lanemath_cvtfptoi32rtznosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi32rtznosatf1");
+/** float to int, rounded toward zero; 2 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_int2 lanemath_cvtfptoi32rtznosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi32rtznosatf2");
+/** float to int, rounded toward zero; 3 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_int3 lanemath_cvtfptoi32rtznosatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptoi32rtznosatf3");
+/** float to int, rounded toward zero; 4 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_int4 lanemath_cvtfptoi32rtznosatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptoi32rtznosatf4");
+lanemath_border_int8 __ocl_lanemath_h8_cvtfptoi32rtznosatf8(lanemath_border_float8);
+/** float to int, rounded toward zero; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_cvtfptoi32rtznosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtznosatf8, int8, float8, x);
+}
+#define lanemath_cvtfptoi32rtznosatf8(x) \
+/** float to int, rounded toward zero; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtznosatf8, int8, float8, x)
+lanemath_border_int16 __ocl_lanemath_h8_cvtfptoi32rtznosatf16(lanemath_border_float16);
+/** float to int, rounded toward zero; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_cvtfptoi32rtznosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi32rtznosatf16, int16, float16, x);
+}
+#define lanemath_cvtfptoi32rtznosatf16(x) \
+/** float to int, rounded toward zero; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi32rtznosatf16, int16, float16, x)
+
+/** double to uint, rounded to nearest even, clamped to the range of the result; one double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtesat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou32rtesat1");
+/** double to uint, rounded to nearest even, clamped to the range of the result; 2 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtesat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou32rtesat2");
+lanemath_border_uint3 __ocl_lanemath_h8_cvtfptou32rtesat3(lanemath_border_double3);
+/** double to uint, rounded to nearest even, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint3 lanemath_cvtfptou32rtesat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou32rtesat3, uint3, double3, x);
+}
+#define lanemath_cvtfptou32rtesat3(x) \
+/** double to uint, rounded to nearest even, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtesat3, uint3, double3, x)
+lanemath_border_uint4 __ocl_lanemath_h8_cvtfptou32rtesat4(lanemath_border_double4);
+/** double to uint, rounded to nearest even, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint4 lanemath_cvtfptou32rtesat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou32rtesat4, uint4, double4, x);
+}
+#define lanemath_cvtfptou32rtesat4(x) \
+/** double to uint, rounded to nearest even, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtesat4, uint4, double4, x)
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtesat8(lanemath_border_double8);
+/** double to uint, rounded to nearest even, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtesat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtesat8, uint8, double8, x);
+}
+#define lanemath_cvtfptou32rtesat8(x) \
+/** double to uint, rounded to nearest even, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtesat8, uint8, double8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtesat16(lanemath_border_double16);
+/** double to uint, rounded to nearest even, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtesat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtesat16, uint16, double16, x);
+}
+#define lanemath_cvtfptou32rtesat16(x) \
+/** double to uint, rounded to nearest even, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtesat16, uint16, double16, x)
+
+/** float to uint, rounded to nearest even, clamped to the range of the result; one float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtesatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou32rtesatf1");
+/** float to uint, rounded to nearest even, clamped to the range of the result; 2 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtesatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou32rtesatf2");
+/** float to uint, rounded to nearest even, clamped to the range of the result; 3 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint3 lanemath_cvtfptou32rtesatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptou32rtesatf3");
+/** float to uint, rounded to nearest even, clamped to the range of the result; 4 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint4 lanemath_cvtfptou32rtesatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptou32rtesatf4");
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtesatf8(lanemath_border_float8);
+/** float to uint, rounded to nearest even, clamped to the range of the result; 8 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtesatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtesatf8, uint8, float8, x);
+}
+#define lanemath_cvtfptou32rtesatf8(x) \
+/** float to uint, rounded to nearest even, clamped to the range of the result; 8 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtesatf8, uint8, float8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtesatf16(lanemath_border_float16);
+/** float to uint, rounded to nearest even, clamped to the range of the result; 16 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtesatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtesatf16, uint16, float16, x);
+}
+#define lanemath_cvtfptou32rtesatf16(x) \
+/** float to uint, rounded to nearest even, clamped to the range of the result; 16 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtesatf16, uint16, float16, x)
+
+/** double to uint, rounded to nearest even; one double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtenosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou32rtenosat1");
+/** double to uint, rounded to nearest even; 2 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtenosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou32rtenosat2");
+lanemath_border_uint3 __ocl_lanemath_h8_cvtfptou32rtenosat3(lanemath_border_double3);
+/** double to uint, rounded to nearest even; 3 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint3 lanemath_cvtfptou32rtenosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou32rtenosat3, uint3, double3, x);
+}
+#define lanemath_cvtfptou32rtenosat3(x) \
+/** double to uint, rounded to nearest even; 3 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtenosat3, uint3, double3, x)
+lanemath_border_uint4 __ocl_lanemath_h8_cvtfptou32rtenosat4(lanemath_border_double4);
+/** double to uint, rounded to nearest even; 4 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint4 lanemath_cvtfptou32rtenosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou32rtenosat4, uint4, double4, x);
+}
+#define lanemath_cvtfptou32rtenosat4(x) \
+/** double to uint, rounded to nearest even; 4 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtenosat4, uint4, double4, x)
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtenosat8(lanemath_border_double8);
+/** double to uint, rounded to nearest even; 8 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtenosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtenosat8, uint8, double8, x);
+}
+#define lanemath_cvtfptou32rtenosat8(x) \
+/** double to uint, rounded to nearest even; 8 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtenosat8, uint8, double8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtenosat16(lanemath_border_double16);
+/** double to uint, rounded to nearest even; 16 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtenosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtenosat16, uint16, double16, x);
+}
+#define lanemath_cvtfptou32rtenosat16(x) \
+/** double to uint, rounded to nearest even; 16 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtenosat16, uint16, double16, x)
+
+/** float to uint, rounded to nearest even; one float. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtenosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou32rtenosatf1");
+/** float to uint, rounded to nearest even; 2 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtenosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou32rtenosatf2");
+/** float to uint, rounded to nearest even; 3 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_uint3 lanemath_cvtfptou32rtenosatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptou32rtenosatf3");
+/** float to uint, rounded to nearest even; 4 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_uint4 lanemath_cvtfptou32rtenosatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptou32rtenosatf4");
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtenosatf8(lanemath_border_float8);
+/** float to uint, rounded to nearest even; 8 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtenosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtenosatf8, uint8, float8, x);
+}
+#define lanemath_cvtfptou32rtenosatf8(x) \
+/** float to uint, rounded to nearest even; 8 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtenosatf8, uint8, float8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtenosatf16(lanemath_border_float16);
+/** float to uint, rounded to nearest even; 16 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtenosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtenosatf16, uint16, float16, x);
+}
+#define lanemath_cvtfptou32rtenosatf16(x) \
+/** float to uint, rounded to nearest even; 16 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtenosatf16, uint16, float16, x)
+
+/** double to uint, rounded down, clamped to the range of the result; one double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtnsat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou32rtnsat1");
+/** double to uint, rounded down, clamped to the range of the result; 2 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtnsat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou32rtnsat2");
+lanemath_border_uint3 __ocl_lanemath_h8_cvtfptou32rtnsat3(lanemath_border_double3);
+/** double to uint, rounded down, clamped to the range of the result; 3 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint3 lanemath_cvtfptou32rtnsat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou32rtnsat3, uint3, double3, x);
+}
+#define lanemath_cvtfptou32rtnsat3(x) \
+/** double to uint, rounded down, clamped to the range of the result; 3 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtnsat3, uint3, double3, x)
+lanemath_border_uint4 __ocl_lanemath_h8_cvtfptou32rtnsat4(lanemath_border_double4);
+/** double to uint, rounded down, clamped to the range of the result; 4 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint4 lanemath_cvtfptou32rtnsat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou32rtnsat4, uint4, double4, x);
+}
+#define lanemath_cvtfptou32rtnsat4(x) \
+/** double to uint, rounded down, clamped to the range of the result; 4 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtnsat4, uint4, double4, x)
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtnsat8(lanemath_border_double8);
+/** double to uint, rounded down, clamped to the range of the result; 8 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtnsat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtnsat8, uint8, double8, x);
+}
+#define lanemath_cvtfptou32rtnsat8(x) \
+/** double to uint, rounded down, clamped to the range of the result; 8 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtnsat8, uint8, double8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtnsat16(lanemath_border_double16);
+/** double to uint, rounded down, clamped to the range of the result; 16 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtnsat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtnsat16, uint16, double16, x);
+}
+#define lanemath_cvtfptou32rtnsat16(x) \
+/** double to uint, rounded down, clamped to the range of the result; 16 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtnsat16, uint16, double16, x)
+
+/** float to uint, rounded down, clamped to the range of the result; one float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtnsatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou32rtnsatf1");
+/** float to uint, rounded down, clamped to the range of the result; 2 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtnsatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou32rtnsatf2");
+/** float to uint, rounded down, clamped to the range of the result; 3 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint3 lanemath_cvtfptou32rtnsatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptou32rtnsatf3");
+/** float to uint, rounded down, clamped to the range of the result; 4 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint4 lanemath_cvtfptou32rtnsatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptou32rtnsatf4");
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtnsatf8(lanemath_border_float8);
+/** float to uint, rounded down, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtnsatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtnsatf8, uint8, float8, x);
+}
+#define lanemath_cvtfptou32rtnsatf8(x) \
+/** float to uint, rounded down, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtnsatf8, uint8, float8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtnsatf16(lanemath_border_float16);
+/** float to uint, rounded down, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtnsatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtnsatf16, uint16, float16, x);
+}
+#define lanemath_cvtfptou32rtnsatf16(x) \
+/** float to uint, rounded down, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtnsatf16, uint16, float16, x)
+
+/** double to uint, rounded down; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtnnosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou32rtnnosat1");
+/** double to uint, rounded down; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtnnosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou32rtnnosat2");
+lanemath_border_uint3 __ocl_lanemath_h8_cvtfptou32rtnnosat3(lanemath_border_double3);
+/** double to uint, rounded down; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint3 lanemath_cvtfptou32rtnnosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou32rtnnosat3, uint3, double3, x);
+}
+#define lanemath_cvtfptou32rtnnosat3(x) \
+/** double to uint, rounded down; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtnnosat3, uint3, double3, x)
+lanemath_border_uint4 __ocl_lanemath_h8_cvtfptou32rtnnosat4(lanemath_border_double4);
+/** double to uint, rounded down; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint4 lanemath_cvtfptou32rtnnosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou32rtnnosat4, uint4, double4, x);
+}
+#define lanemath_cvtfptou32rtnnosat4(x) \
+/** double to uint, rounded down; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtnnosat4, uint4, double4, x)
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtnnosat8(lanemath_border_double8);
+/** double to uint, rounded down; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtnnosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtnnosat8, uint8, double8, x);
+}
+#define lanemath_cvtfptou32rtnnosat8(x) \
+/** double to uint, rounded down; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtnnosat8, uint8, double8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtnnosat16(lanemath_border_double16);
+/** double to uint, rounded down; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtnnosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtnnosat16, uint16, double16, x);
+}
+#define lanemath_cvtfptou32rtnnosat16(x) \
+/** double to uint, rounded down; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtnnosat16, uint16, double16, x)
+
+/** float to uint, rounded down; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtnnosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou32rtnnosatf1");
+/** float to uint, rounded down; 2 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtnnosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou32rtnnosatf2");
+/** float to uint, rounded down; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint3 lanemath_cvtfptou32rtnnosatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptou32rtnnosatf3");
+/** float to uint, rounded down; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint4 lanemath_cvtfptou32rtnnosatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptou32rtnnosatf4");
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtnnosatf8(lanemath_border_float8);
+/** float to uint, rounded down; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtnnosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtnnosatf8, uint8, float8, x);
+}
+#define lanemath_cvtfptou32rtnnosatf8(x) \
+/** float to uint, rounded down; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtnnosatf8, uint8, float8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtnnosatf16(lanemath_border_float16);
+/** float to uint, rounded down; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtnnosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtnnosatf16, uint16, float16, x);
+}
+#define lanemath_cvtfptou32rtnnosatf16(x) \
+/** float to uint, rounded down; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtnnosatf16, uint16, float16, x)
+
+/** double to uint, rounded up, clamped to the range of the result; one double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtpsat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou32rtpsat1");
+/** double to uint, rounded up, clamped to the range of the result; 2 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtpsat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou32rtpsat2");
+lanemath_border_uint3 __ocl_lanemath_h8_cvtfptou32rtpsat3(lanemath_border_double3);
+/** double to uint, rounded up, clamped to the range of the result; 3 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint3 lanemath_cvtfptou32rtpsat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou32rtpsat3, uint3, double3, x);
+}
+#define lanemath_cvtfptou32rtpsat3(x) \
+/** double to uint, rounded up, clamped to the range of the result; 3 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtpsat3, uint3, double3, x)
+lanemath_border_uint4 __ocl_lanemath_h8_cvtfptou32rtpsat4(lanemath_border_double4);
+/** double to uint, rounded up, clamped to the range of the result; 4 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint4 lanemath_cvtfptou32rtpsat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou32rtpsat4, uint4, double4, x);
+}
+#define lanemath_cvtfptou32rtpsat4(x) \
+/** double to uint, rounded up, clamped to the range of the result; 4 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtpsat4, uint4, double4, x)
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtpsat8(lanemath_border_double8);
+/** double to uint, rounded up, clamped to the range of the result; 8 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtpsat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtpsat8, uint8, double8, x);
+}
+#define lanemath_cvtfptou32rtpsat8(x) \
+/** double to uint, rounded up, clamped to the range of the result; 8 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtpsat8, uint8, double8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtpsat16(lanemath_border_double16);
+/** double to uint, rounded up, clamped to the range of the result; 16 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtpsat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtpsat16, uint16, double16, x);
+}
+#define lanemath_cvtfptou32rtpsat16(x) \
+/** double to uint, rounded up, clamped to the range of the result; 16 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtpsat16, uint16, double16, x)
+
+/** float to uint, rounded up, clamped to the range of the result; one float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtpsatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou32rtpsatf1");
+/** float to uint, rounded up, clamped to the range of the result; 2 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtpsatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou32rtpsatf2");
+/** float to uint, rounded up, clamped to the range of the result; 3 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint3 lanemath_cvtfptou32rtpsatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptou32rtpsatf3");
+/** float to uint, rounded up, clamped to the range of the result; 4 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint4 lanemath_cvtfptou32rtpsatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptou32rtpsatf4");
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtpsatf8(lanemath_border_float8);
+/** float to uint, rounded up, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtpsatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtpsatf8, uint8, float8, x);
+}
+#define lanemath_cvtfptou32rtpsatf8(x) \
+/** float to uint, rounded up, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtpsatf8, uint8, float8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtpsatf16(lanemath_border_float16);
+/** float to uint, rounded up, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtpsatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtpsatf16, uint16, float16, x);
+}
+#define lanemath_cvtfptou32rtpsatf16(x) \
+/** float to uint, rounded up, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtpsatf16, uint16, float16, x)
+
+/** double to uint, rounded up; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtpnosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou32rtpnosat1");
+/** double to uint, rounded up; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtpnosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou32rtpnosat2");
+lanemath_border_uint3 __ocl_lanemath_h8_cvtfptou32rtpnosat3(lanemath_border_double3);
+/** double to uint, rounded up; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint3 lanemath_cvtfptou32rtpnosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou32rtpnosat3, uint3, double3, x);
+}
+#define lanemath_cvtfptou32rtpnosat3(x) \
+/** double to uint, rounded up; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtpnosat3, uint3, double3, x)
+lanemath_border_uint4 __ocl_lanemath_h8_cvtfptou32rtpnosat4(lanemath_border_double4);
+/** double to uint, rounded up; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint4 lanemath_cvtfptou32rtpnosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou32rtpnosat4, uint4, double4, x);
+}
+#define lanemath_cvtfptou32rtpnosat4(x) \
+/** double to uint, rounded up; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtpnosat4, uint4, double4, x)
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtpnosat8(lanemath_border_double8);
+/** double to uint, rounded up; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtpnosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtpnosat8, uint8, double8, x);
+}
+#define lanemath_cvtfptou32rtpnosat8(x) \
+/** double to uint, rounded up; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtpnosat8, uint8, double8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtpnosat16(lanemath_border_double16);
+/** double to uint, rounded up; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtpnosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtpnosat16, uint16, double16, x);
+}
+#define lanemath_cvtfptou32rtpnosat16(x) \
+/** double to uint, rounded up; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtpnosat16, uint16, double16, x)
+
+/** float to uint, rounded up; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtpnosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou32rtpnosatf1");
+/** float to uint, rounded up; 2 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtpnosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou32rtpnosatf2");
+/** float to uint, rounded up; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint3 lanemath_cvtfptou32rtpnosatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptou32rtpnosatf3");
+/** float to uint, rounded up; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint4 lanemath_cvtfptou32rtpnosatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptou32rtpnosatf4");
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtpnosatf8(lanemath_border_float8);
+/** float to uint, rounded up; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtpnosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtpnosatf8, uint8, float8, x);
+}
+#define lanemath_cvtfptou32rtpnosatf8(x) \
+/** float to uint, rounded up; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtpnosatf8, uint8, float8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtpnosatf16(lanemath_border_float16);
+/** float to uint, rounded up; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtpnosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtpnosatf16, uint16, float16, x);
+}
+#define lanemath_cvtfptou32rtpnosatf16(x) \
+/** float to uint, rounded up; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtpnosatf16, uint16, float16, x)
+
+/** double to uint, rounded toward zero, clamped to the range of the result; one double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtzsat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou32rtzsat1");
+/** double to uint, rounded toward zero, clamped to the range of the result; 2 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtzsat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou32rtzsat2");
+lanemath_border_uint3 __ocl_lanemath_h8_cvtfptou32rtzsat3(lanemath_border_double3);
+/** double to uint, rounded toward zero, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint3 lanemath_cvtfptou32rtzsat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou32rtzsat3, uint3, double3, x);
+}
+#define lanemath_cvtfptou32rtzsat3(x) \
+/** double to uint, rounded toward zero, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtzsat3, uint3, double3, x)
+lanemath_border_uint4 __ocl_lanemath_h8_cvtfptou32rtzsat4(lanemath_border_double4);
+/** double to uint, rounded toward zero, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint4 lanemath_cvtfptou32rtzsat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou32rtzsat4, uint4, double4, x);
+}
+#define lanemath_cvtfptou32rtzsat4(x) \
+/** double to uint, rounded toward zero, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtzsat4, uint4, double4, x)
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtzsat8(lanemath_border_double8);
+/** double to uint, rounded toward zero, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtzsat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtzsat8, uint8, double8, x);
+}
+#define lanemath_cvtfptou32rtzsat8(x) \
+/** double to uint, rounded toward zero, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtzsat8, uint8, double8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtzsat16(lanemath_border_double16);
+/** double to uint, rounded toward zero, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtzsat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtzsat16, uint16, double16, x);
+}
+#define lanemath_cvtfptou32rtzsat16(x) \
+/** double to uint, rounded toward zero, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtzsat16, uint16, double16, x)
+
+/** float to uint, rounded toward zero, clamped to the range of the result; one float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtzsatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou32rtzsatf1");
+/** float to uint, rounded toward zero, clamped to the range of the result; 2 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtzsatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou32rtzsatf2");
+/** float to uint, rounded toward zero, clamped to the range of the result; 3 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint3 lanemath_cvtfptou32rtzsatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptou32rtzsatf3");
+/** float to uint, rounded toward zero, clamped to the range of the result; 4 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_uint4 lanemath_cvtfptou32rtzsatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptou32rtzsatf4");
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtzsatf8(lanemath_border_float8);
+/** float to uint, rounded toward zero, clamped to the range of the result; 8 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtzsatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtzsatf8, uint8, float8, x);
+}
+#define lanemath_cvtfptou32rtzsatf8(x) \
+/** float to uint, rounded toward zero, clamped to the range of the result; 8 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtzsatf8, uint8, float8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtzsatf16(lanemath_border_float16);
+/** float to uint, rounded toward zero, clamped to the range of the result; 16 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtzsatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtzsatf16, uint16, float16, x);
+}
+#define lanemath_cvtfptou32rtzsatf16(x) \
+/** float to uint, rounded toward zero, clamped to the range of the result; 16 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtzsatf16, uint16, float16, x)
+
+/** double to uint, rounded toward zero; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtznosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou32rtznosat1");
+/** double to uint, rounded toward zero; 2 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtznosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou32rtznosat2");
+lanemath_border_uint3 __ocl_lanemath_h8_cvtfptou32rtznosat3(lanemath_border_double3);
+/** double to uint, rounded toward zero; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint3 lanemath_cvtfptou32rtznosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou32rtznosat3, uint3, double3, x);
+}
+#define lanemath_cvtfptou32rtznosat3(x) \
+/** double to uint, rounded toward zero; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtznosat3, uint3, double3, x)
+lanemath_border_uint4 __ocl_lanemath_h8_cvtfptou32rtznosat4(lanemath_border_double4);
+/** double to uint, rounded toward zero; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint4 lanemath_cvtfptou32rtznosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou32rtznosat4, uint4, double4, x);
+}
+#define lanemath_cvtfptou32rtznosat4(x) \
+/** double to uint, rounded toward zero; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtznosat4, uint4, double4, x)
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtznosat8(lanemath_border_double8);
+/** double to uint, rounded toward zero; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtznosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtznosat8, uint8, double8, x);
+}
+#define lanemath_cvtfptou32rtznosat8(x) \
+/** double to uint, rounded toward zero; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtznosat8, uint8, double8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtznosat16(lanemath_border_double16);
+/** double to uint, rounded toward zero; 16 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtznosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtznosat16, uint16, double16, x);
+}
+#define lanemath_cvtfptou32rtznosat16(x) \
+/** double to uint, rounded toward zero; 16 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtznosat16, uint16, double16, x)
+
+/** float to uint, rounded toward zero; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_uint1 lanemath_cvtfptou32rtznosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou32rtznosatf1");
+/** float to uint, rounded toward zero; 2 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_uint2 lanemath_cvtfptou32rtznosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou32rtznosatf2");
+/** float to uint, rounded toward zero; 3 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_uint3 lanemath_cvtfptou32rtznosatf3(lanemath_float3 x) LANEMATH_NAMED("cvtfptou32rtznosatf3");
+/** float to uint, rounded toward zero; 4 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_uint4 lanemath_cvtfptou32rtznosatf4(lanemath_float4 x) LANEMATH_NAMED("cvtfptou32rtznosatf4");
+lanemath_border_uint8 __ocl_lanemath_h8_cvtfptou32rtznosatf8(lanemath_border_float8);
+/** float to uint, rounded toward zero; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_cvtfptou32rtznosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou32rtznosatf8, uint8, float8, x);
+}
+#define lanemath_cvtfptou32rtznosatf8(x) \
+/** float to uint, rounded toward zero; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtznosatf8, uint8, float8, x)
+lanemath_border_uint16 __ocl_lanemath_h8_cvtfptou32rtznosatf16(lanemath_border_float16);
+/** float to uint, rounded toward zero; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_cvtfptou32rtznosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou32rtznosatf16, uint16, float16, x);
+}
+#define lanemath_cvtfptou32rtznosatf16(x) \
+/** float to uint, rounded toward zero; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou32rtznosatf16, uint16, float16, x)
+
+/** double to long, rounded to nearest even, clamped to the range of the result; one double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtesat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi64rtesat1");
+/** double to long, rounded to nearest even, clamped to the range of the result; 2 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtesat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi64rtesat2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtesat3(lanemath_border_double3);
+/** double to long, rounded to nearest even, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtesat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtesat3, long3, double3, x);
+}
+#define lanemath_cvtfptoi64rtesat3(x) \
+/** double to long, rounded to nearest even, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtesat3, long3, double3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtesat4(lanemath_border_double4);
+/** double to long, rounded to nearest even, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtesat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtesat4, long4, double4, x);
+}
+#define lanemath_cvtfptoi64rtesat4(x) \
+/** double to long, rounded to nearest even, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtesat4, long4, double4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtesat8(lanemath_border_double8);
+/** double to long, rounded to nearest even, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtesat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtesat8, long8, double8, x);
+}
+#define lanemath_cvtfptoi64rtesat8(x) \
+/** double to long, rounded to nearest even, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtesat8, long8, double8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtesat16(lanemath_border_double16);
+/** double to long, rounded to nearest even, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtesat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtesat16, long16, double16, x);
+}
+#define lanemath_cvtfptoi64rtesat16(x) \
+/** double to long, rounded to nearest even, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtesat16, long16, double16, x)
+
+/** float to long, rounded to nearest even, clamped to the range of the result; one float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtesatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi64rtesatf1");
+/** float to long, rounded to nearest even, clamped to the range of the result; 2 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtesatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi64rtesatf2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtesatf3(lanemath_border_float3);
+/** float to long, rounded to nearest even, clamped to the range of the result; 3 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtesatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtesatf3, long3, float3, x);
+}
+#define lanemath_cvtfptoi64rtesatf3(x) \
+/** float to long, rounded to nearest even, clamped to the range of the result; 3 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtesatf3, long3, float3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtesatf4(lanemath_border_float4);
+/** float to long, rounded to nearest even, clamped to the range of the result; 4 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtesatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtesatf4, long4, float4, x);
+}
+#define lanemath_cvtfptoi64rtesatf4(x) \
+/** float to long, rounded to nearest even, clamped to the range of the result; 4 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtesatf4, long4, float4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtesatf8(lanemath_border_float8);
+/** float to long, rounded to nearest even, clamped to the range of the result; 8 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtesatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtesatf8, long8, float8, x);
+}
+#define lanemath_cvtfptoi64rtesatf8(x) \
+/** float to long, rounded to nearest even, clamped to the range of the result; 8 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtesatf8, long8, float8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtesatf16(lanemath_border_float16);
+/** float to long, rounded to nearest even, clamped to the range of the result; 16 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtesatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtesatf16, long16, float16, x);
+}
+#define lanemath_cvtfptoi64rtesatf16(x) \
+/** float to long, rounded to nearest even, clamped to the range of the result; 16 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtesatf16, long16, float16, x)
+
+/** double to long, rounded to nearest even; one double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtenosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi64rtenosat1");
+/** double to long, rounded to nearest even; 2 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtenosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi64rtenosat2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtenosat3(lanemath_border_double3);
+/** double to long, rounded to nearest even; 3 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtenosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtenosat3, long3, double3, x);
+}
+#define lanemath_cvtfptoi64rtenosat3(x) \
+/** double to long, rounded to nearest even; 3 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtenosat3, long3, double3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtenosat4(lanemath_border_double4);
+/** double to long, rounded to nearest even; 4 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtenosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtenosat4, long4, double4, x);
+}
+#define lanemath_cvtfptoi64rtenosat4(x) \
+/** double to long, rounded to nearest even; 4 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtenosat4, long4, double4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtenosat8(lanemath_border_double8);
+/** double to long, rounded to nearest even; 8 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtenosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtenosat8, long8, double8, x);
+}
+#define lanemath_cvtfptoi64rtenosat8(x) \
+/** double to long, rounded to nearest even; 8 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtenosat8, long8, double8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtenosat16(lanemath_border_double16);
+/** double to long, rounded to nearest even; 16 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtenosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtenosat16, long16, double16, x);
+}
+#define lanemath_cvtfptoi64rtenosat16(x) \
+/** double to long, rounded to nearest even; 16 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtenosat16, long16, double16, x)
+
+/** float to long, rounded to nearest even; one float. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtenosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi64rtenosatf1");
+/** float to long, rounded to nearest even; 2 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtenosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi64rtenosatf2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtenosatf3(lanemath_border_float3);
+/** float to long, rounded to nearest even; 3 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtenosatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtenosatf3, long3, float3, x);
+}
+#define lanemath_cvtfptoi64rtenosatf3(x) \
+/** float to long, rounded to nearest even; 3 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtenosatf3, long3, float3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtenosatf4(lanemath_border_float4);
+/** float to long, rounded to nearest even; 4 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtenosatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtenosatf4, long4, float4, x);
+}
+#define lanemath_cvtfptoi64rtenosatf4(x) \
+/** float to long, rounded to nearest even; 4 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtenosatf4, long4, float4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtenosatf8(lanemath_border_float8);
+/** float to long, rounded to nearest even; 8 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtenosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtenosatf8, long8, float8, x);
+}
+#define lanemath_cvtfptoi64rtenosatf8(x) \
+/** float to long, rounded to nearest even; 8 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtenosatf8, long8, float8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtenosatf16(lanemath_border_float16);
+/** float to long, rounded to nearest even; 16 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtenosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtenosatf16, long16, float16, x);
+}
+#define lanemath_cvtfptoi64rtenosatf16(x) \
+/** float to long, rounded to nearest even; 16 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtenosatf16, long16, float16, x)
+
+/** double to long, rounded down, clamped to the range of the result; one double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtnsat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi64rtnsat1");
+/** double to long, rounded down, clamped to the range of the result; 2 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtnsat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi64rtnsat2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtnsat3(lanemath_border_double3);
+/** double to long, rounded down, clamped to the range of the result; 3 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtnsat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnsat3, long3, double3, x);
+}
+#define lanemath_cvtfptoi64rtnsat3(x) \
+/** double to long, rounded down, clamped to the range of the result; 3 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnsat3, long3, double3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtnsat4(lanemath_border_double4);
+/** double to long, rounded down, clamped to the range of the result; 4 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtnsat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnsat4, long4, double4, x);
+}
+#define lanemath_cvtfptoi64rtnsat4(x) \
+/** double to long, rounded down, clamped to the range of the result; 4 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnsat4, long4, double4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtnsat8(lanemath_border_double8);
+/** double to long, rounded down, clamped to the range of the result; 8 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtnsat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnsat8, long8, double8, x);
+}
+#define lanemath_cvtfptoi64rtnsat8(x) \
+/** double to long, rounded down, clamped to the range of the result; 8 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnsat8, long8, double8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtnsat16(lanemath_border_double16);
+/** double to long, rounded down, clamped to the range of the result; 16 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtnsat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnsat16, long16, double16, x);
+}
+#define lanemath_cvtfptoi64rtnsat16(x) \
+/** double to long, rounded down, clamped to the range of the result; 16 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnsat16, long16, double16, x)
+
+/** float to long, rounded down, clamped to the range of the result; one float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtnsatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi64rtnsatf1");
+/** float to long, rounded down, clamped to the range of the result; 2 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtnsatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi64rtnsatf2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtnsatf3(lanemath_border_float3);
+/** float to long, rounded down, clamped to the range of the result; 3 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtnsatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnsatf3, long3, float3, x);
+}
+#define lanemath_cvtfptoi64rtnsatf3(x) \
+/** float to long, rounded down, clamped to the range of the result; 3 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnsatf3, long3, float3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtnsatf4(lanemath_border_float4);
+/** float to long, rounded down, clamped to the range of the result; 4 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtnsatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnsatf4, long4, float4, x);
+}
+#define lanemath_cvtfptoi64rtnsatf4(x) \
+/** float to long, rounded down, clamped to the range of the result; 4 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnsatf4, long4, float4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtnsatf8(lanemath_border_float8);
+/** float to long, rounded down, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtnsatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnsatf8, long8, float8, x);
+}
+#define lanemath_cvtfptoi64rtnsatf8(x) \
+/** float to long, rounded down, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnsatf8, long8, float8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtnsatf16(lanemath_border_float16);
+/** float to long, rounded down, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtnsatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnsatf16, long16, float16, x);
+}
+#define lanemath_cvtfptoi64rtnsatf16(x) \
+/** float to long, rounded down, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnsatf16, long16, float16, x)
+
+/** double to long, rounded down; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtnnosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi64rtnnosat1");
+/** double to long, rounded down; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtnnosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi64rtnnosat2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtnnosat3(lanemath_border_double3);
+/** double to long, rounded down; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtnnosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnnosat3, long3, double3, x);
+}
+#define lanemath_cvtfptoi64rtnnosat3(x) \
+/** double to long, rounded down; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnnosat3, long3, double3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtnnosat4(lanemath_border_double4);
+/** double to long, rounded down; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtnnosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnnosat4, long4, double4, x);
+}
+#define lanemath_cvtfptoi64rtnnosat4(x) \
+/** double to long, rounded down; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnnosat4, long4, double4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtnnosat8(lanemath_border_double8);
+/** double to long, rounded down; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtnnosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnnosat8, long8, double8, x);
+}
+#define lanemath_cvtfptoi64rtnnosat8(x) \
+/** double to long, rounded down; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnnosat8, long8, double8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtnnosat16(lanemath_border_double16);
+/** double to long, rounded down; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtnnosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnnosat16, long16, double16, x);
+}
+#define lanemath_cvtfptoi64rtnnosat16(x) \
+/** double to long, rounded down; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnnosat16, long16, double16, x)
+
+/** float to long, rounded down; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtnnosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi64rtnnosatf1");
+/** float to long, rounded down; 2 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtnnosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi64rtnnosatf2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtnnosatf3(lanemath_border_float3);
+/** float to long, rounded down; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtnnosatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnnosatf3, long3, float3, x);
+}
+#define lanemath_cvtfptoi64rtnnosatf3(x) \
+/** float to long, rounded down; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnnosatf3, long3, float3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtnnosatf4(lanemath_border_float4);
+/** float to long, rounded down; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtnnosatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnnosatf4, long4, float4, x);
+}
+#define lanemath_cvtfptoi64rtnnosatf4(x) \
+/** float to long, rounded down; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnnosatf4, long4, float4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtnnosatf8(lanemath_border_float8);
+/** float to long, rounded down; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtnnosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnnosatf8, long8, float8, x);
+}
+#define lanemath_cvtfptoi64rtnnosatf8(x) \
+/** float to long, rounded down; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnnosatf8, long8, float8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtnnosatf16(lanemath_border_float16);
+/** float to long, rounded down; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtnnosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtnnosatf16, long16, float16, x);
+}
+#define lanemath_cvtfptoi64rtnnosatf16(x) \
+/** float to long, rounded down; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtnnosatf16, long16, float16, x)
+
+/** double to long, rounded up, clamped to the range of the result; one double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtpsat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi64rtpsat1");
+/** double to long, rounded up, clamped to the range of the result; 2 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtpsat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi64rtpsat2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtpsat3(lanemath_border_double3);
+/** double to long, rounded up, clamped to the range of the result; 3 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtpsat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpsat3, long3, double3, x);
+}
+#define lanemath_cvtfptoi64rtpsat3(x) \
+/** double to long, rounded up, clamped to the range of the result; 3 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpsat3, long3, double3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtpsat4(lanemath_border_double4);
+/** double to long, rounded up, clamped to the range of the result; 4 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtpsat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpsat4, long4, double4, x);
+}
+#define lanemath_cvtfptoi64rtpsat4(x) \
+/** double to long, rounded up, clamped to the range of the result; 4 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpsat4, long4, double4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtpsat8(lanemath_border_double8);
+/** double to long, rounded up, clamped to the range of the result; 8 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtpsat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpsat8, long8, double8, x);
+}
+#define lanemath_cvtfptoi64rtpsat8(x) \
+/** double to long, rounded up, clamped to the range of the result; 8 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpsat8, long8, double8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtpsat16(lanemath_border_double16);
+/** double to long, rounded up, clamped to the range of the result; 16 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtpsat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpsat16, long16, double16, x);
+}
+#define lanemath_cvtfptoi64rtpsat16(x) \
+/** double to long, rounded up, clamped to the range of the result; 16 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpsat16, long16, double16, x)
+
+/** float to long, rounded up, clamped to the range of the result; one float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtpsatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi64rtpsatf1");
+/** float to long, rounded up, clamped to the range of the result; 2 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtpsatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi64rtpsatf2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtpsatf3(lanemath_border_float3);
+/** float to long, rounded up, clamped to the range of the result; 3 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtpsatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpsatf3, long3, float3, x);
+}
+#define lanemath_cvtfptoi64rtpsatf3(x) \
+/** float to long, rounded up, clamped to the range of the result; 3 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpsatf3, long3, float3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtpsatf4(lanemath_border_float4);
+/** float to long, rounded up, clamped to the range of the result; 4 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtpsatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpsatf4, long4, float4, x);
+}
+#define lanemath_cvtfptoi64rtpsatf4(x) \
+/** float to long, rounded up, clamped to the range of the result; 4 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpsatf4, long4, float4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtpsatf8(lanemath_border_float8);
+/** float to long, rounded up, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtpsatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpsatf8, long8, float8, x);
+}
+#define lanemath_cvtfptoi64rtpsatf8(x) \
+/** float to long, rounded up, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpsatf8, long8, float8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtpsatf16(lanemath_border_float16);
+/** float to long, rounded up, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtpsatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpsatf16, long16, float16, x);
+}
+#define lanemath_cvtfptoi64rtpsatf16(x) \
+/** float to long, rounded up, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpsatf16, long16, float16, x)
+
+/** double to long, rounded up; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtpnosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi64rtpnosat1");
+/** double to long, rounded up; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtpnosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi64rtpnosat2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtpnosat3(lanemath_border_double3);
+/** double to long, rounded up; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtpnosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpnosat3, long3, double3, x);
+}
+#define lanemath_cvtfptoi64rtpnosat3(x) \
+/** double to long, rounded up; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpnosat3, long3, double3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtpnosat4(lanemath_border_double4);
+/** double to long, rounded up; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtpnosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpnosat4, long4, double4, x);
+}
+#define lanemath_cvtfptoi64rtpnosat4(x) \
+/** double to long, rounded up; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpnosat4, long4, double4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtpnosat8(lanemath_border_double8);
+/** double to long, rounded up; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtpnosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpnosat8, long8, double8, x);
+}
+#define lanemath_cvtfptoi64rtpnosat8(x) \
+/** double to long, rounded up; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpnosat8, long8, double8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtpnosat16(lanemath_border_double16);
+/** double to long, rounded up; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtpnosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpnosat16, long16, double16, x);
+}
+#define lanemath_cvtfptoi64rtpnosat16(x) \
+/** double to long, rounded up; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpnosat16, long16, double16, x)
+
+/** float to long, rounded up; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtpnosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi64rtpnosatf1");
+/** float to long, rounded up; 2 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtpnosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi64rtpnosatf2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtpnosatf3(lanemath_border_float3);
+/** float to long, rounded up; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtpnosatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpnosatf3, long3, float3, x);
+}
+#define lanemath_cvtfptoi64rtpnosatf3(x) \
+/** float to long, rounded up; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpnosatf3, long3, float3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtpnosatf4(lanemath_border_float4);
+/** float to long, rounded up; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtpnosatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpnosatf4, long4, float4, x);
+}
+#define lanemath_cvtfptoi64rtpnosatf4(x) \
+/** float to long, rounded up; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpnosatf4, long4, float4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtpnosatf8(lanemath_border_float8);
+/** float to long, rounded up; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtpnosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpnosatf8, long8, float8, x);
+}
+#define lanemath_cvtfptoi64rtpnosatf8(x) \
+/** float to long, rounded up; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpnosatf8, long8, float8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtpnosatf16(lanemath_border_float16);
+/** float to long, rounded up; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtpnosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtpnosatf16, long16, float16, x);
+}
+#define lanemath_cvtfptoi64rtpnosatf16(x) \
+/** float to long, rounded up; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtpnosatf16, long16, float16, x)
+
+/** double to long, rounded toward zero, clamped to the range of the result; one double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtzsat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi64rtzsat1");
+/** double to long, rounded toward zero, clamped to the range of the result; 2 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtzsat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi64rtzsat2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtzsat3(lanemath_border_double3);
+/** double to long, rounded toward zero, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtzsat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtzsat3, long3, double3, x);
+}
+#define lanemath_cvtfptoi64rtzsat3(x) \
+/** double to long, rounded toward zero, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtzsat3, long3, double3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtzsat4(lanemath_border_double4);
+/** double to long, rounded toward zero, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtzsat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtzsat4, long4, double4, x);
+}
+#define lanemath_cvtfptoi64rtzsat4(x) \
+/** double to long, rounded toward zero, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtzsat4, long4, double4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtzsat8(lanemath_border_double8);
+/** double to long, rounded toward zero, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtzsat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtzsat8, long8, double8, x);
+}
+#define lanemath_cvtfptoi64rtzsat8(x) \
+/** double to long, rounded toward zero, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtzsat8, long8, double8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtzsat16(lanemath_border_double16);
+/** double to long, rounded toward zero, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtzsat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtzsat16, long16, double16, x);
+}
+#define lanemath_cvtfptoi64rtzsat16(x) \
+/** double to long, rounded toward zero, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtzsat16, long16, double16, x)
+
+/** float to long, rounded toward zero, clamped to the range of the result; one float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtzsatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi64rtzsatf1");
+/** float to long, rounded toward zero, clamped to the range of the result; 2 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtzsatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi64rtzsatf2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtzsatf3(lanemath_border_float3);
+/** float to long, rounded toward zero, clamped to the range of the result; 3 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtzsatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtzsatf3, long3, float3, x);
+}
+#define lanemath_cvtfptoi64rtzsatf3(x) \
+/** float to long, rounded toward zero, clamped to the range of the result; 3 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtzsatf3, long3, float3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtzsatf4(lanemath_border_float4);
+/** float to long, rounded toward zero, clamped to the range of the result; 4 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtzsatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtzsatf4, long4, float4, x);
+}
+#define lanemath_cvtfptoi64rtzsatf4(x) \
+/** float to long, rounded toward zero, clamped to the range of the result; 4 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtzsatf4, long4, float4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtzsatf8(lanemath_border_float8);
+/** float to long, rounded toward zero, clamped to the range of the result; 8 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtzsatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtzsatf8, long8, float8, x);
+}
+#define lanemath_cvtfptoi64rtzsatf8(x) \
+/** float to long, rounded toward zero, clamped to the range of the result; 8 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtzsatf8, long8, float8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtzsatf16(lanemath_border_float16);
+/** float to long, rounded toward zero, clamped to the range of the result; 16 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtzsatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtzsatf16, long16, float16, x);
+}
+#define lanemath_cvtfptoi64rtzsatf16(x) \
+/** float to long, rounded toward zero, clamped to the range of the result; 16 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtzsatf16, long16, float16, x)
+
+/** double to long, rounded toward zero; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtznosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptoi64rtznosat1");
+/** double to long, rounded toward zero; 2 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtznosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptoi64rtznosat2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtznosat3(lanemath_border_double3);
+/** double to long, rounded toward zero; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtznosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtznosat3, long3, double3, x);
+}
+#define lanemath_cvtfptoi64rtznosat3(x) \
+/** double to long, rounded toward zero; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtznosat3, long3, double3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtznosat4(lanemath_border_double4);
+/** double to long, rounded toward zero; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtznosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtznosat4, long4, double4, x);
+}
+#define lanemath_cvtfptoi64rtznosat4(x) \
+/** double to long, rounded toward zero; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtznosat4, long4, double4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtznosat8(lanemath_border_double8);
+/** double to long, rounded toward zero; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtznosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtznosat8, long8, double8, x);
+}
+#define lanemath_cvtfptoi64rtznosat8(x) \
+/** double to long, rounded toward zero; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtznosat8, long8, double8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtznosat16(lanemath_border_double16);
+/** double to long, rounded toward zero; 16 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtznosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtznosat16, long16, double16, x);
+}
+#define lanemath_cvtfptoi64rtznosat16(x) \
+/** double to long, rounded toward zero; 16 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtznosat16, long16, double16, x)
+
+/** float to long, rounded toward zero; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_long1 lanemath_cvtfptoi64rtznosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptoi64rtznosatf1");
+/** float to long, rounded toward zero; 2 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_long2 lanemath_cvtfptoi64rtznosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptoi64rtznosatf2");
+lanemath_border_long3 __ocl_lanemath_h8_cvtfptoi64rtznosatf3(lanemath_border_float3);
+/** float to long, rounded toward zero; 3 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long3 lanemath_cvtfptoi64rtznosatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtznosatf3, long3, float3, x);
+}
+#define lanemath_cvtfptoi64rtznosatf3(x) \
+/** float to long, rounded toward zero; 3 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtznosatf3, long3, float3, x)
+lanemath_border_long4 __ocl_lanemath_h8_cvtfptoi64rtznosatf4(lanemath_border_float4);
+/** float to long, rounded toward zero; 4 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long4 lanemath_cvtfptoi64rtznosatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtznosatf4, long4, float4, x);
+}
+#define lanemath_cvtfptoi64rtznosatf4(x) \
+/** float to long, rounded toward zero; 4 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtznosatf4, long4, float4, x)
+lanemath_border_long8 __ocl_lanemath_h8_cvtfptoi64rtznosatf8(lanemath_border_float8);
+/** float to long, rounded toward zero; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long8 lanemath_cvtfptoi64rtznosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtznosatf8, long8, float8, x);
+}
+#define lanemath_cvtfptoi64rtznosatf8(x) \
+/** float to long, rounded toward zero; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtznosatf8, long8, float8, x)
+lanemath_border_long16 __ocl_lanemath_h8_cvtfptoi64rtznosatf16(lanemath_border_float16);
+/** float to long, rounded toward zero; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_long16 lanemath_cvtfptoi64rtznosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptoi64rtznosatf16, long16, float16, x);
+}
+#define lanemath_cvtfptoi64rtznosatf16(x) \
+/** float to long, rounded toward zero; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptoi64rtznosatf16, long16, float16, x)
+
+/** double to ulong, rounded to nearest even, clamped to the range of the result; one double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtesat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou64rtesat1");
+/** double to ulong, rounded to nearest even, clamped to the range of the result; 2 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtesat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou64rtesat2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtesat3(lanemath_border_double3);
+/** double to ulong, rounded to nearest even, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtesat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtesat3, ulong3, double3, x);
+}
+#define lanemath_cvtfptou64rtesat3(x) \
+/** double to ulong, rounded to nearest even, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtesat3, ulong3, double3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtesat4(lanemath_border_double4);
+/** double to ulong, rounded to nearest even, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtesat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtesat4, ulong4, double4, x);
+}
+#define lanemath_cvtfptou64rtesat4(x) \
+/** double to ulong, rounded to nearest even, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtesat4, ulong4, double4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtesat8(lanemath_border_double8);
+/** double to ulong, rounded to nearest even, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtesat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtesat8, ulong8, double8, x);
+}
+#define lanemath_cvtfptou64rtesat8(x) \
+/** double to ulong, rounded to nearest even, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtesat8, ulong8, double8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtesat16(lanemath_border_double16);
+/** double to ulong, rounded to nearest even, clamped to the range of the result; 16 lanes of double. Exact, or
+ * rounded once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtesat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtesat16, ulong16, double16, x);
+}
+#define lanemath_cvtfptou64rtesat16(x) \
+/** double to ulong, rounded to nearest even, clamped to the range of the result; 16 lanes of double. Exact, or
+ * rounded once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtesat16, ulong16, double16, x)
+
+/** float to ulong, rounded to nearest even, clamped to the range of the result; one float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtesatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou64rtesatf1");
+/** float to ulong, rounded to nearest even, clamped to the range of the result; 2 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtesatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou64rtesatf2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtesatf3(lanemath_border_float3);
+/** float to ulong, rounded to nearest even, clamped to the range of the result; 3 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtesatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtesatf3, ulong3, float3, x);
+}
+#define lanemath_cvtfptou64rtesatf3(x) \
+/** float to ulong, rounded to nearest even, clamped to the range of the result; 3 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtesatf3, ulong3, float3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtesatf4(lanemath_border_float4);
+/** float to ulong, rounded to nearest even, clamped to the range of the result; 4 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtesatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtesatf4, ulong4, float4, x);
+}
+#define lanemath_cvtfptou64rtesatf4(x) \
+/** float to ulong, rounded to nearest even, clamped to the range of the result; 4 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtesatf4, ulong4, float4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtesatf8(lanemath_border_float8);
+/** float to ulong, rounded to nearest even, clamped to the range of the result; 8 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtesatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtesatf8, ulong8, float8, x);
+}
+#define lanemath_cvtfptou64rtesatf8(x) \
+/** float to ulong, rounded to nearest even, clamped to the range of the result; 8 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtesatf8, ulong8, float8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtesatf16(lanemath_border_float16);
+/** float to ulong, rounded to nearest even, clamped to the range of the result; 16 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtesatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtesatf16, ulong16, float16, x);
+}
+#define lanemath_cvtfptou64rtesatf16(x) \
+/** float to ulong, rounded to nearest even, clamped to the range of the result; 16 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtesatf16, ulong16, float16, x)
+
+/** double to ulong, rounded to nearest even; one double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtenosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou64rtenosat1");
+/** double to ulong, rounded to nearest even; 2 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtenosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou64rtenosat2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtenosat3(lanemath_border_double3);
+/** double to ulong, rounded to nearest even; 3 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtenosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtenosat3, ulong3, double3, x);
+}
+#define lanemath_cvtfptou64rtenosat3(x) \
+/** double to ulong, rounded to nearest even; 3 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtenosat3, ulong3, double3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtenosat4(lanemath_border_double4);
+/** double to ulong, rounded to nearest even; 4 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtenosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtenosat4, ulong4, double4, x);
+}
+#define lanemath_cvtfptou64rtenosat4(x) \
+/** double to ulong, rounded to nearest even; 4 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtenosat4, ulong4, double4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtenosat8(lanemath_border_double8);
+/** double to ulong, rounded to nearest even; 8 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtenosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtenosat8, ulong8, double8, x);
+}
+#define lanemath_cvtfptou64rtenosat8(x) \
+/** double to ulong, rounded to nearest even; 8 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtenosat8, ulong8, double8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtenosat16(lanemath_border_double16);
+/** double to ulong, rounded to nearest even; 16 lanes of double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtenosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtenosat16, ulong16, double16, x);
+}
+#define lanemath_cvtfptou64rtenosat16(x) \
+/** double to ulong, rounded to nearest even; 16 lanes of double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtenosat16, ulong16, double16, x)
+
+/** float to ulong, rounded to nearest even; one float. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtenosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou64rtenosatf1");
+/** float to ulong, rounded to nearest even; 2 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtenosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou64rtenosatf2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtenosatf3(lanemath_border_float3);
+/** float to ulong, rounded to nearest even; 3 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtenosatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtenosatf3, ulong3, float3, x);
+}
+#define lanemath_cvtfptou64rtenosatf3(x) \
+/** float to ulong, rounded to nearest even; 3 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtenosatf3, ulong3, float3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtenosatf4(lanemath_border_float4);
+/** float to ulong, rounded to nearest even; 4 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtenosatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtenosatf4, ulong4, float4, x);
+}
+#define lanemath_cvtfptou64rtenosatf4(x) \
+/** float to ulong, rounded to nearest even; 4 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtenosatf4, ulong4, float4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtenosatf8(lanemath_border_float8);
+/** float to ulong, rounded to nearest even; 8 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtenosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtenosatf8, ulong8, float8, x);
+}
+#define lanemath_cvtfptou64rtenosatf8(x) \
+/** float to ulong, rounded to nearest even; 8 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtenosatf8, ulong8, float8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtenosatf16(lanemath_border_float16);
+/** float to ulong, rounded to nearest even; 16 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtenosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtenosatf16, ulong16, float16, x);
+}
+#define lanemath_cvtfptou64rtenosatf16(x) \
+/** float to ulong, rounded to nearest even; 16 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtenosatf16, ulong16, float16, x)
+
+/** double to ulong, rounded down, clamped to the range of the result; one double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtnsat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou64rtnsat1");
+/** double to ulong, rounded down, clamped to the range of the result; 2 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtnsat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou64rtnsat2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtnsat3(lanemath_border_double3);
+/** double to ulong, rounded down, clamped to the range of the result; 3 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtnsat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnsat3, ulong3, double3, x);
+}
+#define lanemath_cvtfptou64rtnsat3(x) \
+/** double to ulong, rounded down, clamped to the range of the result; 3 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnsat3, ulong3, double3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtnsat4(lanemath_border_double4);
+/** double to ulong, rounded down, clamped to the range of the result; 4 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtnsat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnsat4, ulong4, double4, x);
+}
+#define lanemath_cvtfptou64rtnsat4(x) \
+/** double to ulong, rounded down, clamped to the range of the result; 4 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnsat4, ulong4, double4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtnsat8(lanemath_border_double8);
+/** double to ulong, rounded down, clamped to the range of the result; 8 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtnsat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnsat8, ulong8, double8, x);
+}
+#define lanemath_cvtfptou64rtnsat8(x) \
+/** double to ulong, rounded down, clamped to the range of the result; 8 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnsat8, ulong8, double8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtnsat16(lanemath_border_double16);
+/** double to ulong, rounded down, clamped to the range of the result; 16 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtnsat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnsat16, ulong16, double16, x);
+}
+#define lanemath_cvtfptou64rtnsat16(x) \
+/** double to ulong, rounded down, clamped to the range of the result; 16 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnsat16, ulong16, double16, x)
+
+/** float to ulong, rounded down, clamped to the range of the result; one float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtnsatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou64rtnsatf1");
+/** float to ulong, rounded down, clamped to the range of the result; 2 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtnsatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou64rtnsatf2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtnsatf3(lanemath_border_float3);
+/** float to ulong, rounded down, clamped to the range of the result; 3 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtnsatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnsatf3, ulong3, float3, x);
+}
+#define lanemath_cvtfptou64rtnsatf3(x) \
+/** float to ulong, rounded down, clamped to the range of the result; 3 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnsatf3, ulong3, float3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtnsatf4(lanemath_border_float4);
+/** float to ulong, rounded down, clamped to the range of the result; 4 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtnsatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnsatf4, ulong4, float4, x);
+}
+#define lanemath_cvtfptou64rtnsatf4(x) \
+/** float to ulong, rounded down, clamped to the range of the result; 4 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnsatf4, ulong4, float4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtnsatf8(lanemath_border_float8);
+/** float to ulong, rounded down, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtnsatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnsatf8, ulong8, float8, x);
+}
+#define lanemath_cvtfptou64rtnsatf8(x) \
+/** float to ulong, rounded down, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnsatf8, ulong8, float8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtnsatf16(lanemath_border_float16);
+/** float to ulong, rounded down, clamped to the range of the result; 16 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtnsatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnsatf16, ulong16, float16, x);
+}
+#define lanemath_cvtfptou64rtnsatf16(x) \
+/** float to ulong, rounded down, clamped to the range of the result; 16 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnsatf16, ulong16, float16, x)
+
+/** double to ulong, rounded down; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtnnosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou64rtnnosat1");
+/** double to ulong, rounded down; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtnnosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou64rtnnosat2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtnnosat3(lanemath_border_double3);
+/** double to ulong, rounded down; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtnnosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnnosat3, ulong3, double3, x);
+}
+#define lanemath_cvtfptou64rtnnosat3(x) \
+/** double to ulong, rounded down; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnnosat3, ulong3, double3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtnnosat4(lanemath_border_double4);
+/** double to ulong, rounded down; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtnnosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnnosat4, ulong4, double4, x);
+}
+#define lanemath_cvtfptou64rtnnosat4(x) \
+/** double to ulong, rounded down; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnnosat4, ulong4, double4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtnnosat8(lanemath_border_double8);
+/** double to ulong, rounded down; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtnnosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnnosat8, ulong8, double8, x);
+}
+#define lanemath_cvtfptou64rtnnosat8(x) \
+/** double to ulong, rounded down; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnnosat8, ulong8, double8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtnnosat16(lanemath_border_double16);
+/** double to ulong, rounded down; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtnnosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnnosat16, ulong16, double16, x);
+}
+#define lanemath_cvtfptou64rtnnosat16(x) \
+/** double to ulong, rounded down; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnnosat16, ulong16, double16, x)
+
+/** float to ulong, rounded down; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtnnosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou64rtnnosatf1");
+/** float to ulong, rounded down; 2 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtnnosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou64rtnnosatf2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtnnosatf3(lanemath_border_float3);
+/** float to ulong, rounded down; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtnnosatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnnosatf3, ulong3, float3, x);
+}
+#define lanemath_cvtfptou64rtnnosatf3(x) \
+/** float to ulong, rounded down; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnnosatf3, ulong3, float3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtnnosatf4(lanemath_border_float4);
+/** float to ulong, rounded down; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtnnosatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnnosatf4, ulong4, float4, x);
+}
+#define lanemath_cvtfptou64rtnnosatf4(x) \
+/** float to ulong, rounded down; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnnosatf4, ulong4, float4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtnnosatf8(lanemath_border_float8);
+/** float to ulong, rounded down; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtnnosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnnosatf8, ulong8, float8, x);
+}
+#define lanemath_cvtfptou64rtnnosatf8(x) \
+/** float to ulong, rounded down; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnnosatf8, ulong8, float8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtnnosatf16(lanemath_border_float16);
+/** float to ulong, rounded down; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtnnosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtnnosatf16, ulong16, float16, x);
+}
+#define lanemath_cvtfptou64rtnnosatf16(x) \
+/** float to ulong, rounded down; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtnnosatf16, ulong16, float16, x)
+
+/** double to ulong, rounded up, clamped to the range of the result; one double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtpsat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou64rtpsat1");
+/** double to ulong, rounded up, clamped to the range of the result; 2 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtpsat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou64rtpsat2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtpsat3(lanemath_border_double3);
+/** double to ulong, rounded up, clamped to the range of the result; 3 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtpsat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpsat3, ulong3, double3, x);
+}
+#define lanemath_cvtfptou64rtpsat3(x) \
+/** double to ulong, rounded up, clamped to the range of the result; 3 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpsat3, ulong3, double3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtpsat4(lanemath_border_double4);
+/** double to ulong, rounded up, clamped to the range of the result; 4 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtpsat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpsat4, ulong4, double4, x);
+}
+#define lanemath_cvtfptou64rtpsat4(x) \
+/** double to ulong, rounded up, clamped to the range of the result; 4 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpsat4, ulong4, double4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtpsat8(lanemath_border_double8);
+/** double to ulong, rounded up, clamped to the range of the result; 8 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtpsat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpsat8, ulong8, double8, x);
+}
+#define lanemath_cvtfptou64rtpsat8(x) \
+/** double to ulong, rounded up, clamped to the range of the result; 8 lanes of double. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpsat8, ulong8, double8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtpsat16(lanemath_border_double16);
+/** double to ulong, rounded up, clamped to the range of the result; 16 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtpsat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpsat16, ulong16, double16, x);
+}
+#define lanemath_cvtfptou64rtpsat16(x) \
+/** double to ulong, rounded up, clamped to the range of the result; 16 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpsat16, ulong16, double16, x)
+
+/** float to ulong, rounded up, clamped to the range of the result; one float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtpsatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou64rtpsatf1");
+/** float to ulong, rounded up, clamped to the range of the result; 2 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtpsatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou64rtpsatf2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtpsatf3(lanemath_border_float3);
+/** float to ulong, rounded up, clamped to the range of the result; 3 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtpsatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpsatf3, ulong3, float3, x);
+}
+#define lanemath_cvtfptou64rtpsatf3(x) \
+/** float to ulong, rounded up, clamped to the range of the result; 3 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpsatf3, ulong3, float3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtpsatf4(lanemath_border_float4);
+/** float to ulong, rounded up, clamped to the range of the result; 4 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtpsatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpsatf4, ulong4, float4, x);
+}
+#define lanemath_cvtfptou64rtpsatf4(x) \
+/** float to ulong, rounded up, clamped to the range of the result; 4 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpsatf4, ulong4, float4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtpsatf8(lanemath_border_float8);
+/** float to ulong, rounded up, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtpsatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpsatf8, ulong8, float8, x);
+}
+#define lanemath_cvtfptou64rtpsatf8(x) \
+/** float to ulong, rounded up, clamped to the range of the result; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpsatf8, ulong8, float8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtpsatf16(lanemath_border_float16);
+/** float to ulong, rounded up, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtpsatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpsatf16, ulong16, float16, x);
+}
+#define lanemath_cvtfptou64rtpsatf16(x) \
+/** float to ulong, rounded up, clamped to the range of the result; 16 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpsatf16, ulong16, float16, x)
+
+/** double to ulong, rounded up; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtpnosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou64rtpnosat1");
+/** double to ulong, rounded up; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtpnosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou64rtpnosat2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtpnosat3(lanemath_border_double3);
+/** double to ulong, rounded up; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtpnosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpnosat3, ulong3, double3, x);
+}
+#define lanemath_cvtfptou64rtpnosat3(x) \
+/** double to ulong, rounded up; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpnosat3, ulong3, double3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtpnosat4(lanemath_border_double4);
+/** double to ulong, rounded up; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtpnosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpnosat4, ulong4, double4, x);
+}
+#define lanemath_cvtfptou64rtpnosat4(x) \
+/** double to ulong, rounded up; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpnosat4, ulong4, double4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtpnosat8(lanemath_border_double8);
+/** double to ulong, rounded up; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtpnosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpnosat8, ulong8, double8, x);
+}
+#define lanemath_cvtfptou64rtpnosat8(x) \
+/** double to ulong, rounded up; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpnosat8, ulong8, double8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtpnosat16(lanemath_border_double16);
+/** double to ulong, rounded up; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtpnosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpnosat16, ulong16, double16, x);
+}
+#define lanemath_cvtfptou64rtpnosat16(x) \
+/** double to ulong, rounded up; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpnosat16, ulong16, double16, x)
+
+/** float to ulong, rounded up; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtpnosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou64rtpnosatf1");
+/** float to ulong, rounded up; 2 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtpnosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou64rtpnosatf2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtpnosatf3(lanemath_border_float3);
+/** float to ulong, rounded up; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtpnosatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpnosatf3, ulong3, float3, x);
+}
+#define lanemath_cvtfptou64rtpnosatf3(x) \
+/** float to ulong, rounded up; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpnosatf3, ulong3, float3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtpnosatf4(lanemath_border_float4);
+/** float to ulong, rounded up; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtpnosatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpnosatf4, ulong4, float4, x);
+}
+#define lanemath_cvtfptou64rtpnosatf4(x) \
+/** float to ulong, rounded up; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpnosatf4, ulong4, float4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtpnosatf8(lanemath_border_float8);
+/** float to ulong, rounded up; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtpnosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpnosatf8, ulong8, float8, x);
+}
+#define lanemath_cvtfptou64rtpnosatf8(x) \
+/** float to ulong, rounded up; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpnosatf8, ulong8, float8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtpnosatf16(lanemath_border_float16);
+/** float to ulong, rounded up; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtpnosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtpnosatf16, ulong16, float16, x);
+}
+#define lanemath_cvtfptou64rtpnosatf16(x) \
+/** float to ulong, rounded up; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtpnosatf16, ulong16, float16, x)
+
+/** double to ulong, rounded toward zero, clamped to the range of the result; one double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtzsat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou64rtzsat1");
+/** double to ulong, rounded toward zero, clamped to the range of the result; 2 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtzsat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou64rtzsat2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtzsat3(lanemath_border_double3);
+/** double to ulong, rounded toward zero, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtzsat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtzsat3, ulong3, double3, x);
+}
+#define lanemath_cvtfptou64rtzsat3(x) \
+/** double to ulong, rounded toward zero, clamped to the range of the result; 3 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtzsat3, ulong3, double3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtzsat4(lanemath_border_double4);
+/** double to ulong, rounded toward zero, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtzsat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtzsat4, ulong4, double4, x);
+}
+#define lanemath_cvtfptou64rtzsat4(x) \
+/** double to ulong, rounded toward zero, clamped to the range of the result; 4 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtzsat4, ulong4, double4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtzsat8(lanemath_border_double8);
+/** double to ulong, rounded toward zero, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtzsat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtzsat8, ulong8, double8, x);
+}
+#define lanemath_cvtfptou64rtzsat8(x) \
+/** double to ulong, rounded toward zero, clamped to the range of the result; 8 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtzsat8, ulong8, double8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtzsat16(lanemath_border_double16);
+/** double to ulong, rounded toward zero, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtzsat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtzsat16, ulong16, double16, x);
+}
+#define lanemath_cvtfptou64rtzsat16(x) \
+/** double to ulong, rounded toward zero, clamped to the range of the result; 16 lanes of double. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtzsat16, ulong16, double16, x)
+
+/** float to ulong, rounded toward zero, clamped to the range of the result; one float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtzsatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou64rtzsatf1");
+/** float to ulong, rounded toward zero, clamped to the range of the result; 2 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtzsatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou64rtzsatf2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtzsatf3(lanemath_border_float3);
+/** float to ulong, rounded toward zero, clamped to the range of the result; 3 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtzsatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtzsatf3, ulong3, float3, x);
+}
+#define lanemath_cvtfptou64rtzsatf3(x) \
+/** float to ulong, rounded toward zero, clamped to the range of the result; 3 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtzsatf3, ulong3, float3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtzsatf4(lanemath_border_float4);
+/** float to ulong, rounded toward zero, clamped to the range of the result; 4 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtzsatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtzsatf4, ulong4, float4, x);
+}
+#define lanemath_cvtfptou64rtzsatf4(x) \
+/** float to ulong, rounded toward zero, clamped to the range of the result; 4 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtzsatf4, ulong4, float4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtzsatf8(lanemath_border_float8);
+/** float to ulong, rounded toward zero, clamped to the range of the result; 8 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtzsatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtzsatf8, ulong8, float8, x);
+}
+#define lanemath_cvtfptou64rtzsatf8(x) \
+/** float to ulong, rounded toward zero, clamped to the range of the result; 8 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtzsatf8, ulong8, float8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtzsatf16(lanemath_border_float16);
+/** float to ulong, rounded toward zero, clamped to the range of the result; 16 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtzsatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtzsatf16, ulong16, float16, x);
+}
+#define lanemath_cvtfptou64rtzsatf16(x) \
+/** float to ulong, rounded toward zero, clamped to the range of the result; 16 lanes of float. Exact, or rounded
+ * once. Domain and special values: at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtzsatf16, ulong16, float16, x)
+
+/** double to ulong, rounded toward zero; one double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtznosat1(lanemath_double1 x) LANEMATH_NAMED("cvtfptou64rtznosat1");
+/** double to ulong, rounded toward zero; 2 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtznosat2(lanemath_double2 x) LANEMATH_NAMED("cvtfptou64rtznosat2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtznosat3(lanemath_border_double3);
+/** double to ulong, rounded toward zero; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtznosat3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtznosat3, ulong3, double3, x);
+}
+#define lanemath_cvtfptou64rtznosat3(x) \
+/** double to ulong, rounded toward zero; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtznosat3, ulong3, double3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtznosat4(lanemath_border_double4);
+/** double to ulong, rounded toward zero; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtznosat4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtznosat4, ulong4, double4, x);
+}
+#define lanemath_cvtfptou64rtznosat4(x) \
+/** double to ulong, rounded toward zero; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtznosat4, ulong4, double4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtznosat8(lanemath_border_double8);
+/** double to ulong, rounded toward zero; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtznosat8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtznosat8, ulong8, double8, x);
+}
+#define lanemath_cvtfptou64rtznosat8(x) \
+/** double to ulong, rounded toward zero; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtznosat8, ulong8, double8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtznosat16(lanemath_border_double16);
+/** double to ulong, rounded toward zero; 16 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtznosat16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtznosat16, ulong16, double16, x);
+}
+#define lanemath_cvtfptou64rtznosat16(x) \
+/** double to ulong, rounded toward zero; 16 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtznosat16, ulong16, double16, x)
+
+/** float to ulong, rounded toward zero; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_ulong1 lanemath_cvtfptou64rtznosatf1(lanemath_float1 x) LANEMATH_NAMED("cvtfptou64rtznosatf1");
+/** float to ulong, rounded toward zero; 2 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_ulong2 lanemath_cvtfptou64rtznosatf2(lanemath_float2 x) LANEMATH_NAMED("cvtfptou64rtznosatf2");
+lanemath_border_ulong3 __ocl_lanemath_h8_cvtfptou64rtznosatf3(lanemath_border_float3);
+/** float to ulong, rounded toward zero; 3 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong3 lanemath_cvtfptou64rtznosatf3(lanemath_float3 x) {
+  return LANEMATH_UNARY(cvtfptou64rtznosatf3, ulong3, float3, x);
+}
+#define lanemath_cvtfptou64rtznosatf3(x) \
+/** float to ulong, rounded toward zero; 3 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtznosatf3, ulong3, float3, x)
+lanemath_border_ulong4 __ocl_lanemath_h8_cvtfptou64rtznosatf4(lanemath_border_float4);
+/** float to ulong, rounded toward zero; 4 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong4 lanemath_cvtfptou64rtznosatf4(lanemath_float4 x) {
+  return LANEMATH_UNARY(cvtfptou64rtznosatf4, ulong4, float4, x);
+}
+#define lanemath_cvtfptou64rtznosatf4(x) \
+/** float to ulong, rounded toward zero; 4 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtznosatf4, ulong4, float4, x)
+lanemath_border_ulong8 __ocl_lanemath_h8_cvtfptou64rtznosatf8(lanemath_border_float8);
+/** float to ulong, rounded toward zero; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong8 lanemath_cvtfptou64rtznosatf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cvtfptou64rtznosatf8, ulong8, float8, x);
+}
+#define lanemath_cvtfptou64rtznosatf8(x) \
+/** float to ulong, rounded toward zero; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtznosatf8, ulong8, float8, x)
+lanemath_border_ulong16 __ocl_lanemath_h8_cvtfptou64rtznosatf16(lanemath_border_float16);
+/** float to ulong, rounded toward zero; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_ulong16 lanemath_cvtfptou64rtznosatf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cvtfptou64rtznosatf16, ulong16, float16, x);
+}
+#define lanemath_cvtfptou64rtznosatf16(x) \
+/** float to ulong, rounded toward zero; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfptou64rtznosatf16, ulong16, float16, x)
+
+/** int to double, rounded to nearest even; one int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvti32tofprte1(lanemath_int1 x) LANEMATH_NAMED("cvti32tofprte1");
+/** int to double, rounded to nearest even; 2 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvti32tofprte2(lanemath_int2 x) LANEMATH_NAMED("cvti32tofprte2");
+lanemath_border_double3 __ocl_lanemath_h8_cvti32tofprte3(lanemath_border_int3);
+/** int to double, rounded to nearest even; 3 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvti32tofprte3(lanemath_int3 x) {
+  return LANEMATH_UNARY(cvti32tofprte3, double3, int3, x);
+}
+#define lanemath_cvti32tofprte3(x) \
+/** int to double, rounded to nearest even; 3 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprte3, double3, int3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvti32tofprte4(lanemath_border_int4);
+/** int to double, rounded to nearest even; 4 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvti32tofprte4(lanemath_int4 x) {
+  return LANEMATH_UNARY(cvti32tofprte4, double4, int4, x);
+}
+#define lanemath_cvti32tofprte4(x) \
+/** int to double, rounded to nearest even; 4 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprte4, double4, int4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvti32tofprte8(lanemath_border_int8);
+/** int to double, rounded to nearest even; 8 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvti32tofprte8(lanemath_int8 x) {
+  return LANEMATH_UNARY(cvti32tofprte8, double8, int8, x);
+}
+#define lanemath_cvti32tofprte8(x) \
+/** int to double, rounded to nearest even; 8 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprte8, double8, int8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvti32tofprte16(lanemath_border_int16);
+/** int to double, rounded to nearest even; 16 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvti32tofprte16(lanemath_int16 x) {
+  return LANEMATH_UNARY(cvti32tofprte16, double16, int16, x);
+}
+#define lanemath_cvti32tofprte16(x) \
+/** int to double, rounded to nearest even; 16 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprte16, double16, int16, x)
+
+/** int to float, rounded to nearest even; one int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvti32tofprtef1(lanemath_int1 x) LANEMATH_NAMED("cvti32tofprtef1");
+/** int to float, rounded to nearest even; 2 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvti32tofprtef2(lanemath_int2 x) LANEMATH_NAMED("cvti32tofprtef2");
+/** int to float, rounded to nearest even; 3 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float3 lanemath_cvti32tofprtef3(lanemath_int3 x) LANEMATH_NAMED("cvti32tofprtef3");
+/** int to float, rounded to nearest even; 4 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float4 lanemath_cvti32tofprtef4(lanemath_int4 x) LANEMATH_NAMED("cvti32tofprtef4");
+lanemath_border_float8 __ocl_lanemath_h8_cvti32tofprtef8(lanemath_border_int8);
+/** int to float, rounded to nearest even; 8 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvti32tofprtef8(lanemath_int8 x) {
+  return LANEMATH_UNARY(cvti32tofprtef8, float8, int8, x);
+}
+#define lanemath_cvti32tofprtef8(x) \
+/** int to float, rounded to nearest even; 8 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtef8, float8, int8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvti32tofprtef16(lanemath_border_int16);
+/** int to float, rounded to nearest even; 16 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvti32tofprtef16(lanemath_int16 x) {
+  return LANEMATH_UNARY(cvti32tofprtef16, float16, int16, x);
+}
+#define lanemath_cvti32tofprtef16(x) \
+/** int to float, rounded to nearest even; 16 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtef16, float16, int16, x)
+
+/** int to double, rounded down; one int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvti32tofprtn1(lanemath_int1 x) LANEMATH_NAMED("cvti32tofprtn1");
+/** int to double, rounded down; 2 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvti32tofprtn2(lanemath_int2 x) LANEMATH_NAMED("cvti32tofprtn2");
+lanemath_border_double3 __ocl_lanemath_h8_cvti32tofprtn3(lanemath_border_int3);
+/** int to double, rounded down; 3 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvti32tofprtn3(lanemath_int3 x) {
+  return LANEMATH_UNARY(cvti32tofprtn3, double3, int3, x);
+}
+#define lanemath_cvti32tofprtn3(x) \
+/** int to double, rounded down; 3 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtn3, double3, int3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvti32tofprtn4(lanemath_border_int4);
+/** int to double, rounded down; 4 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvti32tofprtn4(lanemath_int4 x) {
+  return LANEMATH_UNARY(cvti32tofprtn4, double4, int4, x);
+}
+#define lanemath_cvti32tofprtn4(x) \
+/** int to double, rounded down; 4 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtn4, double4, int4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvti32tofprtn8(lanemath_border_int8);
+/** int to double, rounded down; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvti32tofprtn8(lanemath_int8 x) {
+  return LANEMATH_UNARY(cvti32tofprtn8, double8, int8, x);
+}
+#define lanemath_cvti32tofprtn8(x) \
+/** int to double, rounded down; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtn8, double8, int8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvti32tofprtn16(lanemath_border_int16);
+/** int to double, rounded down; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvti32tofprtn16(lanemath_int16 x) {
+  return LANEMATH_UNARY(cvti32tofprtn16, double16, int16, x);
+}
+#define lanemath_cvti32tofprtn16(x) \
+/** int to double, rounded down; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtn16, double16, int16, x)
+
+/** int to float, rounded down; one int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvti32tofprtnf1(lanemath_int1 x) LANEMATH_NAMED("cvti32tofprtnf1");
+/** int to float, rounded down; 2 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvti32tofprtnf2(lanemath_int2 x) LANEMATH_NAMED("cvti32tofprtnf2");
+/** int to float, rounded down; 3 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float3 lanemath_cvti32tofprtnf3(lanemath_int3 x) LANEMATH_NAMED("cvti32tofprtnf3");
+/** int to float, rounded down; 4 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float4 lanemath_cvti32tofprtnf4(lanemath_int4 x) LANEMATH_NAMED("cvti32tofprtnf4");
+lanemath_border_float8 __ocl_lanemath_h8_cvti32tofprtnf8(lanemath_border_int8);
+/** int to float, rounded down; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvti32tofprtnf8(lanemath_int8 x) {
+  return LANEMATH_UNARY(cvti32tofprtnf8, float8, int8, x);
+}
+#define lanemath_cvti32tofprtnf8(x) \
+/** int to float, rounded down; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtnf8, float8, int8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvti32tofprtnf16(lanemath_border_int16);
+/** int to float, rounded down; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvti32tofprtnf16(lanemath_int16 x) {
+  return LANEMATH_UNARY(cvti32tofprtnf16, float16, int16, x);
+}
+#define lanemath_cvti32tofprtnf16(x) \
+/** int to float, rounded down; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtnf16, float16, int16, x)
+
+/** int to double, rounded up; one int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvti32tofprtp1(lanemath_int1 x) LANEMATH_NAMED("cvti32tofprtp1");
+/** int to double, rounded up; 2 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvti32tofprtp2(lanemath_int2 x) LANEMATH_NAMED("cvti32tofprtp2");
+lanemath_border_double3 __ocl_lanemath_h8_cvti32tofprtp3(lanemath_border_int3);
+/** int to double, rounded up; 3 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvti32tofprtp3(lanemath_int3 x) {
+  return LANEMATH_UNARY(cvti32tofprtp3, double3, int3, x);
+}
+#define lanemath_cvti32tofprtp3(x) \
+/** int to double, rounded up; 3 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtp3, double3, int3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvti32tofprtp4(lanemath_border_int4);
+/** int to double, rounded up; 4 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvti32tofprtp4(lanemath_int4 x) {
+  return LANEMATH_UNARY(cvti32tofprtp4, double4, int4, x);
+}
+#define lanemath_cvti32tofprtp4(x) \
+/** int to double, rounded up; 4 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtp4, double4, int4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvti32tofprtp8(lanemath_border_int8);
+/** int to double, rounded up; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvti32tofprtp8(lanemath_int8 x) {
+  return LANEMATH_UNARY(cvti32tofprtp8, double8, int8, x);
+}
+#define lanemath_cvti32tofprtp8(x) \
+/** int to double, rounded up; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtp8, double8, int8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvti32tofprtp16(lanemath_border_int16);
+/** int to double, rounded up; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvti32tofprtp16(lanemath_int16 x) {
+  return LANEMATH_UNARY(cvti32tofprtp16, double16, int16, x);
+}
+#define lanemath_cvti32tofprtp16(x) \
+/** int to double, rounded up; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtp16, double16, int16, x)
+
+/** int to float, rounded up; one int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvti32tofprtpf1(lanemath_int1 x) LANEMATH_NAMED("cvti32tofprtpf1");
+/** int to float, rounded up; 2 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvti32tofprtpf2(lanemath_int2 x) LANEMATH_NAMED("cvti32tofprtpf2");
+/** int to float, rounded up; 3 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float3 lanemath_cvti32tofprtpf3(lanemath_int3 x) LANEMATH_NAMED("cvti32tofprtpf3");
+/** int to float, rounded up; 4 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float4 lanemath_cvti32tofprtpf4(lanemath_int4 x) LANEMATH_NAMED("cvti32tofprtpf4");
+lanemath_border_float8 __ocl_lanemath_h8_cvti32tofprtpf8(lanemath_border_int8);
+/** int to float, rounded up; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvti32tofprtpf8(lanemath_int8 x) {
+  return LANEMATH_UNARY(cvti32tofprtpf8, float8, int8, x);
+}
+#define lanemath_cvti32tofprtpf8(x) \
+/** int to float, rounded up; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtpf8, float8, int8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvti32tofprtpf16(lanemath_border_int16);
+/** int to float, rounded up; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvti32tofprtpf16(lanemath_int16 x) {
+  return LANEMATH_UNARY(cvti32tofprtpf16, float16, int16, x);
+}
+#define lanemath_cvti32tofprtpf16(x) \
+/** int to float, rounded up; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtpf16, float16, int16, x)
+
+/** int to double, rounded toward zero; one int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvti32tofprtz1(lanemath_int1 x) LANEMATH_NAMED("cvti32tofprtz1");
+/** int to double, rounded toward zero; 2 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvti32tofprtz2(lanemath_int2 x) LANEMATH_NAMED("cvti32tofprtz2");
+lanemath_border_double3 __ocl_lanemath_h8_cvti32tofprtz3(lanemath_border_int3);
+/** int to double, rounded toward zero; 3 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvti32tofprtz3(lanemath_int3 x) {
+  return LANEMATH_UNARY(cvti32tofprtz3, double3, int3, x);
+}
+#define lanemath_cvti32tofprtz3(x) \
+/** int to double, rounded toward zero; 3 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtz3, double3, int3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvti32tofprtz4(lanemath_border_int4);
+/** int to double, rounded toward zero; 4 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvti32tofprtz4(lanemath_int4 x) {
+  return LANEMATH_UNARY(cvti32tofprtz4, double4, int4, x);
+}
+#define lanemath_cvti32tofprtz4(x) \
+/** int to double, rounded toward zero; 4 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtz4, double4, int4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvti32tofprtz8(lanemath_border_int8);
+/** int to double, rounded toward zero; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvti32tofprtz8(lanemath_int8 x) {
+  return LANEMATH_UNARY(cvti32tofprtz8, double8, int8, x);
+}
+#define lanemath_cvti32tofprtz8(x) \
+/** int to double, rounded toward zero; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtz8, double8, int8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvti32tofprtz16(lanemath_border_int16);
+/** int to double, rounded toward zero; 16 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvti32tofprtz16(lanemath_int16 x) {
+  return LANEMATH_UNARY(cvti32tofprtz16, double16, int16, x);
+}
+#define lanemath_cvti32tofprtz16(x) \
+/** int to double, rounded toward zero; 16 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtz16, double16, int16, x)
+
+/** int to float, rounded toward zero; one int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvti32tofprtzf1(lanemath_int1 x) LANEMATH_NAMED("cvti32tofprtzf1");
+/** int to float, rounded toward zero; 2 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvti32tofprtzf2(lanemath_int2 x) LANEMATH_NAMED("cvti32tofprtzf2");
+/** int to float, rounded toward zero; 3 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_float3 lanemath_cvti32tofprtzf3(lanemath_int3 x) LANEMATH_NAMED("cvti32tofprtzf3");
+/** int to float, rounded toward zero; 4 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_float4 lanemath_cvti32tofprtzf4(lanemath_int4 x) LANEMATH_NAMED("cvti32tofprtzf4");
+lanemath_border_float8 __ocl_lanemath_h8_cvti32tofprtzf8(lanemath_border_int8);
+/** int to float, rounded toward zero; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvti32tofprtzf8(lanemath_int8 x) {
+  return LANEMATH_UNARY(cvti32tofprtzf8, float8, int8, x);
+}
+#define lanemath_cvti32tofprtzf8(x) \
+/** int to float, rounded toward zero; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtzf8, float8, int8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvti32tofprtzf16(lanemath_border_int16);
+/** int to float, rounded toward zero; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvti32tofprtzf16(lanemath_int16 x) {
+  return LANEMATH_UNARY(cvti32tofprtzf16, float16, int16, x);
+}
+#define lanemath_cvti32tofprtzf16(x) \
+/** int to float, rounded toward zero; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti32tofprtzf16, float16, int16, x)
+
+/** uint to double, rounded to nearest even; one uint. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvtu32tofprte1(lanemath_uint1 x) LANEMATH_NAMED("cvtu32tofprte1");
+/** uint to double, rounded to nearest even; 2 lanes of uint. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvtu32tofprte2(lanemath_uint2 x) LANEMATH_NAMED("cvtu32tofprte2");
+lanemath_border_double3 __ocl_lanemath_h8_cvtu32tofprte3(lanemath_border_uint3);
+/** uint to double, rounded to nearest even; 3 lanes of uint. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvtu32tofprte3(lanemath_uint3 x) {
+  return LANEMATH_UNARY(cvtu32tofprte3, double3, uint3, x);
+}
+#define lanemath_cvtu32tofprte3(x) \
+/** uint to double, rounded to nearest even; 3 lanes of uint. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprte3, double3, uint3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvtu32tofprte4(lanemath_border_uint4);
+/** uint to double, rounded to nearest even; 4 lanes of uint. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvtu32tofprte4(lanemath_uint4 x) {
+  return LANEMATH_UNARY(cvtu32tofprte4, double4, uint4, x);
+}
+#define lanemath_cvtu32tofprte4(x) \
+/** uint to double, rounded to nearest even; 4 lanes of uint. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprte4, double4, uint4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvtu32tofprte8(lanemath_border_uint8);
+/** uint to double, rounded to nearest even; 8 lanes of uint. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvtu32tofprte8(lanemath_uint8 x) {
+  return LANEMATH_UNARY(cvtu32tofprte8, double8, uint8, x);
+}
+#define lanemath_cvtu32tofprte8(x) \
+/** uint to double, rounded to nearest even; 8 lanes of uint. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprte8, double8, uint8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvtu32tofprte16(lanemath_border_uint16);
+/** uint to double, rounded to nearest even; 16 lanes of uint. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvtu32tofprte16(lanemath_uint16 x) {
+  return LANEMATH_UNARY(cvtu32tofprte16, double16, uint16, x);
+}
+#define lanemath_cvtu32tofprte16(x) \
+/** uint to double, rounded to nearest even; 16 lanes of uint. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprte16, double16, uint16, x)
+
+/** uint to float, rounded to nearest even; one uint. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvtu32tofprtef1(lanemath_uint1 x) LANEMATH_NAMED("cvtu32tofprtef1");
+/** uint to float, rounded to nearest even; 2 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvtu32tofprtef2(lanemath_uint2 x) LANEMATH_NAMED("cvtu32tofprtef2");
+/** uint to float, rounded to nearest even; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float3 lanemath_cvtu32tofprtef3(lanemath_uint3 x) LANEMATH_NAMED("cvtu32tofprtef3");
+/** uint to float, rounded to nearest even; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float4 lanemath_cvtu32tofprtef4(lanemath_uint4 x) LANEMATH_NAMED("cvtu32tofprtef4");
+lanemath_border_float8 __ocl_lanemath_h8_cvtu32tofprtef8(lanemath_border_uint8);
+/** uint to float, rounded to nearest even; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvtu32tofprtef8(lanemath_uint8 x) {
+  return LANEMATH_UNARY(cvtu32tofprtef8, float8, uint8, x);
+}
+#define lanemath_cvtu32tofprtef8(x) \
+/** uint to float, rounded to nearest even; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtef8, float8, uint8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvtu32tofprtef16(lanemath_border_uint16);
+/** uint to float, rounded to nearest even; 16 lanes of uint. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvtu32tofprtef16(lanemath_uint16 x) {
+  return LANEMATH_UNARY(cvtu32tofprtef16, float16, uint16, x);
+}
+#define lanemath_cvtu32tofprtef16(x) \
+/** uint to float, rounded to nearest even; 16 lanes of uint. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtef16, float16, uint16, x)
+
+/** uint to double, rounded down; one uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvtu32tofprtn1(lanemath_uint1 x) LANEMATH_NAMED("cvtu32tofprtn1");
+/** uint to double, rounded down; 2 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvtu32tofprtn2(lanemath_uint2 x) LANEMATH_NAMED("cvtu32tofprtn2");
+lanemath_border_double3 __ocl_lanemath_h8_cvtu32tofprtn3(lanemath_border_uint3);
+/** uint to double, rounded down; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvtu32tofprtn3(lanemath_uint3 x) {
+  return LANEMATH_UNARY(cvtu32tofprtn3, double3, uint3, x);
+}
+#define lanemath_cvtu32tofprtn3(x) \
+/** uint to double, rounded down; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtn3, double3, uint3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvtu32tofprtn4(lanemath_border_uint4);
+/** uint to double, rounded down; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvtu32tofprtn4(lanemath_uint4 x) {
+  return LANEMATH_UNARY(cvtu32tofprtn4, double4, uint4, x);
+}
+#define lanemath_cvtu32tofprtn4(x) \
+/** uint to double, rounded down; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtn4, double4, uint4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvtu32tofprtn8(lanemath_border_uint8);
+/** uint to double, rounded down; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvtu32tofprtn8(lanemath_uint8 x) {
+  return LANEMATH_UNARY(cvtu32tofprtn8, double8, uint8, x);
+}
+#define lanemath_cvtu32tofprtn8(x) \
+/** uint to double, rounded down; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtn8, double8, uint8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvtu32tofprtn16(lanemath_border_uint16);
+/** uint to double, rounded down; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvtu32tofprtn16(lanemath_uint16 x) {
+  return LANEMATH_UNARY(cvtu32tofprtn16, double16, uint16, x);
+}
+#define lanemath_cvtu32tofprtn16(x) \
+/** uint to double, rounded down; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtn16, double16, uint16, x)
+
+/** uint to float, rounded down; one uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvtu32tofprtnf1(lanemath_uint1 x) LANEMATH_NAMED("cvtu32tofprtnf1");
+/** uint to float, rounded down; 2 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvtu32tofprtnf2(lanemath_uint2 x) LANEMATH_NAMED("cvtu32tofprtnf2");
+/** uint to float, rounded down; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float3 lanemath_cvtu32tofprtnf3(lanemath_uint3 x) LANEMATH_NAMED("cvtu32tofprtnf3");
+/** uint to float, rounded down; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float4 lanemath_cvtu32tofprtnf4(lanemath_uint4 x) LANEMATH_NAMED("cvtu32tofprtnf4");
+lanemath_border_float8 __ocl_lanemath_h8_cvtu32tofprtnf8(lanemath_border_uint8);
+/** uint to float, rounded down; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvtu32tofprtnf8(lanemath_uint8 x) {
+  return LANEMATH_UNARY(cvtu32tofprtnf8, float8, uint8, x);
+}
+#define lanemath_cvtu32tofprtnf8(x) \
+/** uint to float, rounded down; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtnf8, float8, uint8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvtu32tofprtnf16(lanemath_border_uint16);
+/** uint to float, rounded down; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvtu32tofprtnf16(lanemath_uint16 x) {
+  return LANEMATH_UNARY(cvtu32tofprtnf16, float16, uint16, x);
+}
+#define lanemath_cvtu32tofprtnf16(x) \
+/** uint to float, rounded down; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtnf16, float16, uint16, x)
+
+/** uint to double, rounded up; one uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvtu32tofprtp1(lanemath_uint1 x) LANEMATH_NAMED("cvtu32tofprtp1");
+/** uint to double, rounded up; 2 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvtu32tofprtp2(lanemath_uint2 x) LANEMATH_NAMED("cvtu32tofprtp2");
+lanemath_border_double3 __ocl_lanemath_h8_cvtu32tofprtp3(lanemath_border_uint3);
+/** uint to double, rounded up; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvtu32tofprtp3(lanemath_uint3 x) {
+  return LANEMATH_UNARY(cvtu32tofprtp3, double3, uint3, x);
+}
+#define lanemath_cvtu32tofprtp3(x) \
+/** uint to double, rounded up; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtp3, double3, uint3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvtu32tofprtp4(lanemath_border_uint4);
+/** uint to double, rounded up; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvtu32tofprtp4(lanemath_uint4 x) {
+  return LANEMATH_UNARY(cvtu32tofprtp4, double4, uint4, x);
+}
+#define lanemath_cvtu32tofprtp4(x) \
+/** uint to double, rounded up; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtp4, double4, uint4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvtu32tofprtp8(lanemath_border_uint8);
+/** uint to double, rounded up; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvtu32tofprtp8(lanemath_uint8 x) {
+  return LANEMATH_UNARY(cvtu32tofprtp8, double8, uint8, x);
+}
+#define lanemath_cvtu32tofprtp8(x) \
+/** uint to double, rounded up; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtp8, double8, uint8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvtu32tofprtp16(lanemath_border_uint16);
+/** uint to double, rounded up; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvtu32tofprtp16(lanemath_uint16 x) {
+  return LANEMATH_UNARY(cvtu32tofprtp16, double16, uint16, x);
+}
+#define lanemath_cvtu32tofprtp16(x) \
+/** uint to double, rounded up; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtp16, double16, uint16, x)
+
+/** uint to float, rounded up; one uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvtu32tofprtpf1(lanemath_uint1 x) LANEMATH_NAMED("cvtu32tofprtpf1");
+/** uint to float, rounded up; 2 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvtu32tofprtpf2(lanemath_uint2 x) LANEMATH_NAMED("cvtu32tofprtpf2");
+/** uint to float, rounded up; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float3 lanemath_cvtu32tofprtpf3(lanemath_uint3 x) LANEMATH_NAMED("cvtu32tofprtpf3");
+/** uint to float, rounded up; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float4 lanemath_cvtu32tofprtpf4(lanemath_uint4 x) LANEMATH_NAMED("cvtu32tofprtpf4");
+lanemath_border_float8 __ocl_lanemath_h8_cvtu32tofprtpf8(lanemath_border_uint8);
+/** uint to float, rounded up; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvtu32tofprtpf8(lanemath_uint8 x) {
+  return LANEMATH_UNARY(cvtu32tofprtpf8, float8, uint8, x);
+}
+#define lanemath_cvtu32tofprtpf8(x) \
+/** uint to float, rounded up; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtpf8, float8, uint8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvtu32tofprtpf16(lanemath_border_uint16);
+/** uint to float, rounded up; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvtu32tofprtpf16(lanemath_uint16 x) {
+  return LANEMATH_UNARY(cvtu32tofprtpf16, float16, uint16, x);
+}
+#define lanemath_cvtu32tofprtpf16(x) \
+/** uint to float, rounded up; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtpf16, float16, uint16, x)
+
+/** uint to double, rounded toward zero; one uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvtu32tofprtz1(lanemath_uint1 x) LANEMATH_NAMED("cvtu32tofprtz1");
+/** uint to double, rounded toward zero; 2 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvtu32tofprtz2(lanemath_uint2 x) LANEMATH_NAMED("cvtu32tofprtz2");
+lanemath_border_double3 __ocl_lanemath_h8_cvtu32tofprtz3(lanemath_border_uint3);
+/** uint to double, rounded toward zero; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvtu32tofprtz3(lanemath_uint3 x) {
+  return LANEMATH_UNARY(cvtu32tofprtz3, double3, uint3, x);
+}
+#define lanemath_cvtu32tofprtz3(x) \
+/** uint to double, rounded toward zero; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtz3, double3, uint3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvtu32tofprtz4(lanemath_border_uint4);
+/** uint to double, rounded toward zero; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvtu32tofprtz4(lanemath_uint4 x) {
+  return LANEMATH_UNARY(cvtu32tofprtz4, double4, uint4, x);
+}
+#define lanemath_cvtu32tofprtz4(x) \
+/** uint to double, rounded toward zero; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtz4, double4, uint4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvtu32tofprtz8(lanemath_border_uint8);
+/** uint to double, rounded toward zero; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvtu32tofprtz8(lanemath_uint8 x) {
+  return LANEMATH_UNARY(cvtu32tofprtz8, double8, uint8, x);
+}
+#define lanemath_cvtu32tofprtz8(x) \
+/** uint to double, rounded toward zero; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtz8, double8, uint8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvtu32tofprtz16(lanemath_border_uint16);
+/** uint to double, rounded toward zero; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvtu32tofprtz16(lanemath_uint16 x) {
+  return LANEMATH_UNARY(cvtu32tofprtz16, double16, uint16, x);
+}
+#define lanemath_cvtu32tofprtz16(x) \
+/** uint to double, rounded toward zero; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtz16, double16, uint16, x)
+
+/** uint to float, rounded toward zero; one uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvtu32tofprtzf1(lanemath_uint1 x) LANEMATH_NAMED("cvtu32tofprtzf1");
+/** uint to float, rounded toward zero; 2 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvtu32tofprtzf2(lanemath_uint2 x) LANEMATH_NAMED("cvtu32tofprtzf2");
+/** uint to float, rounded toward zero; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float3 lanemath_cvtu32tofprtzf3(lanemath_uint3 x) LANEMATH_NAMED("cvtu32tofprtzf3");
+/** uint to float, rounded toward zero; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float4 lanemath_cvtu32tofprtzf4(lanemath_uint4 x) LANEMATH_NAMED("cvtu32tofprtzf4");
+lanemath_border_float8 __ocl_lanemath_h8_cvtu32tofprtzf8(lanemath_border_uint8);
+/** uint to float, rounded toward zero; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvtu32tofprtzf8(lanemath_uint8 x) {
+  return LANEMATH_UNARY(cvtu32tofprtzf8, float8, uint8, x);
+}
+#define lanemath_cvtu32tofprtzf8(x) \
+/** uint to float, rounded toward zero; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtzf8, float8, uint8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvtu32tofprtzf16(lanemath_border_uint16);
+/** uint to float, rounded toward zero; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvtu32tofprtzf16(lanemath_uint16 x) {
+  return LANEMATH_UNARY(cvtu32tofprtzf16, float16, uint16, x);
+}
+#define lanemath_cvtu32tofprtzf16(x) \
+/** uint to float, rounded toward zero; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu32tofprtzf16, float16, uint16, x)
+
+/** long to double, rounded to nearest even; one long. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvti64tofprte1(lanemath_long1 x) LANEMATH_NAMED("cvti64tofprte1");
+/** long to double, rounded to nearest even; 2 lanes of long. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvti64tofprte2(lanemath_long2 x) LANEMATH_NAMED("cvti64tofprte2");
+lanemath_border_double3 __ocl_lanemath_h8_cvti64tofprte3(lanemath_border_long3);
+/** long to double, rounded to nearest even; 3 lanes of long. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvti64tofprte3(lanemath_long3 x) {
+  return LANEMATH_UNARY(cvti64tofprte3, double3, long3, x);
+}
+#define lanemath_cvti64tofprte3(x) \
+/** long to double, rounded to nearest even; 3 lanes of long. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprte3, double3, long3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvti64tofprte4(lanemath_border_long4);
+/** long to double, rounded to nearest even; 4 lanes of long. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvti64tofprte4(lanemath_long4 x) {
+  return LANEMATH_UNARY(cvti64tofprte4, double4, long4, x);
+}
+#define lanemath_cvti64tofprte4(x) \
+/** long to double, rounded to nearest even; 4 lanes of long. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprte4, double4, long4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvti64tofprte8(lanemath_border_long8);
+/** long to double, rounded to nearest even; 8 lanes of long. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvti64tofprte8(lanemath_long8 x) {
+  return LANEMATH_UNARY(cvti64tofprte8, double8, long8, x);
+}
+#define lanemath_cvti64tofprte8(x) \
+/** long to double, rounded to nearest even; 8 lanes of long. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprte8, double8, long8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvti64tofprte16(lanemath_border_long16);
+/** long to double, rounded to nearest even; 16 lanes of long. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvti64tofprte16(lanemath_long16 x) {
+  return LANEMATH_UNARY(cvti64tofprte16, double16, long16, x);
+}
+#define lanemath_cvti64tofprte16(x) \
+/** long to double, rounded to nearest even; 16 lanes of long. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprte16, double16, long16, x)
+
+/** long to float, rounded to nearest even; one long. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvti64tofprtef1(lanemath_long1 x) LANEMATH_NAMED("cvti64tofprtef1");
+/** long to float, rounded to nearest even; 2 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvti64tofprtef2(lanemath_long2 x) LANEMATH_NAMED("cvti64tofprtef2");
+lanemath_border_float3 __ocl_lanemath_h8_cvti64tofprtef3(lanemath_border_long3);
+/** long to float, rounded to nearest even; 3 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float3 lanemath_cvti64tofprtef3(lanemath_long3 x) {
+  return LANEMATH_UNARY(cvti64tofprtef3, float3, long3, x);
+}
+#define lanemath_cvti64tofprtef3(x) \
+/** long to float, rounded to nearest even; 3 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtef3, float3, long3, x)
+lanemath_border_float4 __ocl_lanemath_h8_cvti64tofprtef4(lanemath_border_long4);
+/** long to float, rounded to nearest even; 4 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float4 lanemath_cvti64tofprtef4(lanemath_long4 x) {
+  return LANEMATH_UNARY(cvti64tofprtef4, float4, long4, x);
+}
+#define lanemath_cvti64tofprtef4(x) \
+/** long to float, rounded to nearest even; 4 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtef4, float4, long4, x)
+lanemath_border_float8 __ocl_lanemath_h8_cvti64tofprtef8(lanemath_border_long8);
+/** long to float, rounded to nearest even; 8 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvti64tofprtef8(lanemath_long8 x) {
+  return LANEMATH_UNARY(cvti64tofprtef8, float8, long8, x);
+}
+#define lanemath_cvti64tofprtef8(x) \
+/** long to float, rounded to nearest even; 8 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtef8, float8, long8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvti64tofprtef16(lanemath_border_long16);
+/** long to float, rounded to nearest even; 16 lanes of long. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvti64tofprtef16(lanemath_long16 x) {
+  return LANEMATH_UNARY(cvti64tofprtef16, float16, long16, x);
+}
+#define lanemath_cvti64tofprtef16(x) \
+/** long to float, rounded to nearest even; 16 lanes of long. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtef16, float16, long16, x)
+
+/** long to double, rounded down; one long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvti64tofprtn1(lanemath_long1 x) LANEMATH_NAMED("cvti64tofprtn1");
+/** long to double, rounded down; 2 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvti64tofprtn2(lanemath_long2 x) LANEMATH_NAMED("cvti64tofprtn2");
+lanemath_border_double3 __ocl_lanemath_h8_cvti64tofprtn3(lanemath_border_long3);
+/** long to double, rounded down; 3 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvti64tofprtn3(lanemath_long3 x) {
+  return LANEMATH_UNARY(cvti64tofprtn3, double3, long3, x);
+}
+#define lanemath_cvti64tofprtn3(x) \
+/** long to double, rounded down; 3 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtn3, double3, long3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvti64tofprtn4(lanemath_border_long4);
+/** long to double, rounded down; 4 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvti64tofprtn4(lanemath_long4 x) {
+  return LANEMATH_UNARY(cvti64tofprtn4, double4, long4, x);
+}
+#define lanemath_cvti64tofprtn4(x) \
+/** long to double, rounded down; 4 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtn4, double4, long4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvti64tofprtn8(lanemath_border_long8);
+/** long to double, rounded down; 8 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvti64tofprtn8(lanemath_long8 x) {
+  return LANEMATH_UNARY(cvti64tofprtn8, double8, long8, x);
+}
+#define lanemath_cvti64tofprtn8(x) \
+/** long to double, rounded down; 8 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtn8, double8, long8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvti64tofprtn16(lanemath_border_long16);
+/** long to double, rounded down; 16 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvti64tofprtn16(lanemath_long16 x) {
+  return LANEMATH_UNARY(cvti64tofprtn16, double16, long16, x);
+}
+#define lanemath_cvti64tofprtn16(x) \
+/** long to double, rounded down; 16 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtn16, double16, long16, x)
+
+/** long to float, rounded down; one long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvti64tofprtnf1(lanemath_long1 x) LANEMATH_NAMED("cvti64tofprtnf1");
+/** long to float, rounded down; 2 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvti64tofprtnf2(lanemath_long2 x) LANEMATH_NAMED("cvti64tofprtnf2");
+lanemath_border_float3 __ocl_lanemath_h8_cvti64tofprtnf3(lanemath_border_long3);
+/** long to float, rounded down; 3 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float3 lanemath_cvti64tofprtnf3(lanemath_long3 x) {
+  return LANEMATH_UNARY(cvti64tofprtnf3, float3, long3, x);
+}
+#define lanemath_cvti64tofprtnf3(x) \
+/** long to float, rounded down; 3 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtnf3, float3, long3, x)
+lanemath_border_float4 __ocl_lanemath_h8_cvti64tofprtnf4(lanemath_border_long4);
+/** long to float, rounded down; 4 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float4 lanemath_cvti64tofprtnf4(lanemath_long4 x) {
+  return LANEMATH_UNARY(cvti64tofprtnf4, float4, long4, x);
+}
+#define lanemath_cvti64tofprtnf4(x) \
+/** long to float, rounded down; 4 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtnf4, float4, long4, x)
+lanemath_border_float8 __ocl_lanemath_h8_cvti64tofprtnf8(lanemath_border_long8);
+/** long to float, rounded down; 8 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvti64tofprtnf8(lanemath_long8 x) {
+  return LANEMATH_UNARY(cvti64tofprtnf8, float8, long8, x);
+}
+#define lanemath_cvti64tofprtnf8(x) \
+/** long to float, rounded down; 8 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtnf8, float8, long8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvti64tofprtnf16(lanemath_border_long16);
+/** long to float, rounded down; 16 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvti64tofprtnf16(lanemath_long16 x) {
+  return LANEMATH_UNARY(cvti64tofprtnf16, float16, long16, x);
+}
+#define lanemath_cvti64tofprtnf16(x) \
+/** long to float, rounded down; 16 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtnf16, float16, long16, x)
+
+/** long to double, rounded up; one long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvti64tofprtp1(lanemath_long1 x) LANEMATH_NAMED("cvti64tofprtp1");
+/** long to double, rounded up; 2 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvti64tofprtp2(lanemath_long2 x) LANEMATH_NAMED("cvti64tofprtp2");
+lanemath_border_double3 __ocl_lanemath_h8_cvti64tofprtp3(lanemath_border_long3);
+/** long to double, rounded up; 3 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvti64tofprtp3(lanemath_long3 x) {
+  return LANEMATH_UNARY(cvti64tofprtp3, double3, long3, x);
+}
+#define lanemath_cvti64tofprtp3(x) \
+/** long to double, rounded up; 3 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtp3, double3, long3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvti64tofprtp4(lanemath_border_long4);
+/** long to double, rounded up; 4 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvti64tofprtp4(lanemath_long4 x) {
+  return LANEMATH_UNARY(cvti64tofprtp4, double4, long4, x);
+}
+#define lanemath_cvti64tofprtp4(x) \
+/** long to double, rounded up; 4 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtp4, double4, long4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvti64tofprtp8(lanemath_border_long8);
+/** long to double, rounded up; 8 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvti64tofprtp8(lanemath_long8 x) {
+  return LANEMATH_UNARY(cvti64tofprtp8, double8, long8, x);
+}
+#define lanemath_cvti64tofprtp8(x) \
+/** long to double, rounded up; 8 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtp8, double8, long8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvti64tofprtp16(lanemath_border_long16);
+/** long to double, rounded up; 16 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvti64tofprtp16(lanemath_long16 x) {
+  return LANEMATH_UNARY(cvti64tofprtp16, double16, long16, x);
+}
+#define lanemath_cvti64tofprtp16(x) \
+/** long to double, rounded up; 16 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtp16, double16, long16, x)
+
+/** long to float, rounded up; one long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvti64tofprtpf1(lanemath_long1 x) LANEMATH_NAMED("cvti64tofprtpf1");
+/** long to float, rounded up; 2 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvti64tofprtpf2(lanemath_long2 x) LANEMATH_NAMED("cvti64tofprtpf2");
+lanemath_border_float3 __ocl_lanemath_h8_cvti64tofprtpf3(lanemath_border_long3);
+/** long to float, rounded up; 3 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float3 lanemath_cvti64tofprtpf3(lanemath_long3 x) {
+  return LANEMATH_UNARY(cvti64tofprtpf3, float3, long3, x);
+}
+#define lanemath_cvti64tofprtpf3(x) \
+/** long to float, rounded up; 3 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtpf3, float3, long3, x)
+lanemath_border_float4 __ocl_lanemath_h8_cvti64tofprtpf4(lanemath_border_long4);
+/** long to float, rounded up; 4 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float4 lanemath_cvti64tofprtpf4(lanemath_long4 x) {
+  return LANEMATH_UNARY(cvti64tofprtpf4, float4, long4, x);
+}
+#define lanemath_cvti64tofprtpf4(x) \
+/** long to float, rounded up; 4 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtpf4, float4, long4, x)
+lanemath_border_float8 __ocl_lanemath_h8_cvti64tofprtpf8(lanemath_border_long8);
+/** long to float, rounded up; 8 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvti64tofprtpf8(lanemath_long8 x) {
+  return LANEMATH_UNARY(cvti64tofprtpf8, float8, long8, x);
+}
+#define lanemath_cvti64tofprtpf8(x) \
+/** long to float, rounded up; 8 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtpf8, float8, long8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvti64tofprtpf16(lanemath_border_long16);
+/** long to float, rounded up; 16 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvti64tofprtpf16(lanemath_long16 x) {
+  return LANEMATH_UNARY(cvti64tofprtpf16, float16, long16, x);
+}
+#define lanemath_cvti64tofprtpf16(x) \
+/** long to float, rounded up; 16 lanes of long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtpf16, float16, long16, x)
+
+/** long to double, rounded toward zero; one long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvti64tofprtz1(lanemath_long1 x) LANEMATH_NAMED("cvti64tofprtz1");
+/** long to double, rounded toward zero; 2 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvti64tofprtz2(lanemath_long2 x) LANEMATH_NAMED("cvti64tofprtz2");
+lanemath_border_double3 __ocl_lanemath_h8_cvti64tofprtz3(lanemath_border_long3);
+/** long to double, rounded toward zero; 3 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvti64tofprtz3(lanemath_long3 x) {
+  return LANEMATH_UNARY(cvti64tofprtz3, double3, long3, x);
+}
+#define lanemath_cvti64tofprtz3(x) \
+/** long to double, rounded toward zero; 3 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtz3, double3, long3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvti64tofprtz4(lanemath_border_long4);
+/** long to double, rounded toward zero; 4 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvti64tofprtz4(lanemath_long4 x) {
+  return LANEMATH_UNARY(cvti64tofprtz4, double4, long4, x);
+}
+#define lanemath_cvti64tofprtz4(x) \
+/** long to double, rounded toward zero; 4 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtz4, double4, long4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvti64tofprtz8(lanemath_border_long8);
+/** long to double, rounded toward zero; 8 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvti64tofprtz8(lanemath_long8 x) {
+  return LANEMATH_UNARY(cvti64tofprtz8, double8, long8, x);
+}
+#define lanemath_cvti64tofprtz8(x) \
+/** long to double, rounded toward zero; 8 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtz8, double8, long8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvti64tofprtz16(lanemath_border_long16);
+/** long to double, rounded toward zero; 16 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvti64tofprtz16(lanemath_long16 x) {
+  return LANEMATH_UNARY(cvti64tofprtz16, double16, long16, x);
+}
+#define lanemath_cvti64tofprtz16(x) \
+/** long to double, rounded toward zero; 16 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtz16, double16, long16, x)
+
+/** long to float, rounded toward zero; one long. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvti64tofprtzf1(lanemath_long1 x) LANEMATH_NAMED("cvti64tofprtzf1");
+/** long to float, rounded toward zero; 2 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvti64tofprtzf2(lanemath_long2 x) LANEMATH_NAMED("cvti64tofprtzf2");
+lanemath_border_float3 __ocl_lanemath_h8_cvti64tofprtzf3(lanemath_border_long3);
+/** long to float, rounded toward zero; 3 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float3 lanemath_cvti64tofprtzf3(lanemath_long3 x) {
+  return LANEMATH_UNARY(cvti64tofprtzf3, float3, long3, x);
+}
+#define lanemath_cvti64tofprtzf3(x) \
+/** long to float, rounded toward zero; 3 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtzf3, float3, long3, x)
+lanemath_border_float4 __ocl_lanemath_h8_cvti64tofprtzf4(lanemath_border_long4);
+/** long to float, rounded toward zero; 4 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float4 lanemath_cvti64tofprtzf4(lanemath_long4 x) {
+  return LANEMATH_UNARY(cvti64tofprtzf4, float4, long4, x);
+}
+#define lanemath_cvti64tofprtzf4(x) \
+/** long to float, rounded toward zero; 4 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtzf4, float4, long4, x)
+lanemath_border_float8 __ocl_lanemath_h8_cvti64tofprtzf8(lanemath_border_long8);
+/** long to float, rounded toward zero; 8 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvti64tofprtzf8(lanemath_long8 x) {
+  return LANEMATH_UNARY(cvti64tofprtzf8, float8, long8, x);
+}
+#define lanemath_cvti64tofprtzf8(x) \
+/** long to float, rounded toward zero; 8 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtzf8, float8, long8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvti64tofprtzf16(lanemath_border_long16);
+/** long to float, rounded toward zero; 16 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvti64tofprtzf16(lanemath_long16 x) {
+  return LANEMATH_UNARY(cvti64tofprtzf16, float16, long16, x);
+}
+#define lanemath_cvti64tofprtzf16(x) \
+/** long to float, rounded toward zero; 16 lanes of long. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvti64tofprtzf16, float16, long16, x)
+
+/** ulong to double, rounded to nearest even; one ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvtu64tofprte1(lanemath_ulong1 x) LANEMATH_NAMED("cvtu64tofprte1");
+/** ulong to double, rounded to nearest even; 2 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvtu64tofprte2(lanemath_ulong2 x) LANEMATH_NAMED("cvtu64tofprte2");
+lanemath_border_double3 __ocl_lanemath_h8_cvtu64tofprte3(lanemath_border_ulong3);
+/** ulong to double, rounded to nearest even; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvtu64tofprte3(lanemath_ulong3 x) {
+  return LANEMATH_UNARY(cvtu64tofprte3, double3, ulong3, x);
+}
+#define lanemath_cvtu64tofprte3(x) \
+/** ulong to double, rounded to nearest even; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprte3, double3, ulong3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvtu64tofprte4(lanemath_border_ulong4);
+/** ulong to double, rounded to nearest even; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvtu64tofprte4(lanemath_ulong4 x) {
+  return LANEMATH_UNARY(cvtu64tofprte4, double4, ulong4, x);
+}
+#define lanemath_cvtu64tofprte4(x) \
+/** ulong to double, rounded to nearest even; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprte4, double4, ulong4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvtu64tofprte8(lanemath_border_ulong8);
+/** ulong to double, rounded to nearest even; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvtu64tofprte8(lanemath_ulong8 x) {
+  return LANEMATH_UNARY(cvtu64tofprte8, double8, ulong8, x);
+}
+#define lanemath_cvtu64tofprte8(x) \
+/** ulong to double, rounded to nearest even; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprte8, double8, ulong8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvtu64tofprte16(lanemath_border_ulong16);
+/** ulong to double, rounded to nearest even; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvtu64tofprte16(lanemath_ulong16 x) {
+  return LANEMATH_UNARY(cvtu64tofprte16, double16, ulong16, x);
+}
+#define lanemath_cvtu64tofprte16(x) \
+/** ulong to double, rounded to nearest even; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprte16, double16, ulong16, x)
+
+/** ulong to float, rounded to nearest even; one ulong. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvtu64tofprtef1(lanemath_ulong1 x) LANEMATH_NAMED("cvtu64tofprtef1");
+/** ulong to float, rounded to nearest even; 2 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvtu64tofprtef2(lanemath_ulong2 x) LANEMATH_NAMED("cvtu64tofprtef2");
+lanemath_border_float3 __ocl_lanemath_h8_cvtu64tofprtef3(lanemath_border_ulong3);
+/** ulong to float, rounded to nearest even; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float3 lanemath_cvtu64tofprtef3(lanemath_ulong3 x) {
+  return LANEMATH_UNARY(cvtu64tofprtef3, float3, ulong3, x);
+}
+#define lanemath_cvtu64tofprtef3(x) \
+/** ulong to float, rounded to nearest even; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtef3, float3, ulong3, x)
+lanemath_border_float4 __ocl_lanemath_h8_cvtu64tofprtef4(lanemath_border_ulong4);
+/** ulong to float, rounded to nearest even; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float4 lanemath_cvtu64tofprtef4(lanemath_ulong4 x) {
+  return LANEMATH_UNARY(cvtu64tofprtef4, float4, ulong4, x);
+}
+#define lanemath_cvtu64tofprtef4(x) \
+/** ulong to float, rounded to nearest even; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtef4, float4, ulong4, x)
+lanemath_border_float8 __ocl_lanemath_h8_cvtu64tofprtef8(lanemath_border_ulong8);
+/** ulong to float, rounded to nearest even; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvtu64tofprtef8(lanemath_ulong8 x) {
+  return LANEMATH_UNARY(cvtu64tofprtef8, float8, ulong8, x);
+}
+#define lanemath_cvtu64tofprtef8(x) \
+/** ulong to float, rounded to nearest even; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtef8, float8, ulong8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvtu64tofprtef16(lanemath_border_ulong16);
+/** ulong to float, rounded to nearest even; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvtu64tofprtef16(lanemath_ulong16 x) {
+  return LANEMATH_UNARY(cvtu64tofprtef16, float16, ulong16, x);
+}
+#define lanemath_cvtu64tofprtef16(x) \
+/** ulong to float, rounded to nearest even; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtef16, float16, ulong16, x)
+
+/** ulong to double, rounded down; one ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvtu64tofprtn1(lanemath_ulong1 x) LANEMATH_NAMED("cvtu64tofprtn1");
+/** ulong to double, rounded down; 2 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvtu64tofprtn2(lanemath_ulong2 x) LANEMATH_NAMED("cvtu64tofprtn2");
+lanemath_border_double3 __ocl_lanemath_h8_cvtu64tofprtn3(lanemath_border_ulong3);
+/** ulong to double, rounded down; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvtu64tofprtn3(lanemath_ulong3 x) {
+  return LANEMATH_UNARY(cvtu64tofprtn3, double3, ulong3, x);
+}
+#define lanemath_cvtu64tofprtn3(x) \
+/** ulong to double, rounded down; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtn3, double3, ulong3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvtu64tofprtn4(lanemath_border_ulong4);
+/** ulong to double, rounded down; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvtu64tofprtn4(lanemath_ulong4 x) {
+  return LANEMATH_UNARY(cvtu64tofprtn4, double4, ulong4, x);
+}
+#define lanemath_cvtu64tofprtn4(x) \
+/** ulong to double, rounded down; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtn4, double4, ulong4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvtu64tofprtn8(lanemath_border_ulong8);
+/** ulong to double, rounded down; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvtu64tofprtn8(lanemath_ulong8 x) {
+  return LANEMATH_UNARY(cvtu64tofprtn8, double8, ulong8, x);
+}
+#define lanemath_cvtu64tofprtn8(x) \
+/** ulong to double, rounded down; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtn8, double8, ulong8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvtu64tofprtn16(lanemath_border_ulong16);
+/** ulong to double, rounded down; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvtu64tofprtn16(lanemath_ulong16 x) {
+  return LANEMATH_UNARY(cvtu64tofprtn16, double16, ulong16, x);
+}
+#define lanemath_cvtu64tofprtn16(x) \
+/** ulong to double, rounded down; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtn16, double16, ulong16, x)
+
+/** ulong to float, rounded down; one ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvtu64tofprtnf1(lanemath_ulong1 x) LANEMATH_NAMED("cvtu64tofprtnf1");
+/** ulong to float, rounded down; 2 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvtu64tofprtnf2(lanemath_ulong2 x) LANEMATH_NAMED("cvtu64tofprtnf2");
+lanemath_border_float3 __ocl_lanemath_h8_cvtu64tofprtnf3(lanemath_border_ulong3);
+/** ulong to float, rounded down; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float3 lanemath_cvtu64tofprtnf3(lanemath_ulong3 x) {
+  return LANEMATH_UNARY(cvtu64tofprtnf3, float3, ulong3, x);
+}
+#define lanemath_cvtu64tofprtnf3(x) \
+/** ulong to float, rounded down; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtnf3, float3, ulong3, x)
+lanemath_border_float4 __ocl_lanemath_h8_cvtu64tofprtnf4(lanemath_border_ulong4);
+/** ulong to float, rounded down; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float4 lanemath_cvtu64tofprtnf4(lanemath_ulong4 x) {
+  return LANEMATH_UNARY(cvtu64tofprtnf4, float4, ulong4, x);
+}
+#define lanemath_cvtu64tofprtnf4(x) \
+/** ulong to float, rounded down; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtnf4, float4, ulong4, x)
+lanemath_border_float8 __ocl_lanemath_h8_cvtu64tofprtnf8(lanemath_border_ulong8);
+/** ulong to float, rounded down; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvtu64tofprtnf8(lanemath_ulong8 x) {
+  return LANEMATH_UNARY(cvtu64tofprtnf8, float8, ulong8, x);
+}
+#define lanemath_cvtu64tofprtnf8(x) \
+/** ulong to float, rounded down; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtnf8, float8, ulong8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvtu64tofprtnf16(lanemath_border_ulong16);
+/** ulong to float, rounded down; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvtu64tofprtnf16(lanemath_ulong16 x) {
+  return LANEMATH_UNARY(cvtu64tofprtnf16, float16, ulong16, x);
+}
+#define lanemath_cvtu64tofprtnf16(x) \
+/** ulong to float, rounded down; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtnf16, float16, ulong16, x)
+
+/** ulong to double, rounded up; one ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvtu64tofprtp1(lanemath_ulong1 x) LANEMATH_NAMED("cvtu64tofprtp1");
+/** ulong to double, rounded up; 2 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvtu64tofprtp2(lanemath_ulong2 x) LANEMATH_NAMED("cvtu64tofprtp2");
+lanemath_border_double3 __ocl_lanemath_h8_cvtu64tofprtp3(lanemath_border_ulong3);
+/** ulong to double, rounded up; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvtu64tofprtp3(lanemath_ulong3 x) {
+  return LANEMATH_UNARY(cvtu64tofprtp3, double3, ulong3, x);
+}
+#define lanemath_cvtu64tofprtp3(x) \
+/** ulong to double, rounded up; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtp3, double3, ulong3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvtu64tofprtp4(lanemath_border_ulong4);
+/** ulong to double, rounded up; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvtu64tofprtp4(lanemath_ulong4 x) {
+  return LANEMATH_UNARY(cvtu64tofprtp4, double4, ulong4, x);
+}
+#define lanemath_cvtu64tofprtp4(x) \
+/** ulong to double, rounded up; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtp4, double4, ulong4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvtu64tofprtp8(lanemath_border_ulong8);
+/** ulong to double, rounded up; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvtu64tofprtp8(lanemath_ulong8 x) {
+  return LANEMATH_UNARY(cvtu64tofprtp8, double8, ulong8, x);
+}
+#define lanemath_cvtu64tofprtp8(x) \
+/** ulong to double, rounded up; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtp8, double8, ulong8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvtu64tofprtp16(lanemath_border_ulong16);
+/** ulong to double, rounded up; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvtu64tofprtp16(lanemath_ulong16 x) {
+  return LANEMATH_UNARY(cvtu64tofprtp16, double16, ulong16, x);
+}
+#define lanemath_cvtu64tofprtp16(x) \
+/** ulong to double, rounded up; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtp16, double16, ulong16, x)
+
+/** ulong to float, rounded up; one ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvtu64tofprtpf1(lanemath_ulong1 x) LANEMATH_NAMED("cvtu64tofprtpf1");
+/** ulong to float, rounded up; 2 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvtu64tofprtpf2(lanemath_ulong2 x) LANEMATH_NAMED("cvtu64tofprtpf2");
+lanemath_border_float3 __ocl_lanemath_h8_cvtu64tofprtpf3(lanemath_border_ulong3);
+/** ulong to float, rounded up; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float3 lanemath_cvtu64tofprtpf3(lanemath_ulong3 x) {
+  return LANEMATH_UNARY(cvtu64tofprtpf3, float3, ulong3, x);
+}
+#define lanemath_cvtu64tofprtpf3(x) \
+/** ulong to float, rounded up; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtpf3, float3, ulong3, x)
+lanemath_border_float4 __ocl_lanemath_h8_cvtu64tofprtpf4(lanemath_border_ulong4);
+/** ulong to float, rounded up; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float4 lanemath_cvtu64tofprtpf4(lanemath_ulong4 x) {
+  return LANEMATH_UNARY(cvtu64tofprtpf4, float4, ulong4, x);
+}
+#define lanemath_cvtu64tofprtpf4(x) \
+/** ulong to float, rounded up; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtpf4, float4, ulong4, x)
+lanemath_border_float8 __ocl_lanemath_h8_cvtu64tofprtpf8(lanemath_border_ulong8);
+/** ulong to float, rounded up; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvtu64tofprtpf8(lanemath_ulong8 x) {
+  return LANEMATH_UNARY(cvtu64tofprtpf8, float8, ulong8, x);
+}
+#define lanemath_cvtu64tofprtpf8(x) \
+/** ulong to float, rounded up; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtpf8, float8, ulong8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvtu64tofprtpf16(lanemath_border_ulong16);
+/** ulong to float, rounded up; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvtu64tofprtpf16(lanemath_ulong16 x) {
+  return LANEMATH_UNARY(cvtu64tofprtpf16, float16, ulong16, x);
+}
+#define lanemath_cvtu64tofprtpf16(x) \
+/** ulong to float, rounded up; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtpf16, float16, ulong16, x)
+
+/** ulong to double, rounded toward zero; one ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_double1 lanemath_cvtu64tofprtz1(lanemath_ulong1 x) LANEMATH_NAMED("cvtu64tofprtz1");
+/** ulong to double, rounded toward zero; 2 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_double2 lanemath_cvtu64tofprtz2(lanemath_ulong2 x) LANEMATH_NAMED("cvtu64tofprtz2");
+lanemath_border_double3 __ocl_lanemath_h8_cvtu64tofprtz3(lanemath_border_ulong3);
+/** ulong to double, rounded toward zero; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cvtu64tofprtz3(lanemath_ulong3 x) {
+  return LANEMATH_UNARY(cvtu64tofprtz3, double3, ulong3, x);
+}
+#define lanemath_cvtu64tofprtz3(x) \
+/** ulong to double, rounded toward zero; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtz3, double3, ulong3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cvtu64tofprtz4(lanemath_border_ulong4);
+/** ulong to double, rounded toward zero; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cvtu64tofprtz4(lanemath_ulong4 x) {
+  return LANEMATH_UNARY(cvtu64tofprtz4, double4, ulong4, x);
+}
+#define lanemath_cvtu64tofprtz4(x) \
+/** ulong to double, rounded toward zero; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtz4, double4, ulong4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cvtu64tofprtz8(lanemath_border_ulong8);
+/** ulong to double, rounded toward zero; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cvtu64tofprtz8(lanemath_ulong8 x) {
+  return LANEMATH_UNARY(cvtu64tofprtz8, double8, ulong8, x);
+}
+#define lanemath_cvtu64tofprtz8(x) \
+/** ulong to double, rounded toward zero; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtz8, double8, ulong8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cvtu64tofprtz16(lanemath_border_ulong16);
+/** ulong to double, rounded toward zero; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cvtu64tofprtz16(lanemath_ulong16 x) {
+  return LANEMATH_UNARY(cvtu64tofprtz16, double16, ulong16, x);
+}
+#define lanemath_cvtu64tofprtz16(x) \
+/** ulong to double, rounded toward zero; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtz16, double16, ulong16, x)
+
+/** ulong to float, rounded toward zero; one ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvtu64tofprtzf1(lanemath_ulong1 x) LANEMATH_NAMED("cvtu64tofprtzf1");
+/** ulong to float, rounded toward zero; 2 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvtu64tofprtzf2(lanemath_ulong2 x) LANEMATH_NAMED("cvtu64tofprtzf2");
+lanemath_border_float3 __ocl_lanemath_h8_cvtu64tofprtzf3(lanemath_border_ulong3);
+/** ulong to float, rounded toward zero; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float3 lanemath_cvtu64tofprtzf3(lanemath_ulong3 x) {
+  return LANEMATH_UNARY(cvtu64tofprtzf3, float3, ulong3, x);
+}
+#define lanemath_cvtu64tofprtzf3(x) \
+/** ulong to float, rounded toward zero; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtzf3, float3, ulong3, x)
+lanemath_border_float4 __ocl_lanemath_h8_cvtu64tofprtzf4(lanemath_border_ulong4);
+/** ulong to float, rounded toward zero; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float4 lanemath_cvtu64tofprtzf4(lanemath_ulong4 x) {
+  return LANEMATH_UNARY(cvtu64tofprtzf4, float4, ulong4, x);
+}
+#define lanemath_cvtu64tofprtzf4(x) \
+/** ulong to float, rounded toward zero; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtzf4, float4, ulong4, x)
+lanemath_border_float8 __ocl_lanemath_h8_cvtu64tofprtzf8(lanemath_border_ulong8);
+/** ulong to float, rounded toward zero; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvtu64tofprtzf8(lanemath_ulong8 x) {
+  return LANEMATH_UNARY(cvtu64tofprtzf8, float8, ulong8, x);
+}
+#define lanemath_cvtu64tofprtzf8(x) \
+/** ulong to float, rounded toward zero; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtzf8, float8, ulong8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvtu64tofprtzf16(lanemath_border_ulong16);
+/** ulong to float, rounded toward zero; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvtu64tofprtzf16(lanemath_ulong16 x) {
+  return LANEMATH_UNARY(cvtu64tofprtzf16, float16, ulong16, x);
+}
+#define lanemath_cvtu64tofprtzf16(x) \
+/** ulong to float, rounded toward zero; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtu64tofprtzf16, float16, ulong16, x)
+
+/** double to float, rounded to nearest even; one double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvtfp64tofp32rte1(lanemath_double1 x) LANEMATH_NAMED("cvtfp64tofp32rte1");
+/** double to float, rounded to nearest even; 2 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvtfp64tofp32rte2(lanemath_double2 x) LANEMATH_NAMED("cvtfp64tofp32rte2");
+lanemath_border_float3 __ocl_lanemath_h8_cvtfp64tofp32rte3(lanemath_border_double3);
+/** double to float, rounded to nearest even; 3 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float3 lanemath_cvtfp64tofp32rte3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rte3, float3, double3, x);
+}
+#define lanemath_cvtfp64tofp32rte3(x) \
+/** double to float, rounded to nearest even; 3 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rte3, float3, double3, x)
+lanemath_border_float4 __ocl_lanemath_h8_cvtfp64tofp32rte4(lanemath_border_double4);
+/** double to float, rounded to nearest even; 4 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float4 lanemath_cvtfp64tofp32rte4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rte4, float4, double4, x);
+}
+#define lanemath_cvtfp64tofp32rte4(x) \
+/** double to float, rounded to nearest even; 4 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rte4, float4, double4, x)
+lanemath_border_float8 __ocl_lanemath_h8_cvtfp64tofp32rte8(lanemath_border_double8);
+/** double to float, rounded to nearest even; 8 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvtfp64tofp32rte8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rte8, float8, double8, x);
+}
+#define lanemath_cvtfp64tofp32rte8(x) \
+/** double to float, rounded to nearest even; 8 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rte8, float8, double8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvtfp64tofp32rte16(lanemath_border_double16);
+/** double to float, rounded to nearest even; 16 lanes of double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvtfp64tofp32rte16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rte16, float16, double16, x);
+}
+#define lanemath_cvtfp64tofp32rte16(x) \
+/** double to float, rounded to nearest even; 16 lanes of double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rte16, float16, double16, x)
+
+/** double to float, rounded down; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvtfp64tofp32rtn1(lanemath_double1 x) LANEMATH_NAMED("cvtfp64tofp32rtn1");
+/** double to float, rounded down; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvtfp64tofp32rtn2(lanemath_double2 x) LANEMATH_NAMED("cvtfp64tofp32rtn2");
+lanemath_border_float3 __ocl_lanemath_h8_cvtfp64tofp32rtn3(lanemath_border_double3);
+/** double to float, rounded down; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float3 lanemath_cvtfp64tofp32rtn3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rtn3, float3, double3, x);
+}
+#define lanemath_cvtfp64tofp32rtn3(x) \
+/** double to float, rounded down; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rtn3, float3, double3, x)
+lanemath_border_float4 __ocl_lanemath_h8_cvtfp64tofp32rtn4(lanemath_border_double4);
+/** double to float, rounded down; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float4 lanemath_cvtfp64tofp32rtn4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rtn4, float4, double4, x);
+}
+#define lanemath_cvtfp64tofp32rtn4(x) \
+/** double to float, rounded down; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rtn4, float4, double4, x)
+lanemath_border_float8 __ocl_lanemath_h8_cvtfp64tofp32rtn8(lanemath_border_double8);
+/** double to float, rounded down; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvtfp64tofp32rtn8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rtn8, float8, double8, x);
+}
+#define lanemath_cvtfp64tofp32rtn8(x) \
+/** double to float, rounded down; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rtn8, float8, double8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvtfp64tofp32rtn16(lanemath_border_double16);
+/** double to float, rounded down; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvtfp64tofp32rtn16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rtn16, float16, double16, x);
+}
+#define lanemath_cvtfp64tofp32rtn16(x) \
+/** double to float, rounded down; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rtn16, float16, double16, x)
+
+/** double to float, rounded up; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvtfp64tofp32rtp1(lanemath_double1 x) LANEMATH_NAMED("cvtfp64tofp32rtp1");
+/** double to float, rounded up; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvtfp64tofp32rtp2(lanemath_double2 x) LANEMATH_NAMED("cvtfp64tofp32rtp2");
+lanemath_border_float3 __ocl_lanemath_h8_cvtfp64tofp32rtp3(lanemath_border_double3);
+/** double to float, rounded up; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float3 lanemath_cvtfp64tofp32rtp3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rtp3, float3, double3, x);
+}
+#define lanemath_cvtfp64tofp32rtp3(x) \
+/** double to float, rounded up; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rtp3, float3, double3, x)
+lanemath_border_float4 __ocl_lanemath_h8_cvtfp64tofp32rtp4(lanemath_border_double4);
+/** double to float, rounded up; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float4 lanemath_cvtfp64tofp32rtp4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rtp4, float4, double4, x);
+}
+#define lanemath_cvtfp64tofp32rtp4(x) \
+/** double to float, rounded up; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rtp4, float4, double4, x)
+lanemath_border_float8 __ocl_lanemath_h8_cvtfp64tofp32rtp8(lanemath_border_double8);
+/** double to float, rounded up; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvtfp64tofp32rtp8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rtp8, float8, double8, x);
+}
+#define lanemath_cvtfp64tofp32rtp8(x) \
+/** double to float, rounded up; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rtp8, float8, double8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvtfp64tofp32rtp16(lanemath_border_double16);
+/** double to float, rounded up; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvtfp64tofp32rtp16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rtp16, float16, double16, x);
+}
+#define lanemath_cvtfp64tofp32rtp16(x) \
+/** double to float, rounded up; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rtp16, float16, double16, x)
+
+/** double to float, rounded toward zero; one double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/conversion.h>. */
+lanemath_float1 lanemath_cvtfp64tofp32rtz1(lanemath_double1 x) LANEMATH_NAMED("cvtfp64tofp32rtz1");
+/** double to float, rounded toward zero; 2 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+lanemath_float2 lanemath_cvtfp64tofp32rtz2(lanemath_double2 x) LANEMATH_NAMED("cvtfp64tofp32rtz2");
+lanemath_border_float3 __ocl_lanemath_h8_cvtfp64tofp32rtz3(lanemath_border_double3);
+/** double to float, rounded toward zero; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float3 lanemath_cvtfp64tofp32rtz3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rtz3, float3, double3, x);
+}
+#define lanemath_cvtfp64tofp32rtz3(x) \
+/** double to float, rounded toward zero; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rtz3, float3, double3, x)
+lanemath_border_float4 __ocl_lanemath_h8_cvtfp64tofp32rtz4(lanemath_border_double4);
+/** double to float, rounded toward zero; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float4 lanemath_cvtfp64tofp32rtz4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rtz4, float4, double4, x);
+}
+#define lanemath_cvtfp64tofp32rtz4(x) \
+/** double to float, rounded toward zero; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rtz4, float4, double4, x)
+lanemath_border_float8 __ocl_lanemath_h8_cvtfp64tofp32rtz8(lanemath_border_double8);
+/** double to float, rounded toward zero; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cvtfp64tofp32rtz8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rtz8, float8, double8, x);
+}
+#define lanemath_cvtfp64tofp32rtz8(x) \
+/** double to float, rounded toward zero; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rtz8, float8, double8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cvtfp64tofp32rtz16(lanemath_border_double16);
+/** double to float, rounded toward zero; 16 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cvtfp64tofp32rtz16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cvtfp64tofp32rtz16, float16, double16, x);
+}
+#define lanemath_cvtfp64tofp32rtz16(x) \
+/** double to float, rounded toward zero; 16 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/conversion.h>. */ \
+  LANEMATH_UNARY(cvtfp64tofp32rtz16, float16, double16, x)
 
 LANEMATH_END
 

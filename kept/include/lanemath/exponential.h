@@ -1,11 +1,11 @@
 /* Exponentials.
  *
  * Any x. The result overflows to +infinity and underflows through the denormals to +0. x = +infinity gives
- * +infinity, -infinity gives +0 (expm1: -1), and a zero gives 1 (expm1: the zero itself). A NaN gives a quiet NaN with
- * its sign and payload, but exp2f at width 4 returns a signalling NaN unchanged, and exp2 at width 2 gives one NaN for
- * all. Method: reduction by multiples of ln 2 / 2^k with the logarithm in two parts, in most default forms a table of
- * 2^(j/2^k), and a short polynomial (P. T. P. Tang, ACM TOMS 15, 1989). The native forms use a shorter polynomial, and
- * a table only in exp and expm1; those of exp2 and exp10 are not exact at integers.
+ * +infinity, -infinity gives +0 (expm1: -1), and a zero gives 1 (expm1: the zero itself). A NaN gives a quiet NaN
+ * with its sign and payload, but exp2f at width 4 returns a signalling NaN unchanged, and exp2 at width 2 gives one
+ * NaN for all. Method: reduction by multiples of ln 2 / 2^k with the logarithm in two parts, in most default forms a
+ * table of 2^(j/2^k), and a short polynomial (P. T. P. Tang, ACM TOMS 15, 1989). The native forms use a shorter
+ * polynomial, and a table only in exp and expm1; those of exp2 and exp10 are not exact at integers.
  *
  * Each function exists at widths 1, 2, 3, 4, 8 and 16, as lanemath_<operation><width><variant>. */
 #ifndef LANEMATH_EXPONENTIAL_H
@@ -13,61 +13,847 @@
 
 #include <lanemath/types.h>
 
+#pragma GCC system_header
+
 LANEMATH_BEGIN
 
-/* double exp(double x)
- * e to the power x.
- * Largest error in ulp: default 3.18; default at width 2 2.98; _native 2.98e+07. */
-LANEMATH_DECLARE(UNARY, exp, , double, double)
-LANEMATH_DECLARE(UNARY, exp, _native, double, double)
+/** e to the power x; one double. Largest error 3.18 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_double1 lanemath_exp1(lanemath_double1 x) LANEMATH_NAMED("exp1");
+/** e to the power x; 2 lanes of double. An algorithm of its own: the last bits differ from those of other widths.
+ * Largest error 2.98 ulp. Domain and special values: at the head of <lanemath/exponential.h>. */
+lanemath_double2 lanemath_exp2(lanemath_double2 x) LANEMATH_NAMED("exp2");
+lanemath_border_double3 __ocl_lanemath_h8_exp3(lanemath_border_double3);
+/** e to the power x; 3 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_exp3(lanemath_double3 x) {
+  return LANEMATH_UNARY(exp3, double3, double3, x);
+}
+#define lanemath_exp3(x) \
+/** e to the power x; 3 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_exp4(lanemath_border_double4);
+/** e to the power x; 4 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_exp4(lanemath_double4 x) {
+  return LANEMATH_UNARY(exp4, double4, double4, x);
+}
+#define lanemath_exp4(x) \
+/** e to the power x; 4 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_exp8(lanemath_border_double8);
+/** e to the power x; 8 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_exp8(lanemath_double8 x) {
+  return LANEMATH_UNARY(exp8, double8, double8, x);
+}
+#define lanemath_exp8(x) \
+/** e to the power x; 8 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_exp16(lanemath_border_double16);
+/** e to the power x; 16 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_exp16(lanemath_double16 x) {
+  return LANEMATH_UNARY(exp16, double16, double16, x);
+}
+#define lanemath_exp16(x) \
+/** e to the power x; 16 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp16, double16, double16, x)
 
-/* float expf(float x)
- * e to the power x.
- * Largest error in ulp: default 0.569; _native 2170; _half 2170; _rm 2.94. */
-LANEMATH_DECLARE(UNARY, expf, , float, float)
-LANEMATH_DECLARE(UNARY, expf, _native, float, float)
-LANEMATH_DECLARE(UNARY, expf, _half, float, float)
-LANEMATH_DECLARE(UNARY, expf, _rm, float, float)
+/** e to the power x; one double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_double1 lanemath_exp1_native(lanemath_double1 x) LANEMATH_NAMED("exp1_native");
+/** e to the power x; 2 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_double2 lanemath_exp2_native(lanemath_double2 x) LANEMATH_NAMED("exp2_native");
+lanemath_border_double3 __ocl_lanemath_h8_exp3_native(lanemath_border_double3);
+/** e to the power x; 3 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_exp3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(exp3_native, double3, double3, x);
+}
+#define lanemath_exp3_native(x) \
+/** e to the power x; 3 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_exp4_native(lanemath_border_double4);
+/** e to the power x; 4 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_exp4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(exp4_native, double4, double4, x);
+}
+#define lanemath_exp4_native(x) \
+/** e to the power x; 4 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_exp8_native(lanemath_border_double8);
+/** e to the power x; 8 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_exp8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(exp8_native, double8, double8, x);
+}
+#define lanemath_exp8_native(x) \
+/** e to the power x; 8 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_exp16_native(lanemath_border_double16);
+/** e to the power x; 16 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_exp16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(exp16_native, double16, double16, x);
+}
+#define lanemath_exp16_native(x) \
+/** e to the power x; 16 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp16_native, double16, double16, x)
 
-/* double exp2(double x)
- * 2 to the power x.
- * Largest error in ulp: default 1.65; default at width 2 2.62; _native 1.53e+07. */
-LANEMATH_DECLARE(UNARY, exp2, , double, double)
-LANEMATH_DECLARE(UNARY, exp2, _native, double, double)
+/** e to the power x; one float. Largest error 0.569 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float1 lanemath_expf1(lanemath_float1 x) LANEMATH_NAMED("expf1");
+/** e to the power x; 2 lanes of float. Largest error 0.569 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float2 lanemath_expf2(lanemath_float2 x) LANEMATH_NAMED("expf2");
+/** e to the power x; 3 lanes of float. Largest error 0.569 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float3 lanemath_expf3(lanemath_float3 x) LANEMATH_NAMED("expf3");
+/** e to the power x; 4 lanes of float. Largest error 0.569 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float4 lanemath_expf4(lanemath_float4 x) LANEMATH_NAMED("expf4");
+lanemath_border_float8 __ocl_lanemath_h8_expf8(lanemath_border_float8);
+/** e to the power x; 8 lanes of float. Largest error 0.569 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_expf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(expf8, float8, float8, x);
+}
+#define lanemath_expf8(x) \
+/** e to the power x; 8 lanes of float. Largest error 0.569 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_expf16(lanemath_border_float16);
+/** e to the power x; 16 lanes of float. Largest error 0.569 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_expf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(expf16, float16, float16, x);
+}
+#define lanemath_expf16(x) \
+/** e to the power x; 16 lanes of float. Largest error 0.569 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expf16, float16, float16, x)
 
-/* float exp2f(float x)
- * 2 to the power x.
- * Largest error in ulp: default 1.11; default at width 1 0.507; default at width 4 2.56; _native 1240; _half 1240; _rm 1.11. */
-LANEMATH_DECLARE(UNARY, exp2f, , float, float)
-LANEMATH_DECLARE(UNARY, exp2f, _native, float, float)
-LANEMATH_DECLARE(UNARY, exp2f, _half, float, float)
-LANEMATH_DECLARE(UNARY, exp2f, _rm, float, float)
+/** e to the power x; one float. Largest error 2170 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float1 lanemath_expf1_native(lanemath_float1 x) LANEMATH_NAMED("expf1_native");
+/** e to the power x; 2 lanes of float. Largest error 2170 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float2 lanemath_expf2_native(lanemath_float2 x) LANEMATH_NAMED("expf2_native");
+/** e to the power x; 3 lanes of float. Largest error 2170 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float3 lanemath_expf3_native(lanemath_float3 x) LANEMATH_NAMED("expf3_native");
+/** e to the power x; 4 lanes of float. Largest error 2170 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float4 lanemath_expf4_native(lanemath_float4 x) LANEMATH_NAMED("expf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_expf8_native(lanemath_border_float8);
+/** e to the power x; 8 lanes of float. Largest error 2170 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_expf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(expf8_native, float8, float8, x);
+}
+#define lanemath_expf8_native(x) \
+/** e to the power x; 8 lanes of float. Largest error 2170 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_expf16_native(lanemath_border_float16);
+/** e to the power x; 16 lanes of float. Largest error 2170 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_expf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(expf16_native, float16, float16, x);
+}
+#define lanemath_expf16_native(x) \
+/** e to the power x; 16 lanes of float. Largest error 2170 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expf16_native, float16, float16, x)
 
-/* double exp10(double x)
- * 10 to the power x.
- * Largest error in ulp: default 1.01; _native 1.53e+07. */
-LANEMATH_DECLARE(UNARY, exp10, , double, double)
-LANEMATH_DECLARE(UNARY, exp10, _native, double, double)
+/** e to the power x; one float. The same function as _native. Largest error 2170 ulp. Domain and special values: at
+ * the head of <lanemath/exponential.h>. */
+lanemath_float1 lanemath_expf1_half(lanemath_float1 x) LANEMATH_NAMED("expf1_half");
+/** e to the power x; 2 lanes of float. The same function as _native. Largest error 2170 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+lanemath_float2 lanemath_expf2_half(lanemath_float2 x) LANEMATH_NAMED("expf2_half");
+/** e to the power x; 3 lanes of float. The same function as _native. Largest error 2170 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+lanemath_float3 lanemath_expf3_half(lanemath_float3 x) LANEMATH_NAMED("expf3_half");
+/** e to the power x; 4 lanes of float. The same function as _native. Largest error 2170 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+lanemath_float4 lanemath_expf4_half(lanemath_float4 x) LANEMATH_NAMED("expf4_half");
+lanemath_border_float8 __ocl_lanemath_h8_expf8_half(lanemath_border_float8);
+/** e to the power x; 8 lanes of float. The same function as _native. Largest error 2170 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_expf8_half(lanemath_float8 x) {
+  return LANEMATH_UNARY(expf8_half, float8, float8, x);
+}
+#define lanemath_expf8_half(x) \
+/** e to the power x; 8 lanes of float. The same function as _native. Largest error 2170 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expf8_half, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_expf16_half(lanemath_border_float16);
+/** e to the power x; 16 lanes of float. The same function as _native. Largest error 2170 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_expf16_half(lanemath_float16 x) {
+  return LANEMATH_UNARY(expf16_half, float16, float16, x);
+}
+#define lanemath_expf16_half(x) \
+/** e to the power x; 16 lanes of float. The same function as _native. Largest error 2170 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expf16_half, float16, float16, x)
 
-/* float exp10f(float x)
- * 10 to the power x.
- * Largest error in ulp: default 0.557; _native 1310; _half 1310; _rm 1310. */
-LANEMATH_DECLARE(UNARY, exp10f, , float, float)
-LANEMATH_DECLARE(UNARY, exp10f, _native, float, float)
-LANEMATH_DECLARE(UNARY, exp10f, _half, float, float)
-LANEMATH_DECLARE(UNARY, exp10f, _rm, float, float)
+/** e to the power x; one float. Largest error 2.94 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float1 lanemath_expf1_rm(lanemath_float1 x) LANEMATH_NAMED("expf1_rm");
+/** e to the power x; 2 lanes of float. Largest error 2.94 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float2 lanemath_expf2_rm(lanemath_float2 x) LANEMATH_NAMED("expf2_rm");
+/** e to the power x; 3 lanes of float. Largest error 2.94 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float3 lanemath_expf3_rm(lanemath_float3 x) LANEMATH_NAMED("expf3_rm");
+/** e to the power x; 4 lanes of float. Largest error 2.94 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float4 lanemath_expf4_rm(lanemath_float4 x) LANEMATH_NAMED("expf4_rm");
+lanemath_border_float8 __ocl_lanemath_h8_expf8_rm(lanemath_border_float8);
+/** e to the power x; 8 lanes of float. Largest error 2.94 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_expf8_rm(lanemath_float8 x) {
+  return LANEMATH_UNARY(expf8_rm, float8, float8, x);
+}
+#define lanemath_expf8_rm(x) \
+/** e to the power x; 8 lanes of float. Largest error 2.94 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expf8_rm, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_expf16_rm(lanemath_border_float16);
+/** e to the power x; 16 lanes of float. Largest error 2.94 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_expf16_rm(lanemath_float16 x) {
+  return LANEMATH_UNARY(expf16_rm, float16, float16, x);
+}
+#define lanemath_expf16_rm(x) \
+/** e to the power x; 16 lanes of float. Largest error 2.94 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expf16_rm, float16, float16, x)
 
-/* double expm1(double x)
- * e to the power x, minus one.
- * Largest error in ulp: default 2.97; _native 5.19e+06. */
-LANEMATH_DECLARE(UNARY, expm1, , double, double)
-LANEMATH_DECLARE(UNARY, expm1, _native, double, double)
+/** 2 to the power x; one double. Largest error 1.65 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_double1 lanemath_exp21(lanemath_double1 x) LANEMATH_NAMED("exp21");
+/** 2 to the power x; 2 lanes of double. An algorithm of its own: the last bits differ from those of other widths.
+ * Largest error 2.62 ulp. Domain and special values: at the head of <lanemath/exponential.h>. */
+lanemath_double2 lanemath_exp22(lanemath_double2 x) LANEMATH_NAMED("exp22");
+lanemath_border_double3 __ocl_lanemath_h8_exp23(lanemath_border_double3);
+/** 2 to the power x; 3 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_exp23(lanemath_double3 x) {
+  return LANEMATH_UNARY(exp23, double3, double3, x);
+}
+#define lanemath_exp23(x) \
+/** 2 to the power x; 3 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp23, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_exp24(lanemath_border_double4);
+/** 2 to the power x; 4 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_exp24(lanemath_double4 x) {
+  return LANEMATH_UNARY(exp24, double4, double4, x);
+}
+#define lanemath_exp24(x) \
+/** 2 to the power x; 4 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp24, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_exp28(lanemath_border_double8);
+/** 2 to the power x; 8 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_exp28(lanemath_double8 x) {
+  return LANEMATH_UNARY(exp28, double8, double8, x);
+}
+#define lanemath_exp28(x) \
+/** 2 to the power x; 8 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp28, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_exp216(lanemath_border_double16);
+/** 2 to the power x; 16 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_exp216(lanemath_double16 x) {
+  return LANEMATH_UNARY(exp216, double16, double16, x);
+}
+#define lanemath_exp216(x) \
+/** 2 to the power x; 16 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp216, double16, double16, x)
 
-/* float expm1f(float x)
- * e to the power x, minus one.
- * Largest error in ulp: default 1.81; _native 284. */
-LANEMATH_DECLARE(UNARY, expm1f, , float, float)
-LANEMATH_DECLARE(UNARY, expm1f, _native, float, float)
+/** 2 to the power x; one double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_double1 lanemath_exp21_native(lanemath_double1 x) LANEMATH_NAMED("exp21_native");
+/** 2 to the power x; 2 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_double2 lanemath_exp22_native(lanemath_double2 x) LANEMATH_NAMED("exp22_native");
+lanemath_border_double3 __ocl_lanemath_h8_exp23_native(lanemath_border_double3);
+/** 2 to the power x; 3 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_exp23_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(exp23_native, double3, double3, x);
+}
+#define lanemath_exp23_native(x) \
+/** 2 to the power x; 3 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp23_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_exp24_native(lanemath_border_double4);
+/** 2 to the power x; 4 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_exp24_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(exp24_native, double4, double4, x);
+}
+#define lanemath_exp24_native(x) \
+/** 2 to the power x; 4 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp24_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_exp28_native(lanemath_border_double8);
+/** 2 to the power x; 8 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_exp28_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(exp28_native, double8, double8, x);
+}
+#define lanemath_exp28_native(x) \
+/** 2 to the power x; 8 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp28_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_exp216_native(lanemath_border_double16);
+/** 2 to the power x; 16 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_exp216_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(exp216_native, double16, double16, x);
+}
+#define lanemath_exp216_native(x) \
+/** 2 to the power x; 16 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp216_native, double16, double16, x)
+
+/** 2 to the power x; one float. An algorithm of its own: the last bits differ from those of other widths. Largest
+ * error 0.507 ulp. Domain and special values: at the head of <lanemath/exponential.h>. */
+lanemath_float1 lanemath_exp2f1(lanemath_float1 x) LANEMATH_NAMED("exp2f1");
+/** 2 to the power x; 2 lanes of float. The same function as _rm. Largest error 1.11 ulp. Domain and special values:
+ * at the head of <lanemath/exponential.h>. */
+lanemath_float2 lanemath_exp2f2(lanemath_float2 x) LANEMATH_NAMED("exp2f2");
+/** 2 to the power x; 3 lanes of float. The same function as _rm. Largest error 1.11 ulp. Domain and special values:
+ * at the head of <lanemath/exponential.h>. */
+lanemath_float3 lanemath_exp2f3(lanemath_float3 x) LANEMATH_NAMED("exp2f3");
+/** 2 to the power x; 4 lanes of float. An algorithm of its own: the last bits differ from those of other widths.
+ * Largest error 2.56 ulp. Domain and special values: at the head of <lanemath/exponential.h>. */
+lanemath_float4 lanemath_exp2f4(lanemath_float4 x) LANEMATH_NAMED("exp2f4");
+lanemath_border_float8 __ocl_lanemath_h8_exp2f8(lanemath_border_float8);
+/** 2 to the power x; 8 lanes of float. The same function as _rm. Largest error 1.11 ulp. Domain and special values:
+ * at the head of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_exp2f8(lanemath_float8 x) {
+  return LANEMATH_UNARY(exp2f8, float8, float8, x);
+}
+#define lanemath_exp2f8(x) \
+/** 2 to the power x; 8 lanes of float. The same function as _rm. Largest error 1.11 ulp. Domain and special values:
+ * at the head of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp2f8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_exp2f16(lanemath_border_float16);
+/** 2 to the power x; 16 lanes of float. The same function as _rm. Largest error 1.11 ulp. Domain and special values:
+ * at the head of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_exp2f16(lanemath_float16 x) {
+  return LANEMATH_UNARY(exp2f16, float16, float16, x);
+}
+#define lanemath_exp2f16(x) \
+/** 2 to the power x; 16 lanes of float. The same function as _rm. Largest error 1.11 ulp. Domain and special values:
+ * at the head of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp2f16, float16, float16, x)
+
+/** 2 to the power x; one float. Largest error 1240 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float1 lanemath_exp2f1_native(lanemath_float1 x) LANEMATH_NAMED("exp2f1_native");
+/** 2 to the power x; 2 lanes of float. Largest error 1240 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float2 lanemath_exp2f2_native(lanemath_float2 x) LANEMATH_NAMED("exp2f2_native");
+/** 2 to the power x; 3 lanes of float. Largest error 1240 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float3 lanemath_exp2f3_native(lanemath_float3 x) LANEMATH_NAMED("exp2f3_native");
+/** 2 to the power x; 4 lanes of float. Largest error 1240 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float4 lanemath_exp2f4_native(lanemath_float4 x) LANEMATH_NAMED("exp2f4_native");
+lanemath_border_float8 __ocl_lanemath_h8_exp2f8_native(lanemath_border_float8);
+/** 2 to the power x; 8 lanes of float. Largest error 1240 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_exp2f8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(exp2f8_native, float8, float8, x);
+}
+#define lanemath_exp2f8_native(x) \
+/** 2 to the power x; 8 lanes of float. Largest error 1240 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp2f8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_exp2f16_native(lanemath_border_float16);
+/** 2 to the power x; 16 lanes of float. Largest error 1240 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_exp2f16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(exp2f16_native, float16, float16, x);
+}
+#define lanemath_exp2f16_native(x) \
+/** 2 to the power x; 16 lanes of float. Largest error 1240 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp2f16_native, float16, float16, x)
+
+/** 2 to the power x; one float. The same function as _native. Largest error 1240 ulp. Domain and special values: at
+ * the head of <lanemath/exponential.h>. */
+lanemath_float1 lanemath_exp2f1_half(lanemath_float1 x) LANEMATH_NAMED("exp2f1_half");
+/** 2 to the power x; 2 lanes of float. The same function as _native. Largest error 1240 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+lanemath_float2 lanemath_exp2f2_half(lanemath_float2 x) LANEMATH_NAMED("exp2f2_half");
+/** 2 to the power x; 3 lanes of float. The same function as _native. Largest error 1240 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+lanemath_float3 lanemath_exp2f3_half(lanemath_float3 x) LANEMATH_NAMED("exp2f3_half");
+/** 2 to the power x; 4 lanes of float. The same function as _native. Largest error 1240 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+lanemath_float4 lanemath_exp2f4_half(lanemath_float4 x) LANEMATH_NAMED("exp2f4_half");
+lanemath_border_float8 __ocl_lanemath_h8_exp2f8_half(lanemath_border_float8);
+/** 2 to the power x; 8 lanes of float. The same function as _native. Largest error 1240 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_exp2f8_half(lanemath_float8 x) {
+  return LANEMATH_UNARY(exp2f8_half, float8, float8, x);
+}
+#define lanemath_exp2f8_half(x) \
+/** 2 to the power x; 8 lanes of float. The same function as _native. Largest error 1240 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp2f8_half, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_exp2f16_half(lanemath_border_float16);
+/** 2 to the power x; 16 lanes of float. The same function as _native. Largest error 1240 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_exp2f16_half(lanemath_float16 x) {
+  return LANEMATH_UNARY(exp2f16_half, float16, float16, x);
+}
+#define lanemath_exp2f16_half(x) \
+/** 2 to the power x; 16 lanes of float. The same function as _native. Largest error 1240 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp2f16_half, float16, float16, x)
+
+/** 2 to the power x; one float. Largest error 1.11 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float1 lanemath_exp2f1_rm(lanemath_float1 x) LANEMATH_NAMED("exp2f1_rm");
+/** 2 to the power x; 2 lanes of float. Largest error 1.11 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float2 lanemath_exp2f2_rm(lanemath_float2 x) LANEMATH_NAMED("exp2f2_rm");
+/** 2 to the power x; 3 lanes of float. Largest error 1.11 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float3 lanemath_exp2f3_rm(lanemath_float3 x) LANEMATH_NAMED("exp2f3_rm");
+/** 2 to the power x; 4 lanes of float. Largest error 1.11 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float4 lanemath_exp2f4_rm(lanemath_float4 x) LANEMATH_NAMED("exp2f4_rm");
+lanemath_border_float8 __ocl_lanemath_h8_exp2f8_rm(lanemath_border_float8);
+/** 2 to the power x; 8 lanes of float. Largest error 1.11 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_exp2f8_rm(lanemath_float8 x) {
+  return LANEMATH_UNARY(exp2f8_rm, float8, float8, x);
+}
+#define lanemath_exp2f8_rm(x) \
+/** 2 to the power x; 8 lanes of float. Largest error 1.11 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp2f8_rm, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_exp2f16_rm(lanemath_border_float16);
+/** 2 to the power x; 16 lanes of float. Largest error 1.11 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_exp2f16_rm(lanemath_float16 x) {
+  return LANEMATH_UNARY(exp2f16_rm, float16, float16, x);
+}
+#define lanemath_exp2f16_rm(x) \
+/** 2 to the power x; 16 lanes of float. Largest error 1.11 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp2f16_rm, float16, float16, x)
+
+/** 10 to the power x; one double. Largest error 1.01 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_double1 lanemath_exp101(lanemath_double1 x) LANEMATH_NAMED("exp101");
+/** 10 to the power x; 2 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_double2 lanemath_exp102(lanemath_double2 x) LANEMATH_NAMED("exp102");
+lanemath_border_double3 __ocl_lanemath_h8_exp103(lanemath_border_double3);
+/** 10 to the power x; 3 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_exp103(lanemath_double3 x) {
+  return LANEMATH_UNARY(exp103, double3, double3, x);
+}
+#define lanemath_exp103(x) \
+/** 10 to the power x; 3 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp103, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_exp104(lanemath_border_double4);
+/** 10 to the power x; 4 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_exp104(lanemath_double4 x) {
+  return LANEMATH_UNARY(exp104, double4, double4, x);
+}
+#define lanemath_exp104(x) \
+/** 10 to the power x; 4 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp104, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_exp108(lanemath_border_double8);
+/** 10 to the power x; 8 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_exp108(lanemath_double8 x) {
+  return LANEMATH_UNARY(exp108, double8, double8, x);
+}
+#define lanemath_exp108(x) \
+/** 10 to the power x; 8 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp108, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_exp1016(lanemath_border_double16);
+/** 10 to the power x; 16 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_exp1016(lanemath_double16 x) {
+  return LANEMATH_UNARY(exp1016, double16, double16, x);
+}
+#define lanemath_exp1016(x) \
+/** 10 to the power x; 16 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp1016, double16, double16, x)
+
+/** 10 to the power x; one double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_double1 lanemath_exp101_native(lanemath_double1 x) LANEMATH_NAMED("exp101_native");
+/** 10 to the power x; 2 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_double2 lanemath_exp102_native(lanemath_double2 x) LANEMATH_NAMED("exp102_native");
+lanemath_border_double3 __ocl_lanemath_h8_exp103_native(lanemath_border_double3);
+/** 10 to the power x; 3 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_exp103_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(exp103_native, double3, double3, x);
+}
+#define lanemath_exp103_native(x) \
+/** 10 to the power x; 3 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp103_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_exp104_native(lanemath_border_double4);
+/** 10 to the power x; 4 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_exp104_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(exp104_native, double4, double4, x);
+}
+#define lanemath_exp104_native(x) \
+/** 10 to the power x; 4 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp104_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_exp108_native(lanemath_border_double8);
+/** 10 to the power x; 8 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_exp108_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(exp108_native, double8, double8, x);
+}
+#define lanemath_exp108_native(x) \
+/** 10 to the power x; 8 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp108_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_exp1016_native(lanemath_border_double16);
+/** 10 to the power x; 16 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_exp1016_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(exp1016_native, double16, double16, x);
+}
+#define lanemath_exp1016_native(x) \
+/** 10 to the power x; 16 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp1016_native, double16, double16, x)
+
+/** 10 to the power x; one float. Largest error 0.557 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float1 lanemath_exp10f1(lanemath_float1 x) LANEMATH_NAMED("exp10f1");
+/** 10 to the power x; 2 lanes of float. Largest error 0.557 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float2 lanemath_exp10f2(lanemath_float2 x) LANEMATH_NAMED("exp10f2");
+/** 10 to the power x; 3 lanes of float. Largest error 0.557 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float3 lanemath_exp10f3(lanemath_float3 x) LANEMATH_NAMED("exp10f3");
+/** 10 to the power x; 4 lanes of float. Largest error 0.557 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float4 lanemath_exp10f4(lanemath_float4 x) LANEMATH_NAMED("exp10f4");
+lanemath_border_float8 __ocl_lanemath_h8_exp10f8(lanemath_border_float8);
+/** 10 to the power x; 8 lanes of float. Largest error 0.557 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_exp10f8(lanemath_float8 x) {
+  return LANEMATH_UNARY(exp10f8, float8, float8, x);
+}
+#define lanemath_exp10f8(x) \
+/** 10 to the power x; 8 lanes of float. Largest error 0.557 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp10f8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_exp10f16(lanemath_border_float16);
+/** 10 to the power x; 16 lanes of float. Largest error 0.557 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_exp10f16(lanemath_float16 x) {
+  return LANEMATH_UNARY(exp10f16, float16, float16, x);
+}
+#define lanemath_exp10f16(x) \
+/** 10 to the power x; 16 lanes of float. Largest error 0.557 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp10f16, float16, float16, x)
+
+/** 10 to the power x; one float. Largest error 1310 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float1 lanemath_exp10f1_native(lanemath_float1 x) LANEMATH_NAMED("exp10f1_native");
+/** 10 to the power x; 2 lanes of float. Largest error 1310 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float2 lanemath_exp10f2_native(lanemath_float2 x) LANEMATH_NAMED("exp10f2_native");
+/** 10 to the power x; 3 lanes of float. Largest error 1310 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float3 lanemath_exp10f3_native(lanemath_float3 x) LANEMATH_NAMED("exp10f3_native");
+/** 10 to the power x; 4 lanes of float. Largest error 1310 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float4 lanemath_exp10f4_native(lanemath_float4 x) LANEMATH_NAMED("exp10f4_native");
+lanemath_border_float8 __ocl_lanemath_h8_exp10f8_native(lanemath_border_float8);
+/** 10 to the power x; 8 lanes of float. Largest error 1310 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_exp10f8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(exp10f8_native, float8, float8, x);
+}
+#define lanemath_exp10f8_native(x) \
+/** 10 to the power x; 8 lanes of float. Largest error 1310 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp10f8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_exp10f16_native(lanemath_border_float16);
+/** 10 to the power x; 16 lanes of float. Largest error 1310 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_exp10f16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(exp10f16_native, float16, float16, x);
+}
+#define lanemath_exp10f16_native(x) \
+/** 10 to the power x; 16 lanes of float. Largest error 1310 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp10f16_native, float16, float16, x)
+
+/** 10 to the power x; one float. The same function as _native. Largest error 1310 ulp. Domain and special values: at
+ * the head of <lanemath/exponential.h>. */
+lanemath_float1 lanemath_exp10f1_half(lanemath_float1 x) LANEMATH_NAMED("exp10f1_half");
+/** 10 to the power x; 2 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+lanemath_float2 lanemath_exp10f2_half(lanemath_float2 x) LANEMATH_NAMED("exp10f2_half");
+/** 10 to the power x; 3 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+lanemath_float3 lanemath_exp10f3_half(lanemath_float3 x) LANEMATH_NAMED("exp10f3_half");
+/** 10 to the power x; 4 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+lanemath_float4 lanemath_exp10f4_half(lanemath_float4 x) LANEMATH_NAMED("exp10f4_half");
+lanemath_border_float8 __ocl_lanemath_h8_exp10f8_half(lanemath_border_float8);
+/** 10 to the power x; 8 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_exp10f8_half(lanemath_float8 x) {
+  return LANEMATH_UNARY(exp10f8_half, float8, float8, x);
+}
+#define lanemath_exp10f8_half(x) \
+/** 10 to the power x; 8 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp10f8_half, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_exp10f16_half(lanemath_border_float16);
+/** 10 to the power x; 16 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_exp10f16_half(lanemath_float16 x) {
+  return LANEMATH_UNARY(exp10f16_half, float16, float16, x);
+}
+#define lanemath_exp10f16_half(x) \
+/** 10 to the power x; 16 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp10f16_half, float16, float16, x)
+
+/** 10 to the power x; one float. The same function as _native. Largest error 1310 ulp. Domain and special values: at
+ * the head of <lanemath/exponential.h>. */
+lanemath_float1 lanemath_exp10f1_rm(lanemath_float1 x) LANEMATH_NAMED("exp10f1_rm");
+/** 10 to the power x; 2 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+lanemath_float2 lanemath_exp10f2_rm(lanemath_float2 x) LANEMATH_NAMED("exp10f2_rm");
+/** 10 to the power x; 3 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+lanemath_float3 lanemath_exp10f3_rm(lanemath_float3 x) LANEMATH_NAMED("exp10f3_rm");
+/** 10 to the power x; 4 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+lanemath_float4 lanemath_exp10f4_rm(lanemath_float4 x) LANEMATH_NAMED("exp10f4_rm");
+lanemath_border_float8 __ocl_lanemath_h8_exp10f8_rm(lanemath_border_float8);
+/** 10 to the power x; 8 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_exp10f8_rm(lanemath_float8 x) {
+  return LANEMATH_UNARY(exp10f8_rm, float8, float8, x);
+}
+#define lanemath_exp10f8_rm(x) \
+/** 10 to the power x; 8 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp10f8_rm, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_exp10f16_rm(lanemath_border_float16);
+/** 10 to the power x; 16 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_exp10f16_rm(lanemath_float16 x) {
+  return LANEMATH_UNARY(exp10f16_rm, float16, float16, x);
+}
+#define lanemath_exp10f16_rm(x) \
+/** 10 to the power x; 16 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
+ * values: at the head of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(exp10f16_rm, float16, float16, x)
+
+/** e to the power x, minus one; one double. Largest error 2.97 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_double1 lanemath_expm11(lanemath_double1 x) LANEMATH_NAMED("expm11");
+/** e to the power x, minus one; 2 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_double2 lanemath_expm12(lanemath_double2 x) LANEMATH_NAMED("expm12");
+lanemath_border_double3 __ocl_lanemath_h8_expm13(lanemath_border_double3);
+/** e to the power x, minus one; 3 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_expm13(lanemath_double3 x) {
+  return LANEMATH_UNARY(expm13, double3, double3, x);
+}
+#define lanemath_expm13(x) \
+/** e to the power x, minus one; 3 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expm13, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_expm14(lanemath_border_double4);
+/** e to the power x, minus one; 4 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_expm14(lanemath_double4 x) {
+  return LANEMATH_UNARY(expm14, double4, double4, x);
+}
+#define lanemath_expm14(x) \
+/** e to the power x, minus one; 4 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expm14, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_expm18(lanemath_border_double8);
+/** e to the power x, minus one; 8 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_expm18(lanemath_double8 x) {
+  return LANEMATH_UNARY(expm18, double8, double8, x);
+}
+#define lanemath_expm18(x) \
+/** e to the power x, minus one; 8 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expm18, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_expm116(lanemath_border_double16);
+/** e to the power x, minus one; 16 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_expm116(lanemath_double16 x) {
+  return LANEMATH_UNARY(expm116, double16, double16, x);
+}
+#define lanemath_expm116(x) \
+/** e to the power x, minus one; 16 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expm116, double16, double16, x)
+
+/** e to the power x, minus one; one double. Largest error 5.19e+06 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_double1 lanemath_expm11_native(lanemath_double1 x) LANEMATH_NAMED("expm11_native");
+/** e to the power x, minus one; 2 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
+ * of <lanemath/exponential.h>. */
+lanemath_double2 lanemath_expm12_native(lanemath_double2 x) LANEMATH_NAMED("expm12_native");
+lanemath_border_double3 __ocl_lanemath_h8_expm13_native(lanemath_border_double3);
+/** e to the power x, minus one; 3 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
+ * of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_expm13_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(expm13_native, double3, double3, x);
+}
+#define lanemath_expm13_native(x) \
+/** e to the power x, minus one; 3 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
+ * of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expm13_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_expm14_native(lanemath_border_double4);
+/** e to the power x, minus one; 4 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
+ * of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_expm14_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(expm14_native, double4, double4, x);
+}
+#define lanemath_expm14_native(x) \
+/** e to the power x, minus one; 4 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
+ * of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expm14_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_expm18_native(lanemath_border_double8);
+/** e to the power x, minus one; 8 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
+ * of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_expm18_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(expm18_native, double8, double8, x);
+}
+#define lanemath_expm18_native(x) \
+/** e to the power x, minus one; 8 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
+ * of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expm18_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_expm116_native(lanemath_border_double16);
+/** e to the power x, minus one; 16 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the
+ * head of <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_expm116_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(expm116_native, double16, double16, x);
+}
+#define lanemath_expm116_native(x) \
+/** e to the power x, minus one; 16 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the
+ * head of <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expm116_native, double16, double16, x)
+
+/** e to the power x, minus one; one float. Largest error 1.81 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float1 lanemath_expm1f1(lanemath_float1 x) LANEMATH_NAMED("expm1f1");
+/** e to the power x, minus one; 2 lanes of float. Largest error 1.81 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float2 lanemath_expm1f2(lanemath_float2 x) LANEMATH_NAMED("expm1f2");
+/** e to the power x, minus one; 3 lanes of float. Largest error 1.81 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float3 lanemath_expm1f3(lanemath_float3 x) LANEMATH_NAMED("expm1f3");
+/** e to the power x, minus one; 4 lanes of float. Largest error 1.81 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float4 lanemath_expm1f4(lanemath_float4 x) LANEMATH_NAMED("expm1f4");
+lanemath_border_float8 __ocl_lanemath_h8_expm1f8(lanemath_border_float8);
+/** e to the power x, minus one; 8 lanes of float. Largest error 1.81 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_expm1f8(lanemath_float8 x) {
+  return LANEMATH_UNARY(expm1f8, float8, float8, x);
+}
+#define lanemath_expm1f8(x) \
+/** e to the power x, minus one; 8 lanes of float. Largest error 1.81 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expm1f8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_expm1f16(lanemath_border_float16);
+/** e to the power x, minus one; 16 lanes of float. Largest error 1.81 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_expm1f16(lanemath_float16 x) {
+  return LANEMATH_UNARY(expm1f16, float16, float16, x);
+}
+#define lanemath_expm1f16(x) \
+/** e to the power x, minus one; 16 lanes of float. Largest error 1.81 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expm1f16, float16, float16, x)
+
+/** e to the power x, minus one; one float. Largest error 284 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float1 lanemath_expm1f1_native(lanemath_float1 x) LANEMATH_NAMED("expm1f1_native");
+/** e to the power x, minus one; 2 lanes of float. Largest error 284 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float2 lanemath_expm1f2_native(lanemath_float2 x) LANEMATH_NAMED("expm1f2_native");
+/** e to the power x, minus one; 3 lanes of float. Largest error 284 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float3 lanemath_expm1f3_native(lanemath_float3 x) LANEMATH_NAMED("expm1f3_native");
+/** e to the power x, minus one; 4 lanes of float. Largest error 284 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+lanemath_float4 lanemath_expm1f4_native(lanemath_float4 x) LANEMATH_NAMED("expm1f4_native");
+lanemath_border_float8 __ocl_lanemath_h8_expm1f8_native(lanemath_border_float8);
+/** e to the power x, minus one; 8 lanes of float. Largest error 284 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_expm1f8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(expm1f8_native, float8, float8, x);
+}
+#define lanemath_expm1f8_native(x) \
+/** e to the power x, minus one; 8 lanes of float. Largest error 284 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expm1f8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_expm1f16_native(lanemath_border_float16);
+/** e to the power x, minus one; 16 lanes of float. Largest error 284 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_expm1f16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(expm1f16_native, float16, float16, x);
+}
+#define lanemath_expm1f16_native(x) \
+/** e to the power x, minus one; 16 lanes of float. Largest error 284 ulp. Domain and special values: at the head of
+ * <lanemath/exponential.h>. */ \
+  LANEMATH_UNARY(expm1f16_native, float16, float16, x)
 
 LANEMATH_END
 

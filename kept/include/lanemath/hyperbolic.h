@@ -8,79 +8,969 @@
 
 #include <lanemath/types.h>
 
+#pragma GCC system_header
+
 LANEMATH_BEGIN
 
-/* double sinh(double x)
- * hyperbolic sine of x.
- * Largest error in ulp: default 2.12; _native 2.12. */
-LANEMATH_DECLARE(UNARY, sinh, , double, double)
-LANEMATH_DECLARE(UNARY, sinh, _native, double, double)
+/** hyperbolic sine of x; one double. Largest error 2.12 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_double1 lanemath_sinh1(lanemath_double1 x) LANEMATH_NAMED("sinh1");
+/** hyperbolic sine of x; 2 lanes of double. Largest error 2.12 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_double2 lanemath_sinh2(lanemath_double2 x) LANEMATH_NAMED("sinh2");
+lanemath_border_double3 __ocl_lanemath_h8_sinh3(lanemath_border_double3);
+/** hyperbolic sine of x; 3 lanes of double. Largest error 2.12 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_sinh3(lanemath_double3 x) {
+  return LANEMATH_UNARY(sinh3, double3, double3, x);
+}
+#define lanemath_sinh3(x) \
+/** hyperbolic sine of x; 3 lanes of double. Largest error 2.12 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(sinh3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_sinh4(lanemath_border_double4);
+/** hyperbolic sine of x; 4 lanes of double. Largest error 2.12 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_sinh4(lanemath_double4 x) {
+  return LANEMATH_UNARY(sinh4, double4, double4, x);
+}
+#define lanemath_sinh4(x) \
+/** hyperbolic sine of x; 4 lanes of double. Largest error 2.12 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(sinh4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_sinh8(lanemath_border_double8);
+/** hyperbolic sine of x; 8 lanes of double. Largest error 2.12 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_sinh8(lanemath_double8 x) {
+  return LANEMATH_UNARY(sinh8, double8, double8, x);
+}
+#define lanemath_sinh8(x) \
+/** hyperbolic sine of x; 8 lanes of double. Largest error 2.12 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(sinh8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_sinh16(lanemath_border_double16);
+/** hyperbolic sine of x; 16 lanes of double. Largest error 2.12 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_sinh16(lanemath_double16 x) {
+  return LANEMATH_UNARY(sinh16, double16, double16, x);
+}
+#define lanemath_sinh16(x) \
+/** hyperbolic sine of x; 16 lanes of double. Largest error 2.12 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(sinh16, double16, double16, x)
 
-/* float sinhf(float x)
- * hyperbolic sine of x.
- * Largest error in ulp: default 2.03; _native 1080. */
-LANEMATH_DECLARE(UNARY, sinhf, , float, float)
-LANEMATH_DECLARE(UNARY, sinhf, _native, float, float)
+/** hyperbolic sine of x; one double. The same function as the default form. Largest error 2.12 ulp. Domain and
+ * special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_double1 lanemath_sinh1_native(lanemath_double1 x) LANEMATH_NAMED("sinh1_native");
+/** hyperbolic sine of x; 2 lanes of double. The same function as the default form. Largest error 2.12 ulp. Domain and
+ * special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_double2 lanemath_sinh2_native(lanemath_double2 x) LANEMATH_NAMED("sinh2_native");
+lanemath_border_double3 __ocl_lanemath_h8_sinh3_native(lanemath_border_double3);
+/** hyperbolic sine of x; 3 lanes of double. The same function as the default form. Largest error 2.12 ulp. Domain and
+ * special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_sinh3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(sinh3_native, double3, double3, x);
+}
+#define lanemath_sinh3_native(x) \
+/** hyperbolic sine of x; 3 lanes of double. The same function as the default form. Largest error 2.12 ulp. Domain and
+ * special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(sinh3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_sinh4_native(lanemath_border_double4);
+/** hyperbolic sine of x; 4 lanes of double. The same function as the default form. Largest error 2.12 ulp. Domain and
+ * special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_sinh4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(sinh4_native, double4, double4, x);
+}
+#define lanemath_sinh4_native(x) \
+/** hyperbolic sine of x; 4 lanes of double. The same function as the default form. Largest error 2.12 ulp. Domain and
+ * special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(sinh4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_sinh8_native(lanemath_border_double8);
+/** hyperbolic sine of x; 8 lanes of double. The same function as the default form. Largest error 2.12 ulp. Domain and
+ * special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_sinh8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(sinh8_native, double8, double8, x);
+}
+#define lanemath_sinh8_native(x) \
+/** hyperbolic sine of x; 8 lanes of double. The same function as the default form. Largest error 2.12 ulp. Domain and
+ * special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(sinh8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_sinh16_native(lanemath_border_double16);
+/** hyperbolic sine of x; 16 lanes of double. The same function as the default form. Largest error 2.12 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_sinh16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(sinh16_native, double16, double16, x);
+}
+#define lanemath_sinh16_native(x) \
+/** hyperbolic sine of x; 16 lanes of double. The same function as the default form. Largest error 2.12 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(sinh16_native, double16, double16, x)
 
-/* double cosh(double x)
- * hyperbolic cosine of x.
- * Largest error in ulp: default 1.54; _native 1.54. */
-LANEMATH_DECLARE(UNARY, cosh, , double, double)
-LANEMATH_DECLARE(UNARY, cosh, _native, double, double)
+/** hyperbolic sine of x; one float. Largest error 2.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float1 lanemath_sinhf1(lanemath_float1 x) LANEMATH_NAMED("sinhf1");
+/** hyperbolic sine of x; 2 lanes of float. Largest error 2.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float2 lanemath_sinhf2(lanemath_float2 x) LANEMATH_NAMED("sinhf2");
+/** hyperbolic sine of x; 3 lanes of float. Largest error 2.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float3 lanemath_sinhf3(lanemath_float3 x) LANEMATH_NAMED("sinhf3");
+/** hyperbolic sine of x; 4 lanes of float. Largest error 2.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float4 lanemath_sinhf4(lanemath_float4 x) LANEMATH_NAMED("sinhf4");
+lanemath_border_float8 __ocl_lanemath_h8_sinhf8(lanemath_border_float8);
+/** hyperbolic sine of x; 8 lanes of float. Largest error 2.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_sinhf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(sinhf8, float8, float8, x);
+}
+#define lanemath_sinhf8(x) \
+/** hyperbolic sine of x; 8 lanes of float. Largest error 2.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(sinhf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_sinhf16(lanemath_border_float16);
+/** hyperbolic sine of x; 16 lanes of float. Largest error 2.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_sinhf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(sinhf16, float16, float16, x);
+}
+#define lanemath_sinhf16(x) \
+/** hyperbolic sine of x; 16 lanes of float. Largest error 2.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(sinhf16, float16, float16, x)
 
-/* float coshf(float x)
- * hyperbolic cosine of x.
- * Largest error in ulp: default 1.85; _native 381. */
-LANEMATH_DECLARE(UNARY, coshf, , float, float)
-LANEMATH_DECLARE(UNARY, coshf, _native, float, float)
+/** hyperbolic sine of x; one float. Largest error 1080 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float1 lanemath_sinhf1_native(lanemath_float1 x) LANEMATH_NAMED("sinhf1_native");
+/** hyperbolic sine of x; 2 lanes of float. Largest error 1080 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float2 lanemath_sinhf2_native(lanemath_float2 x) LANEMATH_NAMED("sinhf2_native");
+/** hyperbolic sine of x; 3 lanes of float. Largest error 1080 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float3 lanemath_sinhf3_native(lanemath_float3 x) LANEMATH_NAMED("sinhf3_native");
+/** hyperbolic sine of x; 4 lanes of float. Largest error 1080 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float4 lanemath_sinhf4_native(lanemath_float4 x) LANEMATH_NAMED("sinhf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_sinhf8_native(lanemath_border_float8);
+/** hyperbolic sine of x; 8 lanes of float. Largest error 1080 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_sinhf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(sinhf8_native, float8, float8, x);
+}
+#define lanemath_sinhf8_native(x) \
+/** hyperbolic sine of x; 8 lanes of float. Largest error 1080 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(sinhf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_sinhf16_native(lanemath_border_float16);
+/** hyperbolic sine of x; 16 lanes of float. Largest error 1080 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_sinhf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(sinhf16_native, float16, float16, x);
+}
+#define lanemath_sinhf16_native(x) \
+/** hyperbolic sine of x; 16 lanes of float. Largest error 1080 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(sinhf16_native, float16, float16, x)
 
-/* double tanh(double x)
- * hyperbolic tangent of x.
- * Largest error in ulp: default 1.25; _native 1.25. */
-LANEMATH_DECLARE(UNARY, tanh, , double, double)
-LANEMATH_DECLARE(UNARY, tanh, _native, double, double)
+/** hyperbolic cosine of x; one double. Largest error 1.54 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_double1 lanemath_cosh1(lanemath_double1 x) LANEMATH_NAMED("cosh1");
+/** hyperbolic cosine of x; 2 lanes of double. Largest error 1.54 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_double2 lanemath_cosh2(lanemath_double2 x) LANEMATH_NAMED("cosh2");
+lanemath_border_double3 __ocl_lanemath_h8_cosh3(lanemath_border_double3);
+/** hyperbolic cosine of x; 3 lanes of double. Largest error 1.54 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cosh3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cosh3, double3, double3, x);
+}
+#define lanemath_cosh3(x) \
+/** hyperbolic cosine of x; 3 lanes of double. Largest error 1.54 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(cosh3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cosh4(lanemath_border_double4);
+/** hyperbolic cosine of x; 4 lanes of double. Largest error 1.54 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cosh4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cosh4, double4, double4, x);
+}
+#define lanemath_cosh4(x) \
+/** hyperbolic cosine of x; 4 lanes of double. Largest error 1.54 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(cosh4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cosh8(lanemath_border_double8);
+/** hyperbolic cosine of x; 8 lanes of double. Largest error 1.54 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cosh8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cosh8, double8, double8, x);
+}
+#define lanemath_cosh8(x) \
+/** hyperbolic cosine of x; 8 lanes of double. Largest error 1.54 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(cosh8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cosh16(lanemath_border_double16);
+/** hyperbolic cosine of x; 16 lanes of double. Largest error 1.54 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cosh16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cosh16, double16, double16, x);
+}
+#define lanemath_cosh16(x) \
+/** hyperbolic cosine of x; 16 lanes of double. Largest error 1.54 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(cosh16, double16, double16, x)
 
-/* float tanhf(float x)
- * hyperbolic tangent of x.
- * Largest error in ulp: default 1.03; _native 1.03. */
-LANEMATH_DECLARE(UNARY, tanhf, , float, float)
-LANEMATH_DECLARE(UNARY, tanhf, _native, float, float)
+/** hyperbolic cosine of x; one double. The same function as the default form. Largest error 1.54 ulp. Domain and
+ * special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_double1 lanemath_cosh1_native(lanemath_double1 x) LANEMATH_NAMED("cosh1_native");
+/** hyperbolic cosine of x; 2 lanes of double. The same function as the default form. Largest error 1.54 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_double2 lanemath_cosh2_native(lanemath_double2 x) LANEMATH_NAMED("cosh2_native");
+lanemath_border_double3 __ocl_lanemath_h8_cosh3_native(lanemath_border_double3);
+/** hyperbolic cosine of x; 3 lanes of double. The same function as the default form. Largest error 1.54 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cosh3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(cosh3_native, double3, double3, x);
+}
+#define lanemath_cosh3_native(x) \
+/** hyperbolic cosine of x; 3 lanes of double. The same function as the default form. Largest error 1.54 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(cosh3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cosh4_native(lanemath_border_double4);
+/** hyperbolic cosine of x; 4 lanes of double. The same function as the default form. Largest error 1.54 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cosh4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(cosh4_native, double4, double4, x);
+}
+#define lanemath_cosh4_native(x) \
+/** hyperbolic cosine of x; 4 lanes of double. The same function as the default form. Largest error 1.54 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(cosh4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cosh8_native(lanemath_border_double8);
+/** hyperbolic cosine of x; 8 lanes of double. The same function as the default form. Largest error 1.54 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cosh8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(cosh8_native, double8, double8, x);
+}
+#define lanemath_cosh8_native(x) \
+/** hyperbolic cosine of x; 8 lanes of double. The same function as the default form. Largest error 1.54 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(cosh8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cosh16_native(lanemath_border_double16);
+/** hyperbolic cosine of x; 16 lanes of double. The same function as the default form. Largest error 1.54 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cosh16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(cosh16_native, double16, double16, x);
+}
+#define lanemath_cosh16_native(x) \
+/** hyperbolic cosine of x; 16 lanes of double. The same function as the default form. Largest error 1.54 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(cosh16_native, double16, double16, x)
 
-/* double asinh(double x)
- * inverse hyperbolic sine of x.
- * Largest error in ulp: default 1.8; default at width 2 2.28; _native 700000; _native at width 2 2.28. */
-LANEMATH_DECLARE(UNARY, asinh, , double, double)
-LANEMATH_DECLARE(UNARY, asinh, _native, double, double)
+/** hyperbolic cosine of x; one float. Largest error 1.85 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float1 lanemath_coshf1(lanemath_float1 x) LANEMATH_NAMED("coshf1");
+/** hyperbolic cosine of x; 2 lanes of float. Largest error 1.85 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float2 lanemath_coshf2(lanemath_float2 x) LANEMATH_NAMED("coshf2");
+/** hyperbolic cosine of x; 3 lanes of float. Largest error 1.85 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float3 lanemath_coshf3(lanemath_float3 x) LANEMATH_NAMED("coshf3");
+/** hyperbolic cosine of x; 4 lanes of float. Largest error 1.85 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float4 lanemath_coshf4(lanemath_float4 x) LANEMATH_NAMED("coshf4");
+lanemath_border_float8 __ocl_lanemath_h8_coshf8(lanemath_border_float8);
+/** hyperbolic cosine of x; 8 lanes of float. Largest error 1.85 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_coshf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(coshf8, float8, float8, x);
+}
+#define lanemath_coshf8(x) \
+/** hyperbolic cosine of x; 8 lanes of float. Largest error 1.85 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(coshf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_coshf16(lanemath_border_float16);
+/** hyperbolic cosine of x; 16 lanes of float. Largest error 1.85 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_coshf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(coshf16, float16, float16, x);
+}
+#define lanemath_coshf16(x) \
+/** hyperbolic cosine of x; 16 lanes of float. Largest error 1.85 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(coshf16, float16, float16, x)
 
-/* float asinhf(float x)
- * inverse hyperbolic sine of x.
- * Largest error in ulp: default 2.3; default at width 4 2.28; _native 1470; _native at width 4 2.28. */
-LANEMATH_DECLARE(UNARY, asinhf, , float, float)
-LANEMATH_DECLARE(UNARY, asinhf, _native, float, float)
+/** hyperbolic cosine of x; one float. Largest error 381 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float1 lanemath_coshf1_native(lanemath_float1 x) LANEMATH_NAMED("coshf1_native");
+/** hyperbolic cosine of x; 2 lanes of float. Largest error 381 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float2 lanemath_coshf2_native(lanemath_float2 x) LANEMATH_NAMED("coshf2_native");
+/** hyperbolic cosine of x; 3 lanes of float. Largest error 381 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float3 lanemath_coshf3_native(lanemath_float3 x) LANEMATH_NAMED("coshf3_native");
+/** hyperbolic cosine of x; 4 lanes of float. Largest error 381 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float4 lanemath_coshf4_native(lanemath_float4 x) LANEMATH_NAMED("coshf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_coshf8_native(lanemath_border_float8);
+/** hyperbolic cosine of x; 8 lanes of float. Largest error 381 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_coshf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(coshf8_native, float8, float8, x);
+}
+#define lanemath_coshf8_native(x) \
+/** hyperbolic cosine of x; 8 lanes of float. Largest error 381 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(coshf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_coshf16_native(lanemath_border_float16);
+/** hyperbolic cosine of x; 16 lanes of float. Largest error 381 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_coshf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(coshf16_native, float16, float16, x);
+}
+#define lanemath_coshf16_native(x) \
+/** hyperbolic cosine of x; 16 lanes of float. Largest error 381 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(coshf16_native, float16, float16, x)
 
-/* double acosh(double x)
- * inverse hyperbolic cosine of x.
- * Largest error in ulp: default 9; default at width 2 2.19; _native 700000; _native at width 2 2.19. */
-LANEMATH_DECLARE(UNARY, acosh, , double, double)
-LANEMATH_DECLARE(UNARY, acosh, _native, double, double)
+/** hyperbolic tangent of x; one double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_double1 lanemath_tanh1(lanemath_double1 x) LANEMATH_NAMED("tanh1");
+/** hyperbolic tangent of x; 2 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_double2 lanemath_tanh2(lanemath_double2 x) LANEMATH_NAMED("tanh2");
+lanemath_border_double3 __ocl_lanemath_h8_tanh3(lanemath_border_double3);
+/** hyperbolic tangent of x; 3 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_tanh3(lanemath_double3 x) {
+  return LANEMATH_UNARY(tanh3, double3, double3, x);
+}
+#define lanemath_tanh3(x) \
+/** hyperbolic tangent of x; 3 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(tanh3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_tanh4(lanemath_border_double4);
+/** hyperbolic tangent of x; 4 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_tanh4(lanemath_double4 x) {
+  return LANEMATH_UNARY(tanh4, double4, double4, x);
+}
+#define lanemath_tanh4(x) \
+/** hyperbolic tangent of x; 4 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(tanh4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_tanh8(lanemath_border_double8);
+/** hyperbolic tangent of x; 8 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_tanh8(lanemath_double8 x) {
+  return LANEMATH_UNARY(tanh8, double8, double8, x);
+}
+#define lanemath_tanh8(x) \
+/** hyperbolic tangent of x; 8 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(tanh8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_tanh16(lanemath_border_double16);
+/** hyperbolic tangent of x; 16 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_tanh16(lanemath_double16 x) {
+  return LANEMATH_UNARY(tanh16, double16, double16, x);
+}
+#define lanemath_tanh16(x) \
+/** hyperbolic tangent of x; 16 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(tanh16, double16, double16, x)
 
-/* float acoshf(float x)
- * inverse hyperbolic cosine of x.
- * Largest error in ulp: default 3.4; default at width 4 2.14; _native 2500; _native at width 4 2.14. */
-LANEMATH_DECLARE(UNARY, acoshf, , float, float)
-LANEMATH_DECLARE(UNARY, acoshf, _native, float, float)
+/** hyperbolic tangent of x; one double. The same function as the default form. Largest error 1.25 ulp. Domain and
+ * special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_double1 lanemath_tanh1_native(lanemath_double1 x) LANEMATH_NAMED("tanh1_native");
+/** hyperbolic tangent of x; 2 lanes of double. The same function as the default form. Largest error 1.25 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_double2 lanemath_tanh2_native(lanemath_double2 x) LANEMATH_NAMED("tanh2_native");
+lanemath_border_double3 __ocl_lanemath_h8_tanh3_native(lanemath_border_double3);
+/** hyperbolic tangent of x; 3 lanes of double. The same function as the default form. Largest error 1.25 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_tanh3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(tanh3_native, double3, double3, x);
+}
+#define lanemath_tanh3_native(x) \
+/** hyperbolic tangent of x; 3 lanes of double. The same function as the default form. Largest error 1.25 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(tanh3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_tanh4_native(lanemath_border_double4);
+/** hyperbolic tangent of x; 4 lanes of double. The same function as the default form. Largest error 1.25 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_tanh4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(tanh4_native, double4, double4, x);
+}
+#define lanemath_tanh4_native(x) \
+/** hyperbolic tangent of x; 4 lanes of double. The same function as the default form. Largest error 1.25 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(tanh4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_tanh8_native(lanemath_border_double8);
+/** hyperbolic tangent of x; 8 lanes of double. The same function as the default form. Largest error 1.25 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_tanh8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(tanh8_native, double8, double8, x);
+}
+#define lanemath_tanh8_native(x) \
+/** hyperbolic tangent of x; 8 lanes of double. The same function as the default form. Largest error 1.25 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(tanh8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_tanh16_native(lanemath_border_double16);
+/** hyperbolic tangent of x; 16 lanes of double. The same function as the default form. Largest error 1.25 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_tanh16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(tanh16_native, double16, double16, x);
+}
+#define lanemath_tanh16_native(x) \
+/** hyperbolic tangent of x; 16 lanes of double. The same function as the default form. Largest error 1.25 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(tanh16_native, double16, double16, x)
 
-/* double atanh(double x)
- * inverse hyperbolic tangent of x.
- * Largest error in ulp: default 2.4; _native 700000. */
-LANEMATH_DECLARE(UNARY, atanh, , double, double)
-LANEMATH_DECLARE(UNARY, atanh, _native, double, double)
+/** hyperbolic tangent of x; one float. Largest error 1.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float1 lanemath_tanhf1(lanemath_float1 x) LANEMATH_NAMED("tanhf1");
+/** hyperbolic tangent of x; 2 lanes of float. Largest error 1.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float2 lanemath_tanhf2(lanemath_float2 x) LANEMATH_NAMED("tanhf2");
+/** hyperbolic tangent of x; 3 lanes of float. Largest error 1.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float3 lanemath_tanhf3(lanemath_float3 x) LANEMATH_NAMED("tanhf3");
+/** hyperbolic tangent of x; 4 lanes of float. Largest error 1.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float4 lanemath_tanhf4(lanemath_float4 x) LANEMATH_NAMED("tanhf4");
+lanemath_border_float8 __ocl_lanemath_h8_tanhf8(lanemath_border_float8);
+/** hyperbolic tangent of x; 8 lanes of float. Largest error 1.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_tanhf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(tanhf8, float8, float8, x);
+}
+#define lanemath_tanhf8(x) \
+/** hyperbolic tangent of x; 8 lanes of float. Largest error 1.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(tanhf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_tanhf16(lanemath_border_float16);
+/** hyperbolic tangent of x; 16 lanes of float. Largest error 1.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_tanhf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(tanhf16, float16, float16, x);
+}
+#define lanemath_tanhf16(x) \
+/** hyperbolic tangent of x; 16 lanes of float. Largest error 1.03 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(tanhf16, float16, float16, x)
 
-/* float atanhf(float x)
- * inverse hyperbolic tangent of x.
- * Largest error in ulp: default 2.2; _native 1470. */
-LANEMATH_DECLARE(UNARY, atanhf, , float, float)
-LANEMATH_DECLARE(UNARY, atanhf, _native, float, float)
+/** hyperbolic tangent of x; one float. The same function as the default form. Largest error 1.03 ulp. Domain and
+ * special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_float1 lanemath_tanhf1_native(lanemath_float1 x) LANEMATH_NAMED("tanhf1_native");
+/** hyperbolic tangent of x; 2 lanes of float. The same function as the default form. Largest error 1.03 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_float2 lanemath_tanhf2_native(lanemath_float2 x) LANEMATH_NAMED("tanhf2_native");
+/** hyperbolic tangent of x; 3 lanes of float. The same function as the default form. Largest error 1.03 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_float3 lanemath_tanhf3_native(lanemath_float3 x) LANEMATH_NAMED("tanhf3_native");
+/** hyperbolic tangent of x; 4 lanes of float. The same function as the default form. Largest error 1.03 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_float4 lanemath_tanhf4_native(lanemath_float4 x) LANEMATH_NAMED("tanhf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_tanhf8_native(lanemath_border_float8);
+/** hyperbolic tangent of x; 8 lanes of float. The same function as the default form. Largest error 1.03 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_tanhf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(tanhf8_native, float8, float8, x);
+}
+#define lanemath_tanhf8_native(x) \
+/** hyperbolic tangent of x; 8 lanes of float. The same function as the default form. Largest error 1.03 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(tanhf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_tanhf16_native(lanemath_border_float16);
+/** hyperbolic tangent of x; 16 lanes of float. The same function as the default form. Largest error 1.03 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_tanhf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(tanhf16_native, float16, float16, x);
+}
+#define lanemath_tanhf16_native(x) \
+/** hyperbolic tangent of x; 16 lanes of float. The same function as the default form. Largest error 1.03 ulp. Domain
+ * and special values: at the head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(tanhf16_native, float16, float16, x)
+
+/** inverse hyperbolic sine of x; one double. Largest error 1.8 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_double1 lanemath_asinh1(lanemath_double1 x) LANEMATH_NAMED("asinh1");
+/** inverse hyperbolic sine of x; 2 lanes of double. An algorithm of its own: the last bits differ from those of other
+ * widths. Largest error 2.28 ulp. Domain and special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_double2 lanemath_asinh2(lanemath_double2 x) LANEMATH_NAMED("asinh2");
+lanemath_border_double3 __ocl_lanemath_h8_asinh3(lanemath_border_double3);
+/** inverse hyperbolic sine of x; 3 lanes of double. Largest error 1.8 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_asinh3(lanemath_double3 x) {
+  return LANEMATH_UNARY(asinh3, double3, double3, x);
+}
+#define lanemath_asinh3(x) \
+/** inverse hyperbolic sine of x; 3 lanes of double. Largest error 1.8 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(asinh3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_asinh4(lanemath_border_double4);
+/** inverse hyperbolic sine of x; 4 lanes of double. Largest error 1.8 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_asinh4(lanemath_double4 x) {
+  return LANEMATH_UNARY(asinh4, double4, double4, x);
+}
+#define lanemath_asinh4(x) \
+/** inverse hyperbolic sine of x; 4 lanes of double. Largest error 1.8 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(asinh4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_asinh8(lanemath_border_double8);
+/** inverse hyperbolic sine of x; 8 lanes of double. Largest error 1.8 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_asinh8(lanemath_double8 x) {
+  return LANEMATH_UNARY(asinh8, double8, double8, x);
+}
+#define lanemath_asinh8(x) \
+/** inverse hyperbolic sine of x; 8 lanes of double. Largest error 1.8 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(asinh8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_asinh16(lanemath_border_double16);
+/** inverse hyperbolic sine of x; 16 lanes of double. Largest error 1.8 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_asinh16(lanemath_double16 x) {
+  return LANEMATH_UNARY(asinh16, double16, double16, x);
+}
+#define lanemath_asinh16(x) \
+/** inverse hyperbolic sine of x; 16 lanes of double. Largest error 1.8 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(asinh16, double16, double16, x)
+
+/** inverse hyperbolic sine of x; one double. Largest error 700000 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_double1 lanemath_asinh1_native(lanemath_double1 x) LANEMATH_NAMED("asinh1_native");
+/** inverse hyperbolic sine of x; 2 lanes of double. The same function as the default form. Largest error 2.28 ulp.
+ * Domain and special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_double2 lanemath_asinh2_native(lanemath_double2 x) LANEMATH_NAMED("asinh2_native");
+lanemath_border_double3 __ocl_lanemath_h8_asinh3_native(lanemath_border_double3);
+/** inverse hyperbolic sine of x; 3 lanes of double. Largest error 700000 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_asinh3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(asinh3_native, double3, double3, x);
+}
+#define lanemath_asinh3_native(x) \
+/** inverse hyperbolic sine of x; 3 lanes of double. Largest error 700000 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(asinh3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_asinh4_native(lanemath_border_double4);
+/** inverse hyperbolic sine of x; 4 lanes of double. Largest error 700000 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_asinh4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(asinh4_native, double4, double4, x);
+}
+#define lanemath_asinh4_native(x) \
+/** inverse hyperbolic sine of x; 4 lanes of double. Largest error 700000 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(asinh4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_asinh8_native(lanemath_border_double8);
+/** inverse hyperbolic sine of x; 8 lanes of double. Largest error 700000 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_asinh8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(asinh8_native, double8, double8, x);
+}
+#define lanemath_asinh8_native(x) \
+/** inverse hyperbolic sine of x; 8 lanes of double. Largest error 700000 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(asinh8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_asinh16_native(lanemath_border_double16);
+/** inverse hyperbolic sine of x; 16 lanes of double. Largest error 700000 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_asinh16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(asinh16_native, double16, double16, x);
+}
+#define lanemath_asinh16_native(x) \
+/** inverse hyperbolic sine of x; 16 lanes of double. Largest error 700000 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(asinh16_native, double16, double16, x)
+
+/** inverse hyperbolic sine of x; one float. Largest error 2.3 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float1 lanemath_asinhf1(lanemath_float1 x) LANEMATH_NAMED("asinhf1");
+/** inverse hyperbolic sine of x; 2 lanes of float. Largest error 2.3 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float2 lanemath_asinhf2(lanemath_float2 x) LANEMATH_NAMED("asinhf2");
+/** inverse hyperbolic sine of x; 3 lanes of float. Largest error 2.3 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float3 lanemath_asinhf3(lanemath_float3 x) LANEMATH_NAMED("asinhf3");
+/** inverse hyperbolic sine of x; 4 lanes of float. An algorithm of its own: the last bits differ from those of other
+ * widths. Largest error 2.28 ulp. Domain and special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_float4 lanemath_asinhf4(lanemath_float4 x) LANEMATH_NAMED("asinhf4");
+lanemath_border_float8 __ocl_lanemath_h8_asinhf8(lanemath_border_float8);
+/** inverse hyperbolic sine of x; 8 lanes of float. Largest error 2.3 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_asinhf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(asinhf8, float8, float8, x);
+}
+#define lanemath_asinhf8(x) \
+/** inverse hyperbolic sine of x; 8 lanes of float. Largest error 2.3 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(asinhf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_asinhf16(lanemath_border_float16);
+/** inverse hyperbolic sine of x; 16 lanes of float. Largest error 2.3 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_asinhf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(asinhf16, float16, float16, x);
+}
+#define lanemath_asinhf16(x) \
+/** inverse hyperbolic sine of x; 16 lanes of float. Largest error 2.3 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(asinhf16, float16, float16, x)
+
+/** inverse hyperbolic sine of x; one float. Largest error 1470 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float1 lanemath_asinhf1_native(lanemath_float1 x) LANEMATH_NAMED("asinhf1_native");
+/** inverse hyperbolic sine of x; 2 lanes of float. Largest error 1470 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float2 lanemath_asinhf2_native(lanemath_float2 x) LANEMATH_NAMED("asinhf2_native");
+/** inverse hyperbolic sine of x; 3 lanes of float. Largest error 1470 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float3 lanemath_asinhf3_native(lanemath_float3 x) LANEMATH_NAMED("asinhf3_native");
+/** inverse hyperbolic sine of x; 4 lanes of float. The same function as the default form. Largest error 2.28 ulp.
+ * Domain and special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_float4 lanemath_asinhf4_native(lanemath_float4 x) LANEMATH_NAMED("asinhf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_asinhf8_native(lanemath_border_float8);
+/** inverse hyperbolic sine of x; 8 lanes of float. Largest error 1470 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_asinhf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(asinhf8_native, float8, float8, x);
+}
+#define lanemath_asinhf8_native(x) \
+/** inverse hyperbolic sine of x; 8 lanes of float. Largest error 1470 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(asinhf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_asinhf16_native(lanemath_border_float16);
+/** inverse hyperbolic sine of x; 16 lanes of float. Largest error 1470 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_asinhf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(asinhf16_native, float16, float16, x);
+}
+#define lanemath_asinhf16_native(x) \
+/** inverse hyperbolic sine of x; 16 lanes of float. Largest error 1470 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(asinhf16_native, float16, float16, x)
+
+/** inverse hyperbolic cosine of x; one double. Largest error 9 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_double1 lanemath_acosh1(lanemath_double1 x) LANEMATH_NAMED("acosh1");
+/** inverse hyperbolic cosine of x; 2 lanes of double. An algorithm of its own: the last bits differ from those of
+ * other widths. Largest error 2.19 ulp. Domain and special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_double2 lanemath_acosh2(lanemath_double2 x) LANEMATH_NAMED("acosh2");
+lanemath_border_double3 __ocl_lanemath_h8_acosh3(lanemath_border_double3);
+/** inverse hyperbolic cosine of x; 3 lanes of double. Largest error 9 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_acosh3(lanemath_double3 x) {
+  return LANEMATH_UNARY(acosh3, double3, double3, x);
+}
+#define lanemath_acosh3(x) \
+/** inverse hyperbolic cosine of x; 3 lanes of double. Largest error 9 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(acosh3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_acosh4(lanemath_border_double4);
+/** inverse hyperbolic cosine of x; 4 lanes of double. Largest error 9 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_acosh4(lanemath_double4 x) {
+  return LANEMATH_UNARY(acosh4, double4, double4, x);
+}
+#define lanemath_acosh4(x) \
+/** inverse hyperbolic cosine of x; 4 lanes of double. Largest error 9 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(acosh4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_acosh8(lanemath_border_double8);
+/** inverse hyperbolic cosine of x; 8 lanes of double. Largest error 9 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_acosh8(lanemath_double8 x) {
+  return LANEMATH_UNARY(acosh8, double8, double8, x);
+}
+#define lanemath_acosh8(x) \
+/** inverse hyperbolic cosine of x; 8 lanes of double. Largest error 9 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(acosh8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_acosh16(lanemath_border_double16);
+/** inverse hyperbolic cosine of x; 16 lanes of double. Largest error 9 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_acosh16(lanemath_double16 x) {
+  return LANEMATH_UNARY(acosh16, double16, double16, x);
+}
+#define lanemath_acosh16(x) \
+/** inverse hyperbolic cosine of x; 16 lanes of double. Largest error 9 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(acosh16, double16, double16, x)
+
+/** inverse hyperbolic cosine of x; one double. Largest error 700000 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_double1 lanemath_acosh1_native(lanemath_double1 x) LANEMATH_NAMED("acosh1_native");
+/** inverse hyperbolic cosine of x; 2 lanes of double. The same function as the default form. Largest error 2.19 ulp.
+ * Domain and special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_double2 lanemath_acosh2_native(lanemath_double2 x) LANEMATH_NAMED("acosh2_native");
+lanemath_border_double3 __ocl_lanemath_h8_acosh3_native(lanemath_border_double3);
+/** inverse hyperbolic cosine of x; 3 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_acosh3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(acosh3_native, double3, double3, x);
+}
+#define lanemath_acosh3_native(x) \
+/** inverse hyperbolic cosine of x; 3 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(acosh3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_acosh4_native(lanemath_border_double4);
+/** inverse hyperbolic cosine of x; 4 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_acosh4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(acosh4_native, double4, double4, x);
+}
+#define lanemath_acosh4_native(x) \
+/** inverse hyperbolic cosine of x; 4 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(acosh4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_acosh8_native(lanemath_border_double8);
+/** inverse hyperbolic cosine of x; 8 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_acosh8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(acosh8_native, double8, double8, x);
+}
+#define lanemath_acosh8_native(x) \
+/** inverse hyperbolic cosine of x; 8 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(acosh8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_acosh16_native(lanemath_border_double16);
+/** inverse hyperbolic cosine of x; 16 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_acosh16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(acosh16_native, double16, double16, x);
+}
+#define lanemath_acosh16_native(x) \
+/** inverse hyperbolic cosine of x; 16 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(acosh16_native, double16, double16, x)
+
+/** inverse hyperbolic cosine of x; one float. Largest error 3.4 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float1 lanemath_acoshf1(lanemath_float1 x) LANEMATH_NAMED("acoshf1");
+/** inverse hyperbolic cosine of x; 2 lanes of float. Largest error 3.4 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float2 lanemath_acoshf2(lanemath_float2 x) LANEMATH_NAMED("acoshf2");
+/** inverse hyperbolic cosine of x; 3 lanes of float. Largest error 3.4 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float3 lanemath_acoshf3(lanemath_float3 x) LANEMATH_NAMED("acoshf3");
+/** inverse hyperbolic cosine of x; 4 lanes of float. An algorithm of its own: the last bits differ from those of
+ * other widths. Largest error 2.14 ulp. Domain and special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_float4 lanemath_acoshf4(lanemath_float4 x) LANEMATH_NAMED("acoshf4");
+lanemath_border_float8 __ocl_lanemath_h8_acoshf8(lanemath_border_float8);
+/** inverse hyperbolic cosine of x; 8 lanes of float. Largest error 3.4 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_acoshf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(acoshf8, float8, float8, x);
+}
+#define lanemath_acoshf8(x) \
+/** inverse hyperbolic cosine of x; 8 lanes of float. Largest error 3.4 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(acoshf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_acoshf16(lanemath_border_float16);
+/** inverse hyperbolic cosine of x; 16 lanes of float. Largest error 3.4 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_acoshf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(acoshf16, float16, float16, x);
+}
+#define lanemath_acoshf16(x) \
+/** inverse hyperbolic cosine of x; 16 lanes of float. Largest error 3.4 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(acoshf16, float16, float16, x)
+
+/** inverse hyperbolic cosine of x; one float. Largest error 2500 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float1 lanemath_acoshf1_native(lanemath_float1 x) LANEMATH_NAMED("acoshf1_native");
+/** inverse hyperbolic cosine of x; 2 lanes of float. Largest error 2500 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+lanemath_float2 lanemath_acoshf2_native(lanemath_float2 x) LANEMATH_NAMED("acoshf2_native");
+/** inverse hyperbolic cosine of x; 3 lanes of float. Largest error 2500 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+lanemath_float3 lanemath_acoshf3_native(lanemath_float3 x) LANEMATH_NAMED("acoshf3_native");
+/** inverse hyperbolic cosine of x; 4 lanes of float. The same function as the default form. Largest error 2.14 ulp.
+ * Domain and special values: at the head of <lanemath/hyperbolic.h>. */
+lanemath_float4 lanemath_acoshf4_native(lanemath_float4 x) LANEMATH_NAMED("acoshf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_acoshf8_native(lanemath_border_float8);
+/** inverse hyperbolic cosine of x; 8 lanes of float. Largest error 2500 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_acoshf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(acoshf8_native, float8, float8, x);
+}
+#define lanemath_acoshf8_native(x) \
+/** inverse hyperbolic cosine of x; 8 lanes of float. Largest error 2500 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(acoshf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_acoshf16_native(lanemath_border_float16);
+/** inverse hyperbolic cosine of x; 16 lanes of float. Largest error 2500 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_acoshf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(acoshf16_native, float16, float16, x);
+}
+#define lanemath_acoshf16_native(x) \
+/** inverse hyperbolic cosine of x; 16 lanes of float. Largest error 2500 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(acoshf16_native, float16, float16, x)
+
+/** inverse hyperbolic tangent of x; one double. Largest error 2.4 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_double1 lanemath_atanh1(lanemath_double1 x) LANEMATH_NAMED("atanh1");
+/** inverse hyperbolic tangent of x; 2 lanes of double. Largest error 2.4 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+lanemath_double2 lanemath_atanh2(lanemath_double2 x) LANEMATH_NAMED("atanh2");
+lanemath_border_double3 __ocl_lanemath_h8_atanh3(lanemath_border_double3);
+/** inverse hyperbolic tangent of x; 3 lanes of double. Largest error 2.4 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_atanh3(lanemath_double3 x) {
+  return LANEMATH_UNARY(atanh3, double3, double3, x);
+}
+#define lanemath_atanh3(x) \
+/** inverse hyperbolic tangent of x; 3 lanes of double. Largest error 2.4 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(atanh3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_atanh4(lanemath_border_double4);
+/** inverse hyperbolic tangent of x; 4 lanes of double. Largest error 2.4 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_atanh4(lanemath_double4 x) {
+  return LANEMATH_UNARY(atanh4, double4, double4, x);
+}
+#define lanemath_atanh4(x) \
+/** inverse hyperbolic tangent of x; 4 lanes of double. Largest error 2.4 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(atanh4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_atanh8(lanemath_border_double8);
+/** inverse hyperbolic tangent of x; 8 lanes of double. Largest error 2.4 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_atanh8(lanemath_double8 x) {
+  return LANEMATH_UNARY(atanh8, double8, double8, x);
+}
+#define lanemath_atanh8(x) \
+/** inverse hyperbolic tangent of x; 8 lanes of double. Largest error 2.4 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(atanh8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_atanh16(lanemath_border_double16);
+/** inverse hyperbolic tangent of x; 16 lanes of double. Largest error 2.4 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_atanh16(lanemath_double16 x) {
+  return LANEMATH_UNARY(atanh16, double16, double16, x);
+}
+#define lanemath_atanh16(x) \
+/** inverse hyperbolic tangent of x; 16 lanes of double. Largest error 2.4 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(atanh16, double16, double16, x)
+
+/** inverse hyperbolic tangent of x; one double. Largest error 700000 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_double1 lanemath_atanh1_native(lanemath_double1 x) LANEMATH_NAMED("atanh1_native");
+/** inverse hyperbolic tangent of x; 2 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */
+lanemath_double2 lanemath_atanh2_native(lanemath_double2 x) LANEMATH_NAMED("atanh2_native");
+lanemath_border_double3 __ocl_lanemath_h8_atanh3_native(lanemath_border_double3);
+/** inverse hyperbolic tangent of x; 3 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_atanh3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(atanh3_native, double3, double3, x);
+}
+#define lanemath_atanh3_native(x) \
+/** inverse hyperbolic tangent of x; 3 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(atanh3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_atanh4_native(lanemath_border_double4);
+/** inverse hyperbolic tangent of x; 4 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_atanh4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(atanh4_native, double4, double4, x);
+}
+#define lanemath_atanh4_native(x) \
+/** inverse hyperbolic tangent of x; 4 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(atanh4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_atanh8_native(lanemath_border_double8);
+/** inverse hyperbolic tangent of x; 8 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_atanh8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(atanh8_native, double8, double8, x);
+}
+#define lanemath_atanh8_native(x) \
+/** inverse hyperbolic tangent of x; 8 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(atanh8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_atanh16_native(lanemath_border_double16);
+/** inverse hyperbolic tangent of x; 16 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_atanh16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(atanh16_native, double16, double16, x);
+}
+#define lanemath_atanh16_native(x) \
+/** inverse hyperbolic tangent of x; 16 lanes of double. Largest error 700000 ulp. Domain and special values: at the
+ * head of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(atanh16_native, double16, double16, x)
+
+/** inverse hyperbolic tangent of x; one float. Largest error 2.2 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float1 lanemath_atanhf1(lanemath_float1 x) LANEMATH_NAMED("atanhf1");
+/** inverse hyperbolic tangent of x; 2 lanes of float. Largest error 2.2 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+lanemath_float2 lanemath_atanhf2(lanemath_float2 x) LANEMATH_NAMED("atanhf2");
+/** inverse hyperbolic tangent of x; 3 lanes of float. Largest error 2.2 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+lanemath_float3 lanemath_atanhf3(lanemath_float3 x) LANEMATH_NAMED("atanhf3");
+/** inverse hyperbolic tangent of x; 4 lanes of float. Largest error 2.2 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+lanemath_float4 lanemath_atanhf4(lanemath_float4 x) LANEMATH_NAMED("atanhf4");
+lanemath_border_float8 __ocl_lanemath_h8_atanhf8(lanemath_border_float8);
+/** inverse hyperbolic tangent of x; 8 lanes of float. Largest error 2.2 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_atanhf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(atanhf8, float8, float8, x);
+}
+#define lanemath_atanhf8(x) \
+/** inverse hyperbolic tangent of x; 8 lanes of float. Largest error 2.2 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(atanhf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_atanhf16(lanemath_border_float16);
+/** inverse hyperbolic tangent of x; 16 lanes of float. Largest error 2.2 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_atanhf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(atanhf16, float16, float16, x);
+}
+#define lanemath_atanhf16(x) \
+/** inverse hyperbolic tangent of x; 16 lanes of float. Largest error 2.2 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(atanhf16, float16, float16, x)
+
+/** inverse hyperbolic tangent of x; one float. Largest error 1470 ulp. Domain and special values: at the head of
+ * <lanemath/hyperbolic.h>. */
+lanemath_float1 lanemath_atanhf1_native(lanemath_float1 x) LANEMATH_NAMED("atanhf1_native");
+/** inverse hyperbolic tangent of x; 2 lanes of float. Largest error 1470 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+lanemath_float2 lanemath_atanhf2_native(lanemath_float2 x) LANEMATH_NAMED("atanhf2_native");
+/** inverse hyperbolic tangent of x; 3 lanes of float. Largest error 1470 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+lanemath_float3 lanemath_atanhf3_native(lanemath_float3 x) LANEMATH_NAMED("atanhf3_native");
+/** inverse hyperbolic tangent of x; 4 lanes of float. Largest error 1470 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+lanemath_float4 lanemath_atanhf4_native(lanemath_float4 x) LANEMATH_NAMED("atanhf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_atanhf8_native(lanemath_border_float8);
+/** inverse hyperbolic tangent of x; 8 lanes of float. Largest error 1470 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_atanhf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(atanhf8_native, float8, float8, x);
+}
+#define lanemath_atanhf8_native(x) \
+/** inverse hyperbolic tangent of x; 8 lanes of float. Largest error 1470 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(atanhf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_atanhf16_native(lanemath_border_float16);
+/** inverse hyperbolic tangent of x; 16 lanes of float. Largest error 1470 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_atanhf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(atanhf16_native, float16, float16, x);
+}
+#define lanemath_atanhf16_native(x) \
+/** inverse hyperbolic tangent of x; 16 lanes of float. Largest error 1470 ulp. Domain and special values: at the head
+ * of <lanemath/hyperbolic.h>. */ \
+  LANEMATH_UNARY(atanhf16_native, float16, float16, x)
 
 LANEMATH_END
 

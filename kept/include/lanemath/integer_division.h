@@ -1,7 +1,7 @@
 /* Integer division.
  *
- * 32-bit lanes, signed and unsigned, truncated. Nothing traps: a zero divisor gives the quotient 0x80000000
- * (signed) or 0 (unsigned) and the dividend as the remainder; -2147483648 / -1 gives 0x80000000 and the remainder 0.
+ * 32-bit lanes, signed and unsigned, truncated. Nothing traps: a zero divisor gives the quotient 0x80000000 (signed)
+ * or 0 (unsigned) and the dividend as the remainder; -2147483648 / -1 gives 0x80000000 and the remainder 0.
  *
  * Each function exists at widths 1, 2, 3, 4, 8 and 16, as lanemath_<operation><width><variant>. */
 #ifndef LANEMATH_INTEGER_DIVISION_H
@@ -9,31 +9,207 @@
 
 #include <lanemath/types.h>
 
+#pragma GCC system_header
+
 LANEMATH_BEGIN
 
-/* int idiv(int x, int y)
- * quotient of x / y, truncated. */
-LANEMATH_DECLARE(BINARY, idiv, , int, int, int)
+/** quotient of x / y, truncated; one int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_int1 lanemath_idiv1(lanemath_int1 x, lanemath_int1 y) LANEMATH_NAMED("idiv1");
+/** quotient of x / y, truncated; 2 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_int2 lanemath_idiv2(lanemath_int2 x, lanemath_int2 y) LANEMATH_NAMED("idiv2");
+/** quotient of x / y, truncated; 3 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_int3 lanemath_idiv3(lanemath_int3 x, lanemath_int3 y) LANEMATH_NAMED("idiv3");
+/** quotient of x / y, truncated; 4 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_int4 lanemath_idiv4(lanemath_int4 x, lanemath_int4 y) LANEMATH_NAMED("idiv4");
+lanemath_border_int8 __ocl_lanemath_h8_idiv8(lanemath_border_int8, lanemath_border_int8);
+/** quotient of x / y, truncated; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_idiv8(lanemath_int8 x, lanemath_int8 y) {
+  return LANEMATH_BINARY(idiv8, int8, int8, int8, x, y);
+}
+#define lanemath_idiv8(x, y) \
+/** quotient of x / y, truncated; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */ \
+  LANEMATH_BINARY(idiv8, int8, int8, int8, x, y)
+lanemath_border_int16 __ocl_lanemath_h8_idiv16(lanemath_border_int16, lanemath_border_int16);
+/** quotient of x / y, truncated; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_idiv16(lanemath_int16 x, lanemath_int16 y) {
+  return LANEMATH_BINARY(idiv16, int16, int16, int16, x, y);
+}
+#define lanemath_idiv16(x, y) \
+/** quotient of x / y, truncated; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */ \
+  LANEMATH_BINARY(idiv16, int16, int16, int16, x, y)
 
-/* int irem(int x, int y)
- * remainder of x / y, with the sign of x. */
-LANEMATH_DECLARE(BINARY, irem, , int, int, int)
+/** remainder of x / y, with the sign of x; one int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_int1 lanemath_irem1(lanemath_int1 x, lanemath_int1 y) LANEMATH_NAMED("irem1");
+/** remainder of x / y, with the sign of x; 2 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/integer_division.h>. */
+lanemath_int2 lanemath_irem2(lanemath_int2 x, lanemath_int2 y) LANEMATH_NAMED("irem2");
+/** remainder of x / y, with the sign of x; 3 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/integer_division.h>. */
+lanemath_int3 lanemath_irem3(lanemath_int3 x, lanemath_int3 y) LANEMATH_NAMED("irem3");
+/** remainder of x / y, with the sign of x; 4 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/integer_division.h>. */
+lanemath_int4 lanemath_irem4(lanemath_int4 x, lanemath_int4 y) LANEMATH_NAMED("irem4");
+lanemath_border_int8 __ocl_lanemath_h8_irem8(lanemath_border_int8, lanemath_border_int8);
+/** remainder of x / y, with the sign of x; 8 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/integer_division.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_irem8(lanemath_int8 x, lanemath_int8 y) {
+  return LANEMATH_BINARY(irem8, int8, int8, int8, x, y);
+}
+#define lanemath_irem8(x, y) \
+/** remainder of x / y, with the sign of x; 8 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/integer_division.h>. */ \
+  LANEMATH_BINARY(irem8, int8, int8, int8, x, y)
+lanemath_border_int16 __ocl_lanemath_h8_irem16(lanemath_border_int16, lanemath_border_int16);
+/** remainder of x / y, with the sign of x; 16 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/integer_division.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_irem16(lanemath_int16 x, lanemath_int16 y) {
+  return LANEMATH_BINARY(irem16, int16, int16, int16, x, y);
+}
+#define lanemath_irem16(x, y) \
+/** remainder of x / y, with the sign of x; 16 lanes of int. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/integer_division.h>. */ \
+  LANEMATH_BINARY(irem16, int16, int16, int16, x, y)
 
-/* (int, int) idivrem(int x, int y)
- * quotient and remainder of x / y. */
-LANEMATH_DECLARE(BINARY_PAIR, idivrem, , int, int, int)
+/** quotient and remainder of x / y; one int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_int1_pair lanemath_idivrem1(lanemath_int1 x, lanemath_int1 y) LANEMATH_NAMED("idivrem1");
+/** quotient and remainder of x / y; 2 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_int2_pair lanemath_idivrem2(lanemath_int2 x, lanemath_int2 y) LANEMATH_NAMED("idivrem2");
+/** quotient and remainder of x / y; 3 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_int3_pair lanemath_idivrem3(lanemath_int3 x, lanemath_int3 y) LANEMATH_NAMED("idivrem3");
+/** quotient and remainder of x / y; 4 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_int4_pair lanemath_idivrem4(lanemath_int4 x, lanemath_int4 y) LANEMATH_NAMED("idivrem4");
+lanemath_border_int8_pair __ocl_lanemath_h8_idivrem8(lanemath_border_int8, lanemath_border_int8);
+/** quotient and remainder of x / y; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+LANEMATH_INLINE lanemath_int8_pair lanemath_idivrem8(lanemath_int8 x, lanemath_int8 y) {
+  return LANEMATH_BINARY_PAIR(idivrem8, int8, int8, int8, x, y);
+}
+#define lanemath_idivrem8(x, y) \
+/** quotient and remainder of x / y; 8 lanes of int. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */ \
+  LANEMATH_BINARY_PAIR(idivrem8, int8, int8, int8, x, y)
+lanemath_border_int16_pair __ocl_lanemath_h8_idivrem16(lanemath_border_int16, lanemath_border_int16);
+/** quotient and remainder of x / y; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/integer_division.h>. */
+LANEMATH_INLINE lanemath_int16_pair lanemath_idivrem16(lanemath_int16 x, lanemath_int16 y) {
+  return LANEMATH_BINARY_PAIR(idivrem16, int16, int16, int16, x, y);
+}
+#define lanemath_idivrem16(x, y) \
+/** quotient and remainder of x / y; 16 lanes of int. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/integer_division.h>. */ \
+  LANEMATH_BINARY_PAIR(idivrem16, int16, int16, int16, x, y)
 
-/* uint udiv(uint x, uint y)
- * quotient of x / y. */
-LANEMATH_DECLARE(BINARY, udiv, , uint, uint, uint)
+/** quotient of x / y; one uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_uint1 lanemath_udiv1(lanemath_uint1 x, lanemath_uint1 y) LANEMATH_NAMED("udiv1");
+/** quotient of x / y; 2 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_uint2 lanemath_udiv2(lanemath_uint2 x, lanemath_uint2 y) LANEMATH_NAMED("udiv2");
+/** quotient of x / y; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_uint3 lanemath_udiv3(lanemath_uint3 x, lanemath_uint3 y) LANEMATH_NAMED("udiv3");
+/** quotient of x / y; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_uint4 lanemath_udiv4(lanemath_uint4 x, lanemath_uint4 y) LANEMATH_NAMED("udiv4");
+lanemath_border_uint8 __ocl_lanemath_h8_udiv8(lanemath_border_uint8, lanemath_border_uint8);
+/** quotient of x / y; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_udiv8(lanemath_uint8 x, lanemath_uint8 y) {
+  return LANEMATH_BINARY(udiv8, uint8, uint8, uint8, x, y);
+}
+#define lanemath_udiv8(x, y) \
+/** quotient of x / y; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */ \
+  LANEMATH_BINARY(udiv8, uint8, uint8, uint8, x, y)
+lanemath_border_uint16 __ocl_lanemath_h8_udiv16(lanemath_border_uint16, lanemath_border_uint16);
+/** quotient of x / y; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_udiv16(lanemath_uint16 x, lanemath_uint16 y) {
+  return LANEMATH_BINARY(udiv16, uint16, uint16, uint16, x, y);
+}
+#define lanemath_udiv16(x, y) \
+/** quotient of x / y; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */ \
+  LANEMATH_BINARY(udiv16, uint16, uint16, uint16, x, y)
 
-/* uint urem(uint x, uint y)
- * remainder of x / y. */
-LANEMATH_DECLARE(BINARY, urem, , uint, uint, uint)
+/** remainder of x / y; one uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_uint1 lanemath_urem1(lanemath_uint1 x, lanemath_uint1 y) LANEMATH_NAMED("urem1");
+/** remainder of x / y; 2 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_uint2 lanemath_urem2(lanemath_uint2 x, lanemath_uint2 y) LANEMATH_NAMED("urem2");
+/** remainder of x / y; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_uint3 lanemath_urem3(lanemath_uint3 x, lanemath_uint3 y) LANEMATH_NAMED("urem3");
+/** remainder of x / y; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_uint4 lanemath_urem4(lanemath_uint4 x, lanemath_uint4 y) LANEMATH_NAMED("urem4");
+lanemath_border_uint8 __ocl_lanemath_h8_urem8(lanemath_border_uint8, lanemath_border_uint8);
+/** remainder of x / y; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+LANEMATH_INLINE lanemath_uint8 lanemath_urem8(lanemath_uint8 x, lanemath_uint8 y) {
+  return LANEMATH_BINARY(urem8, uint8, uint8, uint8, x, y);
+}
+#define lanemath_urem8(x, y) \
+/** remainder of x / y; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */ \
+  LANEMATH_BINARY(urem8, uint8, uint8, uint8, x, y)
+lanemath_border_uint16 __ocl_lanemath_h8_urem16(lanemath_border_uint16, lanemath_border_uint16);
+/** remainder of x / y; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+LANEMATH_INLINE lanemath_uint16 lanemath_urem16(lanemath_uint16 x, lanemath_uint16 y) {
+  return LANEMATH_BINARY(urem16, uint16, uint16, uint16, x, y);
+}
+#define lanemath_urem16(x, y) \
+/** remainder of x / y; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */ \
+  LANEMATH_BINARY(urem16, uint16, uint16, uint16, x, y)
 
-/* (uint, uint) udivrem(uint x, uint y)
- * quotient and remainder of x / y. */
-LANEMATH_DECLARE(BINARY_PAIR, udivrem, , uint, uint, uint)
+/** quotient and remainder of x / y; one uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/integer_division.h>. */
+lanemath_uint1_pair lanemath_udivrem1(lanemath_uint1 x, lanemath_uint1 y) LANEMATH_NAMED("udivrem1");
+/** quotient and remainder of x / y; 2 lanes of uint. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/integer_division.h>. */
+lanemath_uint2_pair lanemath_udivrem2(lanemath_uint2 x, lanemath_uint2 y) LANEMATH_NAMED("udivrem2");
+/** quotient and remainder of x / y; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/integer_division.h>. */
+lanemath_uint3_pair lanemath_udivrem3(lanemath_uint3 x, lanemath_uint3 y) LANEMATH_NAMED("udivrem3");
+/** quotient and remainder of x / y; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/integer_division.h>. */
+lanemath_uint4_pair lanemath_udivrem4(lanemath_uint4 x, lanemath_uint4 y) LANEMATH_NAMED("udivrem4");
+lanemath_border_uint8_pair __ocl_lanemath_h8_udivrem8(lanemath_border_uint8, lanemath_border_uint8);
+/** quotient and remainder of x / y; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/integer_division.h>. */
+LANEMATH_INLINE lanemath_uint8_pair lanemath_udivrem8(lanemath_uint8 x, lanemath_uint8 y) {
+  return LANEMATH_BINARY_PAIR(udivrem8, uint8, uint8, uint8, x, y);
+}
+#define lanemath_udivrem8(x, y) \
+/** quotient and remainder of x / y; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/integer_division.h>. */ \
+  LANEMATH_BINARY_PAIR(udivrem8, uint8, uint8, uint8, x, y)
+lanemath_border_uint16_pair __ocl_lanemath_h8_udivrem16(lanemath_border_uint16, lanemath_border_uint16);
+/** quotient and remainder of x / y; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/integer_division.h>. */
+LANEMATH_INLINE lanemath_uint16_pair lanemath_udivrem16(lanemath_uint16 x, lanemath_uint16 y) {
+  return LANEMATH_BINARY_PAIR(udivrem16, uint16, uint16, uint16, x, y);
+}
+#define lanemath_udivrem16(x, y) \
+/** quotient and remainder of x / y; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/integer_division.h>. */ \
+  LANEMATH_BINARY_PAIR(udivrem16, uint16, uint16, uint16, x, y)
 
 LANEMATH_END
 

@@ -9,103 +9,1291 @@
 
 #include <lanemath/types.h>
 
+#pragma GCC system_header
+
 LANEMATH_BEGIN
 
-/* double asin(double x)
- * arc sine of x, in radians.
- * Largest error in ulp: default 2.17; _native 6.3e+06. */
-LANEMATH_DECLARE(UNARY, asin, , double, double)
-LANEMATH_DECLARE(UNARY, asin, _native, double, double)
+/** arc sine of x, in radians; one double. Largest error 2.17 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_asin1(lanemath_double1 x) LANEMATH_NAMED("asin1");
+/** arc sine of x, in radians; 2 lanes of double. Largest error 2.17 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_asin2(lanemath_double2 x) LANEMATH_NAMED("asin2");
+lanemath_border_double3 __ocl_lanemath_h8_asin3(lanemath_border_double3);
+/** arc sine of x, in radians; 3 lanes of double. Largest error 2.17 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_asin3(lanemath_double3 x) {
+  return LANEMATH_UNARY(asin3, double3, double3, x);
+}
+#define lanemath_asin3(x) \
+/** arc sine of x, in radians; 3 lanes of double. Largest error 2.17 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asin3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_asin4(lanemath_border_double4);
+/** arc sine of x, in radians; 4 lanes of double. Largest error 2.17 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_asin4(lanemath_double4 x) {
+  return LANEMATH_UNARY(asin4, double4, double4, x);
+}
+#define lanemath_asin4(x) \
+/** arc sine of x, in radians; 4 lanes of double. Largest error 2.17 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asin4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_asin8(lanemath_border_double8);
+/** arc sine of x, in radians; 8 lanes of double. Largest error 2.17 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_asin8(lanemath_double8 x) {
+  return LANEMATH_UNARY(asin8, double8, double8, x);
+}
+#define lanemath_asin8(x) \
+/** arc sine of x, in radians; 8 lanes of double. Largest error 2.17 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asin8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_asin16(lanemath_border_double16);
+/** arc sine of x, in radians; 16 lanes of double. Largest error 2.17 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_asin16(lanemath_double16 x) {
+  return LANEMATH_UNARY(asin16, double16, double16, x);
+}
+#define lanemath_asin16(x) \
+/** arc sine of x, in radians; 16 lanes of double. Largest error 2.17 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asin16, double16, double16, x)
 
-/* float asinf(float x)
- * arc sine of x, in radians.
- * Largest error in ulp: default 2.28; _native 536. */
-LANEMATH_DECLARE(UNARY, asinf, , float, float)
-LANEMATH_DECLARE(UNARY, asinf, _native, float, float)
+/** arc sine of x, in radians; one double. Largest error 6.3e+06 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_asin1_native(lanemath_double1 x) LANEMATH_NAMED("asin1_native");
+/** arc sine of x, in radians; 2 lanes of double. Largest error 6.3e+06 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_asin2_native(lanemath_double2 x) LANEMATH_NAMED("asin2_native");
+lanemath_border_double3 __ocl_lanemath_h8_asin3_native(lanemath_border_double3);
+/** arc sine of x, in radians; 3 lanes of double. Largest error 6.3e+06 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_asin3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(asin3_native, double3, double3, x);
+}
+#define lanemath_asin3_native(x) \
+/** arc sine of x, in radians; 3 lanes of double. Largest error 6.3e+06 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asin3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_asin4_native(lanemath_border_double4);
+/** arc sine of x, in radians; 4 lanes of double. Largest error 6.3e+06 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_asin4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(asin4_native, double4, double4, x);
+}
+#define lanemath_asin4_native(x) \
+/** arc sine of x, in radians; 4 lanes of double. Largest error 6.3e+06 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asin4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_asin8_native(lanemath_border_double8);
+/** arc sine of x, in radians; 8 lanes of double. Largest error 6.3e+06 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_asin8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(asin8_native, double8, double8, x);
+}
+#define lanemath_asin8_native(x) \
+/** arc sine of x, in radians; 8 lanes of double. Largest error 6.3e+06 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asin8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_asin16_native(lanemath_border_double16);
+/** arc sine of x, in radians; 16 lanes of double. Largest error 6.3e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_asin16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(asin16_native, double16, double16, x);
+}
+#define lanemath_asin16_native(x) \
+/** arc sine of x, in radians; 16 lanes of double. Largest error 6.3e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asin16_native, double16, double16, x)
 
-/* double acos(double x)
- * arc cosine of x, in radians.
- * Largest error in ulp: default 1.32; _native 6.4e+06. */
-LANEMATH_DECLARE(UNARY, acos, , double, double)
-LANEMATH_DECLARE(UNARY, acos, _native, double, double)
+/** arc sine of x, in radians; one float. Largest error 2.28 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_asinf1(lanemath_float1 x) LANEMATH_NAMED("asinf1");
+/** arc sine of x, in radians; 2 lanes of float. Largest error 2.28 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_asinf2(lanemath_float2 x) LANEMATH_NAMED("asinf2");
+/** arc sine of x, in radians; 3 lanes of float. Largest error 2.28 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_asinf3(lanemath_float3 x) LANEMATH_NAMED("asinf3");
+/** arc sine of x, in radians; 4 lanes of float. Largest error 2.28 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_asinf4(lanemath_float4 x) LANEMATH_NAMED("asinf4");
+lanemath_border_float8 __ocl_lanemath_h8_asinf8(lanemath_border_float8);
+/** arc sine of x, in radians; 8 lanes of float. Largest error 2.28 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_asinf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(asinf8, float8, float8, x);
+}
+#define lanemath_asinf8(x) \
+/** arc sine of x, in radians; 8 lanes of float. Largest error 2.28 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_asinf16(lanemath_border_float16);
+/** arc sine of x, in radians; 16 lanes of float. Largest error 2.28 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_asinf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(asinf16, float16, float16, x);
+}
+#define lanemath_asinf16(x) \
+/** arc sine of x, in radians; 16 lanes of float. Largest error 2.28 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinf16, float16, float16, x)
 
-/* float acosf(float x)
- * arc cosine of x, in radians.
- * Largest error in ulp: default 1.24; _native 533. */
-LANEMATH_DECLARE(UNARY, acosf, , float, float)
-LANEMATH_DECLARE(UNARY, acosf, _native, float, float)
+/** arc sine of x, in radians; one float. Largest error 536 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_asinf1_native(lanemath_float1 x) LANEMATH_NAMED("asinf1_native");
+/** arc sine of x, in radians; 2 lanes of float. Largest error 536 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_asinf2_native(lanemath_float2 x) LANEMATH_NAMED("asinf2_native");
+/** arc sine of x, in radians; 3 lanes of float. Largest error 536 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_asinf3_native(lanemath_float3 x) LANEMATH_NAMED("asinf3_native");
+/** arc sine of x, in radians; 4 lanes of float. Largest error 536 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_asinf4_native(lanemath_float4 x) LANEMATH_NAMED("asinf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_asinf8_native(lanemath_border_float8);
+/** arc sine of x, in radians; 8 lanes of float. Largest error 536 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_asinf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(asinf8_native, float8, float8, x);
+}
+#define lanemath_asinf8_native(x) \
+/** arc sine of x, in radians; 8 lanes of float. Largest error 536 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_asinf16_native(lanemath_border_float16);
+/** arc sine of x, in radians; 16 lanes of float. Largest error 536 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_asinf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(asinf16_native, float16, float16, x);
+}
+#define lanemath_asinf16_native(x) \
+/** arc sine of x, in radians; 16 lanes of float. Largest error 536 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinf16_native, float16, float16, x)
 
-/* double asinpi(double x)
- * arc sine of x, divided by pi.
- * Largest error in ulp: default 3.02; _native 7.6e+06. */
-LANEMATH_DECLARE(UNARY, asinpi, , double, double)
-LANEMATH_DECLARE(UNARY, asinpi, _native, double, double)
+/** arc cosine of x, in radians; one double. Largest error 1.32 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_acos1(lanemath_double1 x) LANEMATH_NAMED("acos1");
+/** arc cosine of x, in radians; 2 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_acos2(lanemath_double2 x) LANEMATH_NAMED("acos2");
+lanemath_border_double3 __ocl_lanemath_h8_acos3(lanemath_border_double3);
+/** arc cosine of x, in radians; 3 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_acos3(lanemath_double3 x) {
+  return LANEMATH_UNARY(acos3, double3, double3, x);
+}
+#define lanemath_acos3(x) \
+/** arc cosine of x, in radians; 3 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acos3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_acos4(lanemath_border_double4);
+/** arc cosine of x, in radians; 4 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_acos4(lanemath_double4 x) {
+  return LANEMATH_UNARY(acos4, double4, double4, x);
+}
+#define lanemath_acos4(x) \
+/** arc cosine of x, in radians; 4 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acos4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_acos8(lanemath_border_double8);
+/** arc cosine of x, in radians; 8 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_acos8(lanemath_double8 x) {
+  return LANEMATH_UNARY(acos8, double8, double8, x);
+}
+#define lanemath_acos8(x) \
+/** arc cosine of x, in radians; 8 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acos8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_acos16(lanemath_border_double16);
+/** arc cosine of x, in radians; 16 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_acos16(lanemath_double16 x) {
+  return LANEMATH_UNARY(acos16, double16, double16, x);
+}
+#define lanemath_acos16(x) \
+/** arc cosine of x, in radians; 16 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acos16, double16, double16, x)
 
-/* float asinpif(float x)
- * arc sine of x, divided by pi.
- * Largest error in ulp: default 3.21; _native 682. */
-LANEMATH_DECLARE(UNARY, asinpif, , float, float)
-LANEMATH_DECLARE(UNARY, asinpif, _native, float, float)
+/** arc cosine of x, in radians; one double. Largest error 6.4e+06 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_acos1_native(lanemath_double1 x) LANEMATH_NAMED("acos1_native");
+/** arc cosine of x, in radians; 2 lanes of double. Largest error 6.4e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_acos2_native(lanemath_double2 x) LANEMATH_NAMED("acos2_native");
+lanemath_border_double3 __ocl_lanemath_h8_acos3_native(lanemath_border_double3);
+/** arc cosine of x, in radians; 3 lanes of double. Largest error 6.4e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_acos3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(acos3_native, double3, double3, x);
+}
+#define lanemath_acos3_native(x) \
+/** arc cosine of x, in radians; 3 lanes of double. Largest error 6.4e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acos3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_acos4_native(lanemath_border_double4);
+/** arc cosine of x, in radians; 4 lanes of double. Largest error 6.4e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_acos4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(acos4_native, double4, double4, x);
+}
+#define lanemath_acos4_native(x) \
+/** arc cosine of x, in radians; 4 lanes of double. Largest error 6.4e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acos4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_acos8_native(lanemath_border_double8);
+/** arc cosine of x, in radians; 8 lanes of double. Largest error 6.4e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_acos8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(acos8_native, double8, double8, x);
+}
+#define lanemath_acos8_native(x) \
+/** arc cosine of x, in radians; 8 lanes of double. Largest error 6.4e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acos8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_acos16_native(lanemath_border_double16);
+/** arc cosine of x, in radians; 16 lanes of double. Largest error 6.4e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_acos16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(acos16_native, double16, double16, x);
+}
+#define lanemath_acos16_native(x) \
+/** arc cosine of x, in radians; 16 lanes of double. Largest error 6.4e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acos16_native, double16, double16, x)
 
-/* double acospi(double x)
- * arc cosine of x, divided by pi.
- * Largest error in ulp: default 2.35; _native 6.1e+06. */
-LANEMATH_DECLARE(UNARY, acospi, , double, double)
-LANEMATH_DECLARE(UNARY, acospi, _native, double, double)
+/** arc cosine of x, in radians; one float. Largest error 1.24 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_acosf1(lanemath_float1 x) LANEMATH_NAMED("acosf1");
+/** arc cosine of x, in radians; 2 lanes of float. Largest error 1.24 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_acosf2(lanemath_float2 x) LANEMATH_NAMED("acosf2");
+/** arc cosine of x, in radians; 3 lanes of float. Largest error 1.24 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_acosf3(lanemath_float3 x) LANEMATH_NAMED("acosf3");
+/** arc cosine of x, in radians; 4 lanes of float. Largest error 1.24 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_acosf4(lanemath_float4 x) LANEMATH_NAMED("acosf4");
+lanemath_border_float8 __ocl_lanemath_h8_acosf8(lanemath_border_float8);
+/** arc cosine of x, in radians; 8 lanes of float. Largest error 1.24 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_acosf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(acosf8, float8, float8, x);
+}
+#define lanemath_acosf8(x) \
+/** arc cosine of x, in radians; 8 lanes of float. Largest error 1.24 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acosf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_acosf16(lanemath_border_float16);
+/** arc cosine of x, in radians; 16 lanes of float. Largest error 1.24 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_acosf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(acosf16, float16, float16, x);
+}
+#define lanemath_acosf16(x) \
+/** arc cosine of x, in radians; 16 lanes of float. Largest error 1.24 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acosf16, float16, float16, x)
 
-/* float acospif(float x)
- * arc cosine of x, divided by pi.
- * Largest error in ulp: default 2.46; _native 532. */
-LANEMATH_DECLARE(UNARY, acospif, , float, float)
-LANEMATH_DECLARE(UNARY, acospif, _native, float, float)
+/** arc cosine of x, in radians; one float. Largest error 533 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_acosf1_native(lanemath_float1 x) LANEMATH_NAMED("acosf1_native");
+/** arc cosine of x, in radians; 2 lanes of float. Largest error 533 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_acosf2_native(lanemath_float2 x) LANEMATH_NAMED("acosf2_native");
+/** arc cosine of x, in radians; 3 lanes of float. Largest error 533 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_acosf3_native(lanemath_float3 x) LANEMATH_NAMED("acosf3_native");
+/** arc cosine of x, in radians; 4 lanes of float. Largest error 533 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_acosf4_native(lanemath_float4 x) LANEMATH_NAMED("acosf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_acosf8_native(lanemath_border_float8);
+/** arc cosine of x, in radians; 8 lanes of float. Largest error 533 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_acosf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(acosf8_native, float8, float8, x);
+}
+#define lanemath_acosf8_native(x) \
+/** arc cosine of x, in radians; 8 lanes of float. Largest error 533 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acosf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_acosf16_native(lanemath_border_float16);
+/** arc cosine of x, in radians; 16 lanes of float. Largest error 533 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_acosf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(acosf16_native, float16, float16, x);
+}
+#define lanemath_acosf16_native(x) \
+/** arc cosine of x, in radians; 16 lanes of float. Largest error 533 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acosf16_native, float16, float16, x)
 
-/* double atan(double x)
- * arc tangent of x, in radians.
- * Largest error in ulp: default 2.62; default at width 2 4.63; _native 2.25e+07. */
-LANEMATH_DECLARE(UNARY, atan, , double, double)
-LANEMATH_DECLARE(UNARY, atan, _native, double, double)
+/** arc sine of x, divided by pi; one double. Largest error 3.02 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_asinpi1(lanemath_double1 x) LANEMATH_NAMED("asinpi1");
+/** arc sine of x, divided by pi; 2 lanes of double. Largest error 3.02 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_asinpi2(lanemath_double2 x) LANEMATH_NAMED("asinpi2");
+lanemath_border_double3 __ocl_lanemath_h8_asinpi3(lanemath_border_double3);
+/** arc sine of x, divided by pi; 3 lanes of double. Largest error 3.02 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_asinpi3(lanemath_double3 x) {
+  return LANEMATH_UNARY(asinpi3, double3, double3, x);
+}
+#define lanemath_asinpi3(x) \
+/** arc sine of x, divided by pi; 3 lanes of double. Largest error 3.02 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinpi3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_asinpi4(lanemath_border_double4);
+/** arc sine of x, divided by pi; 4 lanes of double. Largest error 3.02 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_asinpi4(lanemath_double4 x) {
+  return LANEMATH_UNARY(asinpi4, double4, double4, x);
+}
+#define lanemath_asinpi4(x) \
+/** arc sine of x, divided by pi; 4 lanes of double. Largest error 3.02 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinpi4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_asinpi8(lanemath_border_double8);
+/** arc sine of x, divided by pi; 8 lanes of double. Largest error 3.02 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_asinpi8(lanemath_double8 x) {
+  return LANEMATH_UNARY(asinpi8, double8, double8, x);
+}
+#define lanemath_asinpi8(x) \
+/** arc sine of x, divided by pi; 8 lanes of double. Largest error 3.02 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinpi8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_asinpi16(lanemath_border_double16);
+/** arc sine of x, divided by pi; 16 lanes of double. Largest error 3.02 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_asinpi16(lanemath_double16 x) {
+  return LANEMATH_UNARY(asinpi16, double16, double16, x);
+}
+#define lanemath_asinpi16(x) \
+/** arc sine of x, divided by pi; 16 lanes of double. Largest error 3.02 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinpi16, double16, double16, x)
 
-/* float atanf(float x)
- * arc tangent of x, in radians.
- * Largest error in ulp: default 2.82; default at width 4 3.76; _native 3780. */
-LANEMATH_DECLARE(UNARY, atanf, , float, float)
-LANEMATH_DECLARE(UNARY, atanf, _native, float, float)
+/** arc sine of x, divided by pi; one double. Largest error 7.6e+06 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_asinpi1_native(lanemath_double1 x) LANEMATH_NAMED("asinpi1_native");
+/** arc sine of x, divided by pi; 2 lanes of double. Largest error 7.6e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_asinpi2_native(lanemath_double2 x) LANEMATH_NAMED("asinpi2_native");
+lanemath_border_double3 __ocl_lanemath_h8_asinpi3_native(lanemath_border_double3);
+/** arc sine of x, divided by pi; 3 lanes of double. Largest error 7.6e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_asinpi3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(asinpi3_native, double3, double3, x);
+}
+#define lanemath_asinpi3_native(x) \
+/** arc sine of x, divided by pi; 3 lanes of double. Largest error 7.6e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinpi3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_asinpi4_native(lanemath_border_double4);
+/** arc sine of x, divided by pi; 4 lanes of double. Largest error 7.6e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_asinpi4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(asinpi4_native, double4, double4, x);
+}
+#define lanemath_asinpi4_native(x) \
+/** arc sine of x, divided by pi; 4 lanes of double. Largest error 7.6e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinpi4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_asinpi8_native(lanemath_border_double8);
+/** arc sine of x, divided by pi; 8 lanes of double. Largest error 7.6e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_asinpi8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(asinpi8_native, double8, double8, x);
+}
+#define lanemath_asinpi8_native(x) \
+/** arc sine of x, divided by pi; 8 lanes of double. Largest error 7.6e+06 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinpi8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_asinpi16_native(lanemath_border_double16);
+/** arc sine of x, divided by pi; 16 lanes of double. Largest error 7.6e+06 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_asinpi16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(asinpi16_native, double16, double16, x);
+}
+#define lanemath_asinpi16_native(x) \
+/** arc sine of x, divided by pi; 16 lanes of double. Largest error 7.6e+06 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinpi16_native, double16, double16, x)
 
-/* double atanpi(double x)
- * arc tangent of x, divided by pi.
- * Largest error in ulp: default 3.27; _native 2.25e+07. */
-LANEMATH_DECLARE(UNARY, atanpi, , double, double)
-LANEMATH_DECLARE(UNARY, atanpi, _native, double, double)
+/** arc sine of x, divided by pi; one float. Largest error 3.21 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_asinpif1(lanemath_float1 x) LANEMATH_NAMED("asinpif1");
+/** arc sine of x, divided by pi; 2 lanes of float. Largest error 3.21 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_asinpif2(lanemath_float2 x) LANEMATH_NAMED("asinpif2");
+/** arc sine of x, divided by pi; 3 lanes of float. Largest error 3.21 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_asinpif3(lanemath_float3 x) LANEMATH_NAMED("asinpif3");
+/** arc sine of x, divided by pi; 4 lanes of float. Largest error 3.21 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_asinpif4(lanemath_float4 x) LANEMATH_NAMED("asinpif4");
+lanemath_border_float8 __ocl_lanemath_h8_asinpif8(lanemath_border_float8);
+/** arc sine of x, divided by pi; 8 lanes of float. Largest error 3.21 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_asinpif8(lanemath_float8 x) {
+  return LANEMATH_UNARY(asinpif8, float8, float8, x);
+}
+#define lanemath_asinpif8(x) \
+/** arc sine of x, divided by pi; 8 lanes of float. Largest error 3.21 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinpif8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_asinpif16(lanemath_border_float16);
+/** arc sine of x, divided by pi; 16 lanes of float. Largest error 3.21 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_asinpif16(lanemath_float16 x) {
+  return LANEMATH_UNARY(asinpif16, float16, float16, x);
+}
+#define lanemath_asinpif16(x) \
+/** arc sine of x, divided by pi; 16 lanes of float. Largest error 3.21 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinpif16, float16, float16, x)
 
-/* float atanpif(float x)
- * arc tangent of x, divided by pi.
- * Largest error in ulp: default 4.8; _native 3780. */
-LANEMATH_DECLARE(UNARY, atanpif, , float, float)
-LANEMATH_DECLARE(UNARY, atanpif, _native, float, float)
+/** arc sine of x, divided by pi; one float. Largest error 682 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_asinpif1_native(lanemath_float1 x) LANEMATH_NAMED("asinpif1_native");
+/** arc sine of x, divided by pi; 2 lanes of float. Largest error 682 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_asinpif2_native(lanemath_float2 x) LANEMATH_NAMED("asinpif2_native");
+/** arc sine of x, divided by pi; 3 lanes of float. Largest error 682 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_asinpif3_native(lanemath_float3 x) LANEMATH_NAMED("asinpif3_native");
+/** arc sine of x, divided by pi; 4 lanes of float. Largest error 682 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_asinpif4_native(lanemath_float4 x) LANEMATH_NAMED("asinpif4_native");
+lanemath_border_float8 __ocl_lanemath_h8_asinpif8_native(lanemath_border_float8);
+/** arc sine of x, divided by pi; 8 lanes of float. Largest error 682 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_asinpif8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(asinpif8_native, float8, float8, x);
+}
+#define lanemath_asinpif8_native(x) \
+/** arc sine of x, divided by pi; 8 lanes of float. Largest error 682 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinpif8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_asinpif16_native(lanemath_border_float16);
+/** arc sine of x, divided by pi; 16 lanes of float. Largest error 682 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_asinpif16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(asinpif16_native, float16, float16, x);
+}
+#define lanemath_asinpif16_native(x) \
+/** arc sine of x, divided by pi; 16 lanes of float. Largest error 682 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(asinpif16_native, float16, float16, x)
 
-/* double atan2(double x, double y)
- * angle of the point (second, first) in radians, -pi to pi.
- * Largest error in ulp: default 4.71; default at width 2 4.71; _native 2.25e+07. */
-LANEMATH_DECLARE(BINARY, atan2, , double, double, double)
-LANEMATH_DECLARE(BINARY, atan2, _native, double, double, double)
+/** arc cosine of x, divided by pi; one double. Largest error 2.35 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_acospi1(lanemath_double1 x) LANEMATH_NAMED("acospi1");
+/** arc cosine of x, divided by pi; 2 lanes of double. Largest error 2.35 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_acospi2(lanemath_double2 x) LANEMATH_NAMED("acospi2");
+lanemath_border_double3 __ocl_lanemath_h8_acospi3(lanemath_border_double3);
+/** arc cosine of x, divided by pi; 3 lanes of double. Largest error 2.35 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_acospi3(lanemath_double3 x) {
+  return LANEMATH_UNARY(acospi3, double3, double3, x);
+}
+#define lanemath_acospi3(x) \
+/** arc cosine of x, divided by pi; 3 lanes of double. Largest error 2.35 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acospi3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_acospi4(lanemath_border_double4);
+/** arc cosine of x, divided by pi; 4 lanes of double. Largest error 2.35 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_acospi4(lanemath_double4 x) {
+  return LANEMATH_UNARY(acospi4, double4, double4, x);
+}
+#define lanemath_acospi4(x) \
+/** arc cosine of x, divided by pi; 4 lanes of double. Largest error 2.35 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acospi4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_acospi8(lanemath_border_double8);
+/** arc cosine of x, divided by pi; 8 lanes of double. Largest error 2.35 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_acospi8(lanemath_double8 x) {
+  return LANEMATH_UNARY(acospi8, double8, double8, x);
+}
+#define lanemath_acospi8(x) \
+/** arc cosine of x, divided by pi; 8 lanes of double. Largest error 2.35 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acospi8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_acospi16(lanemath_border_double16);
+/** arc cosine of x, divided by pi; 16 lanes of double. Largest error 2.35 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_acospi16(lanemath_double16 x) {
+  return LANEMATH_UNARY(acospi16, double16, double16, x);
+}
+#define lanemath_acospi16(x) \
+/** arc cosine of x, divided by pi; 16 lanes of double. Largest error 2.35 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acospi16, double16, double16, x)
 
-/* float atan2f(float x, float y)
- * angle of the point (second, first) in radians, -pi to pi.
- * Largest error in ulp: default 3.85; default at width 4 3.99; _native 3780. */
-LANEMATH_DECLARE(BINARY, atan2f, , float, float, float)
-LANEMATH_DECLARE(BINARY, atan2f, _native, float, float, float)
+/** arc cosine of x, divided by pi; one double. Largest error 6.1e+06 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_acospi1_native(lanemath_double1 x) LANEMATH_NAMED("acospi1_native");
+/** arc cosine of x, divided by pi; 2 lanes of double. Largest error 6.1e+06 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_acospi2_native(lanemath_double2 x) LANEMATH_NAMED("acospi2_native");
+lanemath_border_double3 __ocl_lanemath_h8_acospi3_native(lanemath_border_double3);
+/** arc cosine of x, divided by pi; 3 lanes of double. Largest error 6.1e+06 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_acospi3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(acospi3_native, double3, double3, x);
+}
+#define lanemath_acospi3_native(x) \
+/** arc cosine of x, divided by pi; 3 lanes of double. Largest error 6.1e+06 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acospi3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_acospi4_native(lanemath_border_double4);
+/** arc cosine of x, divided by pi; 4 lanes of double. Largest error 6.1e+06 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_acospi4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(acospi4_native, double4, double4, x);
+}
+#define lanemath_acospi4_native(x) \
+/** arc cosine of x, divided by pi; 4 lanes of double. Largest error 6.1e+06 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acospi4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_acospi8_native(lanemath_border_double8);
+/** arc cosine of x, divided by pi; 8 lanes of double. Largest error 6.1e+06 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_acospi8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(acospi8_native, double8, double8, x);
+}
+#define lanemath_acospi8_native(x) \
+/** arc cosine of x, divided by pi; 8 lanes of double. Largest error 6.1e+06 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acospi8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_acospi16_native(lanemath_border_double16);
+/** arc cosine of x, divided by pi; 16 lanes of double. Largest error 6.1e+06 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_acospi16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(acospi16_native, double16, double16, x);
+}
+#define lanemath_acospi16_native(x) \
+/** arc cosine of x, divided by pi; 16 lanes of double. Largest error 6.1e+06 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acospi16_native, double16, double16, x)
 
-/* double atan2pi(double x, double y)
- * angle of the point (second, first) divided by pi, -1 to 1.
- * Largest error in ulp: default 4.55; _native 2.25e+07. */
-LANEMATH_DECLARE(BINARY, atan2pi, , double, double, double)
-LANEMATH_DECLARE(BINARY, atan2pi, _native, double, double, double)
+/** arc cosine of x, divided by pi; one float. Largest error 2.46 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_acospif1(lanemath_float1 x) LANEMATH_NAMED("acospif1");
+/** arc cosine of x, divided by pi; 2 lanes of float. Largest error 2.46 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_acospif2(lanemath_float2 x) LANEMATH_NAMED("acospif2");
+/** arc cosine of x, divided by pi; 3 lanes of float. Largest error 2.46 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_acospif3(lanemath_float3 x) LANEMATH_NAMED("acospif3");
+/** arc cosine of x, divided by pi; 4 lanes of float. Largest error 2.46 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_acospif4(lanemath_float4 x) LANEMATH_NAMED("acospif4");
+lanemath_border_float8 __ocl_lanemath_h8_acospif8(lanemath_border_float8);
+/** arc cosine of x, divided by pi; 8 lanes of float. Largest error 2.46 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_acospif8(lanemath_float8 x) {
+  return LANEMATH_UNARY(acospif8, float8, float8, x);
+}
+#define lanemath_acospif8(x) \
+/** arc cosine of x, divided by pi; 8 lanes of float. Largest error 2.46 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acospif8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_acospif16(lanemath_border_float16);
+/** arc cosine of x, divided by pi; 16 lanes of float. Largest error 2.46 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_acospif16(lanemath_float16 x) {
+  return LANEMATH_UNARY(acospif16, float16, float16, x);
+}
+#define lanemath_acospif16(x) \
+/** arc cosine of x, divided by pi; 16 lanes of float. Largest error 2.46 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acospif16, float16, float16, x)
 
-/* float atan2pif(float x, float y)
- * angle of the point (second, first) divided by pi, -1 to 1.
- * Largest error in ulp: default 6.3; _native 3780. */
-LANEMATH_DECLARE(BINARY, atan2pif, , float, float, float)
-LANEMATH_DECLARE(BINARY, atan2pif, _native, float, float, float)
+/** arc cosine of x, divided by pi; one float. Largest error 532 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_acospif1_native(lanemath_float1 x) LANEMATH_NAMED("acospif1_native");
+/** arc cosine of x, divided by pi; 2 lanes of float. Largest error 532 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_acospif2_native(lanemath_float2 x) LANEMATH_NAMED("acospif2_native");
+/** arc cosine of x, divided by pi; 3 lanes of float. Largest error 532 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_acospif3_native(lanemath_float3 x) LANEMATH_NAMED("acospif3_native");
+/** arc cosine of x, divided by pi; 4 lanes of float. Largest error 532 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_acospif4_native(lanemath_float4 x) LANEMATH_NAMED("acospif4_native");
+lanemath_border_float8 __ocl_lanemath_h8_acospif8_native(lanemath_border_float8);
+/** arc cosine of x, divided by pi; 8 lanes of float. Largest error 532 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_acospif8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(acospif8_native, float8, float8, x);
+}
+#define lanemath_acospif8_native(x) \
+/** arc cosine of x, divided by pi; 8 lanes of float. Largest error 532 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acospif8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_acospif16_native(lanemath_border_float16);
+/** arc cosine of x, divided by pi; 16 lanes of float. Largest error 532 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_acospif16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(acospif16_native, float16, float16, x);
+}
+#define lanemath_acospif16_native(x) \
+/** arc cosine of x, divided by pi; 16 lanes of float. Largest error 532 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(acospif16_native, float16, float16, x)
+
+/** arc tangent of x, in radians; one double. Largest error 2.62 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_atan1(lanemath_double1 x) LANEMATH_NAMED("atan1");
+/** arc tangent of x, in radians; 2 lanes of double. An algorithm of its own: the last bits differ from those of other
+ * widths. Largest error 4.63 ulp. Domain and special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_atan2(lanemath_double2 x) LANEMATH_NAMED("atan2");
+lanemath_border_double3 __ocl_lanemath_h8_atan3(lanemath_border_double3);
+/** arc tangent of x, in radians; 3 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_atan3(lanemath_double3 x) {
+  return LANEMATH_UNARY(atan3, double3, double3, x);
+}
+#define lanemath_atan3(x) \
+/** arc tangent of x, in radians; 3 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atan3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_atan4(lanemath_border_double4);
+/** arc tangent of x, in radians; 4 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_atan4(lanemath_double4 x) {
+  return LANEMATH_UNARY(atan4, double4, double4, x);
+}
+#define lanemath_atan4(x) \
+/** arc tangent of x, in radians; 4 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atan4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_atan8(lanemath_border_double8);
+/** arc tangent of x, in radians; 8 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_atan8(lanemath_double8 x) {
+  return LANEMATH_UNARY(atan8, double8, double8, x);
+}
+#define lanemath_atan8(x) \
+/** arc tangent of x, in radians; 8 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atan8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_atan16(lanemath_border_double16);
+/** arc tangent of x, in radians; 16 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_atan16(lanemath_double16 x) {
+  return LANEMATH_UNARY(atan16, double16, double16, x);
+}
+#define lanemath_atan16(x) \
+/** arc tangent of x, in radians; 16 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atan16, double16, double16, x)
+
+/** arc tangent of x, in radians; one double. Largest error 2.25e+07 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_atan1_native(lanemath_double1 x) LANEMATH_NAMED("atan1_native");
+/** arc tangent of x, in radians; 2 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_atan2_native(lanemath_double2 x) LANEMATH_NAMED("atan2_native");
+lanemath_border_double3 __ocl_lanemath_h8_atan3_native(lanemath_border_double3);
+/** arc tangent of x, in radians; 3 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_atan3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(atan3_native, double3, double3, x);
+}
+#define lanemath_atan3_native(x) \
+/** arc tangent of x, in radians; 3 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atan3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_atan4_native(lanemath_border_double4);
+/** arc tangent of x, in radians; 4 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_atan4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(atan4_native, double4, double4, x);
+}
+#define lanemath_atan4_native(x) \
+/** arc tangent of x, in radians; 4 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atan4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_atan8_native(lanemath_border_double8);
+/** arc tangent of x, in radians; 8 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_atan8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(atan8_native, double8, double8, x);
+}
+#define lanemath_atan8_native(x) \
+/** arc tangent of x, in radians; 8 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atan8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_atan16_native(lanemath_border_double16);
+/** arc tangent of x, in radians; 16 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_atan16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(atan16_native, double16, double16, x);
+}
+#define lanemath_atan16_native(x) \
+/** arc tangent of x, in radians; 16 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atan16_native, double16, double16, x)
+
+/** arc tangent of x, in radians; one float. Largest error 2.82 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_atanf1(lanemath_float1 x) LANEMATH_NAMED("atanf1");
+/** arc tangent of x, in radians; 2 lanes of float. Largest error 2.82 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_atanf2(lanemath_float2 x) LANEMATH_NAMED("atanf2");
+/** arc tangent of x, in radians; 3 lanes of float. Largest error 2.82 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_atanf3(lanemath_float3 x) LANEMATH_NAMED("atanf3");
+/** arc tangent of x, in radians; 4 lanes of float. An algorithm of its own: the last bits differ from those of other
+ * widths. Largest error 3.76 ulp. Domain and special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_atanf4(lanemath_float4 x) LANEMATH_NAMED("atanf4");
+lanemath_border_float8 __ocl_lanemath_h8_atanf8(lanemath_border_float8);
+/** arc tangent of x, in radians; 8 lanes of float. Largest error 2.82 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_atanf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(atanf8, float8, float8, x);
+}
+#define lanemath_atanf8(x) \
+/** arc tangent of x, in radians; 8 lanes of float. Largest error 2.82 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_atanf16(lanemath_border_float16);
+/** arc tangent of x, in radians; 16 lanes of float. Largest error 2.82 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_atanf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(atanf16, float16, float16, x);
+}
+#define lanemath_atanf16(x) \
+/** arc tangent of x, in radians; 16 lanes of float. Largest error 2.82 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanf16, float16, float16, x)
+
+/** arc tangent of x, in radians; one float. Largest error 3780 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_atanf1_native(lanemath_float1 x) LANEMATH_NAMED("atanf1_native");
+/** arc tangent of x, in radians; 2 lanes of float. Largest error 3780 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_atanf2_native(lanemath_float2 x) LANEMATH_NAMED("atanf2_native");
+/** arc tangent of x, in radians; 3 lanes of float. Largest error 3780 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_atanf3_native(lanemath_float3 x) LANEMATH_NAMED("atanf3_native");
+/** arc tangent of x, in radians; 4 lanes of float. Largest error 3780 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_atanf4_native(lanemath_float4 x) LANEMATH_NAMED("atanf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_atanf8_native(lanemath_border_float8);
+/** arc tangent of x, in radians; 8 lanes of float. Largest error 3780 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_atanf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(atanf8_native, float8, float8, x);
+}
+#define lanemath_atanf8_native(x) \
+/** arc tangent of x, in radians; 8 lanes of float. Largest error 3780 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_atanf16_native(lanemath_border_float16);
+/** arc tangent of x, in radians; 16 lanes of float. Largest error 3780 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_atanf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(atanf16_native, float16, float16, x);
+}
+#define lanemath_atanf16_native(x) \
+/** arc tangent of x, in radians; 16 lanes of float. Largest error 3780 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanf16_native, float16, float16, x)
+
+/** arc tangent of x, divided by pi; one double. Largest error 3.27 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_atanpi1(lanemath_double1 x) LANEMATH_NAMED("atanpi1");
+/** arc tangent of x, divided by pi; 2 lanes of double. Largest error 3.27 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_atanpi2(lanemath_double2 x) LANEMATH_NAMED("atanpi2");
+lanemath_border_double3 __ocl_lanemath_h8_atanpi3(lanemath_border_double3);
+/** arc tangent of x, divided by pi; 3 lanes of double. Largest error 3.27 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_atanpi3(lanemath_double3 x) {
+  return LANEMATH_UNARY(atanpi3, double3, double3, x);
+}
+#define lanemath_atanpi3(x) \
+/** arc tangent of x, divided by pi; 3 lanes of double. Largest error 3.27 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanpi3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_atanpi4(lanemath_border_double4);
+/** arc tangent of x, divided by pi; 4 lanes of double. Largest error 3.27 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_atanpi4(lanemath_double4 x) {
+  return LANEMATH_UNARY(atanpi4, double4, double4, x);
+}
+#define lanemath_atanpi4(x) \
+/** arc tangent of x, divided by pi; 4 lanes of double. Largest error 3.27 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanpi4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_atanpi8(lanemath_border_double8);
+/** arc tangent of x, divided by pi; 8 lanes of double. Largest error 3.27 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_atanpi8(lanemath_double8 x) {
+  return LANEMATH_UNARY(atanpi8, double8, double8, x);
+}
+#define lanemath_atanpi8(x) \
+/** arc tangent of x, divided by pi; 8 lanes of double. Largest error 3.27 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanpi8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_atanpi16(lanemath_border_double16);
+/** arc tangent of x, divided by pi; 16 lanes of double. Largest error 3.27 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_atanpi16(lanemath_double16 x) {
+  return LANEMATH_UNARY(atanpi16, double16, double16, x);
+}
+#define lanemath_atanpi16(x) \
+/** arc tangent of x, divided by pi; 16 lanes of double. Largest error 3.27 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanpi16, double16, double16, x)
+
+/** arc tangent of x, divided by pi; one double. Largest error 2.25e+07 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_atanpi1_native(lanemath_double1 x) LANEMATH_NAMED("atanpi1_native");
+/** arc tangent of x, divided by pi; 2 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_atanpi2_native(lanemath_double2 x) LANEMATH_NAMED("atanpi2_native");
+lanemath_border_double3 __ocl_lanemath_h8_atanpi3_native(lanemath_border_double3);
+/** arc tangent of x, divided by pi; 3 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_atanpi3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(atanpi3_native, double3, double3, x);
+}
+#define lanemath_atanpi3_native(x) \
+/** arc tangent of x, divided by pi; 3 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanpi3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_atanpi4_native(lanemath_border_double4);
+/** arc tangent of x, divided by pi; 4 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_atanpi4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(atanpi4_native, double4, double4, x);
+}
+#define lanemath_atanpi4_native(x) \
+/** arc tangent of x, divided by pi; 4 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanpi4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_atanpi8_native(lanemath_border_double8);
+/** arc tangent of x, divided by pi; 8 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_atanpi8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(atanpi8_native, double8, double8, x);
+}
+#define lanemath_atanpi8_native(x) \
+/** arc tangent of x, divided by pi; 8 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanpi8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_atanpi16_native(lanemath_border_double16);
+/** arc tangent of x, divided by pi; 16 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_atanpi16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(atanpi16_native, double16, double16, x);
+}
+#define lanemath_atanpi16_native(x) \
+/** arc tangent of x, divided by pi; 16 lanes of double. Largest error 2.25e+07 ulp. Domain and special values: at the
+ * head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanpi16_native, double16, double16, x)
+
+/** arc tangent of x, divided by pi; one float. Largest error 4.8 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_atanpif1(lanemath_float1 x) LANEMATH_NAMED("atanpif1");
+/** arc tangent of x, divided by pi; 2 lanes of float. Largest error 4.8 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_atanpif2(lanemath_float2 x) LANEMATH_NAMED("atanpif2");
+/** arc tangent of x, divided by pi; 3 lanes of float. Largest error 4.8 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_atanpif3(lanemath_float3 x) LANEMATH_NAMED("atanpif3");
+/** arc tangent of x, divided by pi; 4 lanes of float. Largest error 4.8 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_atanpif4(lanemath_float4 x) LANEMATH_NAMED("atanpif4");
+lanemath_border_float8 __ocl_lanemath_h8_atanpif8(lanemath_border_float8);
+/** arc tangent of x, divided by pi; 8 lanes of float. Largest error 4.8 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_atanpif8(lanemath_float8 x) {
+  return LANEMATH_UNARY(atanpif8, float8, float8, x);
+}
+#define lanemath_atanpif8(x) \
+/** arc tangent of x, divided by pi; 8 lanes of float. Largest error 4.8 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanpif8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_atanpif16(lanemath_border_float16);
+/** arc tangent of x, divided by pi; 16 lanes of float. Largest error 4.8 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_atanpif16(lanemath_float16 x) {
+  return LANEMATH_UNARY(atanpif16, float16, float16, x);
+}
+#define lanemath_atanpif16(x) \
+/** arc tangent of x, divided by pi; 16 lanes of float. Largest error 4.8 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanpif16, float16, float16, x)
+
+/** arc tangent of x, divided by pi; one float. Largest error 3780 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_atanpif1_native(lanemath_float1 x) LANEMATH_NAMED("atanpif1_native");
+/** arc tangent of x, divided by pi; 2 lanes of float. Largest error 3780 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_atanpif2_native(lanemath_float2 x) LANEMATH_NAMED("atanpif2_native");
+/** arc tangent of x, divided by pi; 3 lanes of float. Largest error 3780 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_atanpif3_native(lanemath_float3 x) LANEMATH_NAMED("atanpif3_native");
+/** arc tangent of x, divided by pi; 4 lanes of float. Largest error 3780 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_atanpif4_native(lanemath_float4 x) LANEMATH_NAMED("atanpif4_native");
+lanemath_border_float8 __ocl_lanemath_h8_atanpif8_native(lanemath_border_float8);
+/** arc tangent of x, divided by pi; 8 lanes of float. Largest error 3780 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_atanpif8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(atanpif8_native, float8, float8, x);
+}
+#define lanemath_atanpif8_native(x) \
+/** arc tangent of x, divided by pi; 8 lanes of float. Largest error 3780 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanpif8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_atanpif16_native(lanemath_border_float16);
+/** arc tangent of x, divided by pi; 16 lanes of float. Largest error 3780 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_atanpif16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(atanpif16_native, float16, float16, x);
+}
+#define lanemath_atanpif16_native(x) \
+/** arc tangent of x, divided by pi; 16 lanes of float. Largest error 3780 ulp. Domain and special values: at the head
+ * of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_UNARY(atanpif16_native, float16, float16, x)
+
+/** angle of the point (second, first) in radians, -pi to pi; one double. Largest error 4.71 ulp. Domain and special
+ * values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_atan21(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("atan21");
+/** angle of the point (second, first) in radians, -pi to pi; 2 lanes of double. An algorithm of its own: the last
+ * bits differ from those of other widths. Largest error 4.71 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_atan22(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("atan22");
+lanemath_border_double3 __ocl_lanemath_h8_atan23(lanemath_border_double3, lanemath_border_double3);
+/** angle of the point (second, first) in radians, -pi to pi; 3 lanes of double. Largest error 4.71 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_atan23(lanemath_double3 x, lanemath_double3 y) {
+  return LANEMATH_BINARY(atan23, double3, double3, double3, x, y);
+}
+#define lanemath_atan23(x, y) \
+/** angle of the point (second, first) in radians, -pi to pi; 3 lanes of double. Largest error 4.71 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan23, double3, double3, double3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_atan24(lanemath_border_double4, lanemath_border_double4);
+/** angle of the point (second, first) in radians, -pi to pi; 4 lanes of double. Largest error 4.71 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_atan24(lanemath_double4 x, lanemath_double4 y) {
+  return LANEMATH_BINARY(atan24, double4, double4, double4, x, y);
+}
+#define lanemath_atan24(x, y) \
+/** angle of the point (second, first) in radians, -pi to pi; 4 lanes of double. Largest error 4.71 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan24, double4, double4, double4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_atan28(lanemath_border_double8, lanemath_border_double8);
+/** angle of the point (second, first) in radians, -pi to pi; 8 lanes of double. Largest error 4.71 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_atan28(lanemath_double8 x, lanemath_double8 y) {
+  return LANEMATH_BINARY(atan28, double8, double8, double8, x, y);
+}
+#define lanemath_atan28(x, y) \
+/** angle of the point (second, first) in radians, -pi to pi; 8 lanes of double. Largest error 4.71 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan28, double8, double8, double8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_atan216(lanemath_border_double16, lanemath_border_double16);
+/** angle of the point (second, first) in radians, -pi to pi; 16 lanes of double. Largest error 4.71 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_atan216(lanemath_double16 x, lanemath_double16 y) {
+  return LANEMATH_BINARY(atan216, double16, double16, double16, x, y);
+}
+#define lanemath_atan216(x, y) \
+/** angle of the point (second, first) in radians, -pi to pi; 16 lanes of double. Largest error 4.71 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan216, double16, double16, double16, x, y)
+
+/** angle of the point (second, first) in radians, -pi to pi; one double. Largest error 2.25e+07 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_atan21_native(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("atan21_native");
+/** angle of the point (second, first) in radians, -pi to pi; 2 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_atan22_native(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("atan22_native");
+lanemath_border_double3 __ocl_lanemath_h8_atan23_native(lanemath_border_double3, lanemath_border_double3);
+/** angle of the point (second, first) in radians, -pi to pi; 3 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_atan23_native(lanemath_double3 x, lanemath_double3 y) {
+  return LANEMATH_BINARY(atan23_native, double3, double3, double3, x, y);
+}
+#define lanemath_atan23_native(x, y) \
+/** angle of the point (second, first) in radians, -pi to pi; 3 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan23_native, double3, double3, double3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_atan24_native(lanemath_border_double4, lanemath_border_double4);
+/** angle of the point (second, first) in radians, -pi to pi; 4 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_atan24_native(lanemath_double4 x, lanemath_double4 y) {
+  return LANEMATH_BINARY(atan24_native, double4, double4, double4, x, y);
+}
+#define lanemath_atan24_native(x, y) \
+/** angle of the point (second, first) in radians, -pi to pi; 4 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan24_native, double4, double4, double4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_atan28_native(lanemath_border_double8, lanemath_border_double8);
+/** angle of the point (second, first) in radians, -pi to pi; 8 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_atan28_native(lanemath_double8 x, lanemath_double8 y) {
+  return LANEMATH_BINARY(atan28_native, double8, double8, double8, x, y);
+}
+#define lanemath_atan28_native(x, y) \
+/** angle of the point (second, first) in radians, -pi to pi; 8 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan28_native, double8, double8, double8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_atan216_native(lanemath_border_double16, lanemath_border_double16);
+/** angle of the point (second, first) in radians, -pi to pi; 16 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_atan216_native(lanemath_double16 x, lanemath_double16 y) {
+  return LANEMATH_BINARY(atan216_native, double16, double16, double16, x, y);
+}
+#define lanemath_atan216_native(x, y) \
+/** angle of the point (second, first) in radians, -pi to pi; 16 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan216_native, double16, double16, double16, x, y)
+
+/** angle of the point (second, first) in radians, -pi to pi; one float. Largest error 3.85 ulp. Domain and special
+ * values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_atan2f1(lanemath_float1 x, lanemath_float1 y) LANEMATH_NAMED("atan2f1");
+/** angle of the point (second, first) in radians, -pi to pi; 2 lanes of float. Largest error 3.85 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_atan2f2(lanemath_float2 x, lanemath_float2 y) LANEMATH_NAMED("atan2f2");
+/** angle of the point (second, first) in radians, -pi to pi; 3 lanes of float. Largest error 3.85 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_atan2f3(lanemath_float3 x, lanemath_float3 y) LANEMATH_NAMED("atan2f3");
+/** angle of the point (second, first) in radians, -pi to pi; 4 lanes of float. An algorithm of its own: the last bits
+ * differ from those of other widths. Largest error 3.99 ulp. Domain and special values: at the head of
+ * <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_atan2f4(lanemath_float4 x, lanemath_float4 y) LANEMATH_NAMED("atan2f4");
+lanemath_border_float8 __ocl_lanemath_h8_atan2f8(lanemath_border_float8, lanemath_border_float8);
+/** angle of the point (second, first) in radians, -pi to pi; 8 lanes of float. Largest error 3.85 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_atan2f8(lanemath_float8 x, lanemath_float8 y) {
+  return LANEMATH_BINARY(atan2f8, float8, float8, float8, x, y);
+}
+#define lanemath_atan2f8(x, y) \
+/** angle of the point (second, first) in radians, -pi to pi; 8 lanes of float. Largest error 3.85 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2f8, float8, float8, float8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_atan2f16(lanemath_border_float16, lanemath_border_float16);
+/** angle of the point (second, first) in radians, -pi to pi; 16 lanes of float. Largest error 3.85 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_atan2f16(lanemath_float16 x, lanemath_float16 y) {
+  return LANEMATH_BINARY(atan2f16, float16, float16, float16, x, y);
+}
+#define lanemath_atan2f16(x, y) \
+/** angle of the point (second, first) in radians, -pi to pi; 16 lanes of float. Largest error 3.85 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2f16, float16, float16, float16, x, y)
+
+/** angle of the point (second, first) in radians, -pi to pi; one float. Largest error 3780 ulp. Domain and special
+ * values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_atan2f1_native(lanemath_float1 x, lanemath_float1 y) LANEMATH_NAMED("atan2f1_native");
+/** angle of the point (second, first) in radians, -pi to pi; 2 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_atan2f2_native(lanemath_float2 x, lanemath_float2 y) LANEMATH_NAMED("atan2f2_native");
+/** angle of the point (second, first) in radians, -pi to pi; 3 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_atan2f3_native(lanemath_float3 x, lanemath_float3 y) LANEMATH_NAMED("atan2f3_native");
+/** angle of the point (second, first) in radians, -pi to pi; 4 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_atan2f4_native(lanemath_float4 x, lanemath_float4 y) LANEMATH_NAMED("atan2f4_native");
+lanemath_border_float8 __ocl_lanemath_h8_atan2f8_native(lanemath_border_float8, lanemath_border_float8);
+/** angle of the point (second, first) in radians, -pi to pi; 8 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_atan2f8_native(lanemath_float8 x, lanemath_float8 y) {
+  return LANEMATH_BINARY(atan2f8_native, float8, float8, float8, x, y);
+}
+#define lanemath_atan2f8_native(x, y) \
+/** angle of the point (second, first) in radians, -pi to pi; 8 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2f8_native, float8, float8, float8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_atan2f16_native(lanemath_border_float16, lanemath_border_float16);
+/** angle of the point (second, first) in radians, -pi to pi; 16 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_atan2f16_native(lanemath_float16 x, lanemath_float16 y) {
+  return LANEMATH_BINARY(atan2f16_native, float16, float16, float16, x, y);
+}
+#define lanemath_atan2f16_native(x, y) \
+/** angle of the point (second, first) in radians, -pi to pi; 16 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2f16_native, float16, float16, float16, x, y)
+
+/** angle of the point (second, first) divided by pi, -1 to 1; one double. Largest error 4.55 ulp. Domain and special
+ * values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_atan2pi1(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("atan2pi1");
+/** angle of the point (second, first) divided by pi, -1 to 1; 2 lanes of double. Largest error 4.55 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_atan2pi2(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("atan2pi2");
+lanemath_border_double3 __ocl_lanemath_h8_atan2pi3(lanemath_border_double3, lanemath_border_double3);
+/** angle of the point (second, first) divided by pi, -1 to 1; 3 lanes of double. Largest error 4.55 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_atan2pi3(lanemath_double3 x, lanemath_double3 y) {
+  return LANEMATH_BINARY(atan2pi3, double3, double3, double3, x, y);
+}
+#define lanemath_atan2pi3(x, y) \
+/** angle of the point (second, first) divided by pi, -1 to 1; 3 lanes of double. Largest error 4.55 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2pi3, double3, double3, double3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_atan2pi4(lanemath_border_double4, lanemath_border_double4);
+/** angle of the point (second, first) divided by pi, -1 to 1; 4 lanes of double. Largest error 4.55 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_atan2pi4(lanemath_double4 x, lanemath_double4 y) {
+  return LANEMATH_BINARY(atan2pi4, double4, double4, double4, x, y);
+}
+#define lanemath_atan2pi4(x, y) \
+/** angle of the point (second, first) divided by pi, -1 to 1; 4 lanes of double. Largest error 4.55 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2pi4, double4, double4, double4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_atan2pi8(lanemath_border_double8, lanemath_border_double8);
+/** angle of the point (second, first) divided by pi, -1 to 1; 8 lanes of double. Largest error 4.55 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_atan2pi8(lanemath_double8 x, lanemath_double8 y) {
+  return LANEMATH_BINARY(atan2pi8, double8, double8, double8, x, y);
+}
+#define lanemath_atan2pi8(x, y) \
+/** angle of the point (second, first) divided by pi, -1 to 1; 8 lanes of double. Largest error 4.55 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2pi8, double8, double8, double8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_atan2pi16(lanemath_border_double16, lanemath_border_double16);
+/** angle of the point (second, first) divided by pi, -1 to 1; 16 lanes of double. Largest error 4.55 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_atan2pi16(lanemath_double16 x, lanemath_double16 y) {
+  return LANEMATH_BINARY(atan2pi16, double16, double16, double16, x, y);
+}
+#define lanemath_atan2pi16(x, y) \
+/** angle of the point (second, first) divided by pi, -1 to 1; 16 lanes of double. Largest error 4.55 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2pi16, double16, double16, double16, x, y)
+
+/** angle of the point (second, first) divided by pi, -1 to 1; one double. Largest error 2.25e+07 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_double1 lanemath_atan2pi1_native(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("atan2pi1_native");
+/** angle of the point (second, first) divided by pi, -1 to 1; 2 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_double2 lanemath_atan2pi2_native(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("atan2pi2_native");
+lanemath_border_double3 __ocl_lanemath_h8_atan2pi3_native(lanemath_border_double3, lanemath_border_double3);
+/** angle of the point (second, first) divided by pi, -1 to 1; 3 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_atan2pi3_native(lanemath_double3 x, lanemath_double3 y) {
+  return LANEMATH_BINARY(atan2pi3_native, double3, double3, double3, x, y);
+}
+#define lanemath_atan2pi3_native(x, y) \
+/** angle of the point (second, first) divided by pi, -1 to 1; 3 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2pi3_native, double3, double3, double3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_atan2pi4_native(lanemath_border_double4, lanemath_border_double4);
+/** angle of the point (second, first) divided by pi, -1 to 1; 4 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_atan2pi4_native(lanemath_double4 x, lanemath_double4 y) {
+  return LANEMATH_BINARY(atan2pi4_native, double4, double4, double4, x, y);
+}
+#define lanemath_atan2pi4_native(x, y) \
+/** angle of the point (second, first) divided by pi, -1 to 1; 4 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2pi4_native, double4, double4, double4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_atan2pi8_native(lanemath_border_double8, lanemath_border_double8);
+/** angle of the point (second, first) divided by pi, -1 to 1; 8 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_atan2pi8_native(lanemath_double8 x, lanemath_double8 y) {
+  return LANEMATH_BINARY(atan2pi8_native, double8, double8, double8, x, y);
+}
+#define lanemath_atan2pi8_native(x, y) \
+/** angle of the point (second, first) divided by pi, -1 to 1; 8 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2pi8_native, double8, double8, double8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_atan2pi16_native(lanemath_border_double16, lanemath_border_double16);
+/** angle of the point (second, first) divided by pi, -1 to 1; 16 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_atan2pi16_native(lanemath_double16 x, lanemath_double16 y) {
+  return LANEMATH_BINARY(atan2pi16_native, double16, double16, double16, x, y);
+}
+#define lanemath_atan2pi16_native(x, y) \
+/** angle of the point (second, first) divided by pi, -1 to 1; 16 lanes of double. Largest error 2.25e+07 ulp. Domain
+ * and special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2pi16_native, double16, double16, double16, x, y)
+
+/** angle of the point (second, first) divided by pi, -1 to 1; one float. Largest error 6.3 ulp. Domain and special
+ * values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_atan2pif1(lanemath_float1 x, lanemath_float1 y) LANEMATH_NAMED("atan2pif1");
+/** angle of the point (second, first) divided by pi, -1 to 1; 2 lanes of float. Largest error 6.3 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_atan2pif2(lanemath_float2 x, lanemath_float2 y) LANEMATH_NAMED("atan2pif2");
+/** angle of the point (second, first) divided by pi, -1 to 1; 3 lanes of float. Largest error 6.3 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_atan2pif3(lanemath_float3 x, lanemath_float3 y) LANEMATH_NAMED("atan2pif3");
+/** angle of the point (second, first) divided by pi, -1 to 1; 4 lanes of float. Largest error 6.3 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_atan2pif4(lanemath_float4 x, lanemath_float4 y) LANEMATH_NAMED("atan2pif4");
+lanemath_border_float8 __ocl_lanemath_h8_atan2pif8(lanemath_border_float8, lanemath_border_float8);
+/** angle of the point (second, first) divided by pi, -1 to 1; 8 lanes of float. Largest error 6.3 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_atan2pif8(lanemath_float8 x, lanemath_float8 y) {
+  return LANEMATH_BINARY(atan2pif8, float8, float8, float8, x, y);
+}
+#define lanemath_atan2pif8(x, y) \
+/** angle of the point (second, first) divided by pi, -1 to 1; 8 lanes of float. Largest error 6.3 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2pif8, float8, float8, float8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_atan2pif16(lanemath_border_float16, lanemath_border_float16);
+/** angle of the point (second, first) divided by pi, -1 to 1; 16 lanes of float. Largest error 6.3 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_atan2pif16(lanemath_float16 x, lanemath_float16 y) {
+  return LANEMATH_BINARY(atan2pif16, float16, float16, float16, x, y);
+}
+#define lanemath_atan2pif16(x, y) \
+/** angle of the point (second, first) divided by pi, -1 to 1; 16 lanes of float. Largest error 6.3 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2pif16, float16, float16, float16, x, y)
+
+/** angle of the point (second, first) divided by pi, -1 to 1; one float. Largest error 3780 ulp. Domain and special
+ * values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float1 lanemath_atan2pif1_native(lanemath_float1 x, lanemath_float1 y) LANEMATH_NAMED("atan2pif1_native");
+/** angle of the point (second, first) divided by pi, -1 to 1; 2 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float2 lanemath_atan2pif2_native(lanemath_float2 x, lanemath_float2 y) LANEMATH_NAMED("atan2pif2_native");
+/** angle of the point (second, first) divided by pi, -1 to 1; 3 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float3 lanemath_atan2pif3_native(lanemath_float3 x, lanemath_float3 y) LANEMATH_NAMED("atan2pif3_native");
+/** angle of the point (second, first) divided by pi, -1 to 1; 4 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+lanemath_float4 lanemath_atan2pif4_native(lanemath_float4 x, lanemath_float4 y) LANEMATH_NAMED("atan2pif4_native");
+lanemath_border_float8 __ocl_lanemath_h8_atan2pif8_native(lanemath_border_float8, lanemath_border_float8);
+/** angle of the point (second, first) divided by pi, -1 to 1; 8 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_atan2pif8_native(lanemath_float8 x, lanemath_float8 y) {
+  return LANEMATH_BINARY(atan2pif8_native, float8, float8, float8, x, y);
+}
+#define lanemath_atan2pif8_native(x, y) \
+/** angle of the point (second, first) divided by pi, -1 to 1; 8 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2pif8_native, float8, float8, float8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_atan2pif16_native(lanemath_border_float16, lanemath_border_float16);
+/** angle of the point (second, first) divided by pi, -1 to 1; 16 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_atan2pif16_native(lanemath_float16 x, lanemath_float16 y) {
+  return LANEMATH_BINARY(atan2pif16_native, float16, float16, float16, x, y);
+}
+#define lanemath_atan2pif16_native(x, y) \
+/** angle of the point (second, first) divided by pi, -1 to 1; 16 lanes of float. Largest error 3780 ulp. Domain and
+ * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
+  LANEMATH_BINARY(atan2pif16_native, float16, float16, float16, x, y)
 
 LANEMATH_END
 

@@ -1,7 +1,7 @@
 /* Rounding, selection, decomposition, remainders, fused multiply-add.
  *
- * Exact, or rounded once. rint, nearbyint, remainder and remquo follow the current rounding direction; fma
- * follows that of the x87 control word.
+ * Exact, or rounded once. rint, nearbyint, remainder and remquo follow the current rounding direction; fma follows
+ * that of the x87 control word.
  *
  * Each function exists at widths 1, 2, 3, 4, 8 and 16, as lanemath_<operation><width><variant>. */
 #ifndef LANEMATH_MANIPULATION_H
@@ -9,216 +9,2042 @@
 
 #include <lanemath/types.h>
 
+#pragma GCC system_header
+
 LANEMATH_BEGIN
 
-/* double ceil(double x)
- * x rounded up to an integer. */
-LANEMATH_DECLARE(UNARY, ceil, , double, double)
+/** x rounded up to an integer; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_ceil1(lanemath_double1 x) LANEMATH_NAMED("ceil1");
+/** x rounded up to an integer; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_ceil2(lanemath_double2 x) LANEMATH_NAMED("ceil2");
+lanemath_border_double3 __ocl_lanemath_h8_ceil3(lanemath_border_double3);
+/** x rounded up to an integer; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_ceil3(lanemath_double3 x) {
+  return LANEMATH_UNARY(ceil3, double3, double3, x);
+}
+#define lanemath_ceil3(x) \
+/** x rounded up to an integer; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(ceil3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_ceil4(lanemath_border_double4);
+/** x rounded up to an integer; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_ceil4(lanemath_double4 x) {
+  return LANEMATH_UNARY(ceil4, double4, double4, x);
+}
+#define lanemath_ceil4(x) \
+/** x rounded up to an integer; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(ceil4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_ceil8(lanemath_border_double8);
+/** x rounded up to an integer; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_ceil8(lanemath_double8 x) {
+  return LANEMATH_UNARY(ceil8, double8, double8, x);
+}
+#define lanemath_ceil8(x) \
+/** x rounded up to an integer; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(ceil8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_ceil16(lanemath_border_double16);
+/** x rounded up to an integer; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_ceil16(lanemath_double16 x) {
+  return LANEMATH_UNARY(ceil16, double16, double16, x);
+}
+#define lanemath_ceil16(x) \
+/** x rounded up to an integer; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(ceil16, double16, double16, x)
 
-/* float ceilf(float x)
- * x rounded up to an integer. */
-LANEMATH_DECLARE(UNARY, ceilf, , float, float)
+/** x rounded up to an integer; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_ceilf1(lanemath_float1 x) LANEMATH_NAMED("ceilf1");
+/** x rounded up to an integer; 2 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_ceilf2(lanemath_float2 x) LANEMATH_NAMED("ceilf2");
+/** x rounded up to an integer; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_ceilf3(lanemath_float3 x) LANEMATH_NAMED("ceilf3");
+/** x rounded up to an integer; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_ceilf4(lanemath_float4 x) LANEMATH_NAMED("ceilf4");
+lanemath_border_float8 __ocl_lanemath_h8_ceilf8(lanemath_border_float8);
+/** x rounded up to an integer; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_ceilf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(ceilf8, float8, float8, x);
+}
+#define lanemath_ceilf8(x) \
+/** x rounded up to an integer; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(ceilf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_ceilf16(lanemath_border_float16);
+/** x rounded up to an integer; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_ceilf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(ceilf16, float16, float16, x);
+}
+#define lanemath_ceilf16(x) \
+/** x rounded up to an integer; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(ceilf16, float16, float16, x)
 
-/* double floor(double x)
- * x rounded down to an integer. */
-LANEMATH_DECLARE(UNARY, floor, , double, double)
+/** x rounded down to an integer; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_floor1(lanemath_double1 x) LANEMATH_NAMED("floor1");
+/** x rounded down to an integer; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_floor2(lanemath_double2 x) LANEMATH_NAMED("floor2");
+lanemath_border_double3 __ocl_lanemath_h8_floor3(lanemath_border_double3);
+/** x rounded down to an integer; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_floor3(lanemath_double3 x) {
+  return LANEMATH_UNARY(floor3, double3, double3, x);
+}
+#define lanemath_floor3(x) \
+/** x rounded down to an integer; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(floor3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_floor4(lanemath_border_double4);
+/** x rounded down to an integer; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_floor4(lanemath_double4 x) {
+  return LANEMATH_UNARY(floor4, double4, double4, x);
+}
+#define lanemath_floor4(x) \
+/** x rounded down to an integer; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(floor4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_floor8(lanemath_border_double8);
+/** x rounded down to an integer; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_floor8(lanemath_double8 x) {
+  return LANEMATH_UNARY(floor8, double8, double8, x);
+}
+#define lanemath_floor8(x) \
+/** x rounded down to an integer; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(floor8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_floor16(lanemath_border_double16);
+/** x rounded down to an integer; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_floor16(lanemath_double16 x) {
+  return LANEMATH_UNARY(floor16, double16, double16, x);
+}
+#define lanemath_floor16(x) \
+/** x rounded down to an integer; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(floor16, double16, double16, x)
 
-/* float floorf(float x)
- * x rounded down to an integer. */
-LANEMATH_DECLARE(UNARY, floorf, , float, float)
+/** x rounded down to an integer; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_floorf1(lanemath_float1 x) LANEMATH_NAMED("floorf1");
+/** x rounded down to an integer; 2 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_floorf2(lanemath_float2 x) LANEMATH_NAMED("floorf2");
+/** x rounded down to an integer; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_floorf3(lanemath_float3 x) LANEMATH_NAMED("floorf3");
+/** x rounded down to an integer; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_floorf4(lanemath_float4 x) LANEMATH_NAMED("floorf4");
+lanemath_border_float8 __ocl_lanemath_h8_floorf8(lanemath_border_float8);
+/** x rounded down to an integer; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_floorf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(floorf8, float8, float8, x);
+}
+#define lanemath_floorf8(x) \
+/** x rounded down to an integer; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(floorf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_floorf16(lanemath_border_float16);
+/** x rounded down to an integer; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_floorf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(floorf16, float16, float16, x);
+}
+#define lanemath_floorf16(x) \
+/** x rounded down to an integer; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(floorf16, float16, float16, x)
 
-/* double trunc(double x)
- * x rounded toward zero to an integer. */
-LANEMATH_DECLARE(UNARY, trunc, , double, double)
+/** x rounded toward zero to an integer; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_trunc1(lanemath_double1 x) LANEMATH_NAMED("trunc1");
+/** x rounded toward zero to an integer; 2 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_trunc2(lanemath_double2 x) LANEMATH_NAMED("trunc2");
+lanemath_border_double3 __ocl_lanemath_h8_trunc3(lanemath_border_double3);
+/** x rounded toward zero to an integer; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_trunc3(lanemath_double3 x) {
+  return LANEMATH_UNARY(trunc3, double3, double3, x);
+}
+#define lanemath_trunc3(x) \
+/** x rounded toward zero to an integer; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(trunc3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_trunc4(lanemath_border_double4);
+/** x rounded toward zero to an integer; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_trunc4(lanemath_double4 x) {
+  return LANEMATH_UNARY(trunc4, double4, double4, x);
+}
+#define lanemath_trunc4(x) \
+/** x rounded toward zero to an integer; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(trunc4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_trunc8(lanemath_border_double8);
+/** x rounded toward zero to an integer; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_trunc8(lanemath_double8 x) {
+  return LANEMATH_UNARY(trunc8, double8, double8, x);
+}
+#define lanemath_trunc8(x) \
+/** x rounded toward zero to an integer; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(trunc8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_trunc16(lanemath_border_double16);
+/** x rounded toward zero to an integer; 16 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_trunc16(lanemath_double16 x) {
+  return LANEMATH_UNARY(trunc16, double16, double16, x);
+}
+#define lanemath_trunc16(x) \
+/** x rounded toward zero to an integer; 16 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(trunc16, double16, double16, x)
 
-/* float truncf(float x)
- * x rounded toward zero to an integer. */
-LANEMATH_DECLARE(UNARY, truncf, , float, float)
+/** x rounded toward zero to an integer; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_truncf1(lanemath_float1 x) LANEMATH_NAMED("truncf1");
+/** x rounded toward zero to an integer; 2 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_truncf2(lanemath_float2 x) LANEMATH_NAMED("truncf2");
+/** x rounded toward zero to an integer; 3 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_truncf3(lanemath_float3 x) LANEMATH_NAMED("truncf3");
+/** x rounded toward zero to an integer; 4 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_truncf4(lanemath_float4 x) LANEMATH_NAMED("truncf4");
+lanemath_border_float8 __ocl_lanemath_h8_truncf8(lanemath_border_float8);
+/** x rounded toward zero to an integer; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_truncf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(truncf8, float8, float8, x);
+}
+#define lanemath_truncf8(x) \
+/** x rounded toward zero to an integer; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(truncf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_truncf16(lanemath_border_float16);
+/** x rounded toward zero to an integer; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_truncf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(truncf16, float16, float16, x);
+}
+#define lanemath_truncf16(x) \
+/** x rounded toward zero to an integer; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(truncf16, float16, float16, x)
 
-/* double rint(double x)
- * x rounded to an integer in the current direction. */
-LANEMATH_DECLARE(UNARY, rint, , double, double)
+/** x rounded to an integer in the current direction; one double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_rint1(lanemath_double1 x) LANEMATH_NAMED("rint1");
+/** x rounded to an integer in the current direction; 2 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_rint2(lanemath_double2 x) LANEMATH_NAMED("rint2");
+lanemath_border_double3 __ocl_lanemath_h8_rint3(lanemath_border_double3);
+/** x rounded to an integer in the current direction; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_rint3(lanemath_double3 x) {
+  return LANEMATH_UNARY(rint3, double3, double3, x);
+}
+#define lanemath_rint3(x) \
+/** x rounded to an integer in the current direction; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(rint3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_rint4(lanemath_border_double4);
+/** x rounded to an integer in the current direction; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_rint4(lanemath_double4 x) {
+  return LANEMATH_UNARY(rint4, double4, double4, x);
+}
+#define lanemath_rint4(x) \
+/** x rounded to an integer in the current direction; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(rint4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_rint8(lanemath_border_double8);
+/** x rounded to an integer in the current direction; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_rint8(lanemath_double8 x) {
+  return LANEMATH_UNARY(rint8, double8, double8, x);
+}
+#define lanemath_rint8(x) \
+/** x rounded to an integer in the current direction; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(rint8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_rint16(lanemath_border_double16);
+/** x rounded to an integer in the current direction; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_rint16(lanemath_double16 x) {
+  return LANEMATH_UNARY(rint16, double16, double16, x);
+}
+#define lanemath_rint16(x) \
+/** x rounded to an integer in the current direction; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(rint16, double16, double16, x)
 
-/* float rintf(float x)
- * x rounded to an integer in the current direction. */
-LANEMATH_DECLARE(UNARY, rintf, , float, float)
+/** x rounded to an integer in the current direction; one float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_rintf1(lanemath_float1 x) LANEMATH_NAMED("rintf1");
+/** x rounded to an integer in the current direction; 2 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_rintf2(lanemath_float2 x) LANEMATH_NAMED("rintf2");
+/** x rounded to an integer in the current direction; 3 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_rintf3(lanemath_float3 x) LANEMATH_NAMED("rintf3");
+/** x rounded to an integer in the current direction; 4 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_rintf4(lanemath_float4 x) LANEMATH_NAMED("rintf4");
+lanemath_border_float8 __ocl_lanemath_h8_rintf8(lanemath_border_float8);
+/** x rounded to an integer in the current direction; 8 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_rintf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(rintf8, float8, float8, x);
+}
+#define lanemath_rintf8(x) \
+/** x rounded to an integer in the current direction; 8 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(rintf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_rintf16(lanemath_border_float16);
+/** x rounded to an integer in the current direction; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_rintf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(rintf16, float16, float16, x);
+}
+#define lanemath_rintf16(x) \
+/** x rounded to an integer in the current direction; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(rintf16, float16, float16, x)
 
-/* double nearbyint(double x)
- * as rint, without the inexact flag. */
-LANEMATH_DECLARE(UNARY, nearbyint, , double, double)
+/** as rint, without the inexact flag; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_nearbyint1(lanemath_double1 x) LANEMATH_NAMED("nearbyint1");
+/** as rint, without the inexact flag; 2 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_nearbyint2(lanemath_double2 x) LANEMATH_NAMED("nearbyint2");
+lanemath_border_double3 __ocl_lanemath_h8_nearbyint3(lanemath_border_double3);
+/** as rint, without the inexact flag; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_nearbyint3(lanemath_double3 x) {
+  return LANEMATH_UNARY(nearbyint3, double3, double3, x);
+}
+#define lanemath_nearbyint3(x) \
+/** as rint, without the inexact flag; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(nearbyint3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_nearbyint4(lanemath_border_double4);
+/** as rint, without the inexact flag; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_nearbyint4(lanemath_double4 x) {
+  return LANEMATH_UNARY(nearbyint4, double4, double4, x);
+}
+#define lanemath_nearbyint4(x) \
+/** as rint, without the inexact flag; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(nearbyint4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_nearbyint8(lanemath_border_double8);
+/** as rint, without the inexact flag; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_nearbyint8(lanemath_double8 x) {
+  return LANEMATH_UNARY(nearbyint8, double8, double8, x);
+}
+#define lanemath_nearbyint8(x) \
+/** as rint, without the inexact flag; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(nearbyint8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_nearbyint16(lanemath_border_double16);
+/** as rint, without the inexact flag; 16 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_nearbyint16(lanemath_double16 x) {
+  return LANEMATH_UNARY(nearbyint16, double16, double16, x);
+}
+#define lanemath_nearbyint16(x) \
+/** as rint, without the inexact flag; 16 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(nearbyint16, double16, double16, x)
 
-/* float nearbyintf(float x)
- * as rint, without the inexact flag. */
-LANEMATH_DECLARE(UNARY, nearbyintf, , float, float)
+/** as rint, without the inexact flag; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_nearbyintf1(lanemath_float1 x) LANEMATH_NAMED("nearbyintf1");
+/** as rint, without the inexact flag; 2 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_nearbyintf2(lanemath_float2 x) LANEMATH_NAMED("nearbyintf2");
+/** as rint, without the inexact flag; 3 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_nearbyintf3(lanemath_float3 x) LANEMATH_NAMED("nearbyintf3");
+/** as rint, without the inexact flag; 4 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_nearbyintf4(lanemath_float4 x) LANEMATH_NAMED("nearbyintf4");
+lanemath_border_float8 __ocl_lanemath_h8_nearbyintf8(lanemath_border_float8);
+/** as rint, without the inexact flag; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_nearbyintf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(nearbyintf8, float8, float8, x);
+}
+#define lanemath_nearbyintf8(x) \
+/** as rint, without the inexact flag; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(nearbyintf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_nearbyintf16(lanemath_border_float16);
+/** as rint, without the inexact flag; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_nearbyintf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(nearbyintf16, float16, float16, x);
+}
+#define lanemath_nearbyintf16(x) \
+/** as rint, without the inexact flag; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(nearbyintf16, float16, float16, x)
 
-/* double round(double x)
- * x rounded to the nearest integer, halves away from zero. */
-LANEMATH_DECLARE(UNARY, round, , double, double)
+/** x rounded to the nearest integer, halves away from zero; one double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_round1(lanemath_double1 x) LANEMATH_NAMED("round1");
+/** x rounded to the nearest integer, halves away from zero; 2 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_round2(lanemath_double2 x) LANEMATH_NAMED("round2");
+lanemath_border_double3 __ocl_lanemath_h8_round3(lanemath_border_double3);
+/** x rounded to the nearest integer, halves away from zero; 3 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_round3(lanemath_double3 x) {
+  return LANEMATH_UNARY(round3, double3, double3, x);
+}
+#define lanemath_round3(x) \
+/** x rounded to the nearest integer, halves away from zero; 3 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(round3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_round4(lanemath_border_double4);
+/** x rounded to the nearest integer, halves away from zero; 4 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_round4(lanemath_double4 x) {
+  return LANEMATH_UNARY(round4, double4, double4, x);
+}
+#define lanemath_round4(x) \
+/** x rounded to the nearest integer, halves away from zero; 4 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(round4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_round8(lanemath_border_double8);
+/** x rounded to the nearest integer, halves away from zero; 8 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_round8(lanemath_double8 x) {
+  return LANEMATH_UNARY(round8, double8, double8, x);
+}
+#define lanemath_round8(x) \
+/** x rounded to the nearest integer, halves away from zero; 8 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(round8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_round16(lanemath_border_double16);
+/** x rounded to the nearest integer, halves away from zero; 16 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_round16(lanemath_double16 x) {
+  return LANEMATH_UNARY(round16, double16, double16, x);
+}
+#define lanemath_round16(x) \
+/** x rounded to the nearest integer, halves away from zero; 16 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(round16, double16, double16, x)
 
-/* float roundf(float x)
- * x rounded to the nearest integer, halves away from zero. */
-LANEMATH_DECLARE(UNARY, roundf, , float, float)
+/** x rounded to the nearest integer, halves away from zero; one float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_roundf1(lanemath_float1 x) LANEMATH_NAMED("roundf1");
+/** x rounded to the nearest integer, halves away from zero; 2 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_roundf2(lanemath_float2 x) LANEMATH_NAMED("roundf2");
+/** x rounded to the nearest integer, halves away from zero; 3 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_roundf3(lanemath_float3 x) LANEMATH_NAMED("roundf3");
+/** x rounded to the nearest integer, halves away from zero; 4 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_roundf4(lanemath_float4 x) LANEMATH_NAMED("roundf4");
+lanemath_border_float8 __ocl_lanemath_h8_roundf8(lanemath_border_float8);
+/** x rounded to the nearest integer, halves away from zero; 8 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_roundf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(roundf8, float8, float8, x);
+}
+#define lanemath_roundf8(x) \
+/** x rounded to the nearest integer, halves away from zero; 8 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(roundf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_roundf16(lanemath_border_float16);
+/** x rounded to the nearest integer, halves away from zero; 16 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_roundf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(roundf16, float16, float16, x);
+}
+#define lanemath_roundf16(x) \
+/** x rounded to the nearest integer, halves away from zero; 16 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(roundf16, float16, float16, x)
 
-/* double fabs(double x)
- * x with the sign cleared. */
-LANEMATH_DECLARE(UNARY, fabs, , double, double)
+/** x with the sign cleared; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_fabs1(lanemath_double1 x) LANEMATH_NAMED("fabs1");
+/** x with the sign cleared; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_fabs2(lanemath_double2 x) LANEMATH_NAMED("fabs2");
+lanemath_border_double3 __ocl_lanemath_h8_fabs3(lanemath_border_double3);
+/** x with the sign cleared; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_fabs3(lanemath_double3 x) {
+  return LANEMATH_UNARY(fabs3, double3, double3, x);
+}
+#define lanemath_fabs3(x) \
+/** x with the sign cleared; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(fabs3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_fabs4(lanemath_border_double4);
+/** x with the sign cleared; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_fabs4(lanemath_double4 x) {
+  return LANEMATH_UNARY(fabs4, double4, double4, x);
+}
+#define lanemath_fabs4(x) \
+/** x with the sign cleared; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(fabs4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_fabs8(lanemath_border_double8);
+/** x with the sign cleared; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_fabs8(lanemath_double8 x) {
+  return LANEMATH_UNARY(fabs8, double8, double8, x);
+}
+#define lanemath_fabs8(x) \
+/** x with the sign cleared; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(fabs8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_fabs16(lanemath_border_double16);
+/** x with the sign cleared; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_fabs16(lanemath_double16 x) {
+  return LANEMATH_UNARY(fabs16, double16, double16, x);
+}
+#define lanemath_fabs16(x) \
+/** x with the sign cleared; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(fabs16, double16, double16, x)
 
-/* float fabsf(float x)
- * x with the sign cleared. */
-LANEMATH_DECLARE(UNARY, fabsf, , float, float)
+/** x with the sign cleared; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_fabsf1(lanemath_float1 x) LANEMATH_NAMED("fabsf1");
+/** x with the sign cleared; 2 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_fabsf2(lanemath_float2 x) LANEMATH_NAMED("fabsf2");
+/** x with the sign cleared; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_fabsf3(lanemath_float3 x) LANEMATH_NAMED("fabsf3");
+/** x with the sign cleared; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_fabsf4(lanemath_float4 x) LANEMATH_NAMED("fabsf4");
+lanemath_border_float8 __ocl_lanemath_h8_fabsf8(lanemath_border_float8);
+/** x with the sign cleared; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_fabsf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(fabsf8, float8, float8, x);
+}
+#define lanemath_fabsf8(x) \
+/** x with the sign cleared; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(fabsf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_fabsf16(lanemath_border_float16);
+/** x with the sign cleared; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_fabsf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(fabsf16, float16, float16, x);
+}
+#define lanemath_fabsf16(x) \
+/** x with the sign cleared; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(fabsf16, float16, float16, x)
 
-/* double copysign(double x, double y)
- * x with the sign of y. */
-LANEMATH_DECLARE(BINARY, copysign, , double, double, double)
+/** x with the sign of y; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_copysign1(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("copysign1");
+/** x with the sign of y; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_copysign2(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("copysign2");
+lanemath_border_double3 __ocl_lanemath_h8_copysign3(lanemath_border_double3, lanemath_border_double3);
+/** x with the sign of y; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_copysign3(lanemath_double3 x, lanemath_double3 y) {
+  return LANEMATH_BINARY(copysign3, double3, double3, double3, x, y);
+}
+#define lanemath_copysign3(x, y) \
+/** x with the sign of y; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(copysign3, double3, double3, double3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_copysign4(lanemath_border_double4, lanemath_border_double4);
+/** x with the sign of y; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_copysign4(lanemath_double4 x, lanemath_double4 y) {
+  return LANEMATH_BINARY(copysign4, double4, double4, double4, x, y);
+}
+#define lanemath_copysign4(x, y) \
+/** x with the sign of y; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(copysign4, double4, double4, double4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_copysign8(lanemath_border_double8, lanemath_border_double8);
+/** x with the sign of y; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_copysign8(lanemath_double8 x, lanemath_double8 y) {
+  return LANEMATH_BINARY(copysign8, double8, double8, double8, x, y);
+}
+#define lanemath_copysign8(x, y) \
+/** x with the sign of y; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(copysign8, double8, double8, double8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_copysign16(lanemath_border_double16, lanemath_border_double16);
+/** x with the sign of y; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_copysign16(lanemath_double16 x, lanemath_double16 y) {
+  return LANEMATH_BINARY(copysign16, double16, double16, double16, x, y);
+}
+#define lanemath_copysign16(x, y) \
+/** x with the sign of y; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(copysign16, double16, double16, double16, x, y)
 
-/* float copysignf(float x, float y)
- * x with the sign of y. */
-LANEMATH_DECLARE(BINARY, copysignf, , float, float, float)
+/** x with the sign of y; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_copysignf1(lanemath_float1 x, lanemath_float1 y) LANEMATH_NAMED("copysignf1");
+/** x with the sign of y; 2 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_copysignf2(lanemath_float2 x, lanemath_float2 y) LANEMATH_NAMED("copysignf2");
+/** x with the sign of y; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_copysignf3(lanemath_float3 x, lanemath_float3 y) LANEMATH_NAMED("copysignf3");
+/** x with the sign of y; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_copysignf4(lanemath_float4 x, lanemath_float4 y) LANEMATH_NAMED("copysignf4");
+lanemath_border_float8 __ocl_lanemath_h8_copysignf8(lanemath_border_float8, lanemath_border_float8);
+/** x with the sign of y; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_copysignf8(lanemath_float8 x, lanemath_float8 y) {
+  return LANEMATH_BINARY(copysignf8, float8, float8, float8, x, y);
+}
+#define lanemath_copysignf8(x, y) \
+/** x with the sign of y; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(copysignf8, float8, float8, float8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_copysignf16(lanemath_border_float16, lanemath_border_float16);
+/** x with the sign of y; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_copysignf16(lanemath_float16 x, lanemath_float16 y) {
+  return LANEMATH_BINARY(copysignf16, float16, float16, float16, x, y);
+}
+#define lanemath_copysignf16(x, y) \
+/** x with the sign of y; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(copysignf16, float16, float16, float16, x, y)
 
-/* double fdim(double x, double y)
- * x - y if x > y, else +0.
- * Largest error in ulp: default 0.5. */
-LANEMATH_DECLARE(BINARY, fdim, , double, double, double)
+/** x - y if x > y, else +0; one double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_fdim1(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("fdim1");
+/** x - y if x > y, else +0; 2 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_fdim2(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("fdim2");
+lanemath_border_double3 __ocl_lanemath_h8_fdim3(lanemath_border_double3, lanemath_border_double3);
+/** x - y if x > y, else +0; 3 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_fdim3(lanemath_double3 x, lanemath_double3 y) {
+  return LANEMATH_BINARY(fdim3, double3, double3, double3, x, y);
+}
+#define lanemath_fdim3(x, y) \
+/** x - y if x > y, else +0; 3 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fdim3, double3, double3, double3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_fdim4(lanemath_border_double4, lanemath_border_double4);
+/** x - y if x > y, else +0; 4 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_fdim4(lanemath_double4 x, lanemath_double4 y) {
+  return LANEMATH_BINARY(fdim4, double4, double4, double4, x, y);
+}
+#define lanemath_fdim4(x, y) \
+/** x - y if x > y, else +0; 4 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fdim4, double4, double4, double4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_fdim8(lanemath_border_double8, lanemath_border_double8);
+/** x - y if x > y, else +0; 8 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_fdim8(lanemath_double8 x, lanemath_double8 y) {
+  return LANEMATH_BINARY(fdim8, double8, double8, double8, x, y);
+}
+#define lanemath_fdim8(x, y) \
+/** x - y if x > y, else +0; 8 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fdim8, double8, double8, double8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_fdim16(lanemath_border_double16, lanemath_border_double16);
+/** x - y if x > y, else +0; 16 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_fdim16(lanemath_double16 x, lanemath_double16 y) {
+  return LANEMATH_BINARY(fdim16, double16, double16, double16, x, y);
+}
+#define lanemath_fdim16(x, y) \
+/** x - y if x > y, else +0; 16 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fdim16, double16, double16, double16, x, y)
 
-/* float fdimf(float x, float y)
- * x - y if x > y, else +0.
- * Largest error in ulp: default 0.5. */
-LANEMATH_DECLARE(BINARY, fdimf, , float, float, float)
+/** x - y if x > y, else +0; one float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_fdimf1(lanemath_float1 x, lanemath_float1 y) LANEMATH_NAMED("fdimf1");
+/** x - y if x > y, else +0; 2 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_fdimf2(lanemath_float2 x, lanemath_float2 y) LANEMATH_NAMED("fdimf2");
+/** x - y if x > y, else +0; 3 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_fdimf3(lanemath_float3 x, lanemath_float3 y) LANEMATH_NAMED("fdimf3");
+/** x - y if x > y, else +0; 4 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_fdimf4(lanemath_float4 x, lanemath_float4 y) LANEMATH_NAMED("fdimf4");
+lanemath_border_float8 __ocl_lanemath_h8_fdimf8(lanemath_border_float8, lanemath_border_float8);
+/** x - y if x > y, else +0; 8 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_fdimf8(lanemath_float8 x, lanemath_float8 y) {
+  return LANEMATH_BINARY(fdimf8, float8, float8, float8, x, y);
+}
+#define lanemath_fdimf8(x, y) \
+/** x - y if x > y, else +0; 8 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fdimf8, float8, float8, float8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_fdimf16(lanemath_border_float16, lanemath_border_float16);
+/** x - y if x > y, else +0; 16 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_fdimf16(lanemath_float16 x, lanemath_float16 y) {
+  return LANEMATH_BINARY(fdimf16, float16, float16, float16, x, y);
+}
+#define lanemath_fdimf16(x, y) \
+/** x - y if x > y, else +0; 16 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fdimf16, float16, float16, float16, x, y)
 
-/* double fmax(double x, double y)
- * the larger of x and y, a number before a NaN. */
-LANEMATH_DECLARE(BINARY, fmax, , double, double, double)
+/** the larger of x and y, a number before a NaN; one double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_fmax1(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("fmax1");
+/** the larger of x and y, a number before a NaN; 2 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_fmax2(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("fmax2");
+lanemath_border_double3 __ocl_lanemath_h8_fmax3(lanemath_border_double3, lanemath_border_double3);
+/** the larger of x and y, a number before a NaN; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_fmax3(lanemath_double3 x, lanemath_double3 y) {
+  return LANEMATH_BINARY(fmax3, double3, double3, double3, x, y);
+}
+#define lanemath_fmax3(x, y) \
+/** the larger of x and y, a number before a NaN; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmax3, double3, double3, double3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_fmax4(lanemath_border_double4, lanemath_border_double4);
+/** the larger of x and y, a number before a NaN; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_fmax4(lanemath_double4 x, lanemath_double4 y) {
+  return LANEMATH_BINARY(fmax4, double4, double4, double4, x, y);
+}
+#define lanemath_fmax4(x, y) \
+/** the larger of x and y, a number before a NaN; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmax4, double4, double4, double4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_fmax8(lanemath_border_double8, lanemath_border_double8);
+/** the larger of x and y, a number before a NaN; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_fmax8(lanemath_double8 x, lanemath_double8 y) {
+  return LANEMATH_BINARY(fmax8, double8, double8, double8, x, y);
+}
+#define lanemath_fmax8(x, y) \
+/** the larger of x and y, a number before a NaN; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmax8, double8, double8, double8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_fmax16(lanemath_border_double16, lanemath_border_double16);
+/** the larger of x and y, a number before a NaN; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_fmax16(lanemath_double16 x, lanemath_double16 y) {
+  return LANEMATH_BINARY(fmax16, double16, double16, double16, x, y);
+}
+#define lanemath_fmax16(x, y) \
+/** the larger of x and y, a number before a NaN; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmax16, double16, double16, double16, x, y)
 
-/* float fmaxf(float x, float y)
- * the larger of x and y, a number before a NaN. */
-LANEMATH_DECLARE(BINARY, fmaxf, , float, float, float)
+/** the larger of x and y, a number before a NaN; one float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_fmaxf1(lanemath_float1 x, lanemath_float1 y) LANEMATH_NAMED("fmaxf1");
+/** the larger of x and y, a number before a NaN; 2 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_fmaxf2(lanemath_float2 x, lanemath_float2 y) LANEMATH_NAMED("fmaxf2");
+/** the larger of x and y, a number before a NaN; 3 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_fmaxf3(lanemath_float3 x, lanemath_float3 y) LANEMATH_NAMED("fmaxf3");
+/** the larger of x and y, a number before a NaN; 4 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_fmaxf4(lanemath_float4 x, lanemath_float4 y) LANEMATH_NAMED("fmaxf4");
+lanemath_border_float8 __ocl_lanemath_h8_fmaxf8(lanemath_border_float8, lanemath_border_float8);
+/** the larger of x and y, a number before a NaN; 8 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_fmaxf8(lanemath_float8 x, lanemath_float8 y) {
+  return LANEMATH_BINARY(fmaxf8, float8, float8, float8, x, y);
+}
+#define lanemath_fmaxf8(x, y) \
+/** the larger of x and y, a number before a NaN; 8 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmaxf8, float8, float8, float8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_fmaxf16(lanemath_border_float16, lanemath_border_float16);
+/** the larger of x and y, a number before a NaN; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_fmaxf16(lanemath_float16 x, lanemath_float16 y) {
+  return LANEMATH_BINARY(fmaxf16, float16, float16, float16, x, y);
+}
+#define lanemath_fmaxf16(x, y) \
+/** the larger of x and y, a number before a NaN; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmaxf16, float16, float16, float16, x, y)
 
-/* double fmin(double x, double y)
- * the smaller of x and y, a number before a NaN. */
-LANEMATH_DECLARE(BINARY, fmin, , double, double, double)
+/** the smaller of x and y, a number before a NaN; one double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_fmin1(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("fmin1");
+/** the smaller of x and y, a number before a NaN; 2 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_fmin2(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("fmin2");
+lanemath_border_double3 __ocl_lanemath_h8_fmin3(lanemath_border_double3, lanemath_border_double3);
+/** the smaller of x and y, a number before a NaN; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_fmin3(lanemath_double3 x, lanemath_double3 y) {
+  return LANEMATH_BINARY(fmin3, double3, double3, double3, x, y);
+}
+#define lanemath_fmin3(x, y) \
+/** the smaller of x and y, a number before a NaN; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmin3, double3, double3, double3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_fmin4(lanemath_border_double4, lanemath_border_double4);
+/** the smaller of x and y, a number before a NaN; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_fmin4(lanemath_double4 x, lanemath_double4 y) {
+  return LANEMATH_BINARY(fmin4, double4, double4, double4, x, y);
+}
+#define lanemath_fmin4(x, y) \
+/** the smaller of x and y, a number before a NaN; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmin4, double4, double4, double4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_fmin8(lanemath_border_double8, lanemath_border_double8);
+/** the smaller of x and y, a number before a NaN; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_fmin8(lanemath_double8 x, lanemath_double8 y) {
+  return LANEMATH_BINARY(fmin8, double8, double8, double8, x, y);
+}
+#define lanemath_fmin8(x, y) \
+/** the smaller of x and y, a number before a NaN; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmin8, double8, double8, double8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_fmin16(lanemath_border_double16, lanemath_border_double16);
+/** the smaller of x and y, a number before a NaN; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_fmin16(lanemath_double16 x, lanemath_double16 y) {
+  return LANEMATH_BINARY(fmin16, double16, double16, double16, x, y);
+}
+#define lanemath_fmin16(x, y) \
+/** the smaller of x and y, a number before a NaN; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmin16, double16, double16, double16, x, y)
 
-/* float fminf(float x, float y)
- * the smaller of x and y, a number before a NaN. */
-LANEMATH_DECLARE(BINARY, fminf, , float, float, float)
+/** the smaller of x and y, a number before a NaN; one float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_fminf1(lanemath_float1 x, lanemath_float1 y) LANEMATH_NAMED("fminf1");
+/** the smaller of x and y, a number before a NaN; 2 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_fminf2(lanemath_float2 x, lanemath_float2 y) LANEMATH_NAMED("fminf2");
+/** the smaller of x and y, a number before a NaN; 3 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_fminf3(lanemath_float3 x, lanemath_float3 y) LANEMATH_NAMED("fminf3");
+/** the smaller of x and y, a number before a NaN; 4 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_fminf4(lanemath_float4 x, lanemath_float4 y) LANEMATH_NAMED("fminf4");
+lanemath_border_float8 __ocl_lanemath_h8_fminf8(lanemath_border_float8, lanemath_border_float8);
+/** the smaller of x and y, a number before a NaN; 8 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_fminf8(lanemath_float8 x, lanemath_float8 y) {
+  return LANEMATH_BINARY(fminf8, float8, float8, float8, x, y);
+}
+#define lanemath_fminf8(x, y) \
+/** the smaller of x and y, a number before a NaN; 8 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fminf8, float8, float8, float8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_fminf16(lanemath_border_float16, lanemath_border_float16);
+/** the smaller of x and y, a number before a NaN; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_fminf16(lanemath_float16 x, lanemath_float16 y) {
+  return LANEMATH_BINARY(fminf16, float16, float16, float16, x, y);
+}
+#define lanemath_fminf16(x, y) \
+/** the smaller of x and y, a number before a NaN; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fminf16, float16, float16, float16, x, y)
 
-/* double maxmag(double x, double y)
- * the one of x and y with the larger magnitude. */
-LANEMATH_DECLARE(BINARY, maxmag, , double, double, double)
+/** the one of x and y with the larger magnitude; one double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_maxmag1(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("maxmag1");
+/** the one of x and y with the larger magnitude; 2 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_maxmag2(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("maxmag2");
+lanemath_border_double3 __ocl_lanemath_h8_maxmag3(lanemath_border_double3, lanemath_border_double3);
+/** the one of x and y with the larger magnitude; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_maxmag3(lanemath_double3 x, lanemath_double3 y) {
+  return LANEMATH_BINARY(maxmag3, double3, double3, double3, x, y);
+}
+#define lanemath_maxmag3(x, y) \
+/** the one of x and y with the larger magnitude; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(maxmag3, double3, double3, double3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_maxmag4(lanemath_border_double4, lanemath_border_double4);
+/** the one of x and y with the larger magnitude; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_maxmag4(lanemath_double4 x, lanemath_double4 y) {
+  return LANEMATH_BINARY(maxmag4, double4, double4, double4, x, y);
+}
+#define lanemath_maxmag4(x, y) \
+/** the one of x and y with the larger magnitude; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(maxmag4, double4, double4, double4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_maxmag8(lanemath_border_double8, lanemath_border_double8);
+/** the one of x and y with the larger magnitude; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_maxmag8(lanemath_double8 x, lanemath_double8 y) {
+  return LANEMATH_BINARY(maxmag8, double8, double8, double8, x, y);
+}
+#define lanemath_maxmag8(x, y) \
+/** the one of x and y with the larger magnitude; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(maxmag8, double8, double8, double8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_maxmag16(lanemath_border_double16, lanemath_border_double16);
+/** the one of x and y with the larger magnitude; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_maxmag16(lanemath_double16 x, lanemath_double16 y) {
+  return LANEMATH_BINARY(maxmag16, double16, double16, double16, x, y);
+}
+#define lanemath_maxmag16(x, y) \
+/** the one of x and y with the larger magnitude; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(maxmag16, double16, double16, double16, x, y)
 
-/* float maxmagf(float x, float y)
- * the one of x and y with the larger magnitude. */
-LANEMATH_DECLARE(BINARY, maxmagf, , float, float, float)
+/** the one of x and y with the larger magnitude; one float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_maxmagf1(lanemath_float1 x, lanemath_float1 y) LANEMATH_NAMED("maxmagf1");
+/** the one of x and y with the larger magnitude; 2 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_maxmagf2(lanemath_float2 x, lanemath_float2 y) LANEMATH_NAMED("maxmagf2");
+/** the one of x and y with the larger magnitude; 3 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_maxmagf3(lanemath_float3 x, lanemath_float3 y) LANEMATH_NAMED("maxmagf3");
+/** the one of x and y with the larger magnitude; 4 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_maxmagf4(lanemath_float4 x, lanemath_float4 y) LANEMATH_NAMED("maxmagf4");
+lanemath_border_float8 __ocl_lanemath_h8_maxmagf8(lanemath_border_float8, lanemath_border_float8);
+/** the one of x and y with the larger magnitude; 8 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_maxmagf8(lanemath_float8 x, lanemath_float8 y) {
+  return LANEMATH_BINARY(maxmagf8, float8, float8, float8, x, y);
+}
+#define lanemath_maxmagf8(x, y) \
+/** the one of x and y with the larger magnitude; 8 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(maxmagf8, float8, float8, float8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_maxmagf16(lanemath_border_float16, lanemath_border_float16);
+/** the one of x and y with the larger magnitude; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_maxmagf16(lanemath_float16 x, lanemath_float16 y) {
+  return LANEMATH_BINARY(maxmagf16, float16, float16, float16, x, y);
+}
+#define lanemath_maxmagf16(x, y) \
+/** the one of x and y with the larger magnitude; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(maxmagf16, float16, float16, float16, x, y)
 
-/* double minmag(double x, double y)
- * the one of x and y with the smaller magnitude. */
-LANEMATH_DECLARE(BINARY, minmag, , double, double, double)
+/** the one of x and y with the smaller magnitude; one double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_minmag1(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("minmag1");
+/** the one of x and y with the smaller magnitude; 2 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_minmag2(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("minmag2");
+lanemath_border_double3 __ocl_lanemath_h8_minmag3(lanemath_border_double3, lanemath_border_double3);
+/** the one of x and y with the smaller magnitude; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_minmag3(lanemath_double3 x, lanemath_double3 y) {
+  return LANEMATH_BINARY(minmag3, double3, double3, double3, x, y);
+}
+#define lanemath_minmag3(x, y) \
+/** the one of x and y with the smaller magnitude; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(minmag3, double3, double3, double3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_minmag4(lanemath_border_double4, lanemath_border_double4);
+/** the one of x and y with the smaller magnitude; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_minmag4(lanemath_double4 x, lanemath_double4 y) {
+  return LANEMATH_BINARY(minmag4, double4, double4, double4, x, y);
+}
+#define lanemath_minmag4(x, y) \
+/** the one of x and y with the smaller magnitude; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(minmag4, double4, double4, double4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_minmag8(lanemath_border_double8, lanemath_border_double8);
+/** the one of x and y with the smaller magnitude; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_minmag8(lanemath_double8 x, lanemath_double8 y) {
+  return LANEMATH_BINARY(minmag8, double8, double8, double8, x, y);
+}
+#define lanemath_minmag8(x, y) \
+/** the one of x and y with the smaller magnitude; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(minmag8, double8, double8, double8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_minmag16(lanemath_border_double16, lanemath_border_double16);
+/** the one of x and y with the smaller magnitude; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_minmag16(lanemath_double16 x, lanemath_double16 y) {
+  return LANEMATH_BINARY(minmag16, double16, double16, double16, x, y);
+}
+#define lanemath_minmag16(x, y) \
+/** the one of x and y with the smaller magnitude; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(minmag16, double16, double16, double16, x, y)
 
-/* float minmagf(float x, float y)
- * the one of x and y with the smaller magnitude. */
-LANEMATH_DECLARE(BINARY, minmagf, , float, float, float)
+/** the one of x and y with the smaller magnitude; one float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_minmagf1(lanemath_float1 x, lanemath_float1 y) LANEMATH_NAMED("minmagf1");
+/** the one of x and y with the smaller magnitude; 2 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_minmagf2(lanemath_float2 x, lanemath_float2 y) LANEMATH_NAMED("minmagf2");
+/** the one of x and y with the smaller magnitude; 3 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_minmagf3(lanemath_float3 x, lanemath_float3 y) LANEMATH_NAMED("minmagf3");
+/** the one of x and y with the smaller magnitude; 4 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_minmagf4(lanemath_float4 x, lanemath_float4 y) LANEMATH_NAMED("minmagf4");
+lanemath_border_float8 __ocl_lanemath_h8_minmagf8(lanemath_border_float8, lanemath_border_float8);
+/** the one of x and y with the smaller magnitude; 8 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_minmagf8(lanemath_float8 x, lanemath_float8 y) {
+  return LANEMATH_BINARY(minmagf8, float8, float8, float8, x, y);
+}
+#define lanemath_minmagf8(x, y) \
+/** the one of x and y with the smaller magnitude; 8 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(minmagf8, float8, float8, float8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_minmagf16(lanemath_border_float16, lanemath_border_float16);
+/** the one of x and y with the smaller magnitude; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_minmagf16(lanemath_float16 x, lanemath_float16 y) {
+  return LANEMATH_BINARY(minmagf16, float16, float16, float16, x, y);
+}
+#define lanemath_minmagf16(x, y) \
+/** the one of x and y with the smaller magnitude; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(minmagf16, float16, float16, float16, x, y)
 
-/* double fract(double x, double* second)
- * x - floor(x), below 1; floor(x) through the pointer.
- * Largest error in ulp: default 1. */
-LANEMATH_DECLARE(UNARY_POINTER, fract, , double, double, double)
+/** x - floor(x), below 1; floor(x) through the pointer; one double. Largest error 1 ulp. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_fract1(lanemath_double1 x, lanemath_double1* floor) LANEMATH_NAMED("fract1");
+/** x - floor(x), below 1; floor(x) through the pointer; 2 lanes of double. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_fract2(lanemath_double2 x, lanemath_double2* floor) LANEMATH_NAMED("fract2");
+lanemath_border_double3 __ocl_lanemath_h8_fract3(lanemath_border_double3, lanemath_double3*);
+/** x - floor(x), below 1; floor(x) through the pointer; 3 lanes of double. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_fract3(lanemath_double3 x, lanemath_double3* floor) {
+  return LANEMATH_UNARY_POINTER(fract3, double3, double3, double3, x, floor);
+}
+#define lanemath_fract3(x, floor) \
+/** x - floor(x), below 1; floor(x) through the pointer; 3 lanes of double. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(fract3, double3, double3, double3, x, floor)
+lanemath_border_double4 __ocl_lanemath_h8_fract4(lanemath_border_double4, lanemath_double4*);
+/** x - floor(x), below 1; floor(x) through the pointer; 4 lanes of double. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_fract4(lanemath_double4 x, lanemath_double4* floor) {
+  return LANEMATH_UNARY_POINTER(fract4, double4, double4, double4, x, floor);
+}
+#define lanemath_fract4(x, floor) \
+/** x - floor(x), below 1; floor(x) through the pointer; 4 lanes of double. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(fract4, double4, double4, double4, x, floor)
+lanemath_border_double8 __ocl_lanemath_h8_fract8(lanemath_border_double8, lanemath_double8*);
+/** x - floor(x), below 1; floor(x) through the pointer; 8 lanes of double. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_fract8(lanemath_double8 x, lanemath_double8* floor) {
+  return LANEMATH_UNARY_POINTER(fract8, double8, double8, double8, x, floor);
+}
+#define lanemath_fract8(x, floor) \
+/** x - floor(x), below 1; floor(x) through the pointer; 8 lanes of double. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(fract8, double8, double8, double8, x, floor)
+lanemath_border_double16 __ocl_lanemath_h8_fract16(lanemath_border_double16, lanemath_double16*);
+/** x - floor(x), below 1; floor(x) through the pointer; 16 lanes of double. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_fract16(lanemath_double16 x, lanemath_double16* floor) {
+  return LANEMATH_UNARY_POINTER(fract16, double16, double16, double16, x, floor);
+}
+#define lanemath_fract16(x, floor) \
+/** x - floor(x), below 1; floor(x) through the pointer; 16 lanes of double. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(fract16, double16, double16, double16, x, floor)
 
-/* float fractf(float x, float* second)
- * x - floor(x), below 1; floor(x) through the pointer.
- * Largest error in ulp: default 1. */
-LANEMATH_DECLARE(UNARY_POINTER, fractf, , float, float, float)
+/** x - floor(x), below 1; floor(x) through the pointer; one float. Largest error 1 ulp. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_fractf1(lanemath_float1 x, lanemath_float1* floor) LANEMATH_NAMED("fractf1");
+/** x - floor(x), below 1; floor(x) through the pointer; 2 lanes of float. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_fractf2(lanemath_float2 x, lanemath_float2* floor) LANEMATH_NAMED("fractf2");
+/** x - floor(x), below 1; floor(x) through the pointer; 3 lanes of float. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_fractf3(lanemath_float3 x, lanemath_float3* floor) LANEMATH_NAMED("fractf3");
+/** x - floor(x), below 1; floor(x) through the pointer; 4 lanes of float. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_fractf4(lanemath_float4 x, lanemath_float4* floor) LANEMATH_NAMED("fractf4");
+lanemath_border_float8 __ocl_lanemath_h8_fractf8(lanemath_border_float8, lanemath_float8*);
+/** x - floor(x), below 1; floor(x) through the pointer; 8 lanes of float. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_fractf8(lanemath_float8 x, lanemath_float8* floor) {
+  return LANEMATH_UNARY_POINTER(fractf8, float8, float8, float8, x, floor);
+}
+#define lanemath_fractf8(x, floor) \
+/** x - floor(x), below 1; floor(x) through the pointer; 8 lanes of float. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(fractf8, float8, float8, float8, x, floor)
+lanemath_border_float16 __ocl_lanemath_h8_fractf16(lanemath_border_float16, lanemath_float16*);
+/** x - floor(x), below 1; floor(x) through the pointer; 16 lanes of float. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_fractf16(lanemath_float16 x, lanemath_float16* floor) {
+  return LANEMATH_UNARY_POINTER(fractf16, float16, float16, float16, x, floor);
+}
+#define lanemath_fractf16(x, floor) \
+/** x - floor(x), below 1; floor(x) through the pointer; 16 lanes of float. Largest error 1 ulp. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(fractf16, float16, float16, float16, x, floor)
 
-/* double modf(double x, double* second)
- * fraction of x; integral part through the pointer. */
-LANEMATH_DECLARE(UNARY_POINTER, modf, , double, double, double)
+/** fraction of x; integral part through the pointer; one double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_modf1(lanemath_double1 x, lanemath_double1* integer) LANEMATH_NAMED("modf1");
+/** fraction of x; integral part through the pointer; 2 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_modf2(lanemath_double2 x, lanemath_double2* integer) LANEMATH_NAMED("modf2");
+lanemath_border_double3 __ocl_lanemath_h8_modf3(lanemath_border_double3, lanemath_double3*);
+/** fraction of x; integral part through the pointer; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_modf3(lanemath_double3 x, lanemath_double3* integer) {
+  return LANEMATH_UNARY_POINTER(modf3, double3, double3, double3, x, integer);
+}
+#define lanemath_modf3(x, integer) \
+/** fraction of x; integral part through the pointer; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(modf3, double3, double3, double3, x, integer)
+lanemath_border_double4 __ocl_lanemath_h8_modf4(lanemath_border_double4, lanemath_double4*);
+/** fraction of x; integral part through the pointer; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_modf4(lanemath_double4 x, lanemath_double4* integer) {
+  return LANEMATH_UNARY_POINTER(modf4, double4, double4, double4, x, integer);
+}
+#define lanemath_modf4(x, integer) \
+/** fraction of x; integral part through the pointer; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(modf4, double4, double4, double4, x, integer)
+lanemath_border_double8 __ocl_lanemath_h8_modf8(lanemath_border_double8, lanemath_double8*);
+/** fraction of x; integral part through the pointer; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_modf8(lanemath_double8 x, lanemath_double8* integer) {
+  return LANEMATH_UNARY_POINTER(modf8, double8, double8, double8, x, integer);
+}
+#define lanemath_modf8(x, integer) \
+/** fraction of x; integral part through the pointer; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(modf8, double8, double8, double8, x, integer)
+lanemath_border_double16 __ocl_lanemath_h8_modf16(lanemath_border_double16, lanemath_double16*);
+/** fraction of x; integral part through the pointer; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_modf16(lanemath_double16 x, lanemath_double16* integer) {
+  return LANEMATH_UNARY_POINTER(modf16, double16, double16, double16, x, integer);
+}
+#define lanemath_modf16(x, integer) \
+/** fraction of x; integral part through the pointer; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(modf16, double16, double16, double16, x, integer)
 
-/* float modff(float x, float* second)
- * fraction of x; integral part through the pointer. */
-LANEMATH_DECLARE(UNARY_POINTER, modff, , float, float, float)
+/** fraction of x; integral part through the pointer; one float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_modff1(lanemath_float1 x, lanemath_float1* integer) LANEMATH_NAMED("modff1");
+/** fraction of x; integral part through the pointer; 2 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_modff2(lanemath_float2 x, lanemath_float2* integer) LANEMATH_NAMED("modff2");
+/** fraction of x; integral part through the pointer; 3 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_modff3(lanemath_float3 x, lanemath_float3* integer) LANEMATH_NAMED("modff3");
+/** fraction of x; integral part through the pointer; 4 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_modff4(lanemath_float4 x, lanemath_float4* integer) LANEMATH_NAMED("modff4");
+lanemath_border_float8 __ocl_lanemath_h8_modff8(lanemath_border_float8, lanemath_float8*);
+/** fraction of x; integral part through the pointer; 8 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_modff8(lanemath_float8 x, lanemath_float8* integer) {
+  return LANEMATH_UNARY_POINTER(modff8, float8, float8, float8, x, integer);
+}
+#define lanemath_modff8(x, integer) \
+/** fraction of x; integral part through the pointer; 8 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(modff8, float8, float8, float8, x, integer)
+lanemath_border_float16 __ocl_lanemath_h8_modff16(lanemath_border_float16, lanemath_float16*);
+/** fraction of x; integral part through the pointer; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_modff16(lanemath_float16 x, lanemath_float16* integer) {
+  return LANEMATH_UNARY_POINTER(modff16, float16, float16, float16, x, integer);
+}
+#define lanemath_modff16(x, integer) \
+/** fraction of x; integral part through the pointer; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(modff16, float16, float16, float16, x, integer)
 
-/* double frexp(double x, int* second)
- * significand of x in [0.5, 1); exponent through the pointer. */
-LANEMATH_DECLARE(UNARY_POINTER, frexp, , double, double, int)
+/** significand of x in [0.5, 1); exponent through the pointer; one double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_frexp1(lanemath_double1 x, lanemath_int1* exponent) LANEMATH_NAMED("frexp1");
+/** significand of x in [0.5, 1); exponent through the pointer; 2 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_frexp2(lanemath_double2 x, lanemath_int2* exponent) LANEMATH_NAMED("frexp2");
+lanemath_border_double3 __ocl_lanemath_h8_frexp3(lanemath_border_double3, lanemath_int3*);
+/** significand of x in [0.5, 1); exponent through the pointer; 3 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_frexp3(lanemath_double3 x, lanemath_int3* exponent) {
+  return LANEMATH_UNARY_POINTER(frexp3, double3, double3, int3, x, exponent);
+}
+#define lanemath_frexp3(x, exponent) \
+/** significand of x in [0.5, 1); exponent through the pointer; 3 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(frexp3, double3, double3, int3, x, exponent)
+lanemath_border_double4 __ocl_lanemath_h8_frexp4(lanemath_border_double4, lanemath_int4*);
+/** significand of x in [0.5, 1); exponent through the pointer; 4 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_frexp4(lanemath_double4 x, lanemath_int4* exponent) {
+  return LANEMATH_UNARY_POINTER(frexp4, double4, double4, int4, x, exponent);
+}
+#define lanemath_frexp4(x, exponent) \
+/** significand of x in [0.5, 1); exponent through the pointer; 4 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(frexp4, double4, double4, int4, x, exponent)
+lanemath_border_double8 __ocl_lanemath_h8_frexp8(lanemath_border_double8, lanemath_int8*);
+/** significand of x in [0.5, 1); exponent through the pointer; 8 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_frexp8(lanemath_double8 x, lanemath_int8* exponent) {
+  return LANEMATH_UNARY_POINTER(frexp8, double8, double8, int8, x, exponent);
+}
+#define lanemath_frexp8(x, exponent) \
+/** significand of x in [0.5, 1); exponent through the pointer; 8 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(frexp8, double8, double8, int8, x, exponent)
+lanemath_border_double16 __ocl_lanemath_h8_frexp16(lanemath_border_double16, lanemath_int16*);
+/** significand of x in [0.5, 1); exponent through the pointer; 16 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_frexp16(lanemath_double16 x, lanemath_int16* exponent) {
+  return LANEMATH_UNARY_POINTER(frexp16, double16, double16, int16, x, exponent);
+}
+#define lanemath_frexp16(x, exponent) \
+/** significand of x in [0.5, 1); exponent through the pointer; 16 lanes of double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(frexp16, double16, double16, int16, x, exponent)
 
-/* float frexpf(float x, int* second)
- * significand of x in [0.5, 1); exponent through the pointer. */
-LANEMATH_DECLARE(UNARY_POINTER, frexpf, , float, float, int)
+/** significand of x in [0.5, 1); exponent through the pointer; one float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_frexpf1(lanemath_float1 x, lanemath_int1* exponent) LANEMATH_NAMED("frexpf1");
+/** significand of x in [0.5, 1); exponent through the pointer; 2 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_frexpf2(lanemath_float2 x, lanemath_int2* exponent) LANEMATH_NAMED("frexpf2");
+/** significand of x in [0.5, 1); exponent through the pointer; 3 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_frexpf3(lanemath_float3 x, lanemath_int3* exponent) LANEMATH_NAMED("frexpf3");
+/** significand of x in [0.5, 1); exponent through the pointer; 4 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_frexpf4(lanemath_float4 x, lanemath_int4* exponent) LANEMATH_NAMED("frexpf4");
+lanemath_border_float8 __ocl_lanemath_h8_frexpf8(lanemath_border_float8, lanemath_int8*);
+/** significand of x in [0.5, 1); exponent through the pointer; 8 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_frexpf8(lanemath_float8 x, lanemath_int8* exponent) {
+  return LANEMATH_UNARY_POINTER(frexpf8, float8, float8, int8, x, exponent);
+}
+#define lanemath_frexpf8(x, exponent) \
+/** significand of x in [0.5, 1); exponent through the pointer; 8 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(frexpf8, float8, float8, int8, x, exponent)
+lanemath_border_float16 __ocl_lanemath_h8_frexpf16(lanemath_border_float16, lanemath_int16*);
+/** significand of x in [0.5, 1); exponent through the pointer; 16 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_frexpf16(lanemath_float16 x, lanemath_int16* exponent) {
+  return LANEMATH_UNARY_POINTER(frexpf16, float16, float16, int16, x, exponent);
+}
+#define lanemath_frexpf16(x, exponent) \
+/** significand of x in [0.5, 1); exponent through the pointer; 16 lanes of float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY_POINTER(frexpf16, float16, float16, int16, x, exponent)
 
-/* double ldexp(double x, int y)
- * x times 2 to the power y.
- * Largest error in ulp: default 0.5. */
-LANEMATH_DECLARE(BINARY, ldexp, , double, double, int)
+/** x times 2 to the power y; one double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_ldexp1(lanemath_double1 x, lanemath_int1 y) LANEMATH_NAMED("ldexp1");
+/** x times 2 to the power y; 2 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_ldexp2(lanemath_double2 x, lanemath_int2 y) LANEMATH_NAMED("ldexp2");
+lanemath_border_double3 __ocl_lanemath_h8_ldexp3(lanemath_border_double3, lanemath_border_int3);
+/** x times 2 to the power y; 3 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_ldexp3(lanemath_double3 x, lanemath_int3 y) {
+  return LANEMATH_BINARY(ldexp3, double3, double3, int3, x, y);
+}
+#define lanemath_ldexp3(x, y) \
+/** x times 2 to the power y; 3 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(ldexp3, double3, double3, int3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_ldexp4(lanemath_border_double4, lanemath_border_int4);
+/** x times 2 to the power y; 4 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_ldexp4(lanemath_double4 x, lanemath_int4 y) {
+  return LANEMATH_BINARY(ldexp4, double4, double4, int4, x, y);
+}
+#define lanemath_ldexp4(x, y) \
+/** x times 2 to the power y; 4 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(ldexp4, double4, double4, int4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_ldexp8(lanemath_border_double8, lanemath_border_int8);
+/** x times 2 to the power y; 8 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_ldexp8(lanemath_double8 x, lanemath_int8 y) {
+  return LANEMATH_BINARY(ldexp8, double8, double8, int8, x, y);
+}
+#define lanemath_ldexp8(x, y) \
+/** x times 2 to the power y; 8 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(ldexp8, double8, double8, int8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_ldexp16(lanemath_border_double16, lanemath_border_int16);
+/** x times 2 to the power y; 16 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_ldexp16(lanemath_double16 x, lanemath_int16 y) {
+  return LANEMATH_BINARY(ldexp16, double16, double16, int16, x, y);
+}
+#define lanemath_ldexp16(x, y) \
+/** x times 2 to the power y; 16 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(ldexp16, double16, double16, int16, x, y)
 
-/* float ldexpf(float x, int y)
- * x times 2 to the power y.
- * Largest error in ulp: default 0.5. */
-LANEMATH_DECLARE(BINARY, ldexpf, , float, float, int)
+/** x times 2 to the power y; one float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_ldexpf1(lanemath_float1 x, lanemath_int1 y) LANEMATH_NAMED("ldexpf1");
+/** x times 2 to the power y; 2 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_ldexpf2(lanemath_float2 x, lanemath_int2 y) LANEMATH_NAMED("ldexpf2");
+/** x times 2 to the power y; 3 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_ldexpf3(lanemath_float3 x, lanemath_int3 y) LANEMATH_NAMED("ldexpf3");
+/** x times 2 to the power y; 4 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_ldexpf4(lanemath_float4 x, lanemath_int4 y) LANEMATH_NAMED("ldexpf4");
+lanemath_border_float8 __ocl_lanemath_h8_ldexpf8(lanemath_border_float8, lanemath_border_int8);
+/** x times 2 to the power y; 8 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_ldexpf8(lanemath_float8 x, lanemath_int8 y) {
+  return LANEMATH_BINARY(ldexpf8, float8, float8, int8, x, y);
+}
+#define lanemath_ldexpf8(x, y) \
+/** x times 2 to the power y; 8 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(ldexpf8, float8, float8, int8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_ldexpf16(lanemath_border_float16, lanemath_border_int16);
+/** x times 2 to the power y; 16 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_ldexpf16(lanemath_float16 x, lanemath_int16 y) {
+  return LANEMATH_BINARY(ldexpf16, float16, float16, int16, x, y);
+}
+#define lanemath_ldexpf16(x, y) \
+/** x times 2 to the power y; 16 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(ldexpf16, float16, float16, int16, x, y)
 
-/* int ilogb(double x)
- * exponent of x as an integer. */
-LANEMATH_DECLARE(UNARY, ilogb, , int, double)
+/** exponent of x as an integer; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_int1 lanemath_ilogb1(lanemath_double1 x) LANEMATH_NAMED("ilogb1");
+/** exponent of x as an integer; 2 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_int2 lanemath_ilogb2(lanemath_double2 x) LANEMATH_NAMED("ilogb2");
+lanemath_border_int3 __ocl_lanemath_h8_ilogb3(lanemath_border_double3);
+/** exponent of x as an integer; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_int3 lanemath_ilogb3(lanemath_double3 x) {
+  return LANEMATH_UNARY(ilogb3, int3, double3, x);
+}
+#define lanemath_ilogb3(x) \
+/** exponent of x as an integer; 3 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(ilogb3, int3, double3, x)
+lanemath_border_int4 __ocl_lanemath_h8_ilogb4(lanemath_border_double4);
+/** exponent of x as an integer; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_int4 lanemath_ilogb4(lanemath_double4 x) {
+  return LANEMATH_UNARY(ilogb4, int4, double4, x);
+}
+#define lanemath_ilogb4(x) \
+/** exponent of x as an integer; 4 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(ilogb4, int4, double4, x)
+lanemath_border_int8 __ocl_lanemath_h8_ilogb8(lanemath_border_double8);
+/** exponent of x as an integer; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_ilogb8(lanemath_double8 x) {
+  return LANEMATH_UNARY(ilogb8, int8, double8, x);
+}
+#define lanemath_ilogb8(x) \
+/** exponent of x as an integer; 8 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(ilogb8, int8, double8, x)
+lanemath_border_int16 __ocl_lanemath_h8_ilogb16(lanemath_border_double16);
+/** exponent of x as an integer; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_ilogb16(lanemath_double16 x) {
+  return LANEMATH_UNARY(ilogb16, int16, double16, x);
+}
+#define lanemath_ilogb16(x) \
+/** exponent of x as an integer; 16 lanes of double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(ilogb16, int16, double16, x)
 
-/* int ilogbf(float x)
- * exponent of x as an integer. */
-LANEMATH_DECLARE(UNARY, ilogbf, , int, float)
+/** exponent of x as an integer; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_int1 lanemath_ilogbf1(lanemath_float1 x) LANEMATH_NAMED("ilogbf1");
+/** exponent of x as an integer; 2 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_int2 lanemath_ilogbf2(lanemath_float2 x) LANEMATH_NAMED("ilogbf2");
+/** exponent of x as an integer; 3 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_int3 lanemath_ilogbf3(lanemath_float3 x) LANEMATH_NAMED("ilogbf3");
+/** exponent of x as an integer; 4 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_int4 lanemath_ilogbf4(lanemath_float4 x) LANEMATH_NAMED("ilogbf4");
+lanemath_border_int8 __ocl_lanemath_h8_ilogbf8(lanemath_border_float8);
+/** exponent of x as an integer; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_int8 lanemath_ilogbf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(ilogbf8, int8, float8, x);
+}
+#define lanemath_ilogbf8(x) \
+/** exponent of x as an integer; 8 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(ilogbf8, int8, float8, x)
+lanemath_border_int16 __ocl_lanemath_h8_ilogbf16(lanemath_border_float16);
+/** exponent of x as an integer; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_int16 lanemath_ilogbf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(ilogbf16, int16, float16, x);
+}
+#define lanemath_ilogbf16(x) \
+/** exponent of x as an integer; 16 lanes of float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(ilogbf16, int16, float16, x)
 
-/* double logb(double x)
- * exponent of x as a floating value. */
-LANEMATH_DECLARE(UNARY, logb, , double, double)
+/** exponent of x as a floating value; one double. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_logb1(lanemath_double1 x) LANEMATH_NAMED("logb1");
+/** exponent of x as a floating value; 2 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_logb2(lanemath_double2 x) LANEMATH_NAMED("logb2");
+lanemath_border_double3 __ocl_lanemath_h8_logb3(lanemath_border_double3);
+/** exponent of x as a floating value; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_logb3(lanemath_double3 x) {
+  return LANEMATH_UNARY(logb3, double3, double3, x);
+}
+#define lanemath_logb3(x) \
+/** exponent of x as a floating value; 3 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(logb3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_logb4(lanemath_border_double4);
+/** exponent of x as a floating value; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_logb4(lanemath_double4 x) {
+  return LANEMATH_UNARY(logb4, double4, double4, x);
+}
+#define lanemath_logb4(x) \
+/** exponent of x as a floating value; 4 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(logb4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_logb8(lanemath_border_double8);
+/** exponent of x as a floating value; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_logb8(lanemath_double8 x) {
+  return LANEMATH_UNARY(logb8, double8, double8, x);
+}
+#define lanemath_logb8(x) \
+/** exponent of x as a floating value; 8 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(logb8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_logb16(lanemath_border_double16);
+/** exponent of x as a floating value; 16 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_logb16(lanemath_double16 x) {
+  return LANEMATH_UNARY(logb16, double16, double16, x);
+}
+#define lanemath_logb16(x) \
+/** exponent of x as a floating value; 16 lanes of double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(logb16, double16, double16, x)
 
-/* float logbf(float x)
- * exponent of x as a floating value. */
-LANEMATH_DECLARE(UNARY, logbf, , float, float)
+/** exponent of x as a floating value; one float. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_logbf1(lanemath_float1 x) LANEMATH_NAMED("logbf1");
+/** exponent of x as a floating value; 2 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_logbf2(lanemath_float2 x) LANEMATH_NAMED("logbf2");
+/** exponent of x as a floating value; 3 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_logbf3(lanemath_float3 x) LANEMATH_NAMED("logbf3");
+/** exponent of x as a floating value; 4 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_logbf4(lanemath_float4 x) LANEMATH_NAMED("logbf4");
+lanemath_border_float8 __ocl_lanemath_h8_logbf8(lanemath_border_float8);
+/** exponent of x as a floating value; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_logbf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(logbf8, float8, float8, x);
+}
+#define lanemath_logbf8(x) \
+/** exponent of x as a floating value; 8 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(logbf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_logbf16(lanemath_border_float16);
+/** exponent of x as a floating value; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_logbf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(logbf16, float16, float16, x);
+}
+#define lanemath_logbf16(x) \
+/** exponent of x as a floating value; 16 lanes of float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(logbf16, float16, float16, x)
 
-/* double nan(ulong x)
- * a quiet NaN with the payload x. */
-LANEMATH_DECLARE(UNARY, nan, , double, ulong)
+/** a quiet NaN with the payload x; one ulong. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_nan1(lanemath_ulong1 x) LANEMATH_NAMED("nan1");
+/** a quiet NaN with the payload x; 2 lanes of ulong. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_nan2(lanemath_ulong2 x) LANEMATH_NAMED("nan2");
+lanemath_border_double3 __ocl_lanemath_h8_nan3(lanemath_border_ulong3);
+/** a quiet NaN with the payload x; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_nan3(lanemath_ulong3 x) {
+  return LANEMATH_UNARY(nan3, double3, ulong3, x);
+}
+#define lanemath_nan3(x) \
+/** a quiet NaN with the payload x; 3 lanes of ulong. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(nan3, double3, ulong3, x)
+lanemath_border_double4 __ocl_lanemath_h8_nan4(lanemath_border_ulong4);
+/** a quiet NaN with the payload x; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_nan4(lanemath_ulong4 x) {
+  return LANEMATH_UNARY(nan4, double4, ulong4, x);
+}
+#define lanemath_nan4(x) \
+/** a quiet NaN with the payload x; 4 lanes of ulong. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(nan4, double4, ulong4, x)
+lanemath_border_double8 __ocl_lanemath_h8_nan8(lanemath_border_ulong8);
+/** a quiet NaN with the payload x; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_nan8(lanemath_ulong8 x) {
+  return LANEMATH_UNARY(nan8, double8, ulong8, x);
+}
+#define lanemath_nan8(x) \
+/** a quiet NaN with the payload x; 8 lanes of ulong. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(nan8, double8, ulong8, x)
+lanemath_border_double16 __ocl_lanemath_h8_nan16(lanemath_border_ulong16);
+/** a quiet NaN with the payload x; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_nan16(lanemath_ulong16 x) {
+  return LANEMATH_UNARY(nan16, double16, ulong16, x);
+}
+#define lanemath_nan16(x) \
+/** a quiet NaN with the payload x; 16 lanes of ulong. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(nan16, double16, ulong16, x)
 
-/* float nanf(uint x)
- * a quiet NaN with the payload x. */
-LANEMATH_DECLARE(UNARY, nanf, , float, uint)
+/** a quiet NaN with the payload x; one uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_nanf1(lanemath_uint1 x) LANEMATH_NAMED("nanf1");
+/** a quiet NaN with the payload x; 2 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_nanf2(lanemath_uint2 x) LANEMATH_NAMED("nanf2");
+/** a quiet NaN with the payload x; 3 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_nanf3(lanemath_uint3 x) LANEMATH_NAMED("nanf3");
+/** a quiet NaN with the payload x; 4 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_nanf4(lanemath_uint4 x) LANEMATH_NAMED("nanf4");
+lanemath_border_float8 __ocl_lanemath_h8_nanf8(lanemath_border_uint8);
+/** a quiet NaN with the payload x; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_nanf8(lanemath_uint8 x) {
+  return LANEMATH_UNARY(nanf8, float8, uint8, x);
+}
+#define lanemath_nanf8(x) \
+/** a quiet NaN with the payload x; 8 lanes of uint. Exact, or rounded once. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(nanf8, float8, uint8, x)
+lanemath_border_float16 __ocl_lanemath_h8_nanf16(lanemath_border_uint16);
+/** a quiet NaN with the payload x; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_nanf16(lanemath_uint16 x) {
+  return LANEMATH_UNARY(nanf16, float16, uint16, x);
+}
+#define lanemath_nanf16(x) \
+/** a quiet NaN with the payload x; 16 lanes of uint. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */ \
+  LANEMATH_UNARY(nanf16, float16, uint16, x)
 
-/* double nextafter(double x, double y)
- * the value next to x in the direction of y. */
-LANEMATH_DECLARE(BINARY, nextafter, , double, double, double)
+/** the value next to x in the direction of y; one double. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_nextafter1(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("nextafter1");
+/** the value next to x in the direction of y; 2 lanes of double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_nextafter2(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("nextafter2");
+lanemath_border_double3 __ocl_lanemath_h8_nextafter3(lanemath_border_double3, lanemath_border_double3);
+/** the value next to x in the direction of y; 3 lanes of double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_nextafter3(lanemath_double3 x, lanemath_double3 y) {
+  return LANEMATH_BINARY(nextafter3, double3, double3, double3, x, y);
+}
+#define lanemath_nextafter3(x, y) \
+/** the value next to x in the direction of y; 3 lanes of double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(nextafter3, double3, double3, double3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_nextafter4(lanemath_border_double4, lanemath_border_double4);
+/** the value next to x in the direction of y; 4 lanes of double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_nextafter4(lanemath_double4 x, lanemath_double4 y) {
+  return LANEMATH_BINARY(nextafter4, double4, double4, double4, x, y);
+}
+#define lanemath_nextafter4(x, y) \
+/** the value next to x in the direction of y; 4 lanes of double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(nextafter4, double4, double4, double4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_nextafter8(lanemath_border_double8, lanemath_border_double8);
+/** the value next to x in the direction of y; 8 lanes of double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_nextafter8(lanemath_double8 x, lanemath_double8 y) {
+  return LANEMATH_BINARY(nextafter8, double8, double8, double8, x, y);
+}
+#define lanemath_nextafter8(x, y) \
+/** the value next to x in the direction of y; 8 lanes of double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(nextafter8, double8, double8, double8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_nextafter16(lanemath_border_double16, lanemath_border_double16);
+/** the value next to x in the direction of y; 16 lanes of double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_nextafter16(lanemath_double16 x, lanemath_double16 y) {
+  return LANEMATH_BINARY(nextafter16, double16, double16, double16, x, y);
+}
+#define lanemath_nextafter16(x, y) \
+/** the value next to x in the direction of y; 16 lanes of double. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(nextafter16, double16, double16, double16, x, y)
 
-/* float nextafterf(float x, float y)
- * the value next to x in the direction of y. */
-LANEMATH_DECLARE(BINARY, nextafterf, , float, float, float)
+/** the value next to x in the direction of y; one float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_nextafterf1(lanemath_float1 x, lanemath_float1 y) LANEMATH_NAMED("nextafterf1");
+/** the value next to x in the direction of y; 2 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_nextafterf2(lanemath_float2 x, lanemath_float2 y) LANEMATH_NAMED("nextafterf2");
+/** the value next to x in the direction of y; 3 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_nextafterf3(lanemath_float3 x, lanemath_float3 y) LANEMATH_NAMED("nextafterf3");
+/** the value next to x in the direction of y; 4 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_nextafterf4(lanemath_float4 x, lanemath_float4 y) LANEMATH_NAMED("nextafterf4");
+lanemath_border_float8 __ocl_lanemath_h8_nextafterf8(lanemath_border_float8, lanemath_border_float8);
+/** the value next to x in the direction of y; 8 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_nextafterf8(lanemath_float8 x, lanemath_float8 y) {
+  return LANEMATH_BINARY(nextafterf8, float8, float8, float8, x, y);
+}
+#define lanemath_nextafterf8(x, y) \
+/** the value next to x in the direction of y; 8 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(nextafterf8, float8, float8, float8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_nextafterf16(lanemath_border_float16, lanemath_border_float16);
+/** the value next to x in the direction of y; 16 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_nextafterf16(lanemath_float16 x, lanemath_float16 y) {
+  return LANEMATH_BINARY(nextafterf16, float16, float16, float16, x, y);
+}
+#define lanemath_nextafterf16(x, y) \
+/** the value next to x in the direction of y; 16 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(nextafterf16, float16, float16, float16, x, y)
 
-/* double fmod(double x, double y)
- * remainder of x / y, quotient truncated. */
-LANEMATH_DECLARE(BINARY, fmod, , double, double, double)
+/** remainder of x / y, quotient truncated; one double. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_fmod1(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("fmod1");
+/** remainder of x / y, quotient truncated; 2 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_fmod2(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("fmod2");
+lanemath_border_double3 __ocl_lanemath_h8_fmod3(lanemath_border_double3, lanemath_border_double3);
+/** remainder of x / y, quotient truncated; 3 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_fmod3(lanemath_double3 x, lanemath_double3 y) {
+  return LANEMATH_BINARY(fmod3, double3, double3, double3, x, y);
+}
+#define lanemath_fmod3(x, y) \
+/** remainder of x / y, quotient truncated; 3 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmod3, double3, double3, double3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_fmod4(lanemath_border_double4, lanemath_border_double4);
+/** remainder of x / y, quotient truncated; 4 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_fmod4(lanemath_double4 x, lanemath_double4 y) {
+  return LANEMATH_BINARY(fmod4, double4, double4, double4, x, y);
+}
+#define lanemath_fmod4(x, y) \
+/** remainder of x / y, quotient truncated; 4 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmod4, double4, double4, double4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_fmod8(lanemath_border_double8, lanemath_border_double8);
+/** remainder of x / y, quotient truncated; 8 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_fmod8(lanemath_double8 x, lanemath_double8 y) {
+  return LANEMATH_BINARY(fmod8, double8, double8, double8, x, y);
+}
+#define lanemath_fmod8(x, y) \
+/** remainder of x / y, quotient truncated; 8 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmod8, double8, double8, double8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_fmod16(lanemath_border_double16, lanemath_border_double16);
+/** remainder of x / y, quotient truncated; 16 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_fmod16(lanemath_double16 x, lanemath_double16 y) {
+  return LANEMATH_BINARY(fmod16, double16, double16, double16, x, y);
+}
+#define lanemath_fmod16(x, y) \
+/** remainder of x / y, quotient truncated; 16 lanes of double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmod16, double16, double16, double16, x, y)
 
-/* float fmodf(float x, float y)
- * remainder of x / y, quotient truncated. */
-LANEMATH_DECLARE(BINARY, fmodf, , float, float, float)
+/** remainder of x / y, quotient truncated; one float. Exact, or rounded once. Domain and special values: at the head
+ * of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_fmodf1(lanemath_float1 x, lanemath_float1 y) LANEMATH_NAMED("fmodf1");
+/** remainder of x / y, quotient truncated; 2 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_fmodf2(lanemath_float2 x, lanemath_float2 y) LANEMATH_NAMED("fmodf2");
+/** remainder of x / y, quotient truncated; 3 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_fmodf3(lanemath_float3 x, lanemath_float3 y) LANEMATH_NAMED("fmodf3");
+/** remainder of x / y, quotient truncated; 4 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_fmodf4(lanemath_float4 x, lanemath_float4 y) LANEMATH_NAMED("fmodf4");
+lanemath_border_float8 __ocl_lanemath_h8_fmodf8(lanemath_border_float8, lanemath_border_float8);
+/** remainder of x / y, quotient truncated; 8 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_fmodf8(lanemath_float8 x, lanemath_float8 y) {
+  return LANEMATH_BINARY(fmodf8, float8, float8, float8, x, y);
+}
+#define lanemath_fmodf8(x, y) \
+/** remainder of x / y, quotient truncated; 8 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmodf8, float8, float8, float8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_fmodf16(lanemath_border_float16, lanemath_border_float16);
+/** remainder of x / y, quotient truncated; 16 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_fmodf16(lanemath_float16 x, lanemath_float16 y) {
+  return LANEMATH_BINARY(fmodf16, float16, float16, float16, x, y);
+}
+#define lanemath_fmodf16(x, y) \
+/** remainder of x / y, quotient truncated; 16 lanes of float. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(fmodf16, float16, float16, float16, x, y)
 
-/* double remainder(double x, double y)
- * remainder of x / y, quotient to nearest even. */
-LANEMATH_DECLARE(BINARY, remainder, , double, double, double)
+/** remainder of x / y, quotient to nearest even; one double. Exact, or rounded once. Domain and special values: at
+ * the head of <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_remainder1(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("remainder1");
+/** remainder of x / y, quotient to nearest even; 2 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_remainder2(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("remainder2");
+lanemath_border_double3 __ocl_lanemath_h8_remainder3(lanemath_border_double3, lanemath_border_double3);
+/** remainder of x / y, quotient to nearest even; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_remainder3(lanemath_double3 x, lanemath_double3 y) {
+  return LANEMATH_BINARY(remainder3, double3, double3, double3, x, y);
+}
+#define lanemath_remainder3(x, y) \
+/** remainder of x / y, quotient to nearest even; 3 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(remainder3, double3, double3, double3, x, y)
+lanemath_border_double4 __ocl_lanemath_h8_remainder4(lanemath_border_double4, lanemath_border_double4);
+/** remainder of x / y, quotient to nearest even; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_remainder4(lanemath_double4 x, lanemath_double4 y) {
+  return LANEMATH_BINARY(remainder4, double4, double4, double4, x, y);
+}
+#define lanemath_remainder4(x, y) \
+/** remainder of x / y, quotient to nearest even; 4 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(remainder4, double4, double4, double4, x, y)
+lanemath_border_double8 __ocl_lanemath_h8_remainder8(lanemath_border_double8, lanemath_border_double8);
+/** remainder of x / y, quotient to nearest even; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_remainder8(lanemath_double8 x, lanemath_double8 y) {
+  return LANEMATH_BINARY(remainder8, double8, double8, double8, x, y);
+}
+#define lanemath_remainder8(x, y) \
+/** remainder of x / y, quotient to nearest even; 8 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(remainder8, double8, double8, double8, x, y)
+lanemath_border_double16 __ocl_lanemath_h8_remainder16(lanemath_border_double16, lanemath_border_double16);
+/** remainder of x / y, quotient to nearest even; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_remainder16(lanemath_double16 x, lanemath_double16 y) {
+  return LANEMATH_BINARY(remainder16, double16, double16, double16, x, y);
+}
+#define lanemath_remainder16(x, y) \
+/** remainder of x / y, quotient to nearest even; 16 lanes of double. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(remainder16, double16, double16, double16, x, y)
 
-/* float remainderf(float x, float y)
- * remainder of x / y, quotient to nearest even. */
-LANEMATH_DECLARE(BINARY, remainderf, , float, float, float)
+/** remainder of x / y, quotient to nearest even; one float. Exact, or rounded once. Domain and special values: at the
+ * head of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_remainderf1(lanemath_float1 x, lanemath_float1 y) LANEMATH_NAMED("remainderf1");
+/** remainder of x / y, quotient to nearest even; 2 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_remainderf2(lanemath_float2 x, lanemath_float2 y) LANEMATH_NAMED("remainderf2");
+/** remainder of x / y, quotient to nearest even; 3 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_remainderf3(lanemath_float3 x, lanemath_float3 y) LANEMATH_NAMED("remainderf3");
+/** remainder of x / y, quotient to nearest even; 4 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_remainderf4(lanemath_float4 x, lanemath_float4 y) LANEMATH_NAMED("remainderf4");
+lanemath_border_float8 __ocl_lanemath_h8_remainderf8(lanemath_border_float8, lanemath_border_float8);
+/** remainder of x / y, quotient to nearest even; 8 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_remainderf8(lanemath_float8 x, lanemath_float8 y) {
+  return LANEMATH_BINARY(remainderf8, float8, float8, float8, x, y);
+}
+#define lanemath_remainderf8(x, y) \
+/** remainder of x / y, quotient to nearest even; 8 lanes of float. Exact, or rounded once. Domain and special values:
+ * at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(remainderf8, float8, float8, float8, x, y)
+lanemath_border_float16 __ocl_lanemath_h8_remainderf16(lanemath_border_float16, lanemath_border_float16);
+/** remainder of x / y, quotient to nearest even; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_remainderf16(lanemath_float16 x, lanemath_float16 y) {
+  return LANEMATH_BINARY(remainderf16, float16, float16, float16, x, y);
+}
+#define lanemath_remainderf16(x, y) \
+/** remainder of x / y, quotient to nearest even; 16 lanes of float. Exact, or rounded once. Domain and special
+ * values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY(remainderf16, float16, float16, float16, x, y)
 
-/* double remquo(double x, double y, int* second)
- * remainder of x / y; low bits of the quotient through the pointer. */
-LANEMATH_DECLARE(BINARY_POINTER, remquo, , double, double, double, int)
+/** remainder of x / y; low bits of the quotient through the pointer; one double. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_remquo1(lanemath_double1 x, lanemath_double1 y, lanemath_int1* quotient) LANEMATH_NAMED("remquo1");
+/** remainder of x / y; low bits of the quotient through the pointer; 2 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_remquo2(lanemath_double2 x, lanemath_double2 y, lanemath_int2* quotient) LANEMATH_NAMED("remquo2");
+lanemath_border_double3 __ocl_lanemath_h8_remquo3(lanemath_border_double3, lanemath_border_double3, lanemath_int3*);
+/** remainder of x / y; low bits of the quotient through the pointer; 3 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_remquo3(lanemath_double3 x, lanemath_double3 y, lanemath_int3* quotient) {
+  return LANEMATH_BINARY_POINTER(remquo3, double3, double3, double3, int3, x, y, quotient);
+}
+#define lanemath_remquo3(x, y, quotient) \
+/** remainder of x / y; low bits of the quotient through the pointer; 3 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY_POINTER(remquo3, double3, double3, double3, int3, x, y, quotient)
+lanemath_border_double4 __ocl_lanemath_h8_remquo4(lanemath_border_double4, lanemath_border_double4, lanemath_int4*);
+/** remainder of x / y; low bits of the quotient through the pointer; 4 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_remquo4(lanemath_double4 x, lanemath_double4 y, lanemath_int4* quotient) {
+  return LANEMATH_BINARY_POINTER(remquo4, double4, double4, double4, int4, x, y, quotient);
+}
+#define lanemath_remquo4(x, y, quotient) \
+/** remainder of x / y; low bits of the quotient through the pointer; 4 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY_POINTER(remquo4, double4, double4, double4, int4, x, y, quotient)
+lanemath_border_double8 __ocl_lanemath_h8_remquo8(lanemath_border_double8, lanemath_border_double8, lanemath_int8*);
+/** remainder of x / y; low bits of the quotient through the pointer; 8 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_remquo8(lanemath_double8 x, lanemath_double8 y, lanemath_int8* quotient) {
+  return LANEMATH_BINARY_POINTER(remquo8, double8, double8, double8, int8, x, y, quotient);
+}
+#define lanemath_remquo8(x, y, quotient) \
+/** remainder of x / y; low bits of the quotient through the pointer; 8 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY_POINTER(remquo8, double8, double8, double8, int8, x, y, quotient)
+lanemath_border_double16 __ocl_lanemath_h8_remquo16(lanemath_border_double16, lanemath_border_double16, lanemath_int16*);
+/** remainder of x / y; low bits of the quotient through the pointer; 16 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_remquo16(lanemath_double16 x, lanemath_double16 y, lanemath_int16* quotient) {
+  return LANEMATH_BINARY_POINTER(remquo16, double16, double16, double16, int16, x, y, quotient);
+}
+#define lanemath_remquo16(x, y, quotient) \
+/** remainder of x / y; low bits of the quotient through the pointer; 16 lanes of double. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY_POINTER(remquo16, double16, double16, double16, int16, x, y, quotient)
 
-/* float remquof(float x, float y, int* second)
- * remainder of x / y; low bits of the quotient through the pointer. */
-LANEMATH_DECLARE(BINARY_POINTER, remquof, , float, float, float, int)
+/** remainder of x / y; low bits of the quotient through the pointer; one float. Exact, or rounded once. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_remquof1(lanemath_float1 x, lanemath_float1 y, lanemath_int1* quotient) LANEMATH_NAMED("remquof1");
+/** remainder of x / y; low bits of the quotient through the pointer; 2 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_remquof2(lanemath_float2 x, lanemath_float2 y, lanemath_int2* quotient) LANEMATH_NAMED("remquof2");
+/** remainder of x / y; low bits of the quotient through the pointer; 3 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_remquof3(lanemath_float3 x, lanemath_float3 y, lanemath_int3* quotient) LANEMATH_NAMED("remquof3");
+/** remainder of x / y; low bits of the quotient through the pointer; 4 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_remquof4(lanemath_float4 x, lanemath_float4 y, lanemath_int4* quotient) LANEMATH_NAMED("remquof4");
+lanemath_border_float8 __ocl_lanemath_h8_remquof8(lanemath_border_float8, lanemath_border_float8, lanemath_int8*);
+/** remainder of x / y; low bits of the quotient through the pointer; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_remquof8(lanemath_float8 x, lanemath_float8 y, lanemath_int8* quotient) {
+  return LANEMATH_BINARY_POINTER(remquof8, float8, float8, float8, int8, x, y, quotient);
+}
+#define lanemath_remquof8(x, y, quotient) \
+/** remainder of x / y; low bits of the quotient through the pointer; 8 lanes of float. Exact, or rounded once. Domain
+ * and special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY_POINTER(remquof8, float8, float8, float8, int8, x, y, quotient)
+lanemath_border_float16 __ocl_lanemath_h8_remquof16(lanemath_border_float16, lanemath_border_float16, lanemath_int16*);
+/** remainder of x / y; low bits of the quotient through the pointer; 16 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_remquof16(lanemath_float16 x, lanemath_float16 y, lanemath_int16* quotient) {
+  return LANEMATH_BINARY_POINTER(remquof16, float16, float16, float16, int16, x, y, quotient);
+}
+#define lanemath_remquof16(x, y, quotient) \
+/** remainder of x / y; low bits of the quotient through the pointer; 16 lanes of float. Exact, or rounded once.
+ * Domain and special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_BINARY_POINTER(remquof16, float16, float16, float16, int16, x, y, quotient)
 
-/* double fma(double x, double y, double z)
- * x y + z with one rounding.
- * Largest error in ulp: default 0.5. */
-LANEMATH_DECLARE(TERNARY, fma, , double, double, double, double)
+/** x y + z with one rounding; one double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double1 lanemath_fma1(lanemath_double1 x, lanemath_double1 y, lanemath_double1 z) LANEMATH_NAMED("fma1");
+/** x y + z with one rounding; 2 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_double2 lanemath_fma2(lanemath_double2 x, lanemath_double2 y, lanemath_double2 z) LANEMATH_NAMED("fma2");
+lanemath_border_double3 __ocl_lanemath_h8_fma3(lanemath_border_double3, lanemath_border_double3, lanemath_border_double3);
+/** x y + z with one rounding; 3 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_fma3(lanemath_double3 x, lanemath_double3 y, lanemath_double3 z) {
+  return LANEMATH_TERNARY(fma3, double3, double3, double3, double3, x, y, z);
+}
+#define lanemath_fma3(x, y, z) \
+/** x y + z with one rounding; 3 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_TERNARY(fma3, double3, double3, double3, double3, x, y, z)
+lanemath_border_double4 __ocl_lanemath_h8_fma4(lanemath_border_double4, lanemath_border_double4, lanemath_border_double4);
+/** x y + z with one rounding; 4 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_fma4(lanemath_double4 x, lanemath_double4 y, lanemath_double4 z) {
+  return LANEMATH_TERNARY(fma4, double4, double4, double4, double4, x, y, z);
+}
+#define lanemath_fma4(x, y, z) \
+/** x y + z with one rounding; 4 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_TERNARY(fma4, double4, double4, double4, double4, x, y, z)
+lanemath_border_double8 __ocl_lanemath_h8_fma8(lanemath_border_double8, lanemath_border_double8, lanemath_border_double8);
+/** x y + z with one rounding; 8 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_fma8(lanemath_double8 x, lanemath_double8 y, lanemath_double8 z) {
+  return LANEMATH_TERNARY(fma8, double8, double8, double8, double8, x, y, z);
+}
+#define lanemath_fma8(x, y, z) \
+/** x y + z with one rounding; 8 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_TERNARY(fma8, double8, double8, double8, double8, x, y, z)
+lanemath_border_double16 __ocl_lanemath_h8_fma16(lanemath_border_double16, lanemath_border_double16, lanemath_border_double16);
+/** x y + z with one rounding; 16 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_fma16(lanemath_double16 x, lanemath_double16 y, lanemath_double16 z) {
+  return LANEMATH_TERNARY(fma16, double16, double16, double16, double16, x, y, z);
+}
+#define lanemath_fma16(x, y, z) \
+/** x y + z with one rounding; 16 lanes of double. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_TERNARY(fma16, double16, double16, double16, double16, x, y, z)
 
-/* float fmaf(float x, float y, float z)
- * x y + z with one rounding.
- * Largest error in ulp: default 0.5; _rm 0.5. */
-LANEMATH_DECLARE(TERNARY, fmaf, , float, float, float, float)
-LANEMATH_DECLARE(TERNARY, fmaf, _rm, float, float, float, float)
+/** x y + z with one rounding; one float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_fmaf1(lanemath_float1 x, lanemath_float1 y, lanemath_float1 z) LANEMATH_NAMED("fmaf1");
+/** x y + z with one rounding; 2 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_fmaf2(lanemath_float2 x, lanemath_float2 y, lanemath_float2 z) LANEMATH_NAMED("fmaf2");
+/** x y + z with one rounding; 3 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_fmaf3(lanemath_float3 x, lanemath_float3 y, lanemath_float3 z) LANEMATH_NAMED("fmaf3");
+/** x y + z with one rounding; 4 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_fmaf4(lanemath_float4 x, lanemath_float4 y, lanemath_float4 z) LANEMATH_NAMED("fmaf4");
+lanemath_border_float8 __ocl_lanemath_h8_fmaf8(lanemath_border_float8, lanemath_border_float8, lanemath_border_float8);
+/** x y + z with one rounding; 8 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_fmaf8(lanemath_float8 x, lanemath_float8 y, lanemath_float8 z) {
+  return LANEMATH_TERNARY(fmaf8, float8, float8, float8, float8, x, y, z);
+}
+#define lanemath_fmaf8(x, y, z) \
+/** x y + z with one rounding; 8 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_TERNARY(fmaf8, float8, float8, float8, float8, x, y, z)
+lanemath_border_float16 __ocl_lanemath_h8_fmaf16(lanemath_border_float16, lanemath_border_float16, lanemath_border_float16);
+/** x y + z with one rounding; 16 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_fmaf16(lanemath_float16 x, lanemath_float16 y, lanemath_float16 z) {
+  return LANEMATH_TERNARY(fmaf16, float16, float16, float16, float16, x, y, z);
+}
+#define lanemath_fmaf16(x, y, z) \
+/** x y + z with one rounding; 16 lanes of float. Largest error 0.5 ulp. Domain and special values: at the head of
+ * <lanemath/manipulation.h>. */ \
+  LANEMATH_TERNARY(fmaf16, float16, float16, float16, float16, x, y, z)
+
+/** x y + z with one rounding; one float. The same function as the default form. Largest error 0.5 ulp. Domain and
+ * special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float1 lanemath_fmaf1_rm(lanemath_float1 x, lanemath_float1 y, lanemath_float1 z) LANEMATH_NAMED("fmaf1_rm");
+/** x y + z with one rounding; 2 lanes of float. The same function as the default form. Largest error 0.5 ulp. Domain
+ * and special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float2 lanemath_fmaf2_rm(lanemath_float2 x, lanemath_float2 y, lanemath_float2 z) LANEMATH_NAMED("fmaf2_rm");
+/** x y + z with one rounding; 3 lanes of float. The same function as the default form. Largest error 0.5 ulp. Domain
+ * and special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float3 lanemath_fmaf3_rm(lanemath_float3 x, lanemath_float3 y, lanemath_float3 z) LANEMATH_NAMED("fmaf3_rm");
+/** x y + z with one rounding; 4 lanes of float. The same function as the default form. Largest error 0.5 ulp. Domain
+ * and special values: at the head of <lanemath/manipulation.h>. */
+lanemath_float4 lanemath_fmaf4_rm(lanemath_float4 x, lanemath_float4 y, lanemath_float4 z) LANEMATH_NAMED("fmaf4_rm");
+lanemath_border_float8 __ocl_lanemath_h8_fmaf8_rm(lanemath_border_float8, lanemath_border_float8, lanemath_border_float8);
+/** x y + z with one rounding; 8 lanes of float. The same function as the default form. Largest error 0.5 ulp. Domain
+ * and special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_fmaf8_rm(lanemath_float8 x, lanemath_float8 y, lanemath_float8 z) {
+  return LANEMATH_TERNARY(fmaf8_rm, float8, float8, float8, float8, x, y, z);
+}
+#define lanemath_fmaf8_rm(x, y, z) \
+/** x y + z with one rounding; 8 lanes of float. The same function as the default form. Largest error 0.5 ulp. Domain
+ * and special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_TERNARY(fmaf8_rm, float8, float8, float8, float8, x, y, z)
+lanemath_border_float16 __ocl_lanemath_h8_fmaf16_rm(lanemath_border_float16, lanemath_border_float16, lanemath_border_float16);
+/** x y + z with one rounding; 16 lanes of float. The same function as the default form. Largest error 0.5 ulp. Domain
+ * and special values: at the head of <lanemath/manipulation.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_fmaf16_rm(lanemath_float16 x, lanemath_float16 y, lanemath_float16 z) {
+  return LANEMATH_TERNARY(fmaf16_rm, float16, float16, float16, float16, x, y, z);
+}
+#define lanemath_fmaf16_rm(x, y, z) \
+/** x y + z with one rounding; 16 lanes of float. The same function as the default form. Largest error 0.5 ulp. Domain
+ * and special values: at the head of <lanemath/manipulation.h>. */ \
+  LANEMATH_TERNARY(fmaf16_rm, float16, float16, float16, float16, x, y, z)
 
 LANEMATH_END
 

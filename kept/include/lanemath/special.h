@@ -8,61 +8,569 @@
 
 #include <lanemath/types.h>
 
+#pragma GCC system_header
+
 LANEMATH_BEGIN
 
-/* double erf(double x)
- * error function of x.
- * Largest error in ulp: default 2.55; _native 315000. */
-LANEMATH_DECLARE(UNARY, erf, , double, double)
-LANEMATH_DECLARE(UNARY, erf, _native, double, double)
+/** error function of x; one double. Largest error 2.55 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_double1 lanemath_erf1(lanemath_double1 x) LANEMATH_NAMED("erf1");
+/** error function of x; 2 lanes of double. Largest error 2.55 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_double2 lanemath_erf2(lanemath_double2 x) LANEMATH_NAMED("erf2");
+lanemath_border_double3 __ocl_lanemath_h8_erf3(lanemath_border_double3);
+/** error function of x; 3 lanes of double. Largest error 2.55 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_erf3(lanemath_double3 x) {
+  return LANEMATH_UNARY(erf3, double3, double3, x);
+}
+#define lanemath_erf3(x) \
+/** error function of x; 3 lanes of double. Largest error 2.55 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erf3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_erf4(lanemath_border_double4);
+/** error function of x; 4 lanes of double. Largest error 2.55 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_erf4(lanemath_double4 x) {
+  return LANEMATH_UNARY(erf4, double4, double4, x);
+}
+#define lanemath_erf4(x) \
+/** error function of x; 4 lanes of double. Largest error 2.55 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erf4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_erf8(lanemath_border_double8);
+/** error function of x; 8 lanes of double. Largest error 2.55 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_erf8(lanemath_double8 x) {
+  return LANEMATH_UNARY(erf8, double8, double8, x);
+}
+#define lanemath_erf8(x) \
+/** error function of x; 8 lanes of double. Largest error 2.55 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erf8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_erf16(lanemath_border_double16);
+/** error function of x; 16 lanes of double. Largest error 2.55 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_erf16(lanemath_double16 x) {
+  return LANEMATH_UNARY(erf16, double16, double16, x);
+}
+#define lanemath_erf16(x) \
+/** error function of x; 16 lanes of double. Largest error 2.55 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erf16, double16, double16, x)
 
-/* float erff(float x)
- * error function of x.
- * Largest error in ulp: default 1.93; _native 277. */
-LANEMATH_DECLARE(UNARY, erff, , float, float)
-LANEMATH_DECLARE(UNARY, erff, _native, float, float)
+/** error function of x; one double. Largest error 315000 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_double1 lanemath_erf1_native(lanemath_double1 x) LANEMATH_NAMED("erf1_native");
+/** error function of x; 2 lanes of double. Largest error 315000 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_double2 lanemath_erf2_native(lanemath_double2 x) LANEMATH_NAMED("erf2_native");
+lanemath_border_double3 __ocl_lanemath_h8_erf3_native(lanemath_border_double3);
+/** error function of x; 3 lanes of double. Largest error 315000 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_erf3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(erf3_native, double3, double3, x);
+}
+#define lanemath_erf3_native(x) \
+/** error function of x; 3 lanes of double. Largest error 315000 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erf3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_erf4_native(lanemath_border_double4);
+/** error function of x; 4 lanes of double. Largest error 315000 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_erf4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(erf4_native, double4, double4, x);
+}
+#define lanemath_erf4_native(x) \
+/** error function of x; 4 lanes of double. Largest error 315000 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erf4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_erf8_native(lanemath_border_double8);
+/** error function of x; 8 lanes of double. Largest error 315000 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_erf8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(erf8_native, double8, double8, x);
+}
+#define lanemath_erf8_native(x) \
+/** error function of x; 8 lanes of double. Largest error 315000 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erf8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_erf16_native(lanemath_border_double16);
+/** error function of x; 16 lanes of double. Largest error 315000 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_erf16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(erf16_native, double16, double16, x);
+}
+#define lanemath_erf16_native(x) \
+/** error function of x; 16 lanes of double. Largest error 315000 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erf16_native, double16, double16, x)
 
-/* double erfc(double x)
- * complementary error function, 1 - erf(x).
- * Largest error in ulp: default 2.13; _native 6.78e+06. */
-LANEMATH_DECLARE(UNARY, erfc, , double, double)
-LANEMATH_DECLARE(UNARY, erfc, _native, double, double)
+/** error function of x; one float. Largest error 1.93 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_float1 lanemath_erff1(lanemath_float1 x) LANEMATH_NAMED("erff1");
+/** error function of x; 2 lanes of float. Largest error 1.93 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_float2 lanemath_erff2(lanemath_float2 x) LANEMATH_NAMED("erff2");
+/** error function of x; 3 lanes of float. Largest error 1.93 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_float3 lanemath_erff3(lanemath_float3 x) LANEMATH_NAMED("erff3");
+/** error function of x; 4 lanes of float. Largest error 1.93 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_float4 lanemath_erff4(lanemath_float4 x) LANEMATH_NAMED("erff4");
+lanemath_border_float8 __ocl_lanemath_h8_erff8(lanemath_border_float8);
+/** error function of x; 8 lanes of float. Largest error 1.93 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_erff8(lanemath_float8 x) {
+  return LANEMATH_UNARY(erff8, float8, float8, x);
+}
+#define lanemath_erff8(x) \
+/** error function of x; 8 lanes of float. Largest error 1.93 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erff8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_erff16(lanemath_border_float16);
+/** error function of x; 16 lanes of float. Largest error 1.93 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_erff16(lanemath_float16 x) {
+  return LANEMATH_UNARY(erff16, float16, float16, x);
+}
+#define lanemath_erff16(x) \
+/** error function of x; 16 lanes of float. Largest error 1.93 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erff16, float16, float16, x)
 
-/* float erfcf(float x)
- * complementary error function, 1 - erf(x).
- * Largest error in ulp: default 1.77; _native 405. */
-LANEMATH_DECLARE(UNARY, erfcf, , float, float)
-LANEMATH_DECLARE(UNARY, erfcf, _native, float, float)
+/** error function of x; one float. Largest error 277 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_float1 lanemath_erff1_native(lanemath_float1 x) LANEMATH_NAMED("erff1_native");
+/** error function of x; 2 lanes of float. Largest error 277 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_float2 lanemath_erff2_native(lanemath_float2 x) LANEMATH_NAMED("erff2_native");
+/** error function of x; 3 lanes of float. Largest error 277 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_float3 lanemath_erff3_native(lanemath_float3 x) LANEMATH_NAMED("erff3_native");
+/** error function of x; 4 lanes of float. Largest error 277 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_float4 lanemath_erff4_native(lanemath_float4 x) LANEMATH_NAMED("erff4_native");
+lanemath_border_float8 __ocl_lanemath_h8_erff8_native(lanemath_border_float8);
+/** error function of x; 8 lanes of float. Largest error 277 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_erff8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(erff8_native, float8, float8, x);
+}
+#define lanemath_erff8_native(x) \
+/** error function of x; 8 lanes of float. Largest error 277 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erff8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_erff16_native(lanemath_border_float16);
+/** error function of x; 16 lanes of float. Largest error 277 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_erff16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(erff16_native, float16, float16, x);
+}
+#define lanemath_erff16_native(x) \
+/** error function of x; 16 lanes of float. Largest error 277 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erff16_native, float16, float16, x)
 
-/* double lgamma(double x)
- * natural logarithm of |gamma(x)|.
- * Largest error in ulp: default 0.509. */
-LANEMATH_DECLARE(UNARY, lgamma, , double, double)
+/** complementary error function, 1 - erf(x); one double. Largest error 2.13 ulp. Domain and special values: at the
+ * head of <lanemath/special.h>. */
+lanemath_double1 lanemath_erfc1(lanemath_double1 x) LANEMATH_NAMED("erfc1");
+/** complementary error function, 1 - erf(x); 2 lanes of double. Largest error 2.13 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+lanemath_double2 lanemath_erfc2(lanemath_double2 x) LANEMATH_NAMED("erfc2");
+lanemath_border_double3 __ocl_lanemath_h8_erfc3(lanemath_border_double3);
+/** complementary error function, 1 - erf(x); 3 lanes of double. Largest error 2.13 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_erfc3(lanemath_double3 x) {
+  return LANEMATH_UNARY(erfc3, double3, double3, x);
+}
+#define lanemath_erfc3(x) \
+/** complementary error function, 1 - erf(x); 3 lanes of double. Largest error 2.13 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erfc3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_erfc4(lanemath_border_double4);
+/** complementary error function, 1 - erf(x); 4 lanes of double. Largest error 2.13 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_erfc4(lanemath_double4 x) {
+  return LANEMATH_UNARY(erfc4, double4, double4, x);
+}
+#define lanemath_erfc4(x) \
+/** complementary error function, 1 - erf(x); 4 lanes of double. Largest error 2.13 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erfc4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_erfc8(lanemath_border_double8);
+/** complementary error function, 1 - erf(x); 8 lanes of double. Largest error 2.13 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_erfc8(lanemath_double8 x) {
+  return LANEMATH_UNARY(erfc8, double8, double8, x);
+}
+#define lanemath_erfc8(x) \
+/** complementary error function, 1 - erf(x); 8 lanes of double. Largest error 2.13 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erfc8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_erfc16(lanemath_border_double16);
+/** complementary error function, 1 - erf(x); 16 lanes of double. Largest error 2.13 ulp. Domain and special values:
+ * at the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_erfc16(lanemath_double16 x) {
+  return LANEMATH_UNARY(erfc16, double16, double16, x);
+}
+#define lanemath_erfc16(x) \
+/** complementary error function, 1 - erf(x); 16 lanes of double. Largest error 2.13 ulp. Domain and special values:
+ * at the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erfc16, double16, double16, x)
 
-/* float lgammaf(float x)
- * natural logarithm of |gamma(x)|.
- * Largest error in ulp: default 0.51. */
-LANEMATH_DECLARE(UNARY, lgammaf, , float, float)
+/** complementary error function, 1 - erf(x); one double. Largest error 6.78e+06 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+lanemath_double1 lanemath_erfc1_native(lanemath_double1 x) LANEMATH_NAMED("erfc1_native");
+/** complementary error function, 1 - erf(x); 2 lanes of double. Largest error 6.78e+06 ulp. Domain and special
+ * values: at the head of <lanemath/special.h>. */
+lanemath_double2 lanemath_erfc2_native(lanemath_double2 x) LANEMATH_NAMED("erfc2_native");
+lanemath_border_double3 __ocl_lanemath_h8_erfc3_native(lanemath_border_double3);
+/** complementary error function, 1 - erf(x); 3 lanes of double. Largest error 6.78e+06 ulp. Domain and special
+ * values: at the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_erfc3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(erfc3_native, double3, double3, x);
+}
+#define lanemath_erfc3_native(x) \
+/** complementary error function, 1 - erf(x); 3 lanes of double. Largest error 6.78e+06 ulp. Domain and special
+ * values: at the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erfc3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_erfc4_native(lanemath_border_double4);
+/** complementary error function, 1 - erf(x); 4 lanes of double. Largest error 6.78e+06 ulp. Domain and special
+ * values: at the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_erfc4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(erfc4_native, double4, double4, x);
+}
+#define lanemath_erfc4_native(x) \
+/** complementary error function, 1 - erf(x); 4 lanes of double. Largest error 6.78e+06 ulp. Domain and special
+ * values: at the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erfc4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_erfc8_native(lanemath_border_double8);
+/** complementary error function, 1 - erf(x); 8 lanes of double. Largest error 6.78e+06 ulp. Domain and special
+ * values: at the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_erfc8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(erfc8_native, double8, double8, x);
+}
+#define lanemath_erfc8_native(x) \
+/** complementary error function, 1 - erf(x); 8 lanes of double. Largest error 6.78e+06 ulp. Domain and special
+ * values: at the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erfc8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_erfc16_native(lanemath_border_double16);
+/** complementary error function, 1 - erf(x); 16 lanes of double. Largest error 6.78e+06 ulp. Domain and special
+ * values: at the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_erfc16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(erfc16_native, double16, double16, x);
+}
+#define lanemath_erfc16_native(x) \
+/** complementary error function, 1 - erf(x); 16 lanes of double. Largest error 6.78e+06 ulp. Domain and special
+ * values: at the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erfc16_native, double16, double16, x)
 
-/* double lgammar(double x, int* second)
- * natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer.
- * Largest error in ulp: default 0.509. */
-LANEMATH_DECLARE(UNARY_POINTER, lgammar, , double, double, int)
+/** complementary error function, 1 - erf(x); one float. Largest error 1.77 ulp. Domain and special values: at the
+ * head of <lanemath/special.h>. */
+lanemath_float1 lanemath_erfcf1(lanemath_float1 x) LANEMATH_NAMED("erfcf1");
+/** complementary error function, 1 - erf(x); 2 lanes of float. Largest error 1.77 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+lanemath_float2 lanemath_erfcf2(lanemath_float2 x) LANEMATH_NAMED("erfcf2");
+/** complementary error function, 1 - erf(x); 3 lanes of float. Largest error 1.77 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+lanemath_float3 lanemath_erfcf3(lanemath_float3 x) LANEMATH_NAMED("erfcf3");
+/** complementary error function, 1 - erf(x); 4 lanes of float. Largest error 1.77 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+lanemath_float4 lanemath_erfcf4(lanemath_float4 x) LANEMATH_NAMED("erfcf4");
+lanemath_border_float8 __ocl_lanemath_h8_erfcf8(lanemath_border_float8);
+/** complementary error function, 1 - erf(x); 8 lanes of float. Largest error 1.77 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_erfcf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(erfcf8, float8, float8, x);
+}
+#define lanemath_erfcf8(x) \
+/** complementary error function, 1 - erf(x); 8 lanes of float. Largest error 1.77 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erfcf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_erfcf16(lanemath_border_float16);
+/** complementary error function, 1 - erf(x); 16 lanes of float. Largest error 1.77 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_erfcf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(erfcf16, float16, float16, x);
+}
+#define lanemath_erfcf16(x) \
+/** complementary error function, 1 - erf(x); 16 lanes of float. Largest error 1.77 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erfcf16, float16, float16, x)
 
-/* float lgammarf(float x, int* second)
- * natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer.
- * Largest error in ulp: default 0.51. */
-LANEMATH_DECLARE(UNARY_POINTER, lgammarf, , float, float, int)
+/** complementary error function, 1 - erf(x); one float. Largest error 405 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */
+lanemath_float1 lanemath_erfcf1_native(lanemath_float1 x) LANEMATH_NAMED("erfcf1_native");
+/** complementary error function, 1 - erf(x); 2 lanes of float. Largest error 405 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+lanemath_float2 lanemath_erfcf2_native(lanemath_float2 x) LANEMATH_NAMED("erfcf2_native");
+/** complementary error function, 1 - erf(x); 3 lanes of float. Largest error 405 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+lanemath_float3 lanemath_erfcf3_native(lanemath_float3 x) LANEMATH_NAMED("erfcf3_native");
+/** complementary error function, 1 - erf(x); 4 lanes of float. Largest error 405 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+lanemath_float4 lanemath_erfcf4_native(lanemath_float4 x) LANEMATH_NAMED("erfcf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_erfcf8_native(lanemath_border_float8);
+/** complementary error function, 1 - erf(x); 8 lanes of float. Largest error 405 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_erfcf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(erfcf8_native, float8, float8, x);
+}
+#define lanemath_erfcf8_native(x) \
+/** complementary error function, 1 - erf(x); 8 lanes of float. Largest error 405 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erfcf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_erfcf16_native(lanemath_border_float16);
+/** complementary error function, 1 - erf(x); 16 lanes of float. Largest error 405 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_erfcf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(erfcf16_native, float16, float16, x);
+}
+#define lanemath_erfcf16_native(x) \
+/** complementary error function, 1 - erf(x); 16 lanes of float. Largest error 405 ulp. Domain and special values: at
+ * the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(erfcf16_native, float16, float16, x)
 
-/* double tgamma(double x)
- * gamma function of x.
- * Largest error in ulp: default 0.504. */
-LANEMATH_DECLARE(UNARY, tgamma, , double, double)
+/** natural logarithm of |gamma(x)|; one double. Largest error 0.509 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_double1 lanemath_lgamma1(lanemath_double1 x) LANEMATH_NAMED("lgamma1");
+/** natural logarithm of |gamma(x)|; 2 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
+ * head of <lanemath/special.h>. */
+lanemath_double2 lanemath_lgamma2(lanemath_double2 x) LANEMATH_NAMED("lgamma2");
+lanemath_border_double3 __ocl_lanemath_h8_lgamma3(lanemath_border_double3);
+/** natural logarithm of |gamma(x)|; 3 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
+ * head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_lgamma3(lanemath_double3 x) {
+  return LANEMATH_UNARY(lgamma3, double3, double3, x);
+}
+#define lanemath_lgamma3(x) \
+/** natural logarithm of |gamma(x)|; 3 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
+ * head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(lgamma3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_lgamma4(lanemath_border_double4);
+/** natural logarithm of |gamma(x)|; 4 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
+ * head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_lgamma4(lanemath_double4 x) {
+  return LANEMATH_UNARY(lgamma4, double4, double4, x);
+}
+#define lanemath_lgamma4(x) \
+/** natural logarithm of |gamma(x)|; 4 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
+ * head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(lgamma4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_lgamma8(lanemath_border_double8);
+/** natural logarithm of |gamma(x)|; 8 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
+ * head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_lgamma8(lanemath_double8 x) {
+  return LANEMATH_UNARY(lgamma8, double8, double8, x);
+}
+#define lanemath_lgamma8(x) \
+/** natural logarithm of |gamma(x)|; 8 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
+ * head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(lgamma8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_lgamma16(lanemath_border_double16);
+/** natural logarithm of |gamma(x)|; 16 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
+ * head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_lgamma16(lanemath_double16 x) {
+  return LANEMATH_UNARY(lgamma16, double16, double16, x);
+}
+#define lanemath_lgamma16(x) \
+/** natural logarithm of |gamma(x)|; 16 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
+ * head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(lgamma16, double16, double16, x)
 
-/* float tgammaf(float x)
- * gamma function of x.
- * Largest error in ulp: default 0.503. */
-LANEMATH_DECLARE(UNARY, tgammaf, , float, float)
+/** natural logarithm of |gamma(x)|; one float. Largest error 0.51 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_float1 lanemath_lgammaf1(lanemath_float1 x) LANEMATH_NAMED("lgammaf1");
+/** natural logarithm of |gamma(x)|; 2 lanes of float. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */
+lanemath_float2 lanemath_lgammaf2(lanemath_float2 x) LANEMATH_NAMED("lgammaf2");
+/** natural logarithm of |gamma(x)|; 3 lanes of float. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */
+lanemath_float3 lanemath_lgammaf3(lanemath_float3 x) LANEMATH_NAMED("lgammaf3");
+/** natural logarithm of |gamma(x)|; 4 lanes of float. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */
+lanemath_float4 lanemath_lgammaf4(lanemath_float4 x) LANEMATH_NAMED("lgammaf4");
+lanemath_border_float8 __ocl_lanemath_h8_lgammaf8(lanemath_border_float8);
+/** natural logarithm of |gamma(x)|; 8 lanes of float. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_lgammaf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(lgammaf8, float8, float8, x);
+}
+#define lanemath_lgammaf8(x) \
+/** natural logarithm of |gamma(x)|; 8 lanes of float. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(lgammaf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_lgammaf16(lanemath_border_float16);
+/** natural logarithm of |gamma(x)|; 16 lanes of float. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_lgammaf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(lgammaf16, float16, float16, x);
+}
+#define lanemath_lgammaf16(x) \
+/** natural logarithm of |gamma(x)|; 16 lanes of float. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */ \
+  LANEMATH_UNARY(lgammaf16, float16, float16, x)
+
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; one double. Largest error 0.509 ulp.
+ * Domain and special values: at the head of <lanemath/special.h>. */
+lanemath_double1 lanemath_lgammar1(lanemath_double1 x, lanemath_int1* sign) LANEMATH_NAMED("lgammar1");
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 2 lanes of double. Largest error 0.509
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */
+lanemath_double2 lanemath_lgammar2(lanemath_double2 x, lanemath_int2* sign) LANEMATH_NAMED("lgammar2");
+lanemath_border_double3 __ocl_lanemath_h8_lgammar3(lanemath_border_double3, lanemath_int3*);
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 3 lanes of double. Largest error 0.509
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_lgammar3(lanemath_double3 x, lanemath_int3* sign) {
+  return LANEMATH_UNARY_POINTER(lgammar3, double3, double3, int3, x, sign);
+}
+#define lanemath_lgammar3(x, sign) \
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 3 lanes of double. Largest error 0.509
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY_POINTER(lgammar3, double3, double3, int3, x, sign)
+lanemath_border_double4 __ocl_lanemath_h8_lgammar4(lanemath_border_double4, lanemath_int4*);
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 4 lanes of double. Largest error 0.509
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_lgammar4(lanemath_double4 x, lanemath_int4* sign) {
+  return LANEMATH_UNARY_POINTER(lgammar4, double4, double4, int4, x, sign);
+}
+#define lanemath_lgammar4(x, sign) \
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 4 lanes of double. Largest error 0.509
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY_POINTER(lgammar4, double4, double4, int4, x, sign)
+lanemath_border_double8 __ocl_lanemath_h8_lgammar8(lanemath_border_double8, lanemath_int8*);
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 8 lanes of double. Largest error 0.509
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_lgammar8(lanemath_double8 x, lanemath_int8* sign) {
+  return LANEMATH_UNARY_POINTER(lgammar8, double8, double8, int8, x, sign);
+}
+#define lanemath_lgammar8(x, sign) \
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 8 lanes of double. Largest error 0.509
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY_POINTER(lgammar8, double8, double8, int8, x, sign)
+lanemath_border_double16 __ocl_lanemath_h8_lgammar16(lanemath_border_double16, lanemath_int16*);
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 16 lanes of double. Largest error 0.509
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_lgammar16(lanemath_double16 x, lanemath_int16* sign) {
+  return LANEMATH_UNARY_POINTER(lgammar16, double16, double16, int16, x, sign);
+}
+#define lanemath_lgammar16(x, sign) \
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 16 lanes of double. Largest error 0.509
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY_POINTER(lgammar16, double16, double16, int16, x, sign)
+
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; one float. Largest error 0.51 ulp.
+ * Domain and special values: at the head of <lanemath/special.h>. */
+lanemath_float1 lanemath_lgammarf1(lanemath_float1 x, lanemath_int1* sign) LANEMATH_NAMED("lgammarf1");
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 2 lanes of float. Largest error 0.51
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */
+lanemath_float2 lanemath_lgammarf2(lanemath_float2 x, lanemath_int2* sign) LANEMATH_NAMED("lgammarf2");
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 3 lanes of float. Largest error 0.51
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */
+lanemath_float3 lanemath_lgammarf3(lanemath_float3 x, lanemath_int3* sign) LANEMATH_NAMED("lgammarf3");
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 4 lanes of float. Largest error 0.51
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */
+lanemath_float4 lanemath_lgammarf4(lanemath_float4 x, lanemath_int4* sign) LANEMATH_NAMED("lgammarf4");
+lanemath_border_float8 __ocl_lanemath_h8_lgammarf8(lanemath_border_float8, lanemath_int8*);
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 8 lanes of float. Largest error 0.51
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_lgammarf8(lanemath_float8 x, lanemath_int8* sign) {
+  return LANEMATH_UNARY_POINTER(lgammarf8, float8, float8, int8, x, sign);
+}
+#define lanemath_lgammarf8(x, sign) \
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 8 lanes of float. Largest error 0.51
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY_POINTER(lgammarf8, float8, float8, int8, x, sign)
+lanemath_border_float16 __ocl_lanemath_h8_lgammarf16(lanemath_border_float16, lanemath_int16*);
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 16 lanes of float. Largest error 0.51
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_lgammarf16(lanemath_float16 x, lanemath_int16* sign) {
+  return LANEMATH_UNARY_POINTER(lgammarf16, float16, float16, int16, x, sign);
+}
+#define lanemath_lgammarf16(x, sign) \
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 16 lanes of float. Largest error 0.51
+ * ulp. Domain and special values: at the head of <lanemath/special.h>. */ \
+  LANEMATH_UNARY_POINTER(lgammarf16, float16, float16, int16, x, sign)
+
+/** gamma function of x; one double. Largest error 0.504 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_double1 lanemath_tgamma1(lanemath_double1 x) LANEMATH_NAMED("tgamma1");
+/** gamma function of x; 2 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_double2 lanemath_tgamma2(lanemath_double2 x) LANEMATH_NAMED("tgamma2");
+lanemath_border_double3 __ocl_lanemath_h8_tgamma3(lanemath_border_double3);
+/** gamma function of x; 3 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_tgamma3(lanemath_double3 x) {
+  return LANEMATH_UNARY(tgamma3, double3, double3, x);
+}
+#define lanemath_tgamma3(x) \
+/** gamma function of x; 3 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(tgamma3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_tgamma4(lanemath_border_double4);
+/** gamma function of x; 4 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_tgamma4(lanemath_double4 x) {
+  return LANEMATH_UNARY(tgamma4, double4, double4, x);
+}
+#define lanemath_tgamma4(x) \
+/** gamma function of x; 4 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(tgamma4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_tgamma8(lanemath_border_double8);
+/** gamma function of x; 8 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_tgamma8(lanemath_double8 x) {
+  return LANEMATH_UNARY(tgamma8, double8, double8, x);
+}
+#define lanemath_tgamma8(x) \
+/** gamma function of x; 8 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(tgamma8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_tgamma16(lanemath_border_double16);
+/** gamma function of x; 16 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_tgamma16(lanemath_double16 x) {
+  return LANEMATH_UNARY(tgamma16, double16, double16, x);
+}
+#define lanemath_tgamma16(x) \
+/** gamma function of x; 16 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(tgamma16, double16, double16, x)
+
+/** gamma function of x; one float. Largest error 0.503 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_float1 lanemath_tgammaf1(lanemath_float1 x) LANEMATH_NAMED("tgammaf1");
+/** gamma function of x; 2 lanes of float. Largest error 0.503 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_float2 lanemath_tgammaf2(lanemath_float2 x) LANEMATH_NAMED("tgammaf2");
+/** gamma function of x; 3 lanes of float. Largest error 0.503 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_float3 lanemath_tgammaf3(lanemath_float3 x) LANEMATH_NAMED("tgammaf3");
+/** gamma function of x; 4 lanes of float. Largest error 0.503 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+lanemath_float4 lanemath_tgammaf4(lanemath_float4 x) LANEMATH_NAMED("tgammaf4");
+lanemath_border_float8 __ocl_lanemath_h8_tgammaf8(lanemath_border_float8);
+/** gamma function of x; 8 lanes of float. Largest error 0.503 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_tgammaf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(tgammaf8, float8, float8, x);
+}
+#define lanemath_tgammaf8(x) \
+/** gamma function of x; 8 lanes of float. Largest error 0.503 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(tgammaf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_tgammaf16(lanemath_border_float16);
+/** gamma function of x; 16 lanes of float. Largest error 0.503 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_tgammaf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(tgammaf16, float16, float16, x);
+}
+#define lanemath_tgammaf16(x) \
+/** gamma function of x; 16 lanes of float. Largest error 0.503 ulp. Domain and special values: at the head of
+ * <lanemath/special.h>. */ \
+  LANEMATH_UNARY(tgammaf16, float16, float16, x)
 
 LANEMATH_END
 

@@ -10,110 +10,1520 @@
 
 #include <lanemath/types.h>
 
+#pragma GCC system_header
+
 LANEMATH_BEGIN
 
-/* double sin(double x)
- * sine of x radians.
- * Largest error in ulp: default 3.77; _native 6.15e+07. */
-LANEMATH_DECLARE(UNARY, sin, , double, double)
-LANEMATH_DECLARE(UNARY, sin, _native, double, double)
+/** sine of x radians; one double. Largest error 3.77 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_sin1(lanemath_double1 x) LANEMATH_NAMED("sin1");
+/** sine of x radians; 2 lanes of double. Largest error 3.77 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_sin2(lanemath_double2 x) LANEMATH_NAMED("sin2");
+lanemath_border_double3 __ocl_lanemath_h8_sin3(lanemath_border_double3);
+/** sine of x radians; 3 lanes of double. Largest error 3.77 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_sin3(lanemath_double3 x) {
+  return LANEMATH_UNARY(sin3, double3, double3, x);
+}
+#define lanemath_sin3(x) \
+/** sine of x radians; 3 lanes of double. Largest error 3.77 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sin3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_sin4(lanemath_border_double4);
+/** sine of x radians; 4 lanes of double. Largest error 3.77 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_sin4(lanemath_double4 x) {
+  return LANEMATH_UNARY(sin4, double4, double4, x);
+}
+#define lanemath_sin4(x) \
+/** sine of x radians; 4 lanes of double. Largest error 3.77 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sin4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_sin8(lanemath_border_double8);
+/** sine of x radians; 8 lanes of double. Largest error 3.77 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_sin8(lanemath_double8 x) {
+  return LANEMATH_UNARY(sin8, double8, double8, x);
+}
+#define lanemath_sin8(x) \
+/** sine of x radians; 8 lanes of double. Largest error 3.77 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sin8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_sin16(lanemath_border_double16);
+/** sine of x radians; 16 lanes of double. Largest error 3.77 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_sin16(lanemath_double16 x) {
+  return LANEMATH_UNARY(sin16, double16, double16, x);
+}
+#define lanemath_sin16(x) \
+/** sine of x radians; 16 lanes of double. Largest error 3.77 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sin16, double16, double16, x)
 
-/* float sinf(float x)
- * sine of x radians.
- * Largest error in ulp: default 2.59; _native 2530; _half 2530; _rm 2530. */
-LANEMATH_DECLARE(UNARY, sinf, , float, float)
-LANEMATH_DECLARE(UNARY, sinf, _native, float, float)
-LANEMATH_DECLARE(UNARY, sinf, _half, float, float)
-LANEMATH_DECLARE(UNARY, sinf, _rm, float, float)
+/** sine of x radians; one double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_sin1_native(lanemath_double1 x) LANEMATH_NAMED("sin1_native");
+/** sine of x radians; 2 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_sin2_native(lanemath_double2 x) LANEMATH_NAMED("sin2_native");
+lanemath_border_double3 __ocl_lanemath_h8_sin3_native(lanemath_border_double3);
+/** sine of x radians; 3 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_sin3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(sin3_native, double3, double3, x);
+}
+#define lanemath_sin3_native(x) \
+/** sine of x radians; 3 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sin3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_sin4_native(lanemath_border_double4);
+/** sine of x radians; 4 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_sin4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(sin4_native, double4, double4, x);
+}
+#define lanemath_sin4_native(x) \
+/** sine of x radians; 4 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sin4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_sin8_native(lanemath_border_double8);
+/** sine of x radians; 8 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_sin8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(sin8_native, double8, double8, x);
+}
+#define lanemath_sin8_native(x) \
+/** sine of x radians; 8 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sin8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_sin16_native(lanemath_border_double16);
+/** sine of x radians; 16 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_sin16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(sin16_native, double16, double16, x);
+}
+#define lanemath_sin16_native(x) \
+/** sine of x radians; 16 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sin16_native, double16, double16, x)
 
-/* double cos(double x)
- * cosine of x radians.
- * Largest error in ulp: default 3.65; _native 6.15e+07. */
-LANEMATH_DECLARE(UNARY, cos, , double, double)
-LANEMATH_DECLARE(UNARY, cos, _native, double, double)
+/** sine of x radians; one float. Largest error 2.59 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_sinf1(lanemath_float1 x) LANEMATH_NAMED("sinf1");
+/** sine of x radians; 2 lanes of float. Largest error 2.59 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_sinf2(lanemath_float2 x) LANEMATH_NAMED("sinf2");
+/** sine of x radians; 3 lanes of float. Largest error 2.59 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_sinf3(lanemath_float3 x) LANEMATH_NAMED("sinf3");
+/** sine of x radians; 4 lanes of float. Largest error 2.59 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_sinf4(lanemath_float4 x) LANEMATH_NAMED("sinf4");
+lanemath_border_float8 __ocl_lanemath_h8_sinf8(lanemath_border_float8);
+/** sine of x radians; 8 lanes of float. Largest error 2.59 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_sinf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(sinf8, float8, float8, x);
+}
+#define lanemath_sinf8(x) \
+/** sine of x radians; 8 lanes of float. Largest error 2.59 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_sinf16(lanemath_border_float16);
+/** sine of x radians; 16 lanes of float. Largest error 2.59 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_sinf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(sinf16, float16, float16, x);
+}
+#define lanemath_sinf16(x) \
+/** sine of x radians; 16 lanes of float. Largest error 2.59 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinf16, float16, float16, x)
 
-/* float cosf(float x)
- * cosine of x radians.
- * Largest error in ulp: default 2.52; _native 2540; _half 2540; _rm 2540. */
-LANEMATH_DECLARE(UNARY, cosf, , float, float)
-LANEMATH_DECLARE(UNARY, cosf, _native, float, float)
-LANEMATH_DECLARE(UNARY, cosf, _half, float, float)
-LANEMATH_DECLARE(UNARY, cosf, _rm, float, float)
+/** sine of x radians; one float. Largest error 2530 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_sinf1_native(lanemath_float1 x) LANEMATH_NAMED("sinf1_native");
+/** sine of x radians; 2 lanes of float. Largest error 2530 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_sinf2_native(lanemath_float2 x) LANEMATH_NAMED("sinf2_native");
+/** sine of x radians; 3 lanes of float. Largest error 2530 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_sinf3_native(lanemath_float3 x) LANEMATH_NAMED("sinf3_native");
+/** sine of x radians; 4 lanes of float. Largest error 2530 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_sinf4_native(lanemath_float4 x) LANEMATH_NAMED("sinf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_sinf8_native(lanemath_border_float8);
+/** sine of x radians; 8 lanes of float. Largest error 2530 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_sinf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(sinf8_native, float8, float8, x);
+}
+#define lanemath_sinf8_native(x) \
+/** sine of x radians; 8 lanes of float. Largest error 2530 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_sinf16_native(lanemath_border_float16);
+/** sine of x radians; 16 lanes of float. Largest error 2530 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_sinf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(sinf16_native, float16, float16, x);
+}
+#define lanemath_sinf16_native(x) \
+/** sine of x radians; 16 lanes of float. Largest error 2530 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinf16_native, float16, float16, x)
 
-/* double sincos(double x, double* second)
- * sine of x radians; cosine through the pointer.
- * Largest error in ulp: default 3.63; _native 6.15e+07. */
-LANEMATH_DECLARE(UNARY_POINTER, sincos, , double, double, double)
-LANEMATH_DECLARE(UNARY_POINTER, sincos, _native, double, double, double)
+/** sine of x radians; one float. The same function as _native. Largest error 2530 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_sinf1_half(lanemath_float1 x) LANEMATH_NAMED("sinf1_half");
+/** sine of x radians; 2 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_sinf2_half(lanemath_float2 x) LANEMATH_NAMED("sinf2_half");
+/** sine of x radians; 3 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_sinf3_half(lanemath_float3 x) LANEMATH_NAMED("sinf3_half");
+/** sine of x radians; 4 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_sinf4_half(lanemath_float4 x) LANEMATH_NAMED("sinf4_half");
+lanemath_border_float8 __ocl_lanemath_h8_sinf8_half(lanemath_border_float8);
+/** sine of x radians; 8 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_sinf8_half(lanemath_float8 x) {
+  return LANEMATH_UNARY(sinf8_half, float8, float8, x);
+}
+#define lanemath_sinf8_half(x) \
+/** sine of x radians; 8 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinf8_half, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_sinf16_half(lanemath_border_float16);
+/** sine of x radians; 16 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_sinf16_half(lanemath_float16 x) {
+  return LANEMATH_UNARY(sinf16_half, float16, float16, x);
+}
+#define lanemath_sinf16_half(x) \
+/** sine of x radians; 16 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinf16_half, float16, float16, x)
 
-/* float sincosf(float x, float* second)
- * sine of x radians; cosine through the pointer.
- * Largest error in ulp: default 2.84; _native 2530; _rm 2530. */
-LANEMATH_DECLARE(UNARY_POINTER, sincosf, , float, float, float)
-LANEMATH_DECLARE(UNARY_POINTER, sincosf, _native, float, float, float)
-LANEMATH_DECLARE(UNARY_POINTER, sincosf, _rm, float, float, float)
+/** sine of x radians; one float. The same function as _native. Largest error 2530 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_sinf1_rm(lanemath_float1 x) LANEMATH_NAMED("sinf1_rm");
+/** sine of x radians; 2 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_sinf2_rm(lanemath_float2 x) LANEMATH_NAMED("sinf2_rm");
+/** sine of x radians; 3 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_sinf3_rm(lanemath_float3 x) LANEMATH_NAMED("sinf3_rm");
+/** sine of x radians; 4 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_sinf4_rm(lanemath_float4 x) LANEMATH_NAMED("sinf4_rm");
+lanemath_border_float8 __ocl_lanemath_h8_sinf8_rm(lanemath_border_float8);
+/** sine of x radians; 8 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_sinf8_rm(lanemath_float8 x) {
+  return LANEMATH_UNARY(sinf8_rm, float8, float8, x);
+}
+#define lanemath_sinf8_rm(x) \
+/** sine of x radians; 8 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinf8_rm, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_sinf16_rm(lanemath_border_float16);
+/** sine of x radians; 16 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_sinf16_rm(lanemath_float16 x) {
+  return LANEMATH_UNARY(sinf16_rm, float16, float16, x);
+}
+#define lanemath_sinf16_rm(x) \
+/** sine of x radians; 16 lanes of float. The same function as _native. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinf16_rm, float16, float16, x)
 
-/* (double, double) sincosreg(double x)
- * sine and cosine of x radians, as a pair.
- * Largest error in ulp: default 3.63; _native 6.15e+07. */
-LANEMATH_DECLARE(UNARY_PAIR, sincosreg, , double, double)
-LANEMATH_DECLARE(UNARY_PAIR, sincosreg, _native, double, double)
+/** cosine of x radians; one double. Largest error 3.65 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_cos1(lanemath_double1 x) LANEMATH_NAMED("cos1");
+/** cosine of x radians; 2 lanes of double. Largest error 3.65 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_cos2(lanemath_double2 x) LANEMATH_NAMED("cos2");
+lanemath_border_double3 __ocl_lanemath_h8_cos3(lanemath_border_double3);
+/** cosine of x radians; 3 lanes of double. Largest error 3.65 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cos3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cos3, double3, double3, x);
+}
+#define lanemath_cos3(x) \
+/** cosine of x radians; 3 lanes of double. Largest error 3.65 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cos3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cos4(lanemath_border_double4);
+/** cosine of x radians; 4 lanes of double. Largest error 3.65 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cos4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cos4, double4, double4, x);
+}
+#define lanemath_cos4(x) \
+/** cosine of x radians; 4 lanes of double. Largest error 3.65 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cos4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cos8(lanemath_border_double8);
+/** cosine of x radians; 8 lanes of double. Largest error 3.65 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cos8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cos8, double8, double8, x);
+}
+#define lanemath_cos8(x) \
+/** cosine of x radians; 8 lanes of double. Largest error 3.65 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cos8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cos16(lanemath_border_double16);
+/** cosine of x radians; 16 lanes of double. Largest error 3.65 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cos16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cos16, double16, double16, x);
+}
+#define lanemath_cos16(x) \
+/** cosine of x radians; 16 lanes of double. Largest error 3.65 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cos16, double16, double16, x)
 
-/* (float, float) sincosregf(float x)
- * sine and cosine of x radians, as a pair.
- * Largest error in ulp: default 2.84; _native 2530. */
-LANEMATH_DECLARE(UNARY_PAIR, sincosregf, , float, float)
-LANEMATH_DECLARE(UNARY_PAIR, sincosregf, _native, float, float)
+/** cosine of x radians; one double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_cos1_native(lanemath_double1 x) LANEMATH_NAMED("cos1_native");
+/** cosine of x radians; 2 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_cos2_native(lanemath_double2 x) LANEMATH_NAMED("cos2_native");
+lanemath_border_double3 __ocl_lanemath_h8_cos3_native(lanemath_border_double3);
+/** cosine of x radians; 3 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cos3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(cos3_native, double3, double3, x);
+}
+#define lanemath_cos3_native(x) \
+/** cosine of x radians; 3 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cos3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cos4_native(lanemath_border_double4);
+/** cosine of x radians; 4 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cos4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(cos4_native, double4, double4, x);
+}
+#define lanemath_cos4_native(x) \
+/** cosine of x radians; 4 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cos4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cos8_native(lanemath_border_double8);
+/** cosine of x radians; 8 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cos8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(cos8_native, double8, double8, x);
+}
+#define lanemath_cos8_native(x) \
+/** cosine of x radians; 8 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cos8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cos16_native(lanemath_border_double16);
+/** cosine of x radians; 16 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cos16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(cos16_native, double16, double16, x);
+}
+#define lanemath_cos16_native(x) \
+/** cosine of x radians; 16 lanes of double. Largest error 6.15e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cos16_native, double16, double16, x)
 
-/* double tan(double x)
- * tangent of x radians.
- * Largest error in ulp: default 1.27; _native 1.06e+07. */
-LANEMATH_DECLARE(UNARY, tan, , double, double)
-LANEMATH_DECLARE(UNARY, tan, _native, double, double)
+/** cosine of x radians; one float. Largest error 2.52 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_cosf1(lanemath_float1 x) LANEMATH_NAMED("cosf1");
+/** cosine of x radians; 2 lanes of float. Largest error 2.52 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_cosf2(lanemath_float2 x) LANEMATH_NAMED("cosf2");
+/** cosine of x radians; 3 lanes of float. Largest error 2.52 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_cosf3(lanemath_float3 x) LANEMATH_NAMED("cosf3");
+/** cosine of x radians; 4 lanes of float. Largest error 2.52 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_cosf4(lanemath_float4 x) LANEMATH_NAMED("cosf4");
+lanemath_border_float8 __ocl_lanemath_h8_cosf8(lanemath_border_float8);
+/** cosine of x radians; 8 lanes of float. Largest error 2.52 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cosf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cosf8, float8, float8, x);
+}
+#define lanemath_cosf8(x) \
+/** cosine of x radians; 8 lanes of float. Largest error 2.52 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cosf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cosf16(lanemath_border_float16);
+/** cosine of x radians; 16 lanes of float. Largest error 2.52 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cosf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cosf16, float16, float16, x);
+}
+#define lanemath_cosf16(x) \
+/** cosine of x radians; 16 lanes of float. Largest error 2.52 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cosf16, float16, float16, x)
 
-/* float tanf(float x)
- * tangent of x radians.
- * Largest error in ulp: default 3.95; _native 924; _half 924; _rm 924. */
-LANEMATH_DECLARE(UNARY, tanf, , float, float)
-LANEMATH_DECLARE(UNARY, tanf, _native, float, float)
-LANEMATH_DECLARE(UNARY, tanf, _half, float, float)
-LANEMATH_DECLARE(UNARY, tanf, _rm, float, float)
+/** cosine of x radians; one float. Largest error 2540 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_cosf1_native(lanemath_float1 x) LANEMATH_NAMED("cosf1_native");
+/** cosine of x radians; 2 lanes of float. Largest error 2540 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_cosf2_native(lanemath_float2 x) LANEMATH_NAMED("cosf2_native");
+/** cosine of x radians; 3 lanes of float. Largest error 2540 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_cosf3_native(lanemath_float3 x) LANEMATH_NAMED("cosf3_native");
+/** cosine of x radians; 4 lanes of float. Largest error 2540 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_cosf4_native(lanemath_float4 x) LANEMATH_NAMED("cosf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_cosf8_native(lanemath_border_float8);
+/** cosine of x radians; 8 lanes of float. Largest error 2540 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cosf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(cosf8_native, float8, float8, x);
+}
+#define lanemath_cosf8_native(x) \
+/** cosine of x radians; 8 lanes of float. Largest error 2540 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cosf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cosf16_native(lanemath_border_float16);
+/** cosine of x radians; 16 lanes of float. Largest error 2540 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cosf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(cosf16_native, float16, float16, x);
+}
+#define lanemath_cosf16_native(x) \
+/** cosine of x radians; 16 lanes of float. Largest error 2540 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cosf16_native, float16, float16, x)
 
-/* double sinpi(double x)
- * sine of pi x.
- * Largest error in ulp: default 0.93; _native 4.79e+07. */
-LANEMATH_DECLARE(UNARY, sinpi, , double, double)
-LANEMATH_DECLARE(UNARY, sinpi, _native, double, double)
+/** cosine of x radians; one float. The same function as _native. Largest error 2540 ulp. Domain and special values:
+ * at the head of <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_cosf1_half(lanemath_float1 x) LANEMATH_NAMED("cosf1_half");
+/** cosine of x radians; 2 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_cosf2_half(lanemath_float2 x) LANEMATH_NAMED("cosf2_half");
+/** cosine of x radians; 3 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_cosf3_half(lanemath_float3 x) LANEMATH_NAMED("cosf3_half");
+/** cosine of x radians; 4 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_cosf4_half(lanemath_float4 x) LANEMATH_NAMED("cosf4_half");
+lanemath_border_float8 __ocl_lanemath_h8_cosf8_half(lanemath_border_float8);
+/** cosine of x radians; 8 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cosf8_half(lanemath_float8 x) {
+  return LANEMATH_UNARY(cosf8_half, float8, float8, x);
+}
+#define lanemath_cosf8_half(x) \
+/** cosine of x radians; 8 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cosf8_half, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cosf16_half(lanemath_border_float16);
+/** cosine of x radians; 16 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cosf16_half(lanemath_float16 x) {
+  return LANEMATH_UNARY(cosf16_half, float16, float16, x);
+}
+#define lanemath_cosf16_half(x) \
+/** cosine of x radians; 16 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cosf16_half, float16, float16, x)
 
-/* float sinpif(float x)
- * sine of pi x.
- * Largest error in ulp: default 1.06; _native 1820. */
-LANEMATH_DECLARE(UNARY, sinpif, , float, float)
-LANEMATH_DECLARE(UNARY, sinpif, _native, float, float)
+/** cosine of x radians; one float. The same function as _native. Largest error 2540 ulp. Domain and special values:
+ * at the head of <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_cosf1_rm(lanemath_float1 x) LANEMATH_NAMED("cosf1_rm");
+/** cosine of x radians; 2 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_cosf2_rm(lanemath_float2 x) LANEMATH_NAMED("cosf2_rm");
+/** cosine of x radians; 3 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_cosf3_rm(lanemath_float3 x) LANEMATH_NAMED("cosf3_rm");
+/** cosine of x radians; 4 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_cosf4_rm(lanemath_float4 x) LANEMATH_NAMED("cosf4_rm");
+lanemath_border_float8 __ocl_lanemath_h8_cosf8_rm(lanemath_border_float8);
+/** cosine of x radians; 8 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cosf8_rm(lanemath_float8 x) {
+  return LANEMATH_UNARY(cosf8_rm, float8, float8, x);
+}
+#define lanemath_cosf8_rm(x) \
+/** cosine of x radians; 8 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cosf8_rm, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cosf16_rm(lanemath_border_float16);
+/** cosine of x radians; 16 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cosf16_rm(lanemath_float16 x) {
+  return LANEMATH_UNARY(cosf16_rm, float16, float16, x);
+}
+#define lanemath_cosf16_rm(x) \
+/** cosine of x radians; 16 lanes of float. The same function as _native. Largest error 2540 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cosf16_rm, float16, float16, x)
 
-/* double cospi(double x)
- * cosine of pi x.
- * Largest error in ulp: default 0.944; _native 4.79e+07. */
-LANEMATH_DECLARE(UNARY, cospi, , double, double)
-LANEMATH_DECLARE(UNARY, cospi, _native, double, double)
+/** sine of x radians; cosine through the pointer; one double. Largest error 3.63 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_sincos1(lanemath_double1 x, lanemath_double1* cosine) LANEMATH_NAMED("sincos1");
+/** sine of x radians; cosine through the pointer; 2 lanes of double. Largest error 3.63 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_sincos2(lanemath_double2 x, lanemath_double2* cosine) LANEMATH_NAMED("sincos2");
+lanemath_border_double3 __ocl_lanemath_h8_sincos3(lanemath_border_double3, lanemath_double3*);
+/** sine of x radians; cosine through the pointer; 3 lanes of double. Largest error 3.63 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_sincos3(lanemath_double3 x, lanemath_double3* cosine) {
+  return LANEMATH_UNARY_POINTER(sincos3, double3, double3, double3, x, cosine);
+}
+#define lanemath_sincos3(x, cosine) \
+/** sine of x radians; cosine through the pointer; 3 lanes of double. Largest error 3.63 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincos3, double3, double3, double3, x, cosine)
+lanemath_border_double4 __ocl_lanemath_h8_sincos4(lanemath_border_double4, lanemath_double4*);
+/** sine of x radians; cosine through the pointer; 4 lanes of double. Largest error 3.63 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_sincos4(lanemath_double4 x, lanemath_double4* cosine) {
+  return LANEMATH_UNARY_POINTER(sincos4, double4, double4, double4, x, cosine);
+}
+#define lanemath_sincos4(x, cosine) \
+/** sine of x radians; cosine through the pointer; 4 lanes of double. Largest error 3.63 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincos4, double4, double4, double4, x, cosine)
+lanemath_border_double8 __ocl_lanemath_h8_sincos8(lanemath_border_double8, lanemath_double8*);
+/** sine of x radians; cosine through the pointer; 8 lanes of double. Largest error 3.63 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_sincos8(lanemath_double8 x, lanemath_double8* cosine) {
+  return LANEMATH_UNARY_POINTER(sincos8, double8, double8, double8, x, cosine);
+}
+#define lanemath_sincos8(x, cosine) \
+/** sine of x radians; cosine through the pointer; 8 lanes of double. Largest error 3.63 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincos8, double8, double8, double8, x, cosine)
+lanemath_border_double16 __ocl_lanemath_h8_sincos16(lanemath_border_double16, lanemath_double16*);
+/** sine of x radians; cosine through the pointer; 16 lanes of double. Largest error 3.63 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_sincos16(lanemath_double16 x, lanemath_double16* cosine) {
+  return LANEMATH_UNARY_POINTER(sincos16, double16, double16, double16, x, cosine);
+}
+#define lanemath_sincos16(x, cosine) \
+/** sine of x radians; cosine through the pointer; 16 lanes of double. Largest error 3.63 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincos16, double16, double16, double16, x, cosine)
 
-/* float cospif(float x)
- * cosine of pi x.
- * Largest error in ulp: default 1.05; _native 1820. */
-LANEMATH_DECLARE(UNARY, cospif, , float, float)
-LANEMATH_DECLARE(UNARY, cospif, _native, float, float)
+/** sine of x radians; cosine through the pointer; one double. Largest error 6.15e+07 ulp. Domain and special values:
+ * at the head of <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_sincos1_native(lanemath_double1 x, lanemath_double1* cosine) LANEMATH_NAMED("sincos1_native");
+/** sine of x radians; cosine through the pointer; 2 lanes of double. Largest error 6.15e+07 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_sincos2_native(lanemath_double2 x, lanemath_double2* cosine) LANEMATH_NAMED("sincos2_native");
+lanemath_border_double3 __ocl_lanemath_h8_sincos3_native(lanemath_border_double3, lanemath_double3*);
+/** sine of x radians; cosine through the pointer; 3 lanes of double. Largest error 6.15e+07 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_sincos3_native(lanemath_double3 x, lanemath_double3* cosine) {
+  return LANEMATH_UNARY_POINTER(sincos3_native, double3, double3, double3, x, cosine);
+}
+#define lanemath_sincos3_native(x, cosine) \
+/** sine of x radians; cosine through the pointer; 3 lanes of double. Largest error 6.15e+07 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincos3_native, double3, double3, double3, x, cosine)
+lanemath_border_double4 __ocl_lanemath_h8_sincos4_native(lanemath_border_double4, lanemath_double4*);
+/** sine of x radians; cosine through the pointer; 4 lanes of double. Largest error 6.15e+07 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_sincos4_native(lanemath_double4 x, lanemath_double4* cosine) {
+  return LANEMATH_UNARY_POINTER(sincos4_native, double4, double4, double4, x, cosine);
+}
+#define lanemath_sincos4_native(x, cosine) \
+/** sine of x radians; cosine through the pointer; 4 lanes of double. Largest error 6.15e+07 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincos4_native, double4, double4, double4, x, cosine)
+lanemath_border_double8 __ocl_lanemath_h8_sincos8_native(lanemath_border_double8, lanemath_double8*);
+/** sine of x radians; cosine through the pointer; 8 lanes of double. Largest error 6.15e+07 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_sincos8_native(lanemath_double8 x, lanemath_double8* cosine) {
+  return LANEMATH_UNARY_POINTER(sincos8_native, double8, double8, double8, x, cosine);
+}
+#define lanemath_sincos8_native(x, cosine) \
+/** sine of x radians; cosine through the pointer; 8 lanes of double. Largest error 6.15e+07 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincos8_native, double8, double8, double8, x, cosine)
+lanemath_border_double16 __ocl_lanemath_h8_sincos16_native(lanemath_border_double16, lanemath_double16*);
+/** sine of x radians; cosine through the pointer; 16 lanes of double. Largest error 6.15e+07 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_sincos16_native(lanemath_double16 x, lanemath_double16* cosine) {
+  return LANEMATH_UNARY_POINTER(sincos16_native, double16, double16, double16, x, cosine);
+}
+#define lanemath_sincos16_native(x, cosine) \
+/** sine of x radians; cosine through the pointer; 16 lanes of double. Largest error 6.15e+07 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincos16_native, double16, double16, double16, x, cosine)
 
-/* double tanpi(double x)
- * tangent of pi x.
- * Largest error in ulp: default 1.25; _native 1.06e+07. */
-LANEMATH_DECLARE(UNARY, tanpi, , double, double)
-LANEMATH_DECLARE(UNARY, tanpi, _native, double, double)
+/** sine of x radians; cosine through the pointer; one float. Largest error 2.84 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_sincosf1(lanemath_float1 x, lanemath_float1* cosine) LANEMATH_NAMED("sincosf1");
+/** sine of x radians; cosine through the pointer; 2 lanes of float. Largest error 2.84 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_sincosf2(lanemath_float2 x, lanemath_float2* cosine) LANEMATH_NAMED("sincosf2");
+/** sine of x radians; cosine through the pointer; 3 lanes of float. Largest error 2.84 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_sincosf3(lanemath_float3 x, lanemath_float3* cosine) LANEMATH_NAMED("sincosf3");
+/** sine of x radians; cosine through the pointer; 4 lanes of float. Largest error 2.84 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_sincosf4(lanemath_float4 x, lanemath_float4* cosine) LANEMATH_NAMED("sincosf4");
+lanemath_border_float8 __ocl_lanemath_h8_sincosf8(lanemath_border_float8, lanemath_float8*);
+/** sine of x radians; cosine through the pointer; 8 lanes of float. Largest error 2.84 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_sincosf8(lanemath_float8 x, lanemath_float8* cosine) {
+  return LANEMATH_UNARY_POINTER(sincosf8, float8, float8, float8, x, cosine);
+}
+#define lanemath_sincosf8(x, cosine) \
+/** sine of x radians; cosine through the pointer; 8 lanes of float. Largest error 2.84 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincosf8, float8, float8, float8, x, cosine)
+lanemath_border_float16 __ocl_lanemath_h8_sincosf16(lanemath_border_float16, lanemath_float16*);
+/** sine of x radians; cosine through the pointer; 16 lanes of float. Largest error 2.84 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_sincosf16(lanemath_float16 x, lanemath_float16* cosine) {
+  return LANEMATH_UNARY_POINTER(sincosf16, float16, float16, float16, x, cosine);
+}
+#define lanemath_sincosf16(x, cosine) \
+/** sine of x radians; cosine through the pointer; 16 lanes of float. Largest error 2.84 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincosf16, float16, float16, float16, x, cosine)
 
-/* float tanpif(float x)
- * tangent of pi x.
- * Largest error in ulp: default 1.26; _native 742. */
-LANEMATH_DECLARE(UNARY, tanpif, , float, float)
-LANEMATH_DECLARE(UNARY, tanpif, _native, float, float)
+/** sine of x radians; cosine through the pointer; one float. Largest error 2530 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_sincosf1_native(lanemath_float1 x, lanemath_float1* cosine) LANEMATH_NAMED("sincosf1_native");
+/** sine of x radians; cosine through the pointer; 2 lanes of float. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_sincosf2_native(lanemath_float2 x, lanemath_float2* cosine) LANEMATH_NAMED("sincosf2_native");
+/** sine of x radians; cosine through the pointer; 3 lanes of float. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_sincosf3_native(lanemath_float3 x, lanemath_float3* cosine) LANEMATH_NAMED("sincosf3_native");
+/** sine of x radians; cosine through the pointer; 4 lanes of float. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_sincosf4_native(lanemath_float4 x, lanemath_float4* cosine) LANEMATH_NAMED("sincosf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_sincosf8_native(lanemath_border_float8, lanemath_float8*);
+/** sine of x radians; cosine through the pointer; 8 lanes of float. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_sincosf8_native(lanemath_float8 x, lanemath_float8* cosine) {
+  return LANEMATH_UNARY_POINTER(sincosf8_native, float8, float8, float8, x, cosine);
+}
+#define lanemath_sincosf8_native(x, cosine) \
+/** sine of x radians; cosine through the pointer; 8 lanes of float. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincosf8_native, float8, float8, float8, x, cosine)
+lanemath_border_float16 __ocl_lanemath_h8_sincosf16_native(lanemath_border_float16, lanemath_float16*);
+/** sine of x radians; cosine through the pointer; 16 lanes of float. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_sincosf16_native(lanemath_float16 x, lanemath_float16* cosine) {
+  return LANEMATH_UNARY_POINTER(sincosf16_native, float16, float16, float16, x, cosine);
+}
+#define lanemath_sincosf16_native(x, cosine) \
+/** sine of x radians; cosine through the pointer; 16 lanes of float. Largest error 2530 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincosf16_native, float16, float16, float16, x, cosine)
+
+/** sine of x radians; cosine through the pointer; one float. The same function as _native. Largest error 2530 ulp.
+ * Domain and special values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_sincosf1_rm(lanemath_float1 x, lanemath_float1* cosine) LANEMATH_NAMED("sincosf1_rm");
+/** sine of x radians; cosine through the pointer; 2 lanes of float. The same function as _native. Largest error 2530
+ * ulp. Domain and special values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_sincosf2_rm(lanemath_float2 x, lanemath_float2* cosine) LANEMATH_NAMED("sincosf2_rm");
+/** sine of x radians; cosine through the pointer; 3 lanes of float. The same function as _native. Largest error 2530
+ * ulp. Domain and special values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_sincosf3_rm(lanemath_float3 x, lanemath_float3* cosine) LANEMATH_NAMED("sincosf3_rm");
+/** sine of x radians; cosine through the pointer; 4 lanes of float. The same function as _native. Largest error 2530
+ * ulp. Domain and special values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_sincosf4_rm(lanemath_float4 x, lanemath_float4* cosine) LANEMATH_NAMED("sincosf4_rm");
+lanemath_border_float8 __ocl_lanemath_h8_sincosf8_rm(lanemath_border_float8, lanemath_float8*);
+/** sine of x radians; cosine through the pointer; 8 lanes of float. The same function as _native. Largest error 2530
+ * ulp. Domain and special values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_sincosf8_rm(lanemath_float8 x, lanemath_float8* cosine) {
+  return LANEMATH_UNARY_POINTER(sincosf8_rm, float8, float8, float8, x, cosine);
+}
+#define lanemath_sincosf8_rm(x, cosine) \
+/** sine of x radians; cosine through the pointer; 8 lanes of float. The same function as _native. Largest error 2530
+ * ulp. Domain and special values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincosf8_rm, float8, float8, float8, x, cosine)
+lanemath_border_float16 __ocl_lanemath_h8_sincosf16_rm(lanemath_border_float16, lanemath_float16*);
+/** sine of x radians; cosine through the pointer; 16 lanes of float. The same function as _native. Largest error 2530
+ * ulp. Domain and special values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_sincosf16_rm(lanemath_float16 x, lanemath_float16* cosine) {
+  return LANEMATH_UNARY_POINTER(sincosf16_rm, float16, float16, float16, x, cosine);
+}
+#define lanemath_sincosf16_rm(x, cosine) \
+/** sine of x radians; cosine through the pointer; 16 lanes of float. The same function as _native. Largest error 2530
+ * ulp. Domain and special values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_POINTER(sincosf16_rm, float16, float16, float16, x, cosine)
+
+/** sine and cosine of x radians, as a pair; one double. Largest error 3.63 ulp. Domain and special values: at the
+ * head of <lanemath/trigonometric.h>. */
+lanemath_double1_pair lanemath_sincosreg1(lanemath_double1 x) LANEMATH_NAMED("sincosreg1");
+/** sine and cosine of x radians, as a pair; 2 lanes of double. Largest error 3.63 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+lanemath_double2_pair lanemath_sincosreg2(lanemath_double2 x) LANEMATH_NAMED("sincosreg2");
+lanemath_border_double3_pair __ocl_lanemath_h8_sincosreg3(lanemath_border_double3);
+/** sine and cosine of x radians, as a pair; 3 lanes of double. Largest error 3.63 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3_pair lanemath_sincosreg3(lanemath_double3 x) {
+  return LANEMATH_UNARY_PAIR(sincosreg3, double3, double3, x);
+}
+#define lanemath_sincosreg3(x) \
+/** sine and cosine of x radians, as a pair; 3 lanes of double. Largest error 3.63 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_PAIR(sincosreg3, double3, double3, x)
+lanemath_border_double4_pair __ocl_lanemath_h8_sincosreg4(lanemath_border_double4);
+/** sine and cosine of x radians, as a pair; 4 lanes of double. Largest error 3.63 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4_pair lanemath_sincosreg4(lanemath_double4 x) {
+  return LANEMATH_UNARY_PAIR(sincosreg4, double4, double4, x);
+}
+#define lanemath_sincosreg4(x) \
+/** sine and cosine of x radians, as a pair; 4 lanes of double. Largest error 3.63 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_PAIR(sincosreg4, double4, double4, x)
+lanemath_border_double8_pair __ocl_lanemath_h8_sincosreg8(lanemath_border_double8);
+/** sine and cosine of x radians, as a pair; 8 lanes of double. Largest error 3.63 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8_pair lanemath_sincosreg8(lanemath_double8 x) {
+  return LANEMATH_UNARY_PAIR(sincosreg8, double8, double8, x);
+}
+#define lanemath_sincosreg8(x) \
+/** sine and cosine of x radians, as a pair; 8 lanes of double. Largest error 3.63 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_PAIR(sincosreg8, double8, double8, x)
+lanemath_border_double16_pair __ocl_lanemath_h8_sincosreg16(lanemath_border_double16);
+/** sine and cosine of x radians, as a pair; 16 lanes of double. Largest error 3.63 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16_pair lanemath_sincosreg16(lanemath_double16 x) {
+  return LANEMATH_UNARY_PAIR(sincosreg16, double16, double16, x);
+}
+#define lanemath_sincosreg16(x) \
+/** sine and cosine of x radians, as a pair; 16 lanes of double. Largest error 3.63 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_PAIR(sincosreg16, double16, double16, x)
+
+/** sine and cosine of x radians, as a pair; one double. Largest error 6.15e+07 ulp. Domain and special values: at the
+ * head of <lanemath/trigonometric.h>. */
+lanemath_double1_pair lanemath_sincosreg1_native(lanemath_double1 x) LANEMATH_NAMED("sincosreg1_native");
+/** sine and cosine of x radians, as a pair; 2 lanes of double. Largest error 6.15e+07 ulp. Domain and special values:
+ * at the head of <lanemath/trigonometric.h>. */
+lanemath_double2_pair lanemath_sincosreg2_native(lanemath_double2 x) LANEMATH_NAMED("sincosreg2_native");
+lanemath_border_double3_pair __ocl_lanemath_h8_sincosreg3_native(lanemath_border_double3);
+/** sine and cosine of x radians, as a pair; 3 lanes of double. Largest error 6.15e+07 ulp. Domain and special values:
+ * at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3_pair lanemath_sincosreg3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY_PAIR(sincosreg3_native, double3, double3, x);
+}
+#define lanemath_sincosreg3_native(x) \
+/** sine and cosine of x radians, as a pair; 3 lanes of double. Largest error 6.15e+07 ulp. Domain and special values:
+ * at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_PAIR(sincosreg3_native, double3, double3, x)
+lanemath_border_double4_pair __ocl_lanemath_h8_sincosreg4_native(lanemath_border_double4);
+/** sine and cosine of x radians, as a pair; 4 lanes of double. Largest error 6.15e+07 ulp. Domain and special values:
+ * at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4_pair lanemath_sincosreg4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY_PAIR(sincosreg4_native, double4, double4, x);
+}
+#define lanemath_sincosreg4_native(x) \
+/** sine and cosine of x radians, as a pair; 4 lanes of double. Largest error 6.15e+07 ulp. Domain and special values:
+ * at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_PAIR(sincosreg4_native, double4, double4, x)
+lanemath_border_double8_pair __ocl_lanemath_h8_sincosreg8_native(lanemath_border_double8);
+/** sine and cosine of x radians, as a pair; 8 lanes of double. Largest error 6.15e+07 ulp. Domain and special values:
+ * at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8_pair lanemath_sincosreg8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY_PAIR(sincosreg8_native, double8, double8, x);
+}
+#define lanemath_sincosreg8_native(x) \
+/** sine and cosine of x radians, as a pair; 8 lanes of double. Largest error 6.15e+07 ulp. Domain and special values:
+ * at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_PAIR(sincosreg8_native, double8, double8, x)
+lanemath_border_double16_pair __ocl_lanemath_h8_sincosreg16_native(lanemath_border_double16);
+/** sine and cosine of x radians, as a pair; 16 lanes of double. Largest error 6.15e+07 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16_pair lanemath_sincosreg16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY_PAIR(sincosreg16_native, double16, double16, x);
+}
+#define lanemath_sincosreg16_native(x) \
+/** sine and cosine of x radians, as a pair; 16 lanes of double. Largest error 6.15e+07 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_PAIR(sincosreg16_native, double16, double16, x)
+
+/** sine and cosine of x radians, as a pair; one float. Largest error 2.84 ulp. Domain and special values: at the head
+ * of <lanemath/trigonometric.h>. */
+lanemath_float1_pair lanemath_sincosregf1(lanemath_float1 x) LANEMATH_NAMED("sincosregf1");
+/** sine and cosine of x radians, as a pair; 2 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+lanemath_float2_pair lanemath_sincosregf2(lanemath_float2 x) LANEMATH_NAMED("sincosregf2");
+/** sine and cosine of x radians, as a pair; 3 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+lanemath_float3_pair lanemath_sincosregf3(lanemath_float3 x) LANEMATH_NAMED("sincosregf3");
+/** sine and cosine of x radians, as a pair; 4 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+lanemath_float4_pair lanemath_sincosregf4(lanemath_float4 x) LANEMATH_NAMED("sincosregf4");
+lanemath_border_float8_pair __ocl_lanemath_h8_sincosregf8(lanemath_border_float8);
+/** sine and cosine of x radians, as a pair; 8 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8_pair lanemath_sincosregf8(lanemath_float8 x) {
+  return LANEMATH_UNARY_PAIR(sincosregf8, float8, float8, x);
+}
+#define lanemath_sincosregf8(x) \
+/** sine and cosine of x radians, as a pair; 8 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_PAIR(sincosregf8, float8, float8, x)
+lanemath_border_float16_pair __ocl_lanemath_h8_sincosregf16(lanemath_border_float16);
+/** sine and cosine of x radians, as a pair; 16 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16_pair lanemath_sincosregf16(lanemath_float16 x) {
+  return LANEMATH_UNARY_PAIR(sincosregf16, float16, float16, x);
+}
+#define lanemath_sincosregf16(x) \
+/** sine and cosine of x radians, as a pair; 16 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_PAIR(sincosregf16, float16, float16, x)
+
+/** sine and cosine of x radians, as a pair; one float. Largest error 2530 ulp. Domain and special values: at the head
+ * of <lanemath/trigonometric.h>. */
+lanemath_float1_pair lanemath_sincosregf1_native(lanemath_float1 x) LANEMATH_NAMED("sincosregf1_native");
+/** sine and cosine of x radians, as a pair; 2 lanes of float. Largest error 2530 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+lanemath_float2_pair lanemath_sincosregf2_native(lanemath_float2 x) LANEMATH_NAMED("sincosregf2_native");
+/** sine and cosine of x radians, as a pair; 3 lanes of float. Largest error 2530 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+lanemath_float3_pair lanemath_sincosregf3_native(lanemath_float3 x) LANEMATH_NAMED("sincosregf3_native");
+/** sine and cosine of x radians, as a pair; 4 lanes of float. Largest error 2530 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+lanemath_float4_pair lanemath_sincosregf4_native(lanemath_float4 x) LANEMATH_NAMED("sincosregf4_native");
+lanemath_border_float8_pair __ocl_lanemath_h8_sincosregf8_native(lanemath_border_float8);
+/** sine and cosine of x radians, as a pair; 8 lanes of float. Largest error 2530 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8_pair lanemath_sincosregf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY_PAIR(sincosregf8_native, float8, float8, x);
+}
+#define lanemath_sincosregf8_native(x) \
+/** sine and cosine of x radians, as a pair; 8 lanes of float. Largest error 2530 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_PAIR(sincosregf8_native, float8, float8, x)
+lanemath_border_float16_pair __ocl_lanemath_h8_sincosregf16_native(lanemath_border_float16);
+/** sine and cosine of x radians, as a pair; 16 lanes of float. Largest error 2530 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16_pair lanemath_sincosregf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY_PAIR(sincosregf16_native, float16, float16, x);
+}
+#define lanemath_sincosregf16_native(x) \
+/** sine and cosine of x radians, as a pair; 16 lanes of float. Largest error 2530 ulp. Domain and special values: at
+ * the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY_PAIR(sincosregf16_native, float16, float16, x)
+
+/** tangent of x radians; one double. Largest error 1.27 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_tan1(lanemath_double1 x) LANEMATH_NAMED("tan1");
+/** tangent of x radians; 2 lanes of double. Largest error 1.27 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_tan2(lanemath_double2 x) LANEMATH_NAMED("tan2");
+lanemath_border_double3 __ocl_lanemath_h8_tan3(lanemath_border_double3);
+/** tangent of x radians; 3 lanes of double. Largest error 1.27 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_tan3(lanemath_double3 x) {
+  return LANEMATH_UNARY(tan3, double3, double3, x);
+}
+#define lanemath_tan3(x) \
+/** tangent of x radians; 3 lanes of double. Largest error 1.27 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tan3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_tan4(lanemath_border_double4);
+/** tangent of x radians; 4 lanes of double. Largest error 1.27 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_tan4(lanemath_double4 x) {
+  return LANEMATH_UNARY(tan4, double4, double4, x);
+}
+#define lanemath_tan4(x) \
+/** tangent of x radians; 4 lanes of double. Largest error 1.27 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tan4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_tan8(lanemath_border_double8);
+/** tangent of x radians; 8 lanes of double. Largest error 1.27 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_tan8(lanemath_double8 x) {
+  return LANEMATH_UNARY(tan8, double8, double8, x);
+}
+#define lanemath_tan8(x) \
+/** tangent of x radians; 8 lanes of double. Largest error 1.27 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tan8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_tan16(lanemath_border_double16);
+/** tangent of x radians; 16 lanes of double. Largest error 1.27 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_tan16(lanemath_double16 x) {
+  return LANEMATH_UNARY(tan16, double16, double16, x);
+}
+#define lanemath_tan16(x) \
+/** tangent of x radians; 16 lanes of double. Largest error 1.27 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tan16, double16, double16, x)
+
+/** tangent of x radians; one double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_tan1_native(lanemath_double1 x) LANEMATH_NAMED("tan1_native");
+/** tangent of x radians; 2 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_tan2_native(lanemath_double2 x) LANEMATH_NAMED("tan2_native");
+lanemath_border_double3 __ocl_lanemath_h8_tan3_native(lanemath_border_double3);
+/** tangent of x radians; 3 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_tan3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(tan3_native, double3, double3, x);
+}
+#define lanemath_tan3_native(x) \
+/** tangent of x radians; 3 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tan3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_tan4_native(lanemath_border_double4);
+/** tangent of x radians; 4 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_tan4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(tan4_native, double4, double4, x);
+}
+#define lanemath_tan4_native(x) \
+/** tangent of x radians; 4 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tan4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_tan8_native(lanemath_border_double8);
+/** tangent of x radians; 8 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_tan8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(tan8_native, double8, double8, x);
+}
+#define lanemath_tan8_native(x) \
+/** tangent of x radians; 8 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tan8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_tan16_native(lanemath_border_double16);
+/** tangent of x radians; 16 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_tan16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(tan16_native, double16, double16, x);
+}
+#define lanemath_tan16_native(x) \
+/** tangent of x radians; 16 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tan16_native, double16, double16, x)
+
+/** tangent of x radians; one float. Largest error 3.95 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_tanf1(lanemath_float1 x) LANEMATH_NAMED("tanf1");
+/** tangent of x radians; 2 lanes of float. Largest error 3.95 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_tanf2(lanemath_float2 x) LANEMATH_NAMED("tanf2");
+/** tangent of x radians; 3 lanes of float. Largest error 3.95 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_tanf3(lanemath_float3 x) LANEMATH_NAMED("tanf3");
+/** tangent of x radians; 4 lanes of float. Largest error 3.95 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_tanf4(lanemath_float4 x) LANEMATH_NAMED("tanf4");
+lanemath_border_float8 __ocl_lanemath_h8_tanf8(lanemath_border_float8);
+/** tangent of x radians; 8 lanes of float. Largest error 3.95 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_tanf8(lanemath_float8 x) {
+  return LANEMATH_UNARY(tanf8, float8, float8, x);
+}
+#define lanemath_tanf8(x) \
+/** tangent of x radians; 8 lanes of float. Largest error 3.95 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanf8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_tanf16(lanemath_border_float16);
+/** tangent of x radians; 16 lanes of float. Largest error 3.95 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_tanf16(lanemath_float16 x) {
+  return LANEMATH_UNARY(tanf16, float16, float16, x);
+}
+#define lanemath_tanf16(x) \
+/** tangent of x radians; 16 lanes of float. Largest error 3.95 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanf16, float16, float16, x)
+
+/** tangent of x radians; one float. Largest error 924 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_tanf1_native(lanemath_float1 x) LANEMATH_NAMED("tanf1_native");
+/** tangent of x radians; 2 lanes of float. Largest error 924 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_tanf2_native(lanemath_float2 x) LANEMATH_NAMED("tanf2_native");
+/** tangent of x radians; 3 lanes of float. Largest error 924 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_tanf3_native(lanemath_float3 x) LANEMATH_NAMED("tanf3_native");
+/** tangent of x radians; 4 lanes of float. Largest error 924 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_tanf4_native(lanemath_float4 x) LANEMATH_NAMED("tanf4_native");
+lanemath_border_float8 __ocl_lanemath_h8_tanf8_native(lanemath_border_float8);
+/** tangent of x radians; 8 lanes of float. Largest error 924 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_tanf8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(tanf8_native, float8, float8, x);
+}
+#define lanemath_tanf8_native(x) \
+/** tangent of x radians; 8 lanes of float. Largest error 924 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanf8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_tanf16_native(lanemath_border_float16);
+/** tangent of x radians; 16 lanes of float. Largest error 924 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_tanf16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(tanf16_native, float16, float16, x);
+}
+#define lanemath_tanf16_native(x) \
+/** tangent of x radians; 16 lanes of float. Largest error 924 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanf16_native, float16, float16, x)
+
+/** tangent of x radians; one float. The same function as _native. Largest error 924 ulp. Domain and special values:
+ * at the head of <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_tanf1_half(lanemath_float1 x) LANEMATH_NAMED("tanf1_half");
+/** tangent of x radians; 2 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_tanf2_half(lanemath_float2 x) LANEMATH_NAMED("tanf2_half");
+/** tangent of x radians; 3 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_tanf3_half(lanemath_float3 x) LANEMATH_NAMED("tanf3_half");
+/** tangent of x radians; 4 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_tanf4_half(lanemath_float4 x) LANEMATH_NAMED("tanf4_half");
+lanemath_border_float8 __ocl_lanemath_h8_tanf8_half(lanemath_border_float8);
+/** tangent of x radians; 8 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_tanf8_half(lanemath_float8 x) {
+  return LANEMATH_UNARY(tanf8_half, float8, float8, x);
+}
+#define lanemath_tanf8_half(x) \
+/** tangent of x radians; 8 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanf8_half, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_tanf16_half(lanemath_border_float16);
+/** tangent of x radians; 16 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_tanf16_half(lanemath_float16 x) {
+  return LANEMATH_UNARY(tanf16_half, float16, float16, x);
+}
+#define lanemath_tanf16_half(x) \
+/** tangent of x radians; 16 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanf16_half, float16, float16, x)
+
+/** tangent of x radians; one float. The same function as _native. Largest error 924 ulp. Domain and special values:
+ * at the head of <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_tanf1_rm(lanemath_float1 x) LANEMATH_NAMED("tanf1_rm");
+/** tangent of x radians; 2 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_tanf2_rm(lanemath_float2 x) LANEMATH_NAMED("tanf2_rm");
+/** tangent of x radians; 3 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_tanf3_rm(lanemath_float3 x) LANEMATH_NAMED("tanf3_rm");
+/** tangent of x radians; 4 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_tanf4_rm(lanemath_float4 x) LANEMATH_NAMED("tanf4_rm");
+lanemath_border_float8 __ocl_lanemath_h8_tanf8_rm(lanemath_border_float8);
+/** tangent of x radians; 8 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_tanf8_rm(lanemath_float8 x) {
+  return LANEMATH_UNARY(tanf8_rm, float8, float8, x);
+}
+#define lanemath_tanf8_rm(x) \
+/** tangent of x radians; 8 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanf8_rm, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_tanf16_rm(lanemath_border_float16);
+/** tangent of x radians; 16 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_tanf16_rm(lanemath_float16 x) {
+  return LANEMATH_UNARY(tanf16_rm, float16, float16, x);
+}
+#define lanemath_tanf16_rm(x) \
+/** tangent of x radians; 16 lanes of float. The same function as _native. Largest error 924 ulp. Domain and special
+ * values: at the head of <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanf16_rm, float16, float16, x)
+
+/** sine of pi x; one double. Largest error 0.93 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_sinpi1(lanemath_double1 x) LANEMATH_NAMED("sinpi1");
+/** sine of pi x; 2 lanes of double. Largest error 0.93 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_sinpi2(lanemath_double2 x) LANEMATH_NAMED("sinpi2");
+lanemath_border_double3 __ocl_lanemath_h8_sinpi3(lanemath_border_double3);
+/** sine of pi x; 3 lanes of double. Largest error 0.93 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_sinpi3(lanemath_double3 x) {
+  return LANEMATH_UNARY(sinpi3, double3, double3, x);
+}
+#define lanemath_sinpi3(x) \
+/** sine of pi x; 3 lanes of double. Largest error 0.93 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinpi3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_sinpi4(lanemath_border_double4);
+/** sine of pi x; 4 lanes of double. Largest error 0.93 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_sinpi4(lanemath_double4 x) {
+  return LANEMATH_UNARY(sinpi4, double4, double4, x);
+}
+#define lanemath_sinpi4(x) \
+/** sine of pi x; 4 lanes of double. Largest error 0.93 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinpi4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_sinpi8(lanemath_border_double8);
+/** sine of pi x; 8 lanes of double. Largest error 0.93 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_sinpi8(lanemath_double8 x) {
+  return LANEMATH_UNARY(sinpi8, double8, double8, x);
+}
+#define lanemath_sinpi8(x) \
+/** sine of pi x; 8 lanes of double. Largest error 0.93 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinpi8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_sinpi16(lanemath_border_double16);
+/** sine of pi x; 16 lanes of double. Largest error 0.93 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_sinpi16(lanemath_double16 x) {
+  return LANEMATH_UNARY(sinpi16, double16, double16, x);
+}
+#define lanemath_sinpi16(x) \
+/** sine of pi x; 16 lanes of double. Largest error 0.93 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinpi16, double16, double16, x)
+
+/** sine of pi x; one double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_sinpi1_native(lanemath_double1 x) LANEMATH_NAMED("sinpi1_native");
+/** sine of pi x; 2 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_sinpi2_native(lanemath_double2 x) LANEMATH_NAMED("sinpi2_native");
+lanemath_border_double3 __ocl_lanemath_h8_sinpi3_native(lanemath_border_double3);
+/** sine of pi x; 3 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_sinpi3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(sinpi3_native, double3, double3, x);
+}
+#define lanemath_sinpi3_native(x) \
+/** sine of pi x; 3 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinpi3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_sinpi4_native(lanemath_border_double4);
+/** sine of pi x; 4 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_sinpi4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(sinpi4_native, double4, double4, x);
+}
+#define lanemath_sinpi4_native(x) \
+/** sine of pi x; 4 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinpi4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_sinpi8_native(lanemath_border_double8);
+/** sine of pi x; 8 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_sinpi8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(sinpi8_native, double8, double8, x);
+}
+#define lanemath_sinpi8_native(x) \
+/** sine of pi x; 8 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinpi8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_sinpi16_native(lanemath_border_double16);
+/** sine of pi x; 16 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_sinpi16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(sinpi16_native, double16, double16, x);
+}
+#define lanemath_sinpi16_native(x) \
+/** sine of pi x; 16 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinpi16_native, double16, double16, x)
+
+/** sine of pi x; one float. Largest error 1.06 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_sinpif1(lanemath_float1 x) LANEMATH_NAMED("sinpif1");
+/** sine of pi x; 2 lanes of float. Largest error 1.06 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_sinpif2(lanemath_float2 x) LANEMATH_NAMED("sinpif2");
+/** sine of pi x; 3 lanes of float. Largest error 1.06 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_sinpif3(lanemath_float3 x) LANEMATH_NAMED("sinpif3");
+/** sine of pi x; 4 lanes of float. Largest error 1.06 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_sinpif4(lanemath_float4 x) LANEMATH_NAMED("sinpif4");
+lanemath_border_float8 __ocl_lanemath_h8_sinpif8(lanemath_border_float8);
+/** sine of pi x; 8 lanes of float. Largest error 1.06 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_sinpif8(lanemath_float8 x) {
+  return LANEMATH_UNARY(sinpif8, float8, float8, x);
+}
+#define lanemath_sinpif8(x) \
+/** sine of pi x; 8 lanes of float. Largest error 1.06 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinpif8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_sinpif16(lanemath_border_float16);
+/** sine of pi x; 16 lanes of float. Largest error 1.06 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_sinpif16(lanemath_float16 x) {
+  return LANEMATH_UNARY(sinpif16, float16, float16, x);
+}
+#define lanemath_sinpif16(x) \
+/** sine of pi x; 16 lanes of float. Largest error 1.06 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinpif16, float16, float16, x)
+
+/** sine of pi x; one float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_sinpif1_native(lanemath_float1 x) LANEMATH_NAMED("sinpif1_native");
+/** sine of pi x; 2 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_sinpif2_native(lanemath_float2 x) LANEMATH_NAMED("sinpif2_native");
+/** sine of pi x; 3 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_sinpif3_native(lanemath_float3 x) LANEMATH_NAMED("sinpif3_native");
+/** sine of pi x; 4 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_sinpif4_native(lanemath_float4 x) LANEMATH_NAMED("sinpif4_native");
+lanemath_border_float8 __ocl_lanemath_h8_sinpif8_native(lanemath_border_float8);
+/** sine of pi x; 8 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_sinpif8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(sinpif8_native, float8, float8, x);
+}
+#define lanemath_sinpif8_native(x) \
+/** sine of pi x; 8 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinpif8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_sinpif16_native(lanemath_border_float16);
+/** sine of pi x; 16 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_sinpif16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(sinpif16_native, float16, float16, x);
+}
+#define lanemath_sinpif16_native(x) \
+/** sine of pi x; 16 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(sinpif16_native, float16, float16, x)
+
+/** cosine of pi x; one double. Largest error 0.944 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_cospi1(lanemath_double1 x) LANEMATH_NAMED("cospi1");
+/** cosine of pi x; 2 lanes of double. Largest error 0.944 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_cospi2(lanemath_double2 x) LANEMATH_NAMED("cospi2");
+lanemath_border_double3 __ocl_lanemath_h8_cospi3(lanemath_border_double3);
+/** cosine of pi x; 3 lanes of double. Largest error 0.944 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cospi3(lanemath_double3 x) {
+  return LANEMATH_UNARY(cospi3, double3, double3, x);
+}
+#define lanemath_cospi3(x) \
+/** cosine of pi x; 3 lanes of double. Largest error 0.944 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cospi3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cospi4(lanemath_border_double4);
+/** cosine of pi x; 4 lanes of double. Largest error 0.944 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cospi4(lanemath_double4 x) {
+  return LANEMATH_UNARY(cospi4, double4, double4, x);
+}
+#define lanemath_cospi4(x) \
+/** cosine of pi x; 4 lanes of double. Largest error 0.944 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cospi4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cospi8(lanemath_border_double8);
+/** cosine of pi x; 8 lanes of double. Largest error 0.944 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cospi8(lanemath_double8 x) {
+  return LANEMATH_UNARY(cospi8, double8, double8, x);
+}
+#define lanemath_cospi8(x) \
+/** cosine of pi x; 8 lanes of double. Largest error 0.944 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cospi8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cospi16(lanemath_border_double16);
+/** cosine of pi x; 16 lanes of double. Largest error 0.944 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cospi16(lanemath_double16 x) {
+  return LANEMATH_UNARY(cospi16, double16, double16, x);
+}
+#define lanemath_cospi16(x) \
+/** cosine of pi x; 16 lanes of double. Largest error 0.944 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cospi16, double16, double16, x)
+
+/** cosine of pi x; one double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_cospi1_native(lanemath_double1 x) LANEMATH_NAMED("cospi1_native");
+/** cosine of pi x; 2 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_cospi2_native(lanemath_double2 x) LANEMATH_NAMED("cospi2_native");
+lanemath_border_double3 __ocl_lanemath_h8_cospi3_native(lanemath_border_double3);
+/** cosine of pi x; 3 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_cospi3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(cospi3_native, double3, double3, x);
+}
+#define lanemath_cospi3_native(x) \
+/** cosine of pi x; 3 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cospi3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_cospi4_native(lanemath_border_double4);
+/** cosine of pi x; 4 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_cospi4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(cospi4_native, double4, double4, x);
+}
+#define lanemath_cospi4_native(x) \
+/** cosine of pi x; 4 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cospi4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_cospi8_native(lanemath_border_double8);
+/** cosine of pi x; 8 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_cospi8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(cospi8_native, double8, double8, x);
+}
+#define lanemath_cospi8_native(x) \
+/** cosine of pi x; 8 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cospi8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_cospi16_native(lanemath_border_double16);
+/** cosine of pi x; 16 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_cospi16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(cospi16_native, double16, double16, x);
+}
+#define lanemath_cospi16_native(x) \
+/** cosine of pi x; 16 lanes of double. Largest error 4.79e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cospi16_native, double16, double16, x)
+
+/** cosine of pi x; one float. Largest error 1.05 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_cospif1(lanemath_float1 x) LANEMATH_NAMED("cospif1");
+/** cosine of pi x; 2 lanes of float. Largest error 1.05 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_cospif2(lanemath_float2 x) LANEMATH_NAMED("cospif2");
+/** cosine of pi x; 3 lanes of float. Largest error 1.05 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_cospif3(lanemath_float3 x) LANEMATH_NAMED("cospif3");
+/** cosine of pi x; 4 lanes of float. Largest error 1.05 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_cospif4(lanemath_float4 x) LANEMATH_NAMED("cospif4");
+lanemath_border_float8 __ocl_lanemath_h8_cospif8(lanemath_border_float8);
+/** cosine of pi x; 8 lanes of float. Largest error 1.05 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cospif8(lanemath_float8 x) {
+  return LANEMATH_UNARY(cospif8, float8, float8, x);
+}
+#define lanemath_cospif8(x) \
+/** cosine of pi x; 8 lanes of float. Largest error 1.05 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cospif8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cospif16(lanemath_border_float16);
+/** cosine of pi x; 16 lanes of float. Largest error 1.05 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cospif16(lanemath_float16 x) {
+  return LANEMATH_UNARY(cospif16, float16, float16, x);
+}
+#define lanemath_cospif16(x) \
+/** cosine of pi x; 16 lanes of float. Largest error 1.05 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cospif16, float16, float16, x)
+
+/** cosine of pi x; one float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_cospif1_native(lanemath_float1 x) LANEMATH_NAMED("cospif1_native");
+/** cosine of pi x; 2 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_cospif2_native(lanemath_float2 x) LANEMATH_NAMED("cospif2_native");
+/** cosine of pi x; 3 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_cospif3_native(lanemath_float3 x) LANEMATH_NAMED("cospif3_native");
+/** cosine of pi x; 4 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_cospif4_native(lanemath_float4 x) LANEMATH_NAMED("cospif4_native");
+lanemath_border_float8 __ocl_lanemath_h8_cospif8_native(lanemath_border_float8);
+/** cosine of pi x; 8 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_cospif8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(cospif8_native, float8, float8, x);
+}
+#define lanemath_cospif8_native(x) \
+/** cosine of pi x; 8 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cospif8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_cospif16_native(lanemath_border_float16);
+/** cosine of pi x; 16 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_cospif16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(cospif16_native, float16, float16, x);
+}
+#define lanemath_cospif16_native(x) \
+/** cosine of pi x; 16 lanes of float. Largest error 1820 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(cospif16_native, float16, float16, x)
+
+/** tangent of pi x; one double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_tanpi1(lanemath_double1 x) LANEMATH_NAMED("tanpi1");
+/** tangent of pi x; 2 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_tanpi2(lanemath_double2 x) LANEMATH_NAMED("tanpi2");
+lanemath_border_double3 __ocl_lanemath_h8_tanpi3(lanemath_border_double3);
+/** tangent of pi x; 3 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_tanpi3(lanemath_double3 x) {
+  return LANEMATH_UNARY(tanpi3, double3, double3, x);
+}
+#define lanemath_tanpi3(x) \
+/** tangent of pi x; 3 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanpi3, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_tanpi4(lanemath_border_double4);
+/** tangent of pi x; 4 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_tanpi4(lanemath_double4 x) {
+  return LANEMATH_UNARY(tanpi4, double4, double4, x);
+}
+#define lanemath_tanpi4(x) \
+/** tangent of pi x; 4 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanpi4, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_tanpi8(lanemath_border_double8);
+/** tangent of pi x; 8 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_tanpi8(lanemath_double8 x) {
+  return LANEMATH_UNARY(tanpi8, double8, double8, x);
+}
+#define lanemath_tanpi8(x) \
+/** tangent of pi x; 8 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanpi8, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_tanpi16(lanemath_border_double16);
+/** tangent of pi x; 16 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_tanpi16(lanemath_double16 x) {
+  return LANEMATH_UNARY(tanpi16, double16, double16, x);
+}
+#define lanemath_tanpi16(x) \
+/** tangent of pi x; 16 lanes of double. Largest error 1.25 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanpi16, double16, double16, x)
+
+/** tangent of pi x; one double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double1 lanemath_tanpi1_native(lanemath_double1 x) LANEMATH_NAMED("tanpi1_native");
+/** tangent of pi x; 2 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_double2 lanemath_tanpi2_native(lanemath_double2 x) LANEMATH_NAMED("tanpi2_native");
+lanemath_border_double3 __ocl_lanemath_h8_tanpi3_native(lanemath_border_double3);
+/** tangent of pi x; 3 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double3 lanemath_tanpi3_native(lanemath_double3 x) {
+  return LANEMATH_UNARY(tanpi3_native, double3, double3, x);
+}
+#define lanemath_tanpi3_native(x) \
+/** tangent of pi x; 3 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanpi3_native, double3, double3, x)
+lanemath_border_double4 __ocl_lanemath_h8_tanpi4_native(lanemath_border_double4);
+/** tangent of pi x; 4 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double4 lanemath_tanpi4_native(lanemath_double4 x) {
+  return LANEMATH_UNARY(tanpi4_native, double4, double4, x);
+}
+#define lanemath_tanpi4_native(x) \
+/** tangent of pi x; 4 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanpi4_native, double4, double4, x)
+lanemath_border_double8 __ocl_lanemath_h8_tanpi8_native(lanemath_border_double8);
+/** tangent of pi x; 8 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double8 lanemath_tanpi8_native(lanemath_double8 x) {
+  return LANEMATH_UNARY(tanpi8_native, double8, double8, x);
+}
+#define lanemath_tanpi8_native(x) \
+/** tangent of pi x; 8 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanpi8_native, double8, double8, x)
+lanemath_border_double16 __ocl_lanemath_h8_tanpi16_native(lanemath_border_double16);
+/** tangent of pi x; 16 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_double16 lanemath_tanpi16_native(lanemath_double16 x) {
+  return LANEMATH_UNARY(tanpi16_native, double16, double16, x);
+}
+#define lanemath_tanpi16_native(x) \
+/** tangent of pi x; 16 lanes of double. Largest error 1.06e+07 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanpi16_native, double16, double16, x)
+
+/** tangent of pi x; one float. Largest error 1.26 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_tanpif1(lanemath_float1 x) LANEMATH_NAMED("tanpif1");
+/** tangent of pi x; 2 lanes of float. Largest error 1.26 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_tanpif2(lanemath_float2 x) LANEMATH_NAMED("tanpif2");
+/** tangent of pi x; 3 lanes of float. Largest error 1.26 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_tanpif3(lanemath_float3 x) LANEMATH_NAMED("tanpif3");
+/** tangent of pi x; 4 lanes of float. Largest error 1.26 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_tanpif4(lanemath_float4 x) LANEMATH_NAMED("tanpif4");
+lanemath_border_float8 __ocl_lanemath_h8_tanpif8(lanemath_border_float8);
+/** tangent of pi x; 8 lanes of float. Largest error 1.26 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_tanpif8(lanemath_float8 x) {
+  return LANEMATH_UNARY(tanpif8, float8, float8, x);
+}
+#define lanemath_tanpif8(x) \
+/** tangent of pi x; 8 lanes of float. Largest error 1.26 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanpif8, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_tanpif16(lanemath_border_float16);
+/** tangent of pi x; 16 lanes of float. Largest error 1.26 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_tanpif16(lanemath_float16 x) {
+  return LANEMATH_UNARY(tanpif16, float16, float16, x);
+}
+#define lanemath_tanpif16(x) \
+/** tangent of pi x; 16 lanes of float. Largest error 1.26 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanpif16, float16, float16, x)
+
+/** tangent of pi x; one float. Largest error 742 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float1 lanemath_tanpif1_native(lanemath_float1 x) LANEMATH_NAMED("tanpif1_native");
+/** tangent of pi x; 2 lanes of float. Largest error 742 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float2 lanemath_tanpif2_native(lanemath_float2 x) LANEMATH_NAMED("tanpif2_native");
+/** tangent of pi x; 3 lanes of float. Largest error 742 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float3 lanemath_tanpif3_native(lanemath_float3 x) LANEMATH_NAMED("tanpif3_native");
+/** tangent of pi x; 4 lanes of float. Largest error 742 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+lanemath_float4 lanemath_tanpif4_native(lanemath_float4 x) LANEMATH_NAMED("tanpif4_native");
+lanemath_border_float8 __ocl_lanemath_h8_tanpif8_native(lanemath_border_float8);
+/** tangent of pi x; 8 lanes of float. Largest error 742 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float8 lanemath_tanpif8_native(lanemath_float8 x) {
+  return LANEMATH_UNARY(tanpif8_native, float8, float8, x);
+}
+#define lanemath_tanpif8_native(x) \
+/** tangent of pi x; 8 lanes of float. Largest error 742 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanpif8_native, float8, float8, x)
+lanemath_border_float16 __ocl_lanemath_h8_tanpif16_native(lanemath_border_float16);
+/** tangent of pi x; 16 lanes of float. Largest error 742 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */
+LANEMATH_INLINE lanemath_float16 lanemath_tanpif16_native(lanemath_float16 x) {
+  return LANEMATH_UNARY(tanpif16_native, float16, float16, x);
+}
+#define lanemath_tanpif16_native(x) \
+/** tangent of pi x; 16 lanes of float. Largest error 742 ulp. Domain and special values: at the head of
+ * <lanemath/trigonometric.h>. */ \
+  LANEMATH_UNARY(tanpif16_native, float16, float16, x)
 
 LANEMATH_END
 
