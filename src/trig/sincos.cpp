@@ -33,7 +33,7 @@ struct sincos_native : sincos_form<native_pi_double, native_c_double> {
     if (!any(rare & (magnitude(x) <= native_largest))) return;
     const auto stage = [](const auto& v) LANEMATH_LAMBDA {
       const auto at = native_large(v);
-      return two_results{at.sine(), at.cosine()};
+      return two_results<decltype(at.r), decltype(at.r)>{at.sine(), at.cosine()};
     };
     large_stage(stage, x, sine, cosine, rare, native_largest);
   }
