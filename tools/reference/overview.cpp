@@ -17,7 +17,9 @@ document overview(const std::vector<document>& pages_of_functions) {
           "and on vectors of 2, 3, 4, 8 and 16 lanes. It needs a processor with SSE4.1 and nothing else: it imports "
           "nothing, allocates nothing and holds no state."},
       code{{"#include <lanemath/lanemath.h>", "",
-            "lanemath_float8 density(lanemath_float8 u) { return lanemath_expf8(u * u * -0.5f); }", "",
+            "void density(const float* u, float* y, size_t n) {  /* n a multiple of 8 */",
+            "  for (size_t i = 0; i < n; i += 8) {", "    const lanemath_float8 v = lanemath_load_float8(u + i);",
+            "    lanemath_store_float8(y + i, lanemath_expf8(v * v * -0.5f));", "  }", "}", "",
             "cc -O2 density.c $(pkg-config --cflags --libs lanemath)"}},
       heading{"Names and types"},
       paragraph{
@@ -28,6 +30,11 @@ document overview(const std::vector<document>& pages_of_functions) {
           "`lanemath_float4` and the like are vectors of float, double, int and uint (32 bits), long and ulong (64 "
           "bits), with the ordinary operators and with v[i]. A vector of three is one of four whose last lane means "
           "nothing."},
+      paragraph{
+          "`<lanemath/lanemath.hpp>` has the functions for C++, which find theirs by the types: `lanemath::exp(v)`, "
+          "`lanemath::native::exp(v)`. In the library lanemath_loops, `<lanemath/arrays.h>` (in C++20 "
+          "`<lanemath/arrays.hpp>`) has functions of whole arrays, and `<lanemath/loops.h>` lets GCC vectorise loops "
+          "that call functions of width 1."},
       heading{"Accuracy variants"},
       paragraph{
           "The default variant serves every argument and is within one or two units in the last place for most "
