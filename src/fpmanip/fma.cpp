@@ -182,7 +182,7 @@ struct fmaf_in_doubles {
     const auto odd = (as<std::uint64_t>(sum) - (too_large & inexact)) | (inexact & 1);
     const M nonzero = narrow_mask(sum != 0);
     const auto exact = where(nonzero, rounded<V>(odd));
-    // Denormal results, and those that round to infinity, perhaps.
+    // Results below 2^-126, or so near 2^128 that they may round to infinity: by the upper halves of those doubles.
     const M beyond = outside(top_word(odd) & 0x7FFFFFFF, 0x38100000, 0x47EFFFFE) & nonzero;
 
     // The same lanes as in the routine: the plain form is exact, but for one rounding.

@@ -13,6 +13,14 @@ namespace lanemath::special {
 using extended = long double;
 static_assert(std::numeric_limits<extended>::digits == 64);
 
+// A double in an x87 register, from which it is rounded in the direction of the x87 control word. A compiler that saw
+// this conversion beside one to float would make one of both, which follows MXCSR.
+inline extended in_x87(double v) {
+  extended wide = v;
+  asm("" : "+t"(wide));
+  return wide;
+}
+
 // scale times a product of factors x^2 + a x + b, which keeps a polynomial of high degree as accurate as its factors.
 template <class T, int Factors>
 struct quadratics {

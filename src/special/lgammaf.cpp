@@ -102,7 +102,7 @@ extended on_positive_axis(float x) {
   if (x < 1.0f) return lgamma_of(x + 1.0L) - log_of(x);
   if (x >= 8192.0f) return stirling(x);
   const std::int32_t high = upper_half(double(x));
-  if (const auto y = on_interval<double>(x, high); rounds_safely(y) && is_at_full_precision()) return y;
+  if (const auto y = on_interval<double>(x, high); rounds_safely(y) && is_at_full_precision()) return in_x87(y);
   return on_interval<extended>(x, high);
 }
 

@@ -19,7 +19,7 @@ struct quadrant_and_rest {
   V hi, lo;
   lanes<std::int32_t, V::width> quadrant;
 };
-using scalar = lanes<double, 1>;
+using double_lane = lanes<double, 1>;
 
 // 2^17 <= a < 2^30: the nearest even multiple of pi/4, from a product with 4 / pi.
 template <bool Above23, class V>
@@ -50,7 +50,7 @@ LANEMATH_INLINE quadrant_and_rest<V> reduce_middle(const V& a, const V& sign) {
 }
 
 // 2^30 and above: products with nine slices of 4 / pi, with whole turns taken off on the way.
-inline quadrant_and_rest<scalar> reduce_large(double a, double sign) {
+inline quadrant_and_rest<double_lane> reduce_large(double a, double sign) {
   const std::int32_t e = exponent_field(a);
   const double y = value_of<double>((pattern_of(a) & 0x000FFFFFFFFFFFFF) | std::uint64_t(e - 200) << 52);
   const double yh = without_low_bits(y, 27), yl = y - yh;
@@ -94,16 +94,16 @@ inline quadrant_and_rest<scalar> reduce_large(double a, double sign) {
   const double A = 0x3FE921FB40000000_f64, B = 0x3E64442D18469899_f64;  // pi/4
   const double t = A * L + (L + H) * B, P = H * A;
   const auto [hi, lo] = fast_sum(P, t);
-  return {scalar(hi * sign), scalar(lo * sign), sign < 0 ? std::int32_t(0u - std::uint32_t(q)) : q};
+  return {double_lane(hi * sign), double_lane(lo * sign), sign < 0 ? std::int32_t(0u - std::uint32_t(q)) : q};
 }
 
-inline quadrant_and_rest<scalar> reduce_scalar(double x) {
+inline quadrant_and_rest<double_lane> reduce_scalar(double x) {
   const std::int32_t e = exponent_field(x);
   if (e < 1040) return {x, 0.0, 0};
   const double a = std::fabs(x);
   const double sign = std::copysign(1.0, x);
   if (e > 1052) return reduce_large(a, sign);
-  return e >= 1046 ? reduce_middle<true, scalar>(a, sign) : reduce_middle<false, scalar>(a, sign);
+  return e >= 1046 ? reduce_middle<true, double_lane>(a, sign) : reduce_middle<false, double_lane>(a, sign);
 }
 
 // The sine of hi + lo and a count of quadrants, and that of a quadrant more, which is the cosine.

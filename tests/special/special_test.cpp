@@ -240,5 +240,21 @@ TEST(GammaFunctions, LeaveTheX87ControlWordAsTheyFoundIt) {
         }
 }
 
+// The results of these are inexact, on either road to them.
+TEST(GammaFunctions, RoundLgammafAsTheX87ControlWordSays) {
+  const u32 usual = x87_control();
+  const auto rounded = [&](u32 direction, float x) {
+    set_x87_control((usual & ~0xC00u) | direction);
+    const float y = value_of<float>("lgammaf", standard, 4, x);
+    set_x87_control(usual);
+    return y;
+  };
+  for (float x : {0.3f, 1.2f, 1.4f, 1.6f, 1.8f, 3.3f, 5.7f, 100.3f, 9000.5f}) {
+    const float down = rounded(0x400, x), up = rounded(0x800, x), nearest = rounded(0, x);
+    EXPECT_EQ(up, std::nextafter(down, infinity)) << x;
+    EXPECT_TRUE(nearest == down || nearest == up) << x;
+  }
+}
+
 }  // namespace
 }  // namespace lanemath::testing
