@@ -70,7 +70,7 @@ TEST_P(Border, IsKeptByEveryFunction) {
   int examined = 0;
   for_each_built(library(), [&](std::size_t index, const operation& o, variant v) {
     const auto f = library().find(index, v, width).value();
-    for (const auto& [r, where] : examine(o, width, f.address(), effort(64, 6400), &f))
+    for (const auto& [r, where] : examine(o, width, f.address(), effort(64, 3200), &f))
       ADD_FAILURE() << o.name() << width << suffix(v) << " breaks rule " << int(r) << " first in " << where;
     ++examined;
   });

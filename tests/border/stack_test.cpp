@@ -36,6 +36,7 @@ class stack_use {
   }
 
   std::size_t followed_from(std::uint64_t entry) {
+    static const std::regex below_the_pointer(R"(-(\w+)\(%rsp)");
     std::map<std::uint64_t, std::int64_t> depths;  // below the stack pointer before the call, at each instruction
     std::vector<std::pair<std::uint64_t, std::int64_t>> ahead{{entry, 8}};
     std::int64_t deepest = 0;
@@ -53,9 +54,8 @@ class stack_use {
       const auto is = [&](std::string_view begin) { return name.starts_with(begin); };
       const auto target = [&] { return std::stoul(operands, nullptr, 16); };
 
-      if (const auto below = operands.find("-0x");
-          below != std::string::npos && operands.find("(%rsp") != std::string::npos)
-        deepest = std::max(deepest, depth + std::stol(operands.substr(below + 3), nullptr, 16));
+      if (std::smatch match; std::regex_search(operands, match, below_the_pointer))
+        deepest = std::max(deepest, depth + std::stol(match[1], nullptr, 0));
       if (is("push")) {
         depth += 8;
       } else if (is("pop")) {
@@ -63,7 +63,7 @@ class stack_use {
       } else if (operands.ends_with(",%rsp")) {
         const bool constant = operands[0] == '$' && (is("add") || is("sub"));
         if (!constant && !is("cmp") && !is("test")) fail(at, "moves the stack pointer");
-        const auto by = constant ? std::int64_t(std::stoul(operands.substr(1), nullptr, 16)) : 0;
+        const auto by = constant ? std::int64_t(std::stoul(operands.substr(1), nullptr, 0)) : 0;
         depth += is("sub") ? by : -by;
       } else if (is("leave") || is("enter")) {
         fail(at, "moves the stack pointer");

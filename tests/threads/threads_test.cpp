@@ -2,12 +2,14 @@
 // thread gets alone.
 #include <gtest/gtest.h>
 #include <signal.h>
-#include <sys/time.h>
+#include <time.h>
 #include <ucontext.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
 #include <cstring>
+#include <span>
 #include <thread>
 
 #include "support/effort.h"
@@ -17,12 +19,13 @@
 namespace lanemath::testing {
 namespace {
 
-// A function, arguments for a few calls, and the results that one thread got. Trying it again allocates nothing, so
+constexpr std::size_t lanes = 128;
+
+// A function with arguments for a few calls, and the results that one thread got. Trying it again allocates nothing, so
 // that handlers may.
 class task {
  public:
-  task(const operation& o, const harness::function& f) : function_(f) {
-    const auto tuples = mixed_tuples(o, lanes);
+  task(const operation& o, const harness::function& f, std::span<const arguments, lanes> tuples) : function_(f) {
     for (int i = 0; i < o.sig.arity(); ++i) {
       const auto size = size_of(o.sig.arguments[i]);
       for (std::size_t n = 0; n < lanes; ++n) std::memcpy(&inputs_[i][n * size], &tuples[n][i], size);
@@ -34,7 +37,6 @@ class task {
   std::uint64_t address() const { return reinterpret_cast<std::uint64_t>(function_.address()); }
 
  private:
-  static constexpr std::size_t lanes = 32;
   struct alignas(16) vectors : std::array<std::byte, 8 * lanes> {};
   using results = std::array<vectors, 2>;
 
@@ -50,56 +52,72 @@ class task {
   results due_;
 };
 
-std::vector<task> tasks;
+// All threads work on the same function, half of them with each task, until enough signals have come while one of them
+// was in the library; then all go on to the next.
+std::vector<std::array<task, 2>> functions;
 std::uint64_t first_address, last_address;
-std::atomic<std::size_t> next_of_handler, interruptions, wrong_in_handlers, wrong_in_threads;
+std::size_t interruptions_due;
+std::atomic<std::size_t> current, interruptions, wrong_in_handlers, wrong_in_threads;
+thread_local std::size_t which;
 
 void on_timer(int, siginfo_t*, void* context) {
+  const std::size_t n = current;
+  if (n == functions.size()) return;
+  wrong_in_handlers += !functions[n][!which].gives_the_same_again();
   const auto at = std::uint64_t(static_cast<ucontext_t*>(context)->uc_mcontext.gregs[REG_RIP]);
-  interruptions += at >= first_address && at <= last_address;
-  wrong_in_handlers += !tasks[next_of_handler++ % tasks.size()].gives_the_same_again();
+  if (at >= first_address && at <= last_address && ++interruptions % interruptions_due == 0) ++current;
 }
+
+// While this lives, its thread is sent signals.
+class interrupted_often {
+ public:
+  interrupted_often() {
+    sigevent event{};
+    event.sigev_notify = SIGEV_THREAD_ID;
+    event.sigev_signo = SIGALRM;
+    event._sigev_un._tid = gettid();
+    const itimerspec often{{0, 50'000}, {0, 50'000}};
+    if (timer_create(CLOCK_MONOTONIC, &event, &timer_) != 0 || timer_settime(timer_, 0, &often, nullptr) != 0)
+      std::abort();
+  }
+  ~interrupted_often() { timer_delete(timer_); }
+  interrupted_often(const interrupted_often&) = delete;
+  interrupted_often& operator=(const interrupted_often&) = delete;
+
+ private:
+  timer_t timer_;
+};
 
 TEST(Threads, AndSignalHandlersWithinTheLibraryGetTheSameBits) {
   for_each_built(library(), [](std::size_t index, const operation& o, variant v) {
-    for (int width : widths) tasks.emplace_back(o, library().find(index, v, width).value());
+    const auto tuples = mixed_tuples(o, 2 * lanes);
+    for (int width : widths) {
+      const auto f = library().find(index, v, width).value();
+      functions.push_back({task(o, f, std::span(tuples).first<lanes>()), task(o, f, std::span(tuples).last<lanes>())});
+    }
   });
-  const auto [first, last] = std::ranges::minmax_element(tasks, {}, &task::address);
-  first_address = first->address(), last_address = last->address();
+  const auto [first, last] = std::ranges::minmax(functions, {}, [](const auto& f) { return f[0].address(); });
+  first_address = first[0].address(), last_address = last[0].address();
+  interruptions_due = effort(3, 300);
 
-  // The signal goes to the threads, since this one blocks it.
-  sigset_t timer, before;
-  sigemptyset(&timer);
-  sigaddset(&timer, SIGALRM);
-  pthread_sigmask(SIG_BLOCK, &timer, &before);
   struct sigaction handling {
-  }, handling_before;
+  }, before;
   handling.sa_sigaction = on_timer;
   handling.sa_flags = SA_SIGINFO | SA_RESTART;
-  sigaction(SIGALRM, &handling, &handling_before);
-  const itimerval often{{0, 100}, {0, 100}}, never{};
-  setitimer(ITIMER_REAL, &often, nullptr);
-
-  constexpr std::size_t thread_count = 64;
+  sigaction(SIGALRM, &handling, &before);
   std::vector<std::thread> threads;
-  for (std::size_t t = 0; t < thread_count; ++t)
-    threads.emplace_back([&, t] {
-      pthread_sigmask(SIG_UNBLOCK, &timer, nullptr);
-      for (std::size_t n = 0; n < tasks.size() * effort(2, 100); ++n)
-        wrong_in_threads += !tasks[(n + t * tasks.size() / thread_count) % tasks.size()].gives_the_same_again();
+  for (std::size_t t = 0; t < 64; ++t)
+    threads.emplace_back([t] {
+      which = t % 2;
+      const interrupted_often interrupted;
+      for (std::size_t n; (n = current) < functions.size();)
+        wrong_in_threads += !functions[n][which].gives_the_same_again();
     });
   for (auto& thread : threads) thread.join();
-
-  setitimer(ITIMER_REAL, &never, nullptr);
-  handling.sa_handler = SIG_IGN;  // and with it a signal that is still due
-  handling.sa_flags = 0;
-  sigaction(SIGALRM, &handling, nullptr);
-  pthread_sigmask(SIG_SETMASK, &before, nullptr);
-  sigaction(SIGALRM, &handling_before, nullptr);
+  sigaction(SIGALRM, &before, nullptr);
 
   EXPECT_EQ(wrong_in_threads, 0u);
   EXPECT_EQ(wrong_in_handlers, 0u);
-  EXPECT_GT(interruptions, 100u) << "of functions of the library, of " << next_of_handler << " signals";
 }
 
 }  // namespace
