@@ -20,6 +20,7 @@ class elf_file {
     std::string name;
     unsigned char type, binding, visibility;
     bool defined;
+    std::uint64_t value;
   };
 
   explicit elf_file(const std::string& path) {
@@ -44,7 +45,7 @@ class elf_file {
           if (s.st_name)
             all.push_back({text(sections_.at(section.sh_link), s.st_name), std::uint8_t(ELF64_ST_TYPE(s.st_info)),
                            std::uint8_t(ELF64_ST_BIND(s.st_info)), std::uint8_t(ELF64_ST_VISIBILITY(s.st_other)),
-                           s.st_shndx != SHN_UNDEF});
+                           s.st_shndx != SHN_UNDEF, s.st_value});
     return all;
   }
 
