@@ -367,7 +367,7 @@ def main():
     try:
         files = document.make(figures, strict=not arguments.trial)
     except document.Unexplained as error:
-        fail(f"no reason in tools/report/performance.toml for what is behind its peer: {error}")
+        fail(f"the figures are kept, but tools/report/performance.toml lacks reasons: {error}; then --render")
     except (KeyError, TypeError, ValueError, AttributeError, ArithmeticError) as error:
         fail(f"the figures are incomplete: {kept}: {error!r}")
     superfluous = [plot for plot in folder.glob("performance-*.svg") if plot.name not in files]
