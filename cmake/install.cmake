@@ -28,7 +28,7 @@ install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT license)
 
 set(docs ${PROJECT_SOURCE_DIR}/docs)
-file(GLOB documents ${docs}/*.md)
+file(GLOB documents ${docs}/*.md ${docs}/*.svg ${docs}/performance.json)
 install(FILES ${documents} ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
   COMPONENT documentation)
 if(TARGET lanemath-reference)
