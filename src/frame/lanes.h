@@ -232,6 +232,17 @@ LANEMATH_INLINE void put_part(lanes<T, W>& v, int first, const lanes<T, C>& piec
   for (int i = 0; i < piece.groups; ++i) v.g[first * int(sizeof(T)) / 16 + i] = piece.g[i];
 }
 
+// A single lane in every place of a group, and the first lane of a group. What is done to the bits of a single lane
+// takes it to the integer registers and back; a group stays where it is.
+template <class T>
+LANEMATH_INLINE lanes<T, 16 / int(sizeof(T))> spread(const lanes<T, 1>& x) {
+  return x.g[0];
+}
+template <class T, int W>
+LANEMATH_INLINE lanes<T, 1> first(const lanes<T, W>& v) {
+  return v.g[0][0];
+}
+
 // A mask as bits, lane i at bit i.
 template <class T, int W>
 LANEMATH_INLINE unsigned mask_bits(const lanes<T, W>& mask) {
