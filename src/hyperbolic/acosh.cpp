@@ -39,7 +39,7 @@ struct acosh_form {
 
   template <class V>
   LANEMATH_INLINE static V kernel(V x) {
-    return by_size<acosh_form, one_v<T>, inverse_rows_of<T>().BIG>(x);
+    return by_size<acosh_form>(x, one_v<T>, inverse_rows_of<T>().BIG);
   }
 
   template <bool Ordinary, class V>

@@ -37,7 +37,7 @@ struct asinh_form : rare_above<T(T), Routine, Largest> {
   template <class V>
   LANEMATH_INLINE static V kernel(V x) {
     constexpr auto& c = inverse_rows_of<T>();
-    return by_size<asinh_form, c.SMALL, c.BIG>(x);
+    return by_size<asinh_form>(x, c.SMALL, c.BIG);
   }
 
   template <bool Ordinary, class V>

@@ -40,7 +40,7 @@ template <class T, auto Routine, std::int32_t Below, class Log>
 struct atanh_form : rare_above<T(T), Routine, Below> {
   template <class V>
   LANEMATH_INLINE static V kernel(V x) {
-    return by_size<atanh_form, inverse_rows_of<T>().TINY, one_v<T>>(x);
+    return by_size<atanh_form>(x, inverse_rows_of<T>().TINY, one_v<T>);
   }
 
   template <bool Ordinary, class V>

@@ -151,12 +151,12 @@ LANEMATH_INLINE V log_of_sum_or_double(const sum_with_one<V>& sum, V x) {
 
 // The value of an operation. Vectors compute all that any lane may need and select; at width 1 a branch leaves that out
 // where the magnitude is between the bounds.
-template <class Op, auto Above, auto Below, class V>
-LANEMATH_INLINE V by_size(V x) {
+template <class Op, class V, class T>
+LANEMATH_INLINE V by_size(V x, T above, T below) {
   if constexpr (V::width > 1) {
     return Op::template value<false>(x);
   } else {
-    if (any(outside(top_word(magnitude(x)), top_of(Above) + 1, top_of(Below) - 1))) [[unlikely]]
+    if (any(outside(top_word(magnitude(x)), top_of(above) + 1, top_of(below) - 1))) [[unlikely]]
       return first(Op::template value<false>(spread(x)));
     return first(Op::template value<true>(spread(x)));
   }
