@@ -73,14 +73,15 @@ LANEMATH_INLINE lanes<U, W> convert(const lanes<T, W>& v) {
   using from = register_of<T>;
   using to = typename lanes<U, W>::group;
   if constexpr (W == 1) {
-    // Packed instructions where they exist: a scalar one keeps the rest of its destination register, and so waits for
-    // whatever an earlier call left there.
+    // A scalar instruction keeps the rest of its destination register, and so waits for whatever an earlier call left
+    // there, unless the register is cleared first.
+    result.g[0] = zero_v<U>;
     if constexpr (std::is_integral_v<T>)
       result.g[0] = convert_group<U, Truncate>(_mm_cvtsi32_si128(v.g[0]))[0];
     else if constexpr (std::is_same_v<T, float> && std::is_same_v<U, double>)
-      result.g[0] = convert_group<U, Truncate>(_mm_set_ss(v.g[0]))[0];
+      asm("cvtss2sd %1, %0" : "+x"(result.g[0]) : "x"(v.g[0]));
     else if constexpr (std::is_same_v<T, double> && std::is_same_v<U, float>)
-      result.g[0] = convert_group<U, Truncate>(_mm_set_sd(v.g[0]))[0];
+      asm("cvtsd2ss %1, %0" : "+x"(result.g[0]) : "x"(v.g[0]));
     else if constexpr (std::is_floating_point_v<U>)
       result.g[0] = U(v.g[0]);
     else if constexpr (sizeof(T) == 4)
