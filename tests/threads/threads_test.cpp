@@ -98,7 +98,7 @@ TEST(Threads, AndSignalHandlersWithinTheLibraryGetTheSameBits) {
   });
   const auto [first, last] = std::ranges::minmax(functions, {}, [](const auto& f) { return f[0].address(); });
   first_address = first[0].address(), last_address = last[0].address();
-  interruptions_due = effort(3, 300);
+  interruptions_due = effort(3, 100);
 
   struct sigaction handling {
   }, before;
