@@ -50,7 +50,7 @@ class stack_use {
       // The disassembler takes a wait for the x87 unit for a part of the next instruction, to which jumps may lead.
       const auto found = std::prev(code_.upper_bound(at));
       if (found->first != at && found->first + 1 != at) fail(at, "is within an instruction");
-      const auto& [name, operands] = found->second;
+      const std::string &name = found->second.name, &operands = found->second.operands;
       const auto is = [&](std::string_view begin) { return name.starts_with(begin); };
       const auto target = [&] { return std::stoul(operands, nullptr, 16); };
 
@@ -99,7 +99,7 @@ TEST(Stack, IsBoundedOnEveryPathAndNoCallWritesBeyondTheBoundOfItsFunction) {
       const std::size_t bound = use.of(addresses.at(name));
       if (bound > deepest) deepest = bound, which = name;
 
-      const std::size_t calls = effort(16, 1600);
+      const std::size_t calls = effort(16, 800);
       const auto tuples = mixed_tuples(o, width * calls);
       const auto f = library().find(index, v, width).value();
       for (std::size_t n = 0; n < calls; ++n) {
