@@ -16,7 +16,7 @@ struct lgammaf_root {
 struct lgamma_root {
   double low, root, high;
   int degree;
-  extended c[20];
+  two_doubles c[20];
 };
 
 }  // namespace lanemath::special

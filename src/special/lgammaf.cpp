@@ -44,10 +44,7 @@ constexpr double minimum_of_gamma = 0x3FF762D86356BE3F_f64;
 // From 1 to 8192; `high` is the upper half of y as a double.
 template <class Real>
 Real on_interval(Real y, std::int32_t high) {
-  if (high >= 0x40100000) {
-    const auto k = (high >> 20) - 0x401;
-    return even_and_odd(lgammaf_octaves[k], within_octave(y, k + 2));
-  }
+  if (high >= 0x40100000) return even_and_odd(lgammaf_octaves[(high >> 20) - 0x401], Real(within_octave(double(y))));
   if (high >= 0x40000000) return (y - 2.0) * even_and_odd(to_4, y);
   if (high >= 0x3FFC0000) return even_and_odd(to_2, y);
   if (high >= 0x3FF80000) return even_and_odd(from_1_5, y);
