@@ -426,7 +426,7 @@ alignas(64) inline constexpr float log_reciprocals[256] = {
 };
 
 // Minus their logarithms, in two parts
-alignas(64) inline constexpr two_part<extended> log_values[256] = {
+alignas(64) inline constexpr logarithm log_values[256] = {
     {0x8.0200aaeac4p-12L, 0x9.de70671eeec0bfdp-57L},
     {0xc.09090a2c36p-11L, -0xa.bf1f5a3036442f1p-56L},
     {0xa.0c94fcb419p-10L, 0xe.f8eaba026d0f775p-55L},
@@ -686,7 +686,7 @@ alignas(64) inline constexpr two_part<extended> log_values[256] = {
 };
 
 // ln 2 in two parts
-alignas(64) inline constexpr two_part<extended> log_2[1] = {
+alignas(64) inline constexpr logarithm log_2[1] = {
     {0xb.17217f7d1cf8p-4L, -0xc.a86c3898cff81a1p-57L},
 };
 

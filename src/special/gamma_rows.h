@@ -6,6 +6,12 @@
 
 namespace lanemath::special {
 
+// A logarithm, whose high part is a multiple of 2^-50.
+struct logarithm {
+  double hi;
+  extended lo;
+};
+
 // A zero of log-gamma: an interval around it, and a cubic about it, highest power first.
 struct lgammaf_root {
   double low, root, high;

@@ -70,9 +70,9 @@ void write_gamma_tables(table_writer& out) {
 
   out.values<float>("log_reciprocals", "Reciprocals of the middles of 256 stretches of [1, 2)", 256,
                     [](int i) { return reciprocal(i).nearest<float>(); });
-  out.pairs<extended>("log_values", "Minus their logarithms, in two parts", 256,
+  out.pairs<extended>("log_values", "Minus their logarithms, in two parts", "logarithm", 256,
                       [](int i) { return split<extended>(real(0) - apply(mpfr_log, reciprocal(i)), 50); });
-  out.pairs<extended>("log_2", "ln 2 in two parts", 1,
+  out.pairs<extended>("log_2", "ln 2 in two parts", "logarithm", 1,
                       [](int) { return split<extended>(apply(mpfr_log, real(2)), 50); });
   out.polynomial<extended>("log_after_table",
                            "(log(1 + f) - f + f^2 / 2) / f^3 for f up to 1/256, highest power first");

@@ -113,7 +113,11 @@ class table_writer {
   // entry(j) is a pair, high part first.
   template <class T, class F>
   void pairs(std::string_view name, std::string_view meaning, int size, F entry) {
-    table(fmt::format("{}[{}]", name, size), meaning, fmt::format("two_part<{}>", type<T>()), size, [&](int j) {
+    pairs<T>(name, meaning, fmt::format("two_part<{}>", type<T>()), size, entry);
+  }
+  template <class T, class F>
+  void pairs(std::string_view name, std::string_view meaning, std::string_view of, int size, F entry) {
+    table(fmt::format("{}[{}]", name, size), meaning, of, size, [&](int j) {
       const auto [hi, lo] = entry(j);
       return fmt::format("{{{}, {}}}", literal(T(hi)), literal(T(lo)));
     });
