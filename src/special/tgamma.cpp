@@ -22,21 +22,23 @@ struct tgamma_lane {
   static constexpr double last_row = -176.0;
   static constexpr extended last_row_scale = 0xBA5D5869211696FFp-1106L;
 
-  static extended below_2(extended y) {
+  LANEMATH_INLINE static extended below_2(extended y) {
     if (y >= 1.5L) return horner(y - 1.0L, tgamma_to_2);
     if (y >= 1.25L) return horner(y - extended(1.46163214496836236), tgamma_at_minimum);
     return horner(y - 1.0L, tgamma_from_1);
   }
   // sin(pi t) / pi for t up to 1/2.
-  static extended sine(extended t) {
+  LANEMATH_INLINE static extended sine(extended t) {
     const extended s = t * t;
     return t + t * s * even_and_odd(tgamma_sine, s);
   }
 };
 
-[[gnu::noinline]] status tgamma_in_x87(const double* px, double* py) { return gamma<tgamma_lane>(*px, *py); }
-
-LANEMATH_RARE tgamma_rare(const double* px, double* py) { return at_full_precision<tgamma_in_x87>(px, py); }
+LANEMATH_RARE tgamma_rare(const double* px, double* py) {
+  if (!is_at_full_precision()) [[unlikely]]
+    return at_full_precision<tgamma_rare>(px, py);
+  return gamma<tgamma_lane>(*px, *py);
+}
 
 }  // namespace
 

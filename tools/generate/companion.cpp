@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstring>
 #include <stdexcept>
 #include <string>
@@ -153,7 +154,8 @@ void write_array_functions(std::FILE* out) {
     const auto wide = form{o, v, 16}.function();
     fmt::print(out, "\n{} {}({}{});\n", returned, wide, fmt::join(taken, ", "),
                s.how == delivery::pointer ? ", void*" : "");
-    fmt::print(out, "{} {{ {}({}, {}, n, {}, {}); }}\n", array_prototype(o, v), shape, wide, o.filler,
+    fmt::print(out, "{} {{ {}({}, {}, n, {}, {}); }}\n", array_prototype(o, v), shape, wide,
+               std::isinf(o.filler) ? "__builtin_inf()" : fmt::format("{}", o.filler),
                fmt::join(of_results(s, "{1}"), ", "),
                fmt::join(of_arguments(s, [](lane, char name) { return std::string(1, name); }), ", "));
   });
