@@ -2,14 +2,14 @@
 //
 // Default, double: up to whole turns, x is exactly a multiple of 1/256 plus a remainder d. The result is the step's
 // sine from a table, in two parts, plus short polynomials in d. The slope, pi times the step's cosine, is split into a
-// number of two bits, whose products with the parts of d are exact, and the rest. Default, single: one polynomial in
+// number of few bits, whose products with the parts of d are exact, and the rest. Default, single: one polynomial in
 // doubles. The native forms: one polynomial up to 1/2.
 //
 // Largest errors found, in ulp:
-//   sinpi: default 0.929706; _native 4.78642e7
-//   sinpif: default 1.05769; _native 1816.27
-//   cospi: default 0.943476; _native 4.78642e7
-//   cospif: default 1.04242; _native 1816.01
+//   sinpi: default 0.782797; _native 4.78642e7
+//   sinpif: default 0.600209; _native 1816.27
+//   cospi: default 0.632164; _native 4.78642e7
+//   cospif: default 0.600111; _native 1816.01
 //
 // Looks odd and is meant, see docs/design.md: native results above 1.
 #include <iterator>
@@ -51,7 +51,7 @@ LANEMATH_INLINE lanes<double, W> sine_of_pi(const lanes<double, W>& f) {
   const auto j = (low_word(t) + (Cosine ? steps / 4 : 0)) & (steps - 1);
   const auto [value, value_low, slope, slope_rest] = look_up_row(of_pi_f64, j);
   const V z = d * d;
-  const V dh = without_low_bits(d, 2), dl = d - dh;
+  const V dh = without_low_bits(d, 5), dl = d - dh;
   const auto [sum, lost] = fast_sum(value, dh * slope);
   const V above_linear = slope_rest + (slope + slope_rest) * (z * horner(z, c::sine));
   const V even = value * (z * horner(z, c::cosine));

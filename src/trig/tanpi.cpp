@@ -5,8 +5,8 @@
 // distance, at most 1/4, to a multiple of 1/2, and next to the poles the reciprocal of a polynomial is taken.
 //
 // Largest errors found, in ulp:
-//   tanpi: default 1.24574; _native 1.05655e7
-//   tanpif: default 1.25317; _native 741.345
+//   tanpi: default 0.782797; _native 1.05655e7
+//   tanpif: default 0.538154; _native 741.345
 //
 // Looks odd and is meant, see docs/design.md: signs at whole numbers.
 #include "trig/pi_scaled.h"

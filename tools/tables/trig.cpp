@@ -81,13 +81,14 @@ struct step {
   }
 };
 
-// The sine of step j of 512 in a turn in two parts, and pi times its cosine, cut to two bits, and the rest.
+// The sine of step j of 512 in a turn in two parts, and pi times its cosine, in few bits and the rest. At a whole
+// number of half turns they are two bits, an integer, whose products with denormals are exact.
 std::array<double, 4> step_of_pi(int j) {
   real slope;
   mpfr_const_pi(slope.v, MPFR_RNDN);
   slope = slope * cosine(j, 512);
   const real value = sine(j, 512);
-  const double high = value.nearest<double>(), head = cut(slope, 2, MPFR_RNDN).nearest<double>();
+  const double high = value.nearest<double>(), head = cut(slope, j % 256 == 0 ? 2 : 5, MPFR_RNDN).nearest<double>();
   return {high, (value - real(high)).nearest<double>(), head, (slope - real(head)).nearest<double>()};
 }
 
@@ -161,8 +162,8 @@ void write_trig_tables(table_writer& out) {
            });
 
   out.rows("of_pi_f64",
-           "By step j of 512 in a turn: sine and its low part, pi times the cosine, rounded to two bits, and the rest",
-           512, step_of_pi);
+           "By step j of 512 in a turn: sine and its low part, pi times the cosine, in few bits and the rest", 512,
+           step_of_pi);
   out.rows(
       "tangent_quarter",
       "By step j of 128 in a quarter of a turn: tangent of j steps, from 64 on of j - 128, in 32 bits, and the rest",
