@@ -10,6 +10,7 @@
 #include <set>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lanemath::testing {
@@ -35,6 +36,14 @@ class elf_file {
   const std::vector<Elf64_Shdr>& sections() const { return sections_; }
   const std::vector<Elf64_Phdr>& segments() const { return segments_; }
   std::string name(const Elf64_Shdr& s) const { return text(sections_.at(header().e_shstrndx), s.sh_name); }
+
+  std::string_view bytes() const { return {bytes_.data(), bytes_.size()}; }
+  // What is in the section of this name; empty if there is none.
+  std::string_view contents(std::string_view section) const {
+    for (const auto& s : sections_)
+      if (name(s) == section) return bytes().substr(s.sh_offset, s.sh_size);
+    return {};
+  }
 
   // For a symbol table: SHT_DYNSYM in a shared object, SHT_SYMTAB in an object.
   std::vector<symbol> symbols(std::uint32_t table) const {

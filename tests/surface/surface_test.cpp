@@ -2,8 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <regex>
 #include <set>
+#include <sstream>
 
 #include "harness/harness.h"
 #include "support/disassembly.h"
@@ -65,9 +67,51 @@ TEST(FinishedFile, RecordsItsName) {
 
 TEST(FinishedFile, RunsNothingOnLoadingAndNeedsNoRelocation) {
   for (const auto& d : library().dynamic())
-    for (std::int64_t tag :
-         {DT_INIT, DT_FINI, DT_INIT_ARRAY, DT_FINI_ARRAY, DT_PREINIT_ARRAY, DT_RELA, DT_REL, DT_JMPREL, DT_TEXTREL})
+    for (std::int64_t tag : {DT_INIT, DT_FINI, DT_INIT_ARRAY, DT_FINI_ARRAY, DT_PREINIT_ARRAY, DT_RELA, DT_REL, DT_RELR,
+                             DT_JMPREL, DT_TEXTREL})
       EXPECT_NE(d.tag, tag);
+}
+
+TEST(FinishedFile, HoldsNoPathOfTheMachineThatBuiltIt) {
+  const auto bytes = library().bytes();
+  std::istringstream texts(LANEMATH_FOLDERS ":/usr/:.cpp");
+  for (std::string text; std::getline(texts, text, ':');) EXPECT_EQ(bytes.find(text), bytes.npos) << text;
+}
+
+// As debuggers compute it for the link to a file of symbols.
+std::uint32_t checksum(std::string_view bytes) {
+  std::uint32_t sum = 0xFFFFFFFF;
+  for (const unsigned char byte : bytes) {
+    sum ^= byte;
+    for (int bit = 0; bit < 8; ++bit) sum = sum >> 1 ^ (sum & 1 ? 0xEDB88320 : 0);
+  }
+  return ~sum;
+}
+
+TEST(FinishedFile, LeavesItsInternalNamesToAFileBesideIt) {
+  EXPECT_TRUE(library().symbols(SHT_SYMTAB).empty());
+  const elf_file symbols(std::string(LANEMATH_LIBRARY) + ".debug");
+  const auto internal = symbols.symbols(SHT_SYMTAB);
+  EXPECT_TRUE(std::ranges::any_of(internal, [](const auto& s) { return s.name.find("pow_rare") != s.name.npos; }));
+  EXPECT_EQ(symbols.contents(".note.gnu.build-id"), library().contents(".note.gnu.build-id"));
+
+  const auto link = library().contents(".gnu_debuglink");
+  ASSERT_GT(link.size(), 4u);
+  EXPECT_STREQ(link.data(), "__ocl_lanemath_h8.so.3.5.debug");
+  std::uint32_t sum;
+  std::memcpy(&sum, &link[link.size() - 4], 4);
+  EXPECT_EQ(sum, checksum(symbols.bytes()));
+}
+
+// Every return goes to where the call was: so says the note that lets a program with shadow stacks load the file.
+TEST(FinishedFile, AllowsShadowStacks) {
+  const auto note = library().contents(".note.gnu.property");
+  std::array<std::uint32_t, 7> words;  // three sizes, the owner, the kind, its size, its bits
+  ASSERT_GE(note.size(), sizeof words);
+  std::memcpy(words.data(), note.data(), sizeof words);
+  EXPECT_EQ(words[2], std::uint32_t(NT_GNU_PROPERTY_TYPE_0));
+  EXPECT_EQ(words[4], GNU_PROPERTY_X86_FEATURE_1_AND);
+  EXPECT_EQ(words[6], GNU_PROPERTY_X86_FEATURE_1_SHSTK);
 }
 
 TEST(FinishedFile, HasNoVersionsNoWritableDataAndNoExecutableStack) {
