@@ -45,8 +45,9 @@ LANEMATH_INLINE lanes<double, W> tangent_of_pi(const lanes<double, W>& f) {
   const V d = f - (t - c::SHIFTER);
   const V dh = without_low_bits(d, 2);
   const auto [r, rl] = fast_sum(dh * 3.0, (d - dh) * 3.0 + d * c::PI_LESS_THREE);
-  const V pole = with_bits(V(std::numeric_limits<double>::infinity()), sign_of(f));
-  return select(magnitude(f) == 0.5, pole, tangent_of_steps(bits(t), r, rl));
+  const V y = tangent_of_steps(bits(t), r, rl);
+  // Poles, and NaNs with all their bits.
+  return select(unordered(y, y), f * std::numeric_limits<double>::infinity(), y);
 }
 template <int W>
 LANEMATH_INLINE lanes<float, W> tangent_of_pi(const lanes<float, W>& f) {
