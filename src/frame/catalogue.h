@@ -16,9 +16,6 @@ using enum family;
 using enum shape;
 using enum precision;
 
-// The filler of scalar routines that are done soonest with it.
-inline constexpr double infinite = std::numeric_limits<double>::infinity();
-
 inline constexpr row floating_rows[] = {
     row(exponential, "exp", unary, "e to the power x", around_zero(10))
         .variants(N, N | H | R)
@@ -140,12 +137,11 @@ inline constexpr row floating_rows[] = {
 
     row(special, "erf", unary, "error function of x", around_zero(3)).variants(N, N).odd(),
     row(special, "erfc", unary, "complementary error function, 1 - erf(x)", between(-2, 5)).variants(N, N),
-    row(special, "lgamma", unary, "natural logarithm of |gamma(x)|", between(0.5, 30)).filler(infinite),
+    row(special, "lgamma", unary, "natural logarithm of |gamma(x)|", between(0.5, 30)),
     row(special, "lgammar", second_int, "natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer",
         between(0.5, 30))
-        .filler(infinite)
         .opencl("lgamma_r"),
-    row(special, "tgamma", unary, "gamma function of x", between(0.5, 20)).filler(infinite),
+    row(special, "tgamma", unary, "gamma function of x", between(0.5, 20)),
 
     row(manipulation, "ceil", unary, "x rounded up to an integer", around_zero(1000)),
     row(manipulation, "floor", unary, "x rounded down to an integer", around_zero(1000)),

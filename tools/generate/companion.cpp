@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstring>
 #include <stdexcept>
 #include <string>
@@ -154,8 +153,7 @@ void write_array_functions(std::FILE* out) {
     const auto wide = form{o, v, 16}.function();
     fmt::print(out, "\n{} {}({}{});\n", returned, wide, fmt::join(taken, ", "),
                s.how == delivery::pointer ? ", void*" : "");
-    fmt::print(out, "{} {{ {}({}, {}, n, {}, {}); }}\n", array_prototype(o, v), shape, wide,
-               std::isinf(o.filler) ? "__builtin_inf()" : fmt::format("{}", o.filler),
+    fmt::print(out, "{} {{ {}({}, {}, n, {}, {}); }}\n", array_prototype(o, v), shape, wide, o.filler,
                fmt::join(of_results(s, "{1}"), ", "),
                fmt::join(of_arguments(s, [](lane, char name) { return std::string(1, name); }), ", "));
   });
