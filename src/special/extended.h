@@ -62,14 +62,20 @@ X even_and_odd(const C (&c)[Size], X x) {
 inline constexpr std::uint16_t full_precision = 0x300;
 inline bool is_at_full_precision() { return (x87_control_word() & full_precision) == full_precision; }
 
-// Runs a routine with it, for callers who have another, and restores the control word.
+// Runs a routine with it, and restores the control word. Callers who have another pay for that, the others for a jump.
 template <auto Routine, class... Pointers>
-[[gnu::noinline, gnu::cold]] status at_full_precision(Pointers... lanes_of) {
+[[gnu::noinline, gnu::cold]] status with_full_precision_set(Pointers... lanes_of) {
   const std::uint16_t found = x87_control_word();
   set_x87_control_word(found | full_precision);
   const auto status = Routine(lanes_of...);
   set_x87_control_word(found);
   return status;
+}
+template <auto Routine, class... Pointers>
+LANEMATH_INLINE status at_full_precision(Pointers... lanes_of) {
+  if (!is_at_full_precision()) [[unlikely]]
+    return with_full_precision_set<Routine>(lanes_of...);
+  return Routine(lanes_of...);
 }
 
 // The nearest integer for |x| below 2^22 or 2^51, by a rounding constant in the lane's own precision.

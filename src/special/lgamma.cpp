@@ -98,10 +98,12 @@ struct lgamma_lane {
   static double value(double x) { return double(x > 0.0 ? on_positive_axis(x) : on_negative_axis(x)); }
 };
 
-LANEMATH_RARE lgammar_rare(const double* px, double* py, std::int32_t* sign) {
-  if (!is_at_full_precision()) [[unlikely]]
-    return at_full_precision<lgammar_rare>(px, py, sign);
+[[gnu::noinline]] status lgamma_in_x87(const double* px, double* py, std::int32_t* sign) {
   return log_gamma<lgamma_lane>(*px, *py, *sign);
+}
+
+LANEMATH_RARE lgammar_rare(const double* px, double* py, std::int32_t* sign) {
+  return at_full_precision<lgamma_in_x87>(px, py, sign);
 }
 LANEMATH_RARE lgamma_rare(const double* px, double* py) {
   std::int32_t sign;

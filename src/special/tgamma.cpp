@@ -34,11 +34,9 @@ struct tgamma_lane {
   }
 };
 
-LANEMATH_RARE tgamma_rare(const double* px, double* py) {
-  if (!is_at_full_precision()) [[unlikely]]
-    return at_full_precision<tgamma_rare>(px, py);
-  return gamma<tgamma_lane>(*px, *py);
-}
+[[gnu::noinline]] status tgamma_in_x87(const double* px, double* py) { return gamma<tgamma_lane>(*px, *py); }
+
+LANEMATH_RARE tgamma_rare(const double* px, double* py) { return at_full_precision<tgamma_in_x87>(px, py); }
 
 }  // namespace
 
