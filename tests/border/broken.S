@@ -110,7 +110,7 @@ broken_\name:
 
         function uses_much_stack
         copy
-        movb    $0, -2500(%rsp)
+        movb    $0, -3500(%rsp)
         mov     %rdi, %rax
         ret
 
