@@ -55,7 +55,9 @@ LANEMATH_INLINE lanes<double, W> sine_of_pi(const lanes<double, W>& f) {
   const auto [sum, lost] = fast_sum(value, dh * slope);
   const V above_linear = slope_rest + (slope + slope_rest) * (z * horner(z, c::sine));
   const V even = value * (z * horner(z, c::cosine));
-  return sum + ((lost + value_low) + ((d * above_linear + dl * slope) + even));
+  // In this order NaNs keep their bits: those of dh lose the lowest.
+  const V rest = ordered_sum((d * above_linear + dl * slope) + even, lost + value_low);
+  return ordered_sum(rest, sum);
 }
 // The sine of pi m, |m| <= 1/2.
 template <int W>
