@@ -297,6 +297,8 @@ def make(figures, strict):
     parts = [WORDS["introduction"].format(
         **about, others=", ".join(f"{name} {version}" for name, version in found.items()),
         load_median=number(about["load"]["median"]), load_largest=number(about["load"]["largest"])).strip()]
+    if "again" in about:
+        parts[0] += "\n- measured again, the lesser times kept: " + ", ".join(f"`{name}`" for name in about["again"])
     missing = [text for package, text in WORDS["missing"].items() if package not in found]
     if missing:
         parts.append("Not installed on that machine, and so not compared: " + ", ".join(missing) + ".")

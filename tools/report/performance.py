@@ -250,7 +250,15 @@ def families_of_forms(operations):
     return dict(reversed(line.split("\t")) for line in done.stdout.splitlines())
 
 
+def lesser(one, other):
+    """The lesser of any two times, at every depth."""
+    if isinstance(one, dict):
+        return {key: lesser(one[key], other.get(key, one[key])) for key in one}
+    return min(one, other) if isinstance(one, float) and isinstance(other, float) else one
+
+
 def measure(arguments):
+    before = read(arguments.kept) if arguments.again else None
     llvm_mca = find_tools()
     description, flags = processor()
     check_tunables(flags)
@@ -260,8 +268,9 @@ def measure(arguments):
     family_of = families_of_forms(arguments.operations)
     operations = list(dict.fromkeys(name.split("_")[0] for name in family_of))
     large_operations = [name for name in LARGE_OPERATIONS if name in operations]
-    builtins = [name for name, operation in document.BUILTINS.items() if with_opencl and operation in operations]
-    journal = Journal(BUILD / "report" / ("trial" if trial else "performance"), {
+    builtins = [name for name, operation in document.BUILTINS.items()
+                if with_opencl and operation in operations and not arguments.again]
+    journal = Journal(BUILD / "report" / ("trial" if trial else "again" if before else "performance"), {
         "library": hashlib.sha256(LIBRARY.read_bytes()).hexdigest(),
         "benchmark": hashlib.sha256(BENCHMARK.read_bytes()).hexdigest(),
         "processor": description, "operations": operations, "flags": benchmark.flags}, arguments.fresh)
@@ -318,6 +327,12 @@ def measure(arguments):
                   for name in forms if name.split("_")[0] == operation},
         "opencl": [measurement for name in builtins for measurement in found[f"opencl-{name}"]],
     }
+    if before:
+        about = before["about"]
+        about["again"] = sorted({*about.get("again", []), *operations})
+        merged = {part: before[part] | {key: lesser(before[part][key], of) for key, of in figures[part].items()}
+                  for part in ("forms", "large")}
+        figures = before | merged
     write(arguments.kept, text_of(figures))
     journal.end()
 
@@ -351,10 +366,15 @@ def main():
     what.add_argument("--fresh", action="store_true", help="do not continue a run that was interrupted")
     parser.add_argument("--trial", metavar="FOLDER", type=pathlib.Path,
                         help="a quick run, in this folder instead of docs; reasons may be missing")
-    parser.add_argument("operations", nargs="*", metavar="OPERATION", help="with --trial: these alone")
+    what.add_argument("--again", action="store_true",
+                      help="measure some operations once more, because something disturbed them, and keep the lesser "
+                      "of all times, the peers' too")
+    parser.add_argument("operations", nargs="*", metavar="OPERATION", help="with --trial or --again: these alone")
     arguments = parser.parse_args()
-    if arguments.operations and not arguments.trial:
+    if arguments.operations and not (arguments.trial or arguments.again):
         parser.error("only a trial measures some operations alone")
+    if arguments.again and not arguments.operations:
+        parser.error("--again needs operations")
     folder = arguments.trial or DOCS
     kept = arguments.kept = folder / "performance.json"
     if not folder.is_dir():
