@@ -255,6 +255,24 @@ LANEMATH_INLINE lanes<T, 1> first(const lanes<T, W>& v) {
   return v.g[0][0];
 }
 
+// Calls f(lane, one, other) for every 64-bit lane, and collects the two numbers that it gives: for what only the
+// integer registers can do.
+template <class T, int W, class F>
+LANEMATH_INLINE void lane_by_lane(F f, const lanes<T, W>& v, lanes<T, W>& ones, lanes<T, W>& others) {
+  static_assert(sizeof(T) == 8);
+  for (int i = 0; i < v.groups; ++i) {
+    if constexpr (W == 1) {
+      f(v.g[i], ones.g[i], others.g[i]);
+    } else {
+      T one[2], other[2];
+      for (int k = 0; k < 2; ++k) f(v.g[i][k], one[k], other[k]);
+      using group = typename lanes<T, W>::group;
+      ones.g[i] = group{one[0], one[1]};
+      others.g[i] = group{other[0], other[1]};
+    }
+  }
+}
+
 // A mask as bits, lane i at bit i.
 template <class T, int W>
 LANEMATH_INLINE unsigned mask_bits(const lanes<T, W>& mask) {

@@ -42,18 +42,7 @@ LANEMATH_INLINE turn_fraction<lanes<std::uint64_t, W>> fraction_of_turn(const la
     high = std::uint64_t(sum >> 64) + m * w0;
     low = std::uint64_t(sum);
   };
-  const auto patterns = as<std::uint64_t>(x);
-  for (int i = 0; i < patterns.groups; ++i) {
-    if constexpr (W == 1) {
-      lane(patterns.g[i], result.high.g[i], result.low.g[i]);
-    } else {
-      std::uint64_t high[2], low[2];
-      for (int k : {0, 1}) lane(patterns.g[i][k], high[k], low[k]);
-      using group = typename lanes<std::uint64_t, W>::group;
-      result.high.g[i] = group{high[0], high[1]};
-      result.low.g[i] = group{low[0], low[1]};
-    }
-  }
+  lane_by_lane(lane, as<std::uint64_t>(x), result.high, result.low);
   return result;
 }
 

@@ -32,7 +32,6 @@ struct of_pi<float> {
 };
 template <>
 struct of_pi<double> {
-  static constexpr double SHIFTER = 0x1.8p44;  // rounds to 1/256
   // (sin(pi d) / (pi d) - 1) / d^2 and (cos(pi d) - 1) / d^2 in d^2, highest power first
   static constexpr double sine[] = {0x3FE9F9C9B97D9A28_f64, 0xBFFA51A6625301B8_f64};
   static constexpr double cosine[] = {0x40103C1DB2490898_f64, 0xC013BD3CC9BE3B30_f64};
@@ -46,8 +45,7 @@ LANEMATH_INLINE lanes<double, W> sine_of_pi(const lanes<double, W>& f) {
   using c = of_pi<double>;
   using V = lanes<double, W>;
   constexpr std::int32_t steps = std::size(of_pi_f64);
-  const V t = f + c::SHIFTER;
-  const V d = f - (t - c::SHIFTER);
+  const auto [t, d] = steps_and_rest(f);
   const auto j = (low_word(t) + (Cosine ? steps / 4 : 0)) & (steps - 1);
   const auto [value, value_low, slope, slope_rest] = look_up_row(of_pi_f64, j);
   const V z = d * d;

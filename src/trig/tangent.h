@@ -42,8 +42,7 @@ template <int W>
 LANEMATH_INLINE lanes<double, W> tangent_of_steps(const lanes<std::int64_t, W>& j, const lanes<double, W>& r,
                                                   const lanes<double, W>& rl) {
   if constexpr (W == 1) {  // Scalars would pass through integer registers at every selection.
-    return tangent_of_steps(lanes<std::int64_t, 2>(j.g[0]), lanes<double, 2>(r.g[0]), lanes<double, 2>(rl.g[0]))
-        .g[0][0];
+    return first(tangent_of_steps(spread(j), spread(r), spread(rl)));
   } else {
     using V = lanes<double, W>;
     const auto [t, tl] = look_up_row(tangent_quarter, lower(j) & 127);

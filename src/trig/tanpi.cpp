@@ -28,7 +28,6 @@ struct tanpi_fit<float> {
 };
 template <>
 struct tanpi_fit<double> {
-  static constexpr double SHIFTER = 0x1.8p44;  // rounds to 1/256
   static constexpr double PI_LESS_THREE = 0x3FC21FB54442D184_f64;
   static constexpr double QUARTER = 0.25;
   static constexpr double native[] = {0x400921FB53C58ECE_f64, 0x4024ABBDE18C183F_f64, 0x4044666B1357452D_f64,
@@ -41,8 +40,7 @@ template <int W>
 LANEMATH_INLINE lanes<double, W> tangent_of_pi(const lanes<double, W>& f) {
   using c = tanpi_fit<double>;
   using V = lanes<double, W>;
-  const V t = f + c::SHIFTER;
-  const V d = f - (t - c::SHIFTER);
+  const auto [t, d] = steps_and_rest(f);
   const V dh = without_low_bits(d, 2);
   const auto [r, rl] = fast_sum(dh * 3.0, (d - dh) * 3.0 + d * c::PI_LESS_THREE);
   const V y = tangent_of_steps(bits(t), r, rl);
