@@ -32,7 +32,7 @@ places read_places(const std::string& path) {
     char comma;
     if (!std::getline(fields, name, ',') || !(fields >> latitude >> comma >> longitude) || !(fields >> std::ws).eof() ||
         comma != ',' || !(std::abs(latitude) <= 90) || !(std::abs(longitude) <= 180))
-      throw std::runtime_error(path + ": not a name, a latitude and a longitude: " + line);
+      throw std::runtime_error(path + ": needs lines of a name, a latitude and a longitude");
     all.names.push_back(name);
     all.latitudes.push_back(latitude);
     all.longitudes.push_back(longitude);
