@@ -42,6 +42,7 @@ def bounds(forms):
 
 
 def single(name, forms):
+    """Not by the last letter alone: `erf` and `modf` are of doubles."""
     operation = name.split("_")[0]
     return operation.endswith("f") and operation[:-1] in forms
 
@@ -89,15 +90,15 @@ def figures_block(figures, found, exported):
          f"{document.number(document.mean(groups))} times as fast, "
          f"{sum(ratio < document.BEHIND for ratio in groups)} of {len(groups)} functions behind"),
         ("errors of the default forms",
-         f"within {most[0]} ulp (`float`) and {most[1]} (`double`), half of them within {half[0]} and {half[1]}; "
-         + "".join(f"but `{name}` {number(bound)}; " for name, bound in outliers.items())
-         + f"{exact} operations are exact or rounded once"),
+         f"half of them within {half[0]} ulp (`float`) and {half[1]} (`double`), all within {most[0]} and {most[1]}"
+         + "".join(f" except `{name}` with {number(bound)}" for name, bound in outliers.items())
+         + f"; {exact} operations are exact or rounded once"),
         ("the same bits",
-         f"from every compiler and processor; {len(estimates)} of {len(forms)} forms differ between makes of processors, "
-         "see [Limits](#limits)"),
+         f"from every compiler, and on every make of processor but for {len(estimates)} of {len(forms)} forms, see "
+         "[Limits](#limits)"),
         ("functions", f"{exported:,}: {len({name.split('_')[0] for name in forms})} operations in up to four variants, "
          "on 1, 2, 3, 4, 8 and 16 lanes"),
-        ("needs", "SSE4.1; the library imports nothing, and holds no state"),
+        ("imports", "nothing: no other library, not even C's; SSE4.1 is all that it needs"),
     ]
     return "\n".join(["| | |", "|---|---|", *(f"| {what} | {figure} |" for what, figure in rows)]) + f"""
 
@@ -127,7 +128,7 @@ def limits_block(figures):
     items = [
         "On machines with AVX the runtime's own code for vectors is wider than this library's 128 bits. Kernels of "
         f"vectors gain less: {'; '.join(wide)}. Wider ones may lose. "
-        "[performance.md](docs/performance.md#in-opencl-kernels) has the figures.",
+        "[performance.md](docs/performance.md#in-opencl-kernels) has each function.",
         f"{len(estimates)} forms start from the processor's estimate of a reciprocal or a root, so their last bits differ "
         f"between makes of processors: {len(estimates) - len(default)} of the other variants, and the default "
         f"{', '.join(default)}."]
@@ -189,4 +190,7 @@ def main():
 
 
 if __name__ == "__main__":
-    main()
+    try:
+        main()
+    except (OSError, LookupError, TypeError, ValueError, AttributeError, ArithmeticError) as error:
+        performance.fail(f"cannot make the README's figures: {error!r}")
