@@ -29,7 +29,8 @@ def bounds(forms):
     """What the headers state for each form: its greatest error in ulp at any width. Exact forms have none."""
     text = "".join(header.read_text() for header in sorted((KEPT / "include/lanemath").glob("*.h")))
     stated = {}
-    for words, function in re.findall(r"/\*\*((?:(?!\*/).)*)\*/\s*(?:LANEMATH_INLINE )?\w+ lanemath_(\w+)\(", text, re.S):
+    declaration = r"/\*\*((?:(?!\*/).)*)\*/\s*(?:LANEMATH_INLINE )?\w+ lanemath_(\w+)\("
+    for words, function in re.findall(declaration, text, re.S):
         match = re.search(r"[Ll]argest error (\S+) ulp", re.sub(r"\s*\*?\s+", " ", words))
         stated[function] = match and float(match[1])
     found = {}
@@ -49,7 +50,7 @@ def single(name, forms):
 
 def number(value):
     """As the headers have it."""
-    return f"{value:.3g}".replace("e+0", "e") if value >= 1e5 else f"{value:g}"
+    return f"{value:.3g}".replace("e+0", "e").replace("e+", "e") if value >= 1e5 else f"{value:g}"
 
 
 def half_and_all(values):
@@ -129,8 +130,8 @@ def limits_block(figures):
         "On machines with AVX the runtime's own code for vectors is wider than this library's 128 bits. Kernels of "
         f"vectors gain less: {'; '.join(wide)}. Wider ones may lose. "
         "[performance.md](docs/performance.md#in-opencl-kernels) has each function.",
-        f"{len(estimates)} forms start from the processor's estimate of a reciprocal or a root, so their last bits differ "
-        f"between makes of processors: {len(estimates) - len(default)} of the other variants, and the default "
+        f"{len(estimates)} forms start from the processor's estimate of a reciprocal or a root, so their last bits "
+        f"differ between makes of processors: {len(estimates) - len(default)} of the other variants, and the default "
         f"{', '.join(default)}."]
     return "\n".join(textwrap.fill(item, 120, initial_indent="- ", subsequent_indent="  ", break_on_hyphens=False,
                                    break_long_words=False) for item in items)
