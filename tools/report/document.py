@@ -227,18 +227,26 @@ def opencl_table(measurements):
     return table(["Built-in", *types, *(f"times, {each}" for each in types)], means + sorted(rows))
 
 
-def plot(title, names, columns, label, scale):
-    """Bars, side by side for each name: columns maps a title to a list of values, None where there is none."""
+def draw(script):
+    """What gnuplot draws."""
     gnuplot = shutil.which("gnuplot")
     if not gnuplot:
         raise SystemExit("report: there is no gnuplot (Debian package gnuplot-nox)")
+    done = subprocess.run([gnuplot], input=script, text=True, capture_output=True)
+    if done.returncode != 0:
+        raise SystemExit(f"report: gnuplot: {done.stderr}")
+    return done.stdout
+
+
+def plot(title, names, columns, label, scale):
+    """Bars, side by side for each name: columns maps a title to a list of values, None where there is none."""
     data = "\n".join(" ".join([f'"{name}"'] + [str(values[i] or "NaN") for values in columns.values()])
                      for i, name in enumerate(names))
     colours = ["#1f5fa8", "#e08a1e", "#7a7a7a", "#4f9d4f", "#b04a6a"]
     series = ", ".join(f"$data using {i + 2}:xtic(1) lc rgb '{colours[i]}' title '{each}'"
                        for i, each in enumerate(columns))
     width = max(640, 100 + 9 * len(names) * (len(columns) + 1))
-    script = f"""set terminal svg size {width},420 font "sans-serif,13" background "white"
+    return draw(f"""set terminal svg size {width},420 font "sans-serif,13" background "white"
 $data << EOD
 {data}
 EOD
@@ -252,11 +260,7 @@ set grid ytics
 set key outside below samplen 1
 set xtics rotate by -35 noenhanced scale 0
 plot {series}
-"""
-    done = subprocess.run([gnuplot], input=script, text=True, capture_output=True)
-    if done.returncode != 0:
-        raise SystemExit(f"report: gnuplot: {done.stderr}")
-    return done.stdout
+""")
 
 
 def family_plot(title, forms):
