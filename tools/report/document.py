@@ -57,7 +57,8 @@ def table(heading, rows):
 
 def single(name):
     """Whether an operation on floating lanes is in single precision, by the form's name."""
-    return name.split("_")[0].endswith("f")
+    operation = name.split("_")[0]
+    return operation.endswith("f") and operation not in ("erf", "modf")
 
 
 def group_width(name):
@@ -213,18 +214,19 @@ def large_table(large):
     return table(["Form"] + [cell for each in ranges for cell in (f"lane, {WORDS['large'][each]}", "SLEEF", "C")], rows)
 
 
-def opencl_table(measurements):
+def opencl_table(measurements, figure):
+    """A figure of each built-in for each type; of ratios their means too."""
     types = list(dict.fromkeys(m["type"] for m in measurements))
-    found = {(m["builtin"], m["type"]): m for m in measurements}
-    rows = []
-    for name in dict.fromkeys(m["builtin"] for m in measurements):
-        of = [found.get((name, each)) for each in types]
-        rows.append([f"`{name}`"] + [number(m and m["lanemath"]) for m in of] + [number(m and m["ratio"]) for m in of])
+    found = {(m["builtin"], m["type"]): number(m[figure]) for m in measurements}
+    rows = sorted([f"`{name}`"] + [found.get((name, each), "") for each in types]
+                  for name in dict.fromkeys(m["builtin"] for m in measurements))
     means = []
-    for group in dict.fromkeys(m["group"] for m in measurements):
-        of = [mean([m["ratio"] for m in measurements if (m["type"], m["group"]) == (each, group)]) for each in types]
-        means.append([f"*{group}, geometric mean*"] + [""] * len(types) + list(map(number, of)))
-    return table(["Built-in", *types, *(f"times, {each}" for each in types)], means + sorted(rows))
+    if figure == "ratio":
+        for group in dict.fromkeys(m["group"] for m in measurements):
+            of = [mean([m["ratio"] for m in measurements if (m["type"], m["group"]) == (each, group)])
+                  for each in types]
+            means.append([f"*{group}, geometric mean*", *map(number, of)])
+    return table(["Built-in", *types], means + rows)
 
 
 def draw(script):
@@ -335,6 +337,8 @@ def make(figures, strict):
             parts += ["### Large arguments", WORDS["large"]["text"].strip(),
                       large_table({k: v for k, v in figures["large"].items() if k.split()[0] in of})]
     if figures["opencl"]:
-        parts += ["## In OpenCL kernels", WORDS["opencl"]["text"].strip(), opencl_table(figures["opencl"])]
+        parts += ["## In OpenCL kernels", WORDS["opencl"]["text"].strip(),
+                  f"**Times as fast as the runtime's own**\n\n{opencl_table(figures['opencl'], 'ratio')}",
+                  f"**Nanoseconds a lane**\n\n{opencl_table(figures['opencl'], 'lanemath')}"]
     files["performance.md"] = "\n\n".join(parts) + "\n"
     return files

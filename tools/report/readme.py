@@ -42,12 +42,6 @@ def bounds(forms):
     return found
 
 
-def single(name, forms):
-    """Not by the last letter alone: `erf` and `modf` are of doubles."""
-    operation = name.split("_")[0]
-    return operation.endswith("f") and operation[:-1] in forms
-
-
 def number(value):
     """As the headers have it."""
     return f"{value:.3g}".replace("e+0", "e").replace("e+", "e") if value >= 1e5 else f"{value:g}"
@@ -76,7 +70,7 @@ def figures_block(figures, found, exported):
     groups = [document.ratios(name, form)["group"][0] for name, form in forms.items()
               if "_" not in name and form["family"] not in document.EXACT and "SLEEF" in form["peers"]]
     default = {name: bound for name, bound in found.items() if "_" not in name}
-    by_type = [[bound for name, bound in default.items() if single(name, forms) == of] for of in (True, False)]
+    by_type = [[bound for name, bound in default.items() if document.single(name) == of] for of in (True, False)]
     # A bound far beyond all others is set by a small part of the arguments.
     outliers = {name: bound for name, bound in default.items() if bound > 100}
     most = [number(max(bound for bound in of if bound <= 100)) for of in by_type]
@@ -115,20 +109,21 @@ def variants_block(figures, found):
     for suffix, words in VARIANTS.items():
         of = {name: bound for name, bound in found.items() if variant(name) == suffix}
         rows.append((f"`{suffix}`" if suffix else "default", words,
-                     *(half_and_all([bound for name, bound in of.items() if single(name, forms) == precision])
+                     *(half_and_all([bound for name, bound in of.items() if document.single(name) == precision])
                        for precision in (True, False))))
     return "\n".join(["| variant | what it is | `float`, ulp: half / all within | `double` |", "|---|---|--:|--:|",
                       *(f"| {' | '.join(row)} |" for row in rows)])
 
 
 def limits_block(figures):
+    vectors = [lanes for lanes in dict.fromkeys(m["type"] for m in figures["opencl"]) if lanes[-1].isdigit()]
     wide = [f"`{lanes}` {mean} times as fast, {behind} of {count} functions behind"
-            for lanes in ("float4", "double2") for mean, count, behind in [times(figures["opencl"], lanes)]]
+            for lanes in vectors for mean, count, behind in [times(figures["opencl"], lanes)]]
     estimates = by_estimates()
     default = [f"`{operation}`" for operation, form in estimates if form == "default"]
     items = [
-        "On machines with AVX the runtime's own code for vectors is wider than this library's 128 bits. Kernels of "
-        f"vectors gain less: {'; '.join(wide)}. Wider ones may lose. "
+        "Kernels of vectors gain less than those of scalars: the runtime's own code for them is inlined, and takes FMA "
+        f"instructions where the machine has them. {'; '.join(wide)}. "
         "[performance.md](docs/performance.md#in-opencl-kernels) has each function.",
         f"{len(estimates)} forms start from the processor's estimate of a reciprocal or a root, so their last bits "
         f"differ between makes of processors: {len(estimates) - len(default)} of the other variants, and the default "
