@@ -2,7 +2,6 @@
 reference's HTML pages as reference/ and README.md as index.md."""
 
 import fnmatch
-import html
 import re
 import subprocess
 
@@ -29,7 +28,7 @@ html_show_search_summary = False  # it would fetch the pages found, which browse
 # A document that no other part names stands at the head of the guide.
 NAVIGATION = {
     "Guide": ["docs/design", "CONTRIBUTING", "SECURITY", "CHANGELOG"],
-    "Reference": ["reference/index", "docs/man/*"],
+    "Reference": ["reference/index", "genindex", "docs/man/*"],
     "Reports": ["docs/performance", "docs/accuracy"],
 }
 
@@ -93,7 +92,7 @@ def read(app, docname, source):
     else:
         source[0] = re.sub(r"(\]\((?:\.\./)*)README\.md", r"\1index.md", source[0])
         if docname == "index":
-            source[0] += navigation(app.env.found_docs)
+            source[0] += navigation(app.env.found_docs | {"genindex"})
 
 
 def setup(app):
