@@ -2,6 +2,7 @@
 reference's HTML pages as reference/ and README.md as index.md."""
 
 import fnmatch
+import pathlib
 import re
 import subprocess
 
@@ -95,5 +96,12 @@ def read(app, docname, source):
             source[0] += navigation(app.env.found_docs | {"genindex"})
 
 
+def folder(app, env, node, content):
+    """A link to a folder of the repository, which the site does not hold, is its text alone."""
+    document = pathlib.Path(env.doc2path(node["refdoc"]))
+    return content if (document.parent / node["reftarget"]).is_dir() else None
+
+
 def setup(app):
     app.connect("source-read", read)
+    app.connect("missing-reference", folder)
