@@ -47,7 +47,7 @@ suite::suite(const harness::library& library, std::size_t operation_index, varia
     : library_(library),
       operation_index_(operation_index),
       variant_(v),
-      exported_(library.find(operation_index, v, 1).has_value()),
+      exported_(library.find(operation_index, v, widths.back()).has_value()),
       title_(fmt::format("{}{}", catalogue[operation_index].name(), suffix(v))),
       typical_(catalogue[operation_index], 0),
       with_rare_(catalogue[operation_index], rare_every),

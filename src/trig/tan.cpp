@@ -88,7 +88,7 @@ struct tan_form {
       const auto [r, rl, odd] = Form::reduce(magnitude(v));
       return flipped(Form::tangent(r, rl, odd), sign_of(v));
     };
-    return by_pieces<2, W>(group, x);
+    return by_pieces<largest_group<double>, W>(group, x);
   }
   static auto rare_test(auto x) { return ~(magnitude(x) <= 0x1p20); }
   template <int W, class M>
