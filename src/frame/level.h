@@ -32,14 +32,15 @@ struct instructions;
 #include "frame/level_avx512.h"
 #endif
 
-// The name that a function is exported under, and an instruction whose result replaces its first operand.
+// The name that a function is exported under, and an instruction whose result replaces its first operand. The prefixes
+// keep assemblers from exchanging the operands for a shorter encoding: the first one's NaN survives.
 #if LANEMATH_REGISTER_BYTES == 16
 #define LANEMATH_SYMBOL(name) __ocl_lanemath_h8_##name
 #define LANEMATH_REPLACING(mnemonic) mnemonic " %1, %0"
 #elif LANEMATH_REGISTER_BYTES == 32
 #define LANEMATH_SYMBOL(name) lanemath_avx2_##name
-#define LANEMATH_REPLACING(mnemonic) "v" mnemonic " %1, %0, %0"
+#define LANEMATH_REPLACING(mnemonic) "%{vex3%} v" mnemonic " %1, %0, %0"
 #else
 #define LANEMATH_SYMBOL(name) lanemath_avx512_##name
-#define LANEMATH_REPLACING(mnemonic) "v" mnemonic " %1, %0, %0"
+#define LANEMATH_REPLACING(mnemonic) "%{evex%} v" mnemonic " %1, %0, %0"
 #endif
