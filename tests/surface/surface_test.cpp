@@ -118,7 +118,8 @@ TEST_P(FinishedFile, HasNoInstructionAboveItsLevel) {
   const std::string command = std::string(LANEMATH_OBJDUMP) + " -d --no-show-raw-insn " + path();
   const std::unique_ptr<FILE, int (*)(FILE*)> out(popen(command.c_str(), "r"), pclose);
   ASSERT_TRUE(out);
-  const std::regex instruction(R"(^\s*[0-9a-f]+:\s+(?:(?:repz|repnz|rep|lock|data16|cs|ds|notrack)\s+)*(\S+)\s*(.*))");
+  const std::regex instruction(
+      R"(^\s*[0-9a-f]+:\s+(?:(?:repz|repnz|rep|lock|data16|cs|ds|notrack|\{[a-z0-9]+\})\s+)*(\S+)\s*(.*))");
   const std::regex later(
       "pcmpgtq|pcmp[ei]str[im]q?|crc32.*|popcnt.*|lzcnt.*|tzcnt.*|aes.*|pclmul.*|sha[0-9].*|andn|bextr.*|bls.*|"
       "bzhi.*|"
