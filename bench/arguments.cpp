@@ -59,10 +59,10 @@ void fill(lane l, std::byte* lanes, std::size_t count, const range& r, std::size
   }
 }
 
-arguments::arguments(const operation& o, std::size_t rare_every) {
+arguments::arguments(const operation& o, const std::array<range, 3>& ranges, std::size_t rare_every) {
   for (std::size_t i = 0; i < values_.size(); ++i) {
     inputs_[i] = values_[i].lanes;
-    fill(o.sig.arguments[i], values_[i].lanes, lane_count, o.typical[i], i, rare_every);
+    fill(o.sig.arguments[i], values_[i].lanes, lane_count, ranges[i], i, rare_every);
   }
 }
 

@@ -17,7 +17,7 @@ void fill(lane l, std::byte* lanes, std::size_t count, const range& r, std::size
 
 class arguments {
  public:
-  arguments(const operation& o, std::size_t rare_every);
+  arguments(const operation& o, const std::array<range, 3>& ranges, std::size_t rare_every);
   arguments(const arguments&) = delete;
   arguments& operator=(const arguments&) = delete;
 

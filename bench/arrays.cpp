@@ -1,70 +1,48 @@
-// Times the array functions against calls of width 16, as a user would write them.
-#include <benchmark/benchmark.h>
-#include <lanemath/arrays.h>
-#include <lanemath/lanemath.h>
+#include "arrays.h"
 
-#include <cstring>
-#include <vector>
+#include <dlfcn.h>
+#include <fmt/format.h>
 
+#include <filesystem>
+#include <utility>
+
+namespace lanemath::bench {
 namespace {
 
-template <class T>
-std::vector<T> arguments(std::size_t n) {
-  std::vector<T> all(n);
-  for (std::size_t i = 0; i < n; ++i) all[i] = T(0.5 + 8.0 * double(i * 7919 % n) / double(n));
-  return all;
-}
-
-// Calls compute(x, y, n), where y takes the results.
-template <class T, class Compute>
-void time_on_arrays(benchmark::State& state, Compute compute) {
-  const auto n = std::size_t(state.range(0));
-  const auto x = arguments<T>(n);
-  std::vector<T> y(n);
-  for (auto _ : state) {
-    compute(x.data(), y.data(), n);
-    benchmark::ClobberMemory();
+template <std::size_t Arity, bool Second>
+void call(void* address, const harness::invoker_arguments& given) {
+  [&]<std::size_t... I>(std::index_sequence<I...>) {
+    const auto f = [&](auto... results) {
+      using function = void (*)(decltype((void)I, (const void*)nullptr)..., decltype(results)..., std::size_t);
+      reinterpret_cast<function>(address)(given.inputs[I]..., results..., given.lanes);
+    };
+    if constexpr (Second)
+      f(given.result, given.second);
+    else
+      f(given.result);
   }
-  state.SetItemsProcessed(std::int64_t(state.iterations() * n));
+  (std::make_index_sequence<Arity>());
 }
-
-// The loop by hand; the remainder goes through a vector that is filled up.
-template <class V, class T, class Call>
-void by_hand(const T* x, T* y, std::size_t n, Call call) {
-  std::size_t at = 0;
-  for (; n - at >= 16; at += 16) {
-    V v;
-    std::memcpy(&v, x + at, sizeof v);
-    call(v);
-    std::memcpy(y + at, &v, sizeof v);
-  }
-  if (at < n) {
-    V v{};
-    std::memcpy(&v, x + at, (n - at) * sizeof(T));
-    call(v);
-    std::memcpy(y + at, &v, (n - at) * sizeof(T));
-  }
-}
-
-// Arguments besides x come after a comma of their own.
-#define TIME(operation, T, ...)                                                                                    \
-  void operation##_array(benchmark::State& state) {                                                                \
-    time_on_arrays<T>(state,                                                                                       \
-                      [](const T* x, T* y, std::size_t n) { lanemath_##operation##_array(x __VA_ARGS__, y, n); }); \
-  }                                                                                                                \
-  void operation##_by_hand(benchmark::State& state) {                                                              \
-    using V = lanemath_##T##16;                                                                                    \
-    time_on_arrays<T>(state, [](const T* from, T* y, std::size_t n) {                                              \
-      by_hand<V>(from, y, n, [](V& x) { x = lanemath_##operation##16(x __VA_ARGS__); });                           \
-    });                                                                                                            \
-  }                                                                                                                \
-  BENCHMARK(operation##_array)->Arg(1000)->Arg(100000);                                                            \
-  BENCHMARK(operation##_by_hand)->Arg(1000)->Arg(100000);
-
-TIME(expf, float)
-TIME(logf, float)
-TIME(sinf, float)
-TIME(powf, float, , x)
-TIME(exp, double)
 
 }  // namespace
+
+array_functions::array_functions(const std::string& library_path)
+    : handle_(dlopen((std::filesystem::absolute(library_path).parent_path() / "liblanemath_loops.so.3").c_str(),
+                     RTLD_NOW | RTLD_LOCAL)) {}
+
+array_functions::~array_functions() {
+  if (handle_) dlclose(handle_);
+}
+
+std::optional<harness::function> array_functions::find(const operation& o, variant v) const {
+  void* address = handle_ ? dlsym(handle_, fmt::format("lanemath_{}_array{}", o.name(), suffix(v)).c_str()) : nullptr;
+  if (!address) return std::nullopt;
+  const bool second = o.sig.how != delivery::none;
+  switch (o.sig.arity()) {
+    case 1: return harness::function(address, second ? call<1, true> : call<1, false>);
+    case 2: return harness::function(address, second ? call<2, true> : call<2, false>);
+    default: return harness::function(address, call<3, false>);
+  }
+}
+
+}  // namespace lanemath::bench

@@ -6,10 +6,13 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "generate/families.h"
 #include "harness/files.h"
 #include "harness/names.h"
 #include "suite.h"
@@ -29,6 +32,8 @@ void check_flags(const std::vector<std::string>& flags) {
                              [&](auto name) { return flag.starts_with(fmt::format("--benchmark_{}=", name)); }))
       throw std::runtime_error(fmt::format("{} is not supported: --help shows what is", flag));
 }
+
+std::string_view title_of(family group) { return std::ranges::find(families, group, &family_text::group)->title; }
 
 // The runs of one operation alternate in random order, so that a busy moment of the machine does not affect only one of
 // them.
@@ -58,20 +63,41 @@ int main(int argc, char** argv) try {
                  "expf4, stands for all widths, which share a row");
   app.add_option("--library", library_path, "The library to measure")->capture_default_str();
   app.add_option("--benchmark_out", json_path, "Write all that was measured to this file as JSON, in the end");
+  bench::request wanted;
+  std::pair<double, double> between;
+  const auto* between_given =
+      app.add_option("--between", between, "Draw floating arguments from LOW to HIGH, every binade equally often")
+          ->type_name("LOW HIGH");
+  app.add_option("--errors", wanted.error_samples,
+                 "Also the largest error, in ulp, over so many arguments: in the JSON file");
+  app.add_flag("--c-library-alone", wanted.c_library_alone, "Time nothing but the C library's functions");
+  bool list = false;
+  app.add_flag("--list", list, "Time nothing: print the forms, each after its family");
   app.allow_extras();
   CLI11_PARSE(app, argc, argv);
+  if (*between_given) {
+    if (!(0 < between.first && between.first < between.second && std::isfinite(between.second)))
+      throw std::runtime_error("--between needs two numbers, 0 < LOW < HIGH");
+    wanted.between = {between.first, between.second, true};
+  }
   const harness::selection chosen(patterns);
   check_flags(app.remaining());
   initialise(argv[0], app.remaining());
 
   const harness::library library(library_path);
+  const bench::array_functions of_arrays(library_path);
   bench::results results(json_path);
   bool any = false;
   for (std::size_t i = 0; i < catalogue.size(); ++i)
     for (auto v : variants) {
       if (!chosen.has(i, v)) continue;
-      bench::suite suite(library, i, v);
+      bench::suite suite(library, of_arrays, i, v, wanted);
       if (!suite.exported()) continue;
+      if (list) {
+        any = true;
+        fmt::print("{}\t{}{}\n", title_of(catalogue[i].group), catalogue[i].name(), suffix(v));
+        continue;
+      }
       if (!any) suite.print_heading();
       any = true;
       suite.register_benchmarks();

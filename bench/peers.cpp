@@ -4,6 +4,7 @@
 #include <sleef.h>
 
 #include <cstdint>
+#include <initializer_list>
 #include <type_traits>
 
 #include "typed_calls.h"
@@ -231,5 +232,13 @@ std::optional<peer> sleef(const operation& o, variant v) {
 }
 
 std::optional<peer> c_library(const operation& o) { return find(c_library_rows, o.name(), accuracy::full); }
+
+std::vector<peer> inlined(const operation& o) {
+  using finder = std::optional<peer> (*)(const operation&);
+  std::vector<peer> found;
+  for (const auto find : std::initializer_list<finder>{LANEMATH_INLINED_PEERS})
+    if (const auto p = find(o)) found.push_back(*p);
+  return found;
+}
 
 }  // namespace lanemath::bench

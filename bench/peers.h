@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "frame/catalogue.h"
 #include "harness/harness.h"
@@ -24,5 +25,12 @@ std::optional<peer> c_library(const operation& o);
 
 // A loop of casts or divisions, compiled for the instructions that the library is compiled for.
 std::optional<peer> plain(const operation& o);
+
+// Loops over arrays with other libraries' functions inlined, compiled likewise; of the libraries that were found when
+// this program was built.
+std::vector<peer> inlined(const operation& o);
+std::optional<peer> inlined_highway(const operation& o);
+std::optional<peer> inlined_xsimd(const operation& o);
+std::optional<peer> inlined_eigen(const operation& o);
 
 }  // namespace lanemath::bench

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "accuracy/measure.h"
 #include "latency.h"
 
 namespace lanemath::bench {
@@ -12,7 +13,7 @@ namespace {
 
 constexpr std::size_t rare_every = 64;
 
-constexpr auto throughput = "throughput", rare_lanes = "rare", waiting = "latency";
+constexpr auto throughput = "throughput", rare_lanes = "rare", waiting = "latency", array = "array";
 
 // Dependent additions, one cycle each on every x86-64 processor: they show the clock that the core runs at now, which
 // the time-stamp counter does not.
@@ -35,6 +36,13 @@ std::optional<double> operator/(std::optional<double> a, std::optional<double> b
   return a && b ? std::optional(*a / *b) : std::nullopt;
 }
 
+std::array<range, 3> ranges_of(const operation& o, const std::optional<range>& wanted) {
+  auto ranges = o.typical;
+  for (int i = 0; wanted && i < o.sig.arity(); ++i)
+    if (is_floating(o.sig.arguments[i])) ranges[i] = *wanted;
+  return ranges;
+}
+
 // The error bound that SLEEF's names carry: u10 of Sleef_expf4_u10sse4.
 std::string_view bound_of(std::string_view sleef_name) {
   const auto last = sleef_name.substr(sleef_name.rfind('_') + 1);
@@ -43,17 +51,23 @@ std::string_view bound_of(std::string_view sleef_name) {
 
 }  // namespace
 
-suite::suite(const harness::library& library, std::size_t operation_index, variant v)
+suite::suite(const harness::library& library, const array_functions& of_arrays, std::size_t operation_index, variant v,
+             const request& wanted)
     : library_(library),
+      of_arrays_(of_arrays),
+      wanted_(wanted),
       operation_index_(operation_index),
       variant_(v),
       exported_(library.find(operation_index, v, widths.back()).has_value()),
       title_(fmt::format("{}{}", catalogue[operation_index].name(), suffix(v))),
-      typical_(catalogue[operation_index], 0),
-      with_rare_(catalogue[operation_index], rare_every),
-      sleef_(sleef(catalogue[operation_index], v)),
+      ranges_(ranges_of(catalogue[operation_index], wanted.between)),
+      typical_(catalogue[operation_index], ranges_, 0),
+      with_rare_(catalogue[operation_index], ranges_, rare_every),
       scalar_(c_library(catalogue[operation_index])) {
+  if (wanted.c_library_alone) return;
+  sleef_ = sleef(catalogue[operation_index], v);
   if (!scalar_) scalar_ = plain(catalogue[operation_index]);
+  inlined_ = inlined(catalogue[operation_index]);
 }
 
 std::string suite::name(std::string_view kind, int width) const {
@@ -63,31 +77,48 @@ std::string suite::name_of_peer(const peer& p, std::string_view kind) const {
   return fmt::format("{}/{}/{}/{}", title_, p.name, kind, p.width);
 }
 
-void suite::add(const std::string& benchmark, const harness::function& f, int width, arguments& on) const {
+// Nothing where there is no exact value to compare with.
+std::optional<double> suite::error_of(const harness::function& f, int width) const {
+  const auto& o = catalogue[operation_index_];
+  const auto* reference = accuracy::find_reference(o);
+  if (wanted_.error_samples == 0 || !reference) return std::nullopt;
+  accuracy::range drawn_from{"", {}};
+  for (int i = 0; i < o.sig.arity(); ++i) drawn_from.arguments.push_back({ranges_[i].low, ranges_[i].high});
+  return accuracy::measure(o, *reference, f, width, accuracy::sample(o, drawn_from, wanted_.error_samples, 1))
+      .largest_error;
+}
+
+void suite::add(const std::string& benchmark, const harness::function& f, int width, arguments& on,
+                std::optional<double> error) const {
   const auto lanes = lane_count / padded(width) * width;
-  benchmark::RegisterBenchmark(benchmark.c_str(), [f, lanes, &on](benchmark::State& state) {
+  benchmark::RegisterBenchmark(benchmark.c_str(), [f, lanes, error, &on](benchmark::State& state) {
     for (auto _ : state) on.pass_to(f);
     count_lanes(state, lanes);
+    if (error) state.counters["ulp"] = *error;
   });
 }
 
-void suite::add_peer(const std::optional<peer>& p) {
-  if (!p) return;
-  add(name_of_peer(*p, throughput), p->throughput, p->width, typical_);
-  add(name_of_peer(*p, rare_lanes), p->throughput, p->width, with_rare_);
-  if (p->latency) add(name_of_peer(*p, waiting), *p->latency, p->width, typical_);
+void suite::add_peer(const peer& p) {
+  add(name_of_peer(p, throughput), p.throughput, p.width, typical_, error_of(p.throughput, p.width));
+  if (p.latency) add(name_of_peer(p, waiting), *p.latency, p.width, typical_);
 }
 
-void suite::register_benchmarks() {
+void suite::add_ours() {
   for (int width : widths)
     if (const auto f = library_.find(operation_index_, variant_, width)) {
-      add(name(throughput, width), *f, width, typical_);
-      add(name(rare_lanes, width), *f, width, with_rare_);
+      add(name(throughput, width), *f, width, typical_, width == 16 ? error_of(*f, width) : std::nullopt);
+      if (width == 4) add(name(rare_lanes, width), *f, width, with_rare_);
       if (width == 1)
         if (const auto chained = latency(catalogue[operation_index_], *f)) add(name(waiting, 1), *chained, 1, typical_);
     }
-  add_peer(sleef_);
-  add_peer(scalar_);
+  if (const auto f = of_arrays_.find(catalogue[operation_index_], variant_)) add(name(array, 16), *f, 16, typical_);
+}
+
+void suite::register_benchmarks() {
+  if (!wanted_.c_library_alone) add_ours();
+  if (sleef_) add_peer(*sleef_);
+  if (scalar_) add_peer(*scalar_);
+  for (const auto& p : inlined_) add_peer(p);
   benchmark::RegisterBenchmark((title_ + "/cycle").c_str(), [](benchmark::State& state) {
     for (auto _ : state) spend_cycles();
     count_lanes(state, additions);
@@ -100,12 +131,15 @@ void suite::print_heading() {
       "cycles: per lane at width 4. rare: per lane at width 4 where one lane in {} is rare. latency: of width 1.\n"
       "Peers: per lane on the same arguments, and as a multiple of ours at width 4. For conversions and integer "
       "divisions\n"
-      "the C library's column has a loop of plain C++, compiled for the same instructions.\n\n",
+      "the C library's column has a loop of plain C++, compiled for the same instructions. Inlined: the fastest of\n"
+      "Highway, xsimd and Eigen in a loop over an array, and as a multiple of ours at width 16.\n\n",
       rare_every);
-  fmt::print("{:18}{:^28}{:^21}{:30}{:^21}{:^22}\n", "", "call at width", "lane at width", "", "SLEEF, 128 bits",
-             "C library");
-  fmt::print("{:18}{:>7}{:>7}{:>7}{:>7}{:>7}{:>7}{:>7}{:>6}{:>8}{:>7}{:>9}{:>8}{:>7}{:>6}{:>7}{:>7}{:>9}\n", "", 1, 2,
-             3, 4, 4, 8, 16, "gap", "cycles", "rare", "latency", "lane", "times", "class", "lane", "times", "latency");
+  fmt::print("{:18}{:^28}{:^21}{:30}{:^21}{:^22}{:^20}\n", "", "call at width", "lane at width", "", "SLEEF, 128 bits",
+             "C library", "inlined");
+  fmt::print(
+      "{:18}{:>7}{:>7}{:>7}{:>7}{:>7}{:>7}{:>7}{:>6}{:>8}{:>7}{:>9}{:>8}{:>7}{:>6}{:>7}{:>7}{:>9}{:>7}{:>7} {}\n", "",
+      1, 2, 3, 4, 4, 8, 16, "gap", "cycles", "rare", "latency", "lane", "times", "class", "lane", "times", "latency",
+      "lane", "times", "by");
 }
 
 void suite::print_row(const results& r) const {
@@ -124,8 +158,12 @@ void suite::print_row(const results& r) const {
              number(lane(4, rare_lanes)), number(lane(1, waiting)));
   fmt::print("{:>8}{:>7}{:>6}", number(of_peer(sleef_)), number(of_peer(sleef_) / four),
              sleef_ ? bound_of(sleef_->name) : "-");
-  fmt::print("{:>7}{:>7}{:>9}\n", number(of_peer(scalar_)), number(of_peer(scalar_) / four),
+  fmt::print("{:>7}{:>7}{:>9}", number(of_peer(scalar_)), number(of_peer(scalar_) / four),
              number(of_peer(scalar_, waiting)));
+  const auto fastest = std::ranges::min_element(inlined_, {}, [&](const peer& p) { return of_peer(p); });
+  if (fastest != inlined_.end())
+    fmt::print("{:>7}{:>7} {}", number(of_peer(*fastest)), number(of_peer(*fastest) / lane(16)), fastest->name);
+  fmt::print("\n");
   std::fflush(stdout);
 }
 

@@ -1,4 +1,5 @@
-# CPack makes Debian packages of the components: library, development files, documentation, tools, OpenCL part.
+# CPack makes Debian packages of the components: library, its symbols, development files, documentation, tools, OpenCL
+# part.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "lanemath developers <developers@lanemath.invalid>" CACHE STRING "The packages' maintainer")
 set(CPACK_DEB_COMPONENT_INSTALL ON)
@@ -28,6 +29,11 @@ set(same_library "liblanemath3 (= ${PROJECT_VERSION})")
 lanemath_package(library liblanemath3 libs "" "holds the shared library")
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA
   ${CMAKE_CURRENT_LIST_DIR}/debian/shlibs ${CMAKE_CURRENT_LIST_DIR}/debian/triggers)
+if(LANEMATH_SYMBOLS)
+  lanemath_package(symbols liblanemath3-dbgsym debug "${same_library}" "holds the library's symbols for debuggers")
+  set(CPACK_LANEMATH_LIBRARY ${PROJECT_BINARY_DIR}/lib/__ocl_lanemath_h8.so.3.5)
+  set(CPACK_LANEMATH_READELF ${CMAKE_READELF})
+endif()
 lanemath_package(development liblanemath-dev libdevel "${same_library}"
   "holds the headers and the files for CMake and pkg-config")
 

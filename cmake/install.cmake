@@ -10,6 +10,9 @@ foreach(link liblanemath.so liblanemath.so.3.5)
 endforeach()
 install(TARGETS lanemath EXPORT lanemath-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library)
 install(FILES ${links}/liblanemath.so.3.5 DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library)
+if(LANEMATH_SYMBOLS)
+  install(FILES ${LANEMATH_SYMBOLS} DESTINATION ${CMAKE_INSTALL_LIBDIR}/.debug COMPONENT symbols)
+endif()
 install(FILES ${links}/liblanemath.so DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/lanemath ${LANEMATH_GENERATED}/include/lanemath
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
@@ -28,8 +31,9 @@ install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT license)
 
 set(docs ${PROJECT_SOURCE_DIR}/docs)
-file(GLOB documents ${docs}/*.md)
-install(FILES ${documents} ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
+file(GLOB documents ${docs}/*.md ${docs}/*.svg ${docs}/performance.json)
+install(FILES ${documents} ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_SOURCE_DIR}/SECURITY.md
+  DESTINATION ${CMAKE_INSTALL_DOCDIR}
   COMPONENT documentation)
 if(TARGET lanemath-reference)
   install(DIRECTORY ${PROJECT_BINARY_DIR}/reference/html DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)

@@ -7,6 +7,24 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   set(root ${CPACK_TEMPORARY_DIRECTORY}/${component})
   set(doc ${root}/usr/share/doc/${package})
 
+  file(GLOB_RECURSE library ${root}/usr/__ocl_lanemath_h8.so.3.5)
+  if(library AND CPACK_LANEMATH_LIBRARY)
+    # As it was built: CPack has stripped it again, of what leads to its symbols.
+    cmake_path(GET library PARENT_PATH folder)
+    file(COPY ${CPACK_LANEMATH_LIBRARY} DESTINATION ${folder}
+      FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+  endif()
+  file(GLOB_RECURSE symbols ${root}/usr/*.debug)
+  if(symbols)
+    execute_process(COMMAND ${CPACK_LANEMATH_READELF} -n ${CPACK_LANEMATH_LIBRARY}
+      OUTPUT_VARIABLE notes COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX MATCH "Build ID: (..)([0-9a-f]+)" found "${notes}")
+    file(MAKE_DIRECTORY ${root}/usr/lib/debug/.build-id/${CMAKE_MATCH_1})
+    file(RENAME ${symbols} ${root}/usr/lib/debug/.build-id/${CMAKE_MATCH_1}/${CMAKE_MATCH_2}.debug)
+    cmake_path(GET symbols PARENT_PATH emptied)
+    file(REMOVE_RECURSE ${emptied})
+  endif()
+
   file(COPY ${CPACK_LANEMATH_DEBIAN_FILES}/copyright DESTINATION ${doc})
   file(WRITE ${doc}/changelog "lanemath (${CPACK_PACKAGE_VERSION}) unstable; urgency=medium
 

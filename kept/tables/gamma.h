@@ -27,7 +27,7 @@ alignas(64) inline constexpr lgammaf_root lgammaf_roots[2][2] = {
 };
 
 // log-gamma / (x - 1) between 0.875 and 1.25, in x - 1, highest power first
-alignas(64) inline constexpr extended lgamma_at_1[19] = {
+alignas(64) inline constexpr two_doubles lgamma_at_1[19] = {
     -0xa.3c9acc5cb385c99p-9L,
     0xb.8b98f2a1bb67911p-8L,
     -0xe.db5f0a051b8e8eep-8L,
@@ -50,7 +50,7 @@ alignas(64) inline constexpr extended lgamma_at_1[19] = {
 };
 
 // log-gamma between 1.25 and 1.75, in the distance from its minimum, highest power first
-alignas(64) inline constexpr extended lgamma_at_minimum[21] = {
+alignas(64) inline constexpr two_doubles lgamma_at_minimum[21] = {
     0x9.154920211b63529p-19L,
     -0xa.9a7de0f1b4456d5p-18L,
     0x8.1c7aa48ef18d76cp-17L,
@@ -75,7 +75,7 @@ alignas(64) inline constexpr extended lgamma_at_minimum[21] = {
 };
 
 // log-gamma / (x - 2) between 1.75 and 2.25, in x - 2, highest power first
-alignas(64) inline constexpr extended lgamma_at_2[17] = {
+alignas(64) inline constexpr two_doubles lgamma_at_2[17] = {
     -0x8.26bf9fdfbc880ep-24L,
     0x8.8066b9beed6691bp-23L,
     -0x8.87e65c58f35823ap-22L,
@@ -96,12 +96,12 @@ alignas(64) inline constexpr extended lgamma_at_2[17] = {
 };
 
 // log-gamma / (x - 2) between 2.25 and 4, in x
-alignas(64) inline constexpr quadratics<extended, 11> lgamma_to_4[1] = {
+alignas(64) inline constexpr quadratics<two_doubles, 11> lgamma_to_4[1] = {
     {-0x8.0efe256f5ae2201p-44L, {-0xd.98f3e41fac0498p+0L, -0xc.b07c476e847a1dfp+0L, -0xb.42bcd9a8e44a2eap+0L, -0x9.6e6936caa190497p+0L, -0xf.e8a96a214073bffp-1L, -0xe.b5ee2af9c11c115p-1L, -0xa.6af5c6a1a560846p-1L, -0xc.b4a7f3d55fecbd5p-2L, -0xb.7fab894cf80768p-3L, -0xa.074a1cc9176d49fp-6L, 0x8.107b3ee48e1fd4dp-4L}, {0xb.d43a8f905fef51cp+2L, 0xb.1167086f9d0a58bp+2L, 0x9.e127ca50e622033p+2L, 0x8.5f8475d76b190a9p+2L, 0xd.e8a397f14d75de2p-1L, 0xd.5dd2b58ed92c6b8p+1L, 0x9.e8cafc4c2d5805ap+1L, 0xd.5033b12b4c061fcp+0L, 0xf.6ffb199ce101472p-1L, 0xd.c754e0bcc059028p-2L, 0xc.d70a493992e369ap-4L}},
 };
 
 // log-gamma at 2^(k+2) (1 + u), in u
-alignas(64) inline constexpr quadratics<extended, 11> lgamma_octaves[7] = {
+alignas(64) inline constexpr quadratics<two_doubles, 11> lgamma_octaves[7] = {
     {0xe.7e2da2e72ede104p-20L, {-0x9.dd883268d3d5542p-1L, -0x9.2e5d62da742a4b5p-1L, -0xf.c0368e9763c81c7p-2L, -0xc.22fbff69e3567aap-2L, -0xf.b4e08b2ea976516p-3L, -0xd.31fd2b04918bb15p-4L, 0x8.c7c531187f793eap-5L, 0x9.d15f5eff9f4557fp-3L, 0xa.0205c5334d0ecb4p-3L, 0xf.78264de9cb6f1c8p-3L, 0x9.2d6dc6ed20a6ab6p-2L}, {0xc.52d554736e097dep-1L, 0xb.df88d0e27c3dec2p-1L, 0xb.0779ccb58961c2fp-1L, 0x9.e4bdbce33e3aae3p-1L, 0x8.97c631ab0534b64p-1L, 0xe.82b0e181f6af27ap-2L, 0xb.fa364ecfd635164p-2L, 0x9.bb7ba43cadf4915p-2L, 0xc.040a65ee95cdefap-5L, 0xf.aaefdaba0c4fb37p-3L, 0xc.72282aace1bcbadp-3L}},
     {0x8.207358f82f9203dp-19L, {-0xa.3714a5233174b3dp-1L, -0x9.81b487c908fb775p-1L, -0x8.278e23828ffa345p-1L, -0xc.90becffb9f74336p-2L, -0x8.2087c317009ab2p-2L, -0xd.9f3630ffeebcfbfp-4L, 0x9.3e29b43134977eap-5L, 0xa.39aa8ce79b7511bp-3L, 0xd.16aac0089455016p-3L, 0x8.0c0e9379065e0ddp-2L, 0x9.8744da3b57bedcbp-2L}, {0xd.371ac4070f34e2dp-1L, 0xc.bffa1a601955c9ap-1L, 0xb.e060c414e5e2954p-1L, 0xa.b2a5c9f0dcaab63p-1L, 0x9.57a4cbce693aee8p-1L, 0xf.e15d97beb924955p-2L, 0xd.33ed0f95ea013fep-2L, 0xa.ccc192fb825ff16p-2L, 0xa.a197edbc2ecc5cdp-4L, 0x8.b8c3ff7d3d7b7b2p-2L, 0xd.bbf17f4673624fap-3L}},
     {0xb.2716b6c530dc8d9p-19L, {-0xa.760c2148d1391aap-1L, -0x9.bc262a1730941dap-1L, -0x8.5952fa4b9284c6fp-1L, -0xc.dc0c8c6635bb176p-2L, -0x8.4eb1c5e379a7f62p-2L, -0xd.d92d5c128722cc9p-4L, 0x9.c74af7389a30102p-5L, 0xa.95f5e6573be17e5p-3L, 0xe.cb2b7d5c299716ap-3L, 0x8.5214a767ab1c40ep-2L, 0x9.dd2a473fedb9098p-2L}, {0xd.dc70f46e045746ap-1L, 0xd.62a4a6353ef876fp-1L, 0xc.7dd0881401a6696p-1L, 0xb.4886f9ee8bb59a3p-1L, 0x9.e3ff779f7a4058p-1L, 0x8.720358fa195e69p-1L, 0xe.1e941f8915d50f9p-2L, 0xb.9e471682fe32eacp-2L, 0xd.a0837b77db1e6e9p-4L, 0x9.6ff4f492a1c820fp-2L, 0xe.ec05e6c3ef0e834p-3L}},
@@ -146,7 +146,7 @@ alignas(64) inline constexpr lgamma_root lgamma_near_roots[13] = {
 };
 
 // log(sin(pi t) / (pi t)) / t^2 for t up to 1/2, in t^2, highest power first
-alignas(64) inline constexpr extended lgamma_reflection[16] = {
+alignas(64) inline constexpr two_doubles lgamma_reflection[16] = {
     -0x8.149ab13e6383f6fp-4L,
     0xf.4f393087c5abd33p-5L,
     -0xd.52606e4b6268aaep-5L,
@@ -426,7 +426,7 @@ alignas(64) inline constexpr float log_reciprocals[256] = {
 };
 
 // Minus their logarithms, in two parts
-alignas(64) inline constexpr two_part<extended> log_values[256] = {
+alignas(64) inline constexpr logarithm log_values[256] = {
     {0x8.0200aaeac4p-12L, 0x9.de70671eeec0bfdp-57L},
     {0xc.09090a2c36p-11L, -0xa.bf1f5a3036442f1p-56L},
     {0xa.0c94fcb419p-10L, 0xe.f8eaba026d0f775p-55L},
@@ -686,7 +686,7 @@ alignas(64) inline constexpr two_part<extended> log_values[256] = {
 };
 
 // ln 2 in two parts
-alignas(64) inline constexpr two_part<extended> log_2[1] = {
+alignas(64) inline constexpr logarithm log_2[1] = {
     {0xb.17217f7d1cf8p-4L, -0xc.a86c3898cff81a1p-57L},
 };
 
@@ -727,7 +727,7 @@ alignas(64) inline constexpr quadratics<double, 6> tgammaf_rows[6] = {
 };
 
 // gamma(a) for a = 2 + g, then for a = 16 k + g, in g; the last row scaled down
-alignas(64) inline constexpr quadratics<extended, 11> tgamma_rows[12] = {
+alignas(64) inline constexpr quadratics<two_doubles, 11> tgamma_rows[12] = {
     {0x8.10f467c568bfe3dp-33L, {-0xe.9cad87418aa816ep-1L, -0xc.98b6a52c5b5fe94p-1L, -0x9.c197d77ae5f856ap-1L, -0xd.9f3852cb6049bbcp-2L, -0x8.0495334294f7c64p-2L, -0xb.6ae0d06e751b984p-4L, 0xe.8dd4f6748b89ee2p-5L, 0xb.f5dadae42f4e8f5p-3L, 0x9.9a20a25240af1d2p-2L, 0xc.a204e5c0b607df4p-2L, 0xe.f0e87d72153809ep-2L}, {0xd.aca16df699c987bp+0L, 0xc.379afc392c010f8p+0L, 0xa.5d92630b4528b52p+0L, 0x8.ac13b278d0680b9p+0L, 0xe.863b57a18b84925p-1L, 0xc.44f8528404a85d9p-1L, 0xa.86f15c2b68c6422p-1L, 0x9.3edc8cdba4df9fdp-1L, 0x8.630a87defd39c31p-1L, 0xf.dd0246942835b6ep-2L, 0xf.bbdd2f86030dd05p-2L}},
     {0xd.97d85628a435389p+3L, {-0x9.330914bf4c68ca2p+0L, -0xb.add41d08b48494cp-1L, -0xd.ef4d1676d496983p-2L, -0xd.3273439c1c429f7p-3L, -0xa.daa8e00fda66db5p-6L, 0x8.4724b18b1e11a9cp-3L, 0x8.05124d657a6de8fp-2L, 0xb.0eb94c387fd2d23p-2L, 0xd.4e0f49d1be036fdp-2L, 0xe.ca89f25d6398e77p-2L, 0xf.87fc4f88dee78bep-2L}, {0xf.5e0ba06d99bcc1p+1L, 0xa.0ab7ec0b0b1d4eap+1L, 0xe.90a986d7babb36cp+0L, 0xb.18e9ca59f89ef1p+0L, 0x8.ba87f5c4523fbb6p+0L, 0xe.17c18da86dc41d1p-1L, 0xb.ac510b03d69a587p-1L, 0x9.f30ff1a6d55e453p-1L, 0x8.c45d254f0a7c796p-1L, 0x8.070dcb17f38691fp-1L, 0xf.57f85562674acd9p-2L}},
     {0xa.acdf5f7ac4b7611p+82L, {-0xf.da70db6fb7b0b64p-1L, -0xa.03df032b30a624ap-1L, -0xb.f73970cb30a9d75p-2L, -0xb.8ee24628c2fa9cap-3L, -0xd.ba672f1f63c892bp-6L, 0xc.5d6483bf3cca02cp-4L, 0xc.769dbe8ada7bd3cp-3L, 0x8.a94fd2fb77dc347p-2L, 0xa.70ff836fc65cdedp-2L, 0xb.9c1b59af2436e8cp-2L, 0xc.3057539be587474p-2L}, {0xb.747ae1abeeeb82p+1L, 0xe.bab0285e829020fp+0L, 0xa.7e08f137f7e77cp+0L, 0xf.ab5539ef65e3d33p-1L, 0xc.0dc01c24831751fp-1L, 0x9.80c21c587259e2ap-1L, 0xf.5e5213db26e1ecep-2L, 0xc.cd5e3cf2aae3fe7p-2L, 0xb.0efc07913a529d9p-2L, 0x9.fa12a9004ea1673p-2L, 0x9.759738314b7af07p-2L}},
@@ -743,7 +743,7 @@ alignas(64) inline constexpr quadratics<extended, 11> tgamma_rows[12] = {
 };
 
 // gamma between 1 and 1.25, in y - 1, highest power first
-alignas(64) inline constexpr extended tgamma_from_1[16] = {
+alignas(64) inline constexpr two_doubles tgamma_from_1[16] = {
     -0xa.4056f3d00b2ddd1p-6L,
     0xf.5b59c7d7a914a68p-5L,
     -0xc.4df1afd971bb78fp-4L,
@@ -763,7 +763,7 @@ alignas(64) inline constexpr extended tgamma_from_1[16] = {
 };
 
 // gamma between 1.25 and 1.5, in the distance from its minimum, highest power first
-alignas(64) inline constexpr extended tgamma_at_minimum[16] = {
+alignas(64) inline constexpr two_doubles tgamma_at_minimum[16] = {
     -0xd.037b5bcc6ae8db8p-11L,
     0xe.a8040378eba6441p-15L,
     -0xc.53e6628ca15a103p-11L,
@@ -783,7 +783,7 @@ alignas(64) inline constexpr extended tgamma_at_minimum[16] = {
 };
 
 // gamma between 1.5 and 2, in y - 1, highest power first
-alignas(64) inline constexpr extended tgamma_to_2[18] = {
+alignas(64) inline constexpr two_doubles tgamma_to_2[18] = {
     -0xc.4f90625a74f3827p-18L,
     0xb.2304b767ed7f654p-14L,
     -0x9.9c557a57e5808d5p-11L,
@@ -805,7 +805,7 @@ alignas(64) inline constexpr extended tgamma_to_2[18] = {
 };
 
 // (sin(pi t) / (pi t) - 1) / t^2 for t up to 1/2, in t^2, highest power first
-alignas(64) inline constexpr extended tgamma_sine[9] = {
+alignas(64) inline constexpr two_doubles tgamma_sine[9] = {
     -0xf.46a693a971d8ac3p-31L,
     0x8.7d878692b78d0ap-25L,
     -0xe.a121a7c99f412d1p-21L,

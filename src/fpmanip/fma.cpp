@@ -1,6 +1,6 @@
-// fma: x y + z with one rounding, in the direction of the x87 control word. Double lanes are computed in integer
-// arithmetic: the exact product, the exact aligned sum, and one rounding. Ordinary float lanes that are rounded to
-// nearest are computed in double arithmetic, the others as double lanes are.
+// fma: x y + z with one rounding, in the direction of the x87 control word. Ordinary lanes that are rounded to nearest
+// are computed in double arithmetic, double lanes in pairs of doubles. The others are computed in integer arithmetic:
+// the exact product, the exact aligned sum, and one rounding.
 //
 // Lanes that need no such care (a zero factor or summand, a factor of magnitude one, infinities, NaNs) are computed as
 // a plain product and sum, in the direction of MXCSR.
@@ -11,6 +11,7 @@
 //
 // Looks odd and is meant, see docs/design.md: -0 that becomes +0, and two rounding directions.
 #include "numeric/exceptional.h"
+#include "numeric/split.h"
 #include "numeric/x87.h"
 
 namespace lanemath {
@@ -146,13 +147,36 @@ LANEMATH_INLINE status fma_rare(const T* px, const T* py, const T* pz, T* result
   return status::ordinary;
 }
 
-// Double lanes have no wider format to be computed in.
-struct fma_in_integers {
-  using signature = double(double, double, double);
-  static constexpr bool always_scalar = true;
-  static constexpr auto rare = fma_rare<double>;
-  static auto kernel(auto x, auto, auto) { return x; }
-};
+template <class V>
+LANEMATH_INLINE auto has_magnitude(const V& x, typename V::value_type a) {
+  return bits(magnitude(x)) == bits(V(a));
+}
+
+// a + b, and by how much that is too small: exactly its sign in every direction of MXCSR, because the sum less the
+// larger summand is exact.
+template <class V>
+LANEMATH_INLINE two_part<V> sum_in_order(V a, V b) {
+  const V sum = a + b;
+  const auto in_order = magnitude(a) >= magnitude(b);
+  const V larger = select(in_order, a, b), smaller = select(in_order, b, a);
+  return {sum, smaller - (sum - larger)};
+}
+
+// The kernel's last step. The same lanes as in the routine need no exact sum. The routine gets those with a number
+// other than zero that is out of the kernel's range, those whose sum the kernel leaves open, and all where the rounding
+// is not to nearest.
+template <class V, class M>
+LANEMATH_INLINE auto settled(const V& x, const V& y, const V& z, const V& exact, const M& open, auto out_of_range) {
+  using T = typename V::value_type;
+  auto plain = has_magnitude(x, one_v<T>) | has_magnitude(y, one_v<T>);
+  M rare = x87_rounding() == rounding::nearest ? 0 : -1;
+  for (const V& v : {x, y, z}) {
+    const auto zero = has_magnitude(v, zero_v<T>);
+    plain = plain | zero;
+    rare = rare | (out_of_range(v) & ~narrow_mask(zero));
+  }
+  return marked(select(plain, x * y + z, exact), rare | (open & ~narrow_mask(plain)));
+}
 
 // Float lanes: in double the product is exact, and the sum's error tells on which side of it the exact sum lies. That
 // holds in every direction of MXCSR, so the sum can be cut off to an odd number, which rounds as the exact sum does.
@@ -172,11 +196,7 @@ struct fmaf_in_doubles {
   template <class V>
   static auto marked_kernel(V x, V y, V z) {
     using M = lanes<std::int32_t, V::width>;
-    const auto product = convert<double>(x) * convert<double>(y), summand = convert<double>(z);
-    const auto sum = product + summand;
-    const auto in_order = magnitude(product) >= magnitude(summand);
-    const auto larger = select(in_order, product, summand), smaller = select(in_order, summand, product);
-    const auto error = smaller - (sum - larger);
+    const auto [sum, error] = sum_in_order(convert<double>(x) * convert<double>(y), convert<double>(z));
     const auto inexact = as<std::uint64_t>(error != 0);
     const auto too_large = as<std::uint64_t>(bits(error) ^ bits(sum)) >> 63;
     const auto odd = (as<std::uint64_t>(sum) - (too_large & inexact)) | (inexact & 1);
@@ -185,21 +205,46 @@ struct fmaf_in_doubles {
     // Results below 2^-126, or so near 2^128 that they may round to infinity: by the upper halves of those doubles.
     const M beyond = outside(top_word(odd) & 0x7FFFFFFF, 0x38100000, 0x47EFFFFE) & nonzero;
 
-    // The same lanes as in the routine: the plain form is exact, but for one rounding.
-    M plain = bits(magnitude(z)) == 0, special = abnormal(z);
-    for (const V& factor : {x, y}) {
-      const auto a = bits(magnitude(factor));
-      plain = plain | (a == 0) | (a == std::bit_cast<std::int32_t>(1.0f));
-      special = special | abnormal(factor);
-    }
-    const M other_direction = x87_rounding() == rounding::nearest ? 0 : -1;
-    return marked(select(plain, x * y + z, exact), special | (beyond & ~plain) | other_direction);
+    return settled(x, y, z, exact, beyond, [](const V& v) LANEMATH_LAMBDA { return not_normal(v); });
+  }
+};
+
+// Double lanes: the product and the sum are pairs of doubles. Their errors are exact, or known so well that they tell
+// on which side of a midpoint the exact sum lies, whichever of its two neighbours the direction of MXCSR has chosen.
+struct fma_in_pairs {
+  using signature = double(double, double, double);
+  static constexpr int groups_at_once = 1;
+  static constexpr auto rare = fma_rare<double>;
+
+  // Of 26 bits each, whose products are exact in every direction. Multiplying by a splitter would round.
+  template <class V>
+  static two_part<V> halves(V x) {
+    const V high = without_low_bits(from_bits(bits(x) + (std::int64_t(1) << 26)), 27);
+    return {high, x - high};
   }
 
-  // Denormals, infinities and NaNs.
   template <class V>
-  static auto abnormal(V x) {
-    return not_normal(x) & ~(bits(magnitude(x)) == 0);
+  static auto marked_kernel(V x, V y, V z) {
+    const V product = x * y;
+    const auto [sum, sum_error] = sum_in_order(product, z);
+    const V error = sum_error + product_error(product, halves(x), halves(y));
+    const V result = sum + error;
+    const V left = error - (result - sum);
+
+    using f = format<double>;
+    const V scale = from_bits(bits(result) & std::int64_t(f::infinity));
+    const auto next = magnitude(left) > scale * 0x1.0000000001p-53;
+    const auto same = magnitude(left) < scale * 0x1.ffffffffffp-54;
+    // The numbers below a power of two lie closer together.
+    const auto uneven = ((bits(result) & std::int64_t(f::fraction)) == 0) & (left != 0);
+    const auto inward = as<std::uint64_t>(bits(left) ^ bits(result)) >> 63;
+    const auto step = as<std::uint64_t>(next) & (1 - (inward << 1));
+    const V nearest = from_bits(as<std::uint64_t>(result) + step);
+
+    const auto extreme = [](const V& v) LANEMATH_LAMBDA {
+      return outside(top_word(magnitude(v)), 0x26F00000, 0x58F00000);  // 2^-400 to 2^400: no step loses a bit
+    };
+    return settled(x, y, z, nearest, narrow_mask((~next & ~same) | uneven), extreme);
   }
 };
 
@@ -207,6 +252,6 @@ struct fmaf_in_doubles {
 
 LANEMATH_EXPORT(fmaf, fmaf_in_doubles)
 LANEMATH_SAME(fmaf, , _rm)
-LANEMATH_EXPORT(fma, fma_in_integers)
+LANEMATH_EXPORT(fma, fma_in_pairs)
 
 }  // namespace lanemath

@@ -64,15 +64,15 @@ LANEMATH_INLINE lanes<U, W> convert(const lanes<T, W>& v) {
   lanes<U, W> result;
   using to = typename lanes<U, W>::group;
   if constexpr (W == 1) {
-    // Packed instructions where they exist: a scalar one keeps the rest of its destination register, and so waits for
-    // whatever an earlier call left there.
-    constexpr instructions<16> on;
+    // A scalar instruction keeps the rest of its destination register, and so waits for whatever an earlier call left
+    // there, unless the register is cleared first.
+    result.g[0] = zero_v<U>;
     if constexpr (std::is_integral_v<T>)
-      result.g[0] = convert_group<U, Truncate>(on, _mm_cvtsi32_si128(v.g[0]))[0];
+      result.g[0] = convert_group<U, Truncate>(instructions<16>(), _mm_cvtsi32_si128(v.g[0]))[0];
     else if constexpr (std::is_same_v<T, float> && std::is_same_v<U, double>)
-      result.g[0] = convert_group<U, Truncate>(on, _mm_set_ss(v.g[0]))[0];
+      asm(LANEMATH_REPLACING("cvtss2sd") : "+x"(result.g[0]) : "x"(v.g[0]));
     else if constexpr (std::is_same_v<T, double> && std::is_same_v<U, float>)
-      result.g[0] = convert_group<U, Truncate>(on, _mm_set_sd(v.g[0]))[0];
+      asm(LANEMATH_REPLACING("cvtsd2ss") : "+x"(result.g[0]) : "x"(v.g[0]));
     else if constexpr (std::is_floating_point_v<U>)
       result.g[0] = U(v.g[0]);
     else if constexpr (sizeof(T) == 4)

@@ -12,6 +12,9 @@
 // Where the rare test needs values that the kernel computes on the way, marked_kernel replaces kernel and rare_test; it
 // returns the result and the mask together, joined by `marked`.
 //
+// An operation with `tested_first = true` runs the rare test before the kernel, and no kernel where all lanes are
+// marked: for a fix-up that serves whole vectors. Where no kernel has run, fix-up and rare routine find zeros.
+//
 // A kernel-only operation has no rare_test; an always-scalar one says `always_scalar = true` instead. Where one marked
 // lane sends all lanes to the scalar routine, `one_marks_all = true` replaces fix_up. For two results the signature's
 // result is through_pointer<T, U> or pair_of<T, U>, kernel returns two_results, and fix_up and the rare routine take
@@ -211,17 +214,20 @@ constexpr int groups_at_once() {
 }
 
 template <class Op, class Y, class M, class... X>
-LANEMATH_INLINE void settle(M rare, Y& y, const X&... x) {
-  if (any(rare)) [[unlikely]] {
-    if constexpr (requires { Op::one_marks_all; })
-      rare = M(-1);
-    else if constexpr (requires { Op::fix_up(x..., y, rare); })
-      Op::fix_up(x..., y, rare);
-    else if constexpr (requires { Op::fix_up(x..., y.first, y.second, rare); })
-      Op::fix_up(x..., y.first, y.second, rare);
-    if (const unsigned mask = mask_bits(rare))
-      mend([mask](auto... lanes_of) LANEMATH_LAMBDA { rare_loop<Op::rare>(mask, lanes_of...); }, y, x...);
-  }
+LANEMATH_INLINE void settle_marked(M rare, Y& y, const X&... x) {
+  if constexpr (requires { Op::one_marks_all; })
+    rare = M(-1);
+  else if constexpr (requires { Op::fix_up(x..., y, rare); })
+    Op::fix_up(x..., y, rare);
+  else if constexpr (requires { Op::fix_up(x..., y.first, y.second, rare); })
+    Op::fix_up(x..., y.first, y.second, rare);
+  if (const unsigned mask = mask_bits(rare))
+    mend([mask](auto... lanes_of) LANEMATH_LAMBDA { rare_loop<Op::rare>(mask, lanes_of...); }, y, x...);
+}
+template <class Op, class Y, class M, class... X>
+LANEMATH_INLINE void settle(const M& rare, Y& y, const X&... x) {
+  if (any(rare)) [[unlikely]]
+    settle_marked<Op>(rare, y, x...);
 }
 
 template <class Op, int W, int Piece, class... X>
@@ -246,6 +252,17 @@ LANEMATH_INLINE auto evaluate_tested(const X&... x) -> decltype(by_pieces<Piece,
   return y;
 }
 
+template <class Op, int W, int Piece, class... X>
+LANEMATH_INLINE auto evaluate_tested_first(const X&... x) -> decltype(by_pieces<Piece, W>(kernel_of<Op>(), x...)) {
+  const auto rare = Op::rare_test(x...);
+  if (!any(rare)) [[likely]]
+    return by_pieces<Piece, W>(kernel_of<Op>(), x...);
+  decltype(by_pieces<Piece, W>(kernel_of<Op>(), x...)) y = {};
+  if (mask_bits(rare) != (1u << W) - 1) y = by_pieces<Piece, W>(kernel_of<Op>(), x...);
+  settle_marked<Op>(rare, y, x...);
+  return y;
+}
+
 template <class Op, int W, class... X>
 LANEMATH_INLINE auto evaluate(const X&... x) {
   // At least a group of the narrowest lanes.
@@ -253,6 +270,8 @@ LANEMATH_INLINE auto evaluate(const X&... x) {
       std::max(4, groups_at_once<Op>() * register_bytes / int(border<typename Op::signature>::sig.widest_lane()));
   if constexpr (requires { Op::marked_kernel(x...); })
     return evaluate_marked<Op, W, piece>(x...);
+  else if constexpr (requires { Op::tested_first; })
+    return evaluate_tested_first<Op, W, piece>(x...);
   else
     return evaluate_tested<Op, W, piece>(x...);
 }

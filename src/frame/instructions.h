@@ -19,7 +19,7 @@ LANEMATH_INLINE lanes<T, W> instruction(Packed on_group, Scalar on_lane, const l
   return map<T>(
       [&](auto... v) LANEMATH_LAMBDA {
         if constexpr (W == 1)
-          return T(on_lane(in_register(v)...)[0]);
+          return opaque(T(on_lane(in_register(v)...)[0]));  // as in a comparison
         else
           return std::bit_cast<typename lanes<T, W>::group>(
               on_group(std::bit_cast<register_of<T, typename lanes<T, W>::on_group>>(v)...));

@@ -94,6 +94,17 @@ inline constexpr T half_v = 0.5;
 template <class T>
 inline constexpr T one_v = 1;
 
+// A value that the optimiser cannot see through, for steps that exist for their effect and would otherwise be folded
+// away: the quieting of a NaN by x * 1.0, an overflow that depends on the current rounding direction.
+LANEMATH_INLINE float opaque(float v) {
+  asm("" : "+x"(v));
+  return v;
+}
+LANEMATH_INLINE double opaque(double v) {
+  asm("" : "+x"(v));
+  return v;
+}
+
 namespace lanes_detail {
 
 // Integer arithmetic on unsigned lanes, so that it wraps at every width, the scalar one included.
@@ -107,7 +118,8 @@ LANEMATH_INLINE lanes<T, W> wrapping(F f, const lanes<T, W>& a, const lanes<T, W
   }
 }
 
-// Scalar floating-point comparisons use the instructions that produce a mask: compilers turn a < b into a branch.
+// Scalar floating-point comparisons use the instructions that produce a mask: compilers turn a < b into a branch. The
+// mask is opaque as a number: otherwise EXTRACTPS, two steps, takes it to the integer registers where MOVD is one.
 template <class T, class F, class Single, class Double, int W>
 LANEMATH_INLINE auto compare(F f, Single single, Double wide, const lanes<T, W>& a, const lanes<T, W>& b) {
   using I = int_of_size<sizeof(T)>;
@@ -116,9 +128,9 @@ LANEMATH_INLINE auto compare(F f, Single single, Double wide, const lanes<T, W>&
         if constexpr (W > 1)
           return std::bit_cast<typename lanes<I, W>::group>(f(p, q));
         else if constexpr (std::is_same_v<T, float>)
-          return std::bit_cast<I>(single(_mm_set_ss(p), _mm_set_ss(q))[0]);
+          return std::bit_cast<I>(opaque(single(_mm_set_ss(p), _mm_set_ss(q))[0]));
         else if constexpr (std::is_same_v<T, double>)
-          return std::bit_cast<I>(wide(_mm_set_sd(p), _mm_set_sd(q))[0]);
+          return std::bit_cast<I>(opaque(wide(_mm_set_sd(p), _mm_set_sd(q))[0]));
         else
           return f(p, q) ? I(-1) : I(0);
       },
@@ -255,6 +267,36 @@ LANEMATH_INLINE void put_part(lanes<T, W>& v, int first, const lanes<T, C>& piec
   for (int i = 0; i < piece.groups; ++i) v.g[first * int(sizeof(T)) / v.group_bytes + i] = piece.g[i];
 }
 
+// A single lane in every place of a group, and the first lane of a group. What is done to the bits of a single lane
+// takes it to the integer registers and back; a group stays where it is.
+template <class T>
+LANEMATH_INLINE lanes<T, 16 / int(sizeof(T))> spread(const lanes<T, 1>& x) {
+  return x.g[0];
+}
+template <class T, int W>
+LANEMATH_INLINE lanes<T, 1> first(const lanes<T, W>& v) {
+  return v.g[0][0];
+}
+
+// Calls f(lane, one, other) for every 64-bit lane, and collects the two numbers that it gives: for what only the
+// integer registers can do.
+template <class T, int W, class F>
+LANEMATH_INLINE void lane_by_lane(F f, const lanes<T, W>& v, lanes<T, W>& ones, lanes<T, W>& others) {
+  static_assert(sizeof(T) == 8);
+  for (int i = 0; i < v.groups; ++i) {
+    if constexpr (W == 1) {
+      f(v.g[i], ones.g[i], others.g[i]);
+    } else {
+      constexpr int per_group = lanes<T, W>::group_bytes / int(sizeof(T));
+      T one[per_group], other[per_group];
+      for (int k = 0; k < per_group; ++k) f(v.g[i][k], one[k], other[k]);
+      using group = typename lanes<T, W>::group;
+      ones.g[i] = std::bit_cast<group>(one);
+      others.g[i] = std::bit_cast<group>(other);
+    }
+  }
+}
+
 // A mask as bits, lane i at bit i.
 template <class T, int W>
 LANEMATH_INLINE unsigned mask_bits(const lanes<T, W>& mask) {
@@ -305,16 +347,7 @@ LANEMATH_INLINE lanes<T, W> where(const lanes<int_of_size<sizeof(T)>, W>& mask, 
   return from_bits(bits(x) & mask);
 }
 
-// A value that the optimiser cannot see through, for steps that exist for their effect and would otherwise be folded
-// away: the quieting of a NaN by x * 1.0, an overflow that depends on the current rounding direction.
-LANEMATH_INLINE float opaque(float v) {
-  asm("" : "+x"(v));
-  return v;
-}
-LANEMATH_INLINE double opaque(double v) {
-  asm("" : "+x"(v));
-  return v;
-}
+// Lanes that the optimiser cannot see through.
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> opaque(lanes<T, W> v) {
   for (auto& each : v.g)

@@ -37,12 +37,17 @@ struct asinh_form : rare_above<T(T), Routine, Largest> {
   template <class V>
   LANEMATH_INLINE static V kernel(V x) {
     constexpr auto& c = inverse_rows_of<T>();
+    return by_size<asinh_form>(x, c.SMALL, c.BIG);
+  }
+
+  template <bool Ordinary, class V>
+  LANEMATH_INLINE static V value(V x) {
+    constexpr auto& c = inverse_rows_of<T>();
     constexpr T one = one_v<T>, half = half_v<T>;
     const V a = magnitude(x);
     const V xh = without_low_bits(x, c.X);
     const V hh = xh * xh;
     const V ll = (x + xh) * (x - xh);
-    const V q = hh + ll;
 
     const V g = hh + one;
     const V lost = ((one - g) + hh) + ll;
@@ -50,19 +55,19 @@ struct asinh_form : rare_above<T(T), Routine, Largest> {
     const rough_root<V> root(gh, (g - gh) + lost, polish<T>());
     const V W = root.correction * (root.high + root.low) + root.low;
     const V rise = root.high - one;
-    const auto [T1, T1e] = fast_sum(rise, W);
-
-    const V hq = half * q;
-    const V h2 = hq * hq;
-    const V cc = ((hq * h2) - h2) * half;
-    const auto [T2, T2e] = fast_sum(hq, cc);
-
-    const auto small = a <= c.SMALL;
-    const V t = select(small, T2, T1);
-    const V te = select(small, T2e, T1e);
+    auto [t, te] = fast_sum(rise, W);
+    if constexpr (!Ordinary) {
+      const V hq = half * (hh + ll);
+      const V h2 = hq * hq;
+      const V cc = ((hq * h2) - h2) * half;
+      const auto [T2, T2e] = fast_sum(hq, cc);
+      const auto small = a <= c.SMALL;
+      t = select(small, T2, t);
+      te = select(small, T2e, te);
+    }
     const V v = a + t;
     const V ve = ((a - v) + t) + te;
-    const V y = log_of_sum_or_double<Log>(sum_with_one<V>(v, ve), a);
+    const V y = log_of_sum_or_double<Log, Ordinary>(sum_with_one<V>(v, ve), a);
     return flipped(y, sign_of(x));
   }
 };
@@ -71,20 +76,27 @@ using asinhf_native = asinh_form<float, asinhf_rare, 0x7F7FFFFF, native_logarith
 using asinh_standard = asinh_form<double, asinh_rare, 0x7FEFFFFF, logarithm<double>>;
 using asinh_native = asinh_form<double, asinh_rare, 0x7FEFFFFF, native_logarithm<double>>;
 
-// Copies patterns, so that NaNs and numbers below 2^-28 are returned unchanged.
-LANEMATH_RARE asinhf_lane(const float* px, float* py) {
-  std::uint32_t x;
-  __builtin_memcpy(&x, px, sizeof x);
-  const auto a = x & 0x7FFFFFFF;
-  if (a < 0x31800000 || a >= 0x7F800000) {  // below 2^-28, infinite or a NaN
-    __builtin_memcpy(py, &x, sizeof x);
-    return status::ordinary;
+struct asinhf_width_4 {
+  using signature = float(float);
+
+  template <class V>
+  LANEMATH_INLINE static V kernel(V x) {
+    if (any(out_of_range<float, 0x3F800000>(bits(magnitude(x))))) [[unlikely]]
+      return in_double(x);
+    return asinh_in_range(x);
   }
-  const double wide = *px;
-  const double y = log_by_cubics(std::fabs(wide) + scalar_square_root(wide * wide + 1.0));
-  *py = std::copysign(float(y), *px);
-  return status::ordinary;
-}
+
+ private:
+  // NaNs, infinities and numbers below 2^-28 keep their patterns.
+  template <class V>
+  LANEMATH_INLINE static V in_double(V x) {
+    const V a = magnitude(x);
+    const auto kept = outside(bits(a), 0x31800000, 0x7F7FFFFF);
+    const auto wide = convert<double>(select(kept, V(1.0f), a));
+    const V y = convert<float>(log_by_cubics(wide + square_root(wide * wide + 1.0)));
+    return select(kept, x, with_bits(magnitude(y), sign_of(x)));
+  }
+};
 
 LANEMATH_RARE asinh_lane(const double* px, double* py) {
   const double x = *px, a = std::fabs(x);
@@ -99,8 +111,13 @@ LANEMATH_RARE asinh_lane(const double* px, double* py) {
   return status::ordinary;
 }
 
-using asinhf_width_4 = standalone_asinh<float, asinhf_lane, 0x3F800000>;
-using asinh_width_2 = standalone_asinh<double, asinh_lane, 0x3FF00000>;
+struct asinh_width_2 {
+  using signature = double(double);
+  static constexpr auto rare = asinh_lane;
+  static constexpr bool one_marks_all = true;
+  static auto rare_test(auto x) { return out_of_range<double, 0x3FF00000>(upper(magnitude(x))); }
+  static auto kernel(auto x) { return asinh_in_range(x); }
+};
 
 }  // namespace
 

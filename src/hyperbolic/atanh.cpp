@@ -40,6 +40,11 @@ template <class T, auto Routine, std::int32_t Below, class Log>
 struct atanh_form : rare_above<T(T), Routine, Below> {
   template <class V>
   LANEMATH_INLINE static V kernel(V x) {
+    return by_size<atanh_form>(x, inverse_rows_of<T>().TINY, one_v<T>);
+  }
+
+  template <bool Ordinary, class V>
+  LANEMATH_INLINE static V value(V x) {
     constexpr auto& c = inverse_rows_of<T>();
     constexpr T one = one_v<T>;
     const V a = magnitude(x);
@@ -54,7 +59,10 @@ struct atanh_form : rare_above<T(T), Routine, Below> {
     const auto [v, ve] = fast_sum(q, lo);
     const sum_with_one<V> sum(v, ve);
     const V result = Log::of(sum.w, sum.err) * from_bits(sign_of(x) ^ bits(V(half_v<T>)));
-    return select(a < c.TINY, x * x + x, result);  // +0 at -0
+    if constexpr (Ordinary)
+      return result;
+    else
+      return select(a < c.TINY, x * x + x, result);  // +0 at -0
   }
 };
 using atanhf_standard = atanh_form<float, atanhf_rare, 0x3F7FFFFF, logarithm<float>>;

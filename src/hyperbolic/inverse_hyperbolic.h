@@ -55,6 +55,11 @@ constexpr auto& inverse_rows_of() {
     return inverse_double;
 }
 
+template <class T>
+constexpr std::uint32_t top_of(T x) {
+  return std::uint32_t(pattern_of(x) >> (8 * sizeof x - 32));
+}
+
 // 1 / sqrt(1 - e) - 1 = e / 2 + 3/8 e^2 + ..., divided by e.
 inline constexpr float polish_single[] = {0.3125f, 0.375f, 0.5f};
 inline constexpr float native_polish_single[] = {0.5f};
@@ -133,11 +138,28 @@ using native_logarithm =
     std::conditional_t<sizeof(T) == 4, single_logarithm<native_ln_polynomial>, double_logarithm<true>>;
 
 // The logarithm of sum, or of 2 x where x is big.
-template <class Log, class V>
+template <class Log, bool Ordinary, class V>
 LANEMATH_INLINE V log_of_sum_or_double(const sum_with_one<V>& sum, V x) {
   constexpr auto& c = inverse_rows_of<typename V::value_type>();
-  const auto big = x >= c.BIG;
-  return Log::of(select(big, x * c.SCALE, sum.w), where(~big, sum.err), big);
+  if constexpr (Ordinary) {
+    return Log::of(sum.w, sum.err);
+  } else {
+    const auto big = x >= c.BIG;
+    return Log::of(select(big, x * c.SCALE, sum.w), where(~big, sum.err), big);
+  }
+}
+
+// The value of an operation. Vectors compute all that any lane may need and select; at width 1 a branch leaves that out
+// where the magnitude is between the bounds.
+template <class Op, class V, class T>
+LANEMATH_INLINE V by_size(V x, T above, T below) {
+  if constexpr (V::width > 1) {
+    return Op::template value<false>(x);
+  } else {
+    if (any(outside(top_word(magnitude(x)), top_of(above) + 1, top_of(below) - 1))) [[unlikely]]
+      return first(Op::template value<false>(spread(x)));
+    return first(Op::template value<true>(spread(x)));
+  }
 }
 
 template <class T>

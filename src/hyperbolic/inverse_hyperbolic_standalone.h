@@ -1,6 +1,7 @@
 // The standalone forms, acosh and asinh at one group of lanes: the logarithm of v = |x| + sqrt(x^2 -+ 1), by a true
 // root and a true division. With z the mantissa of v from sqrt(1/2) to sqrt(2), f = z - 1 and s = f / (2 + f), the
-// logarithm is ln(1 + f) = f - s (f - R(s^2)). One lane out of range sends all lanes to a scalar routine.
+// logarithm is ln(1 + f) = f - s (f - R(s^2)). One lane out of range sends all lanes to other code: in single precision
+// to vectors of doubles, in double precision to a scalar routine.
 #pragma once
 
 #include <cmath>
@@ -77,36 +78,17 @@ LANEMATH_INLINE V asinh_in_range(V x) {
   return with_bits(log_of_sum(a, square_root(a * a + one)), sign_of(x));
 }
 
-// In range are numbers, neither infinite nor NaN, whose leading word is above `Low`.
-template <class T, auto Lane, std::int32_t Low>
-struct standalone_guards {
-  using signature = T(T);
-  static constexpr auto rare = Lane;
-  static constexpr bool one_marks_all = true;
-  static auto out_of_range(auto top) { return ~((top > Low) & (top < format<T>::top_exponent)); }
-};
-template <class T, auto Lane, std::int32_t Low>
-struct standalone_acosh : standalone_guards<T, Lane, Low> {
-  template <class V>
-  LANEMATH_INLINE static V kernel(V x) {
-    return acosh_in_range(x);
-  }
-  static auto rare_test(auto x) { return standalone_acosh::out_of_range(top_word(x)); }
-};
-template <class T, auto Lane, std::int32_t Low>
-struct standalone_asinh : standalone_guards<T, Lane, Low> {
-  template <class V>
-  LANEMATH_INLINE static V kernel(V x) {
-    return asinh_in_range(x);
-  }
-  static auto rare_test(auto x) { return standalone_asinh::out_of_range(top_word(magnitude(x))); }
-};
+// Lanes that are infinite, NaNs or not above `Low`, by their top words.
+template <class T, std::int32_t Low, int W>
+LANEMATH_INLINE auto out_of_range(const lanes<std::int32_t, W>& top) {
+  return ~((top > Low) & (top < format<T>::top_exponent));
+}
 
-// ln v of a positive normal number. The absolute error is below 5e-13, next to 1 below 6e-11.
-inline double log_by_cubics(double v) {
-  const unpacked<double> parts(v);
-  const double u = parts.mantissa(), e = parts.exponent;
-  const auto& [c3, c1, c2, c0] = log_cubics[(parts.significand >> 44) & 255];
+// ln v of positive normal numbers. The absolute error is below 5e-13, next to 1 below 6e-11.
+template <int W>
+LANEMATH_INLINE lanes<double, W> log_by_cubics(const lanes<double, W>& v) {
+  const auto u = with_exponent(v, 0), e = convert<double>(exponent_of_positive(v));
+  const auto [c3, c1, c2, c0] = look_up_row(log_cubics, (upper(v) >> 12) & 255);
   return u * u * (c3 * u + c2) + (c1 * u + c0) + e * quotient_log_rows<double>::LN2;
 }
 

@@ -47,13 +47,17 @@ LANEMATH_INLINE two_part<V> fast_sum(V a, V b) {
   return {sum, b + (a - sum)};
 }
 
-// a b and its rounding error, by Dekker's method.
+// By how much a product p of split numbers is too small, by Dekker's method.
+template <class V>
+LANEMATH_INLINE V product_error(V p, two_part<V> a, two_part<V> b) {
+  return ((a.hi * b.hi - p) + a.hi * b.lo + a.lo * b.hi) + a.lo * b.lo;
+}
+
+// a b and its rounding error.
 template <class V>
 LANEMATH_INLINE two_part<V> exact_product(V a, V b) {
-  const auto [ah, al] = split(a);
-  const auto [bh, bl] = split(b);
   const V p = a * b;
-  return {p, ((ah * bh - p) + ah * bl + al * bh) + al * bl};
+  return {p, product_error(p, split(a), split(b))};
 }
 
 // 1 + v as two summands, the larger first. `lost_by(w)` is what w, their possibly truncated sum, lacks.

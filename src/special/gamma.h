@@ -10,11 +10,11 @@ inline constexpr extended half_log_2_pi = 0xEB3F8E4325F5A535p-64L;
 
 inline std::int32_t upper_half(double x) { return std::int32_t(pattern_of(x) >> 32); }
 
-// (y - 2^k) / 2^k
-template <class Real>
-Real within_octave(Real y, std::int32_t k) {
-  return (y - power_of_two<double>(k)) * power_of_two<double>(-k);
+// y / 2^k and (y - 2^k) / 2^k, where 2^k is the power of two at or below y.
+inline double within_1_and_2(double y) {
+  return value_of<double>((pattern_of(y) & format<double>::fraction) | pattern_of(1.0));
 }
+inline double within_octave(double y) { return within_1_and_2(y) - 1.0; }
 
 // From here on every number is an integer.
 template <class T>

@@ -6,6 +6,12 @@
 
 namespace lanemath::special {
 
+// A logarithm, whose high part is a multiple of 2^-50.
+struct logarithm {
+  double hi;
+  extended lo;
+};
+
 // A zero of log-gamma: an interval around it, and a cubic about it, highest power first.
 struct lgammaf_root {
   double low, root, high;
@@ -16,7 +22,7 @@ struct lgammaf_root {
 struct lgamma_root {
   double low, root, high;
   int degree;
-  extended c[20];
+  two_doubles c[20];
 };
 
 }  // namespace lanemath::special

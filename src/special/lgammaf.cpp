@@ -1,9 +1,9 @@
 // log|gamma(x)|, single precision, with or without the sign of gamma.
 //
 // Each lane is computed by itself in x87 arithmetic: from 1 up a polynomial for each interval or octave, from 8192 on
-// Stirling's formula. Where the polynomial's value in double arithmetic shows what x87 arithmetic would be rounded to,
-// it serves. Below 1 the argument is walked up, log|gamma(x)| = log|gamma(x + n)| - log|x ... (x + n - 1)|,
-// and from -9 on down reflected. Near the zeros between -4 and -2 the function is expanded about the zero.
+// Stirling's formula. Below 1 the argument is walked up, log|gamma(x)| = log|gamma(x + n)| - log|x ... (x + n - 1)|,
+// and from -9 on down reflected. Near the zeros between -4 and -2 the function is expanded about the zero. Between 0
+// and 8192 the value in double arithmetic serves, where it shows what x87 arithmetic would be rounded to.
 //
 // Largest errors found, in ulp:
 //   lgammaf: default 0.509686
@@ -44,10 +44,7 @@ constexpr double minimum_of_gamma = 0x3FF762D86356BE3F_f64;
 // From 1 to 8192; `high` is the upper half of y as a double.
 template <class Real>
 Real on_interval(Real y, std::int32_t high) {
-  if (high >= 0x40100000) {
-    const auto k = (high >> 20) - 0x401;
-    return even_and_odd(lgammaf_octaves[k], within_octave(y, k + 2));
-  }
+  if (high >= 0x40100000) return even_and_odd(lgammaf_octaves[(high >> 20) - 0x401], Real(within_octave(double(y))));
   if (high >= 0x40000000) return (y - 2.0) * even_and_odd(to_4, y);
   if (high >= 0x3FFC0000) return even_and_odd(to_2, y);
   if (high >= 0x3FF80000) return even_and_odd(from_1_5, y);
@@ -91,19 +88,45 @@ extended on_negative_axis(float x) {
   return x > -9.0f ? walked_up(x) : reflected(x);
 }
 
-// Whether an error of 2^-40 in y, which is larger than any of the polynomials makes in double arithmetic, cannot change
-// the float that y rounds to in any direction: y is at least 2^-6, and neither near a float nor halfway between two.
+// Whether an error of 2^-40 in y, which is larger than the polynomials and the logarithm make in double arithmetic,
+// cannot change the float that y rounds to in any direction: y is at least 2^-6, and neither near a float nor halfway
+// between two.
 bool rounds_safely(double y) {
   constexpr std::uint64_t margin = 1 << 18, half_step = 1 << 28;
-  return std::fabs(y) >= 0x1p-6 && ((pattern_of(y) + margin) & (half_step - 1)) > 2 * margin;
+  return magnitude_pattern(y) >= pattern_of(0x1p-6) && ((pattern_of(y) + margin) & (half_step - 1)) > 2 * margin;
+}
+
+// (log(1 + f) - f) / f^2, highest power first.
+constexpr double log_rest[] = {0.2, -0.25, 0x1.5555555555555p-2, -0.5};
+
+// The logarithm of a normal float, as a double. The product with the reciprocal is exact.
+double log_in_double(double x) {
+  const auto pattern = pattern_of(x);
+  const double k = double(std::int32_t(pattern >> 52) - format<double>::bias);
+  const auto j = pattern >> 44 & 0xFF;
+  const double f = within_1_and_2(x) * log_reciprocals[j] - 1.0;
+  return (k * log_2[0].hi + log_values[j].hi) + (f + f * f * horner(f, log_rest));
+}
+
+// Where double arithmetic settles the result: mostly, from the least normal number to 8192.
+LANEMATH_INLINE bool settled_in_double(float x, float& result) {
+  constexpr std::uint32_t least = format<float>::implicit_bit, end = pattern_of(8192.0f);
+  const std::uint32_t pattern = pattern_of(x);
+  if (pattern - least >= end - least) return false;
+  // The conversion by hand: the processor's waits for what was last in the register that it writes half of.
+  const double wide = value_of<double>((std::uint64_t(pattern) << 29) + (std::uint64_t(1023 - 127) << 52));
+  const bool below_1 = pattern < pattern_of(1.0f);
+  const double y = below_1 ? wide + 1.0 : wide;
+  double value = on_interval(y, upper_half(y));
+  if (below_1) value -= log_in_double(wide);
+  if (!rounds_safely(value) || !is_at_full_precision()) return false;
+  result = float(in_x87(value));
+  return true;
 }
 
 extended on_positive_axis(float x) {
   if (x < 1.0f) return lgamma_of(x + 1.0L) - log_of(x);
-  if (x >= 8192.0f) return stirling(x);
-  const std::int32_t high = upper_half(double(x));
-  if (const auto y = on_interval<double>(x, high); rounds_safely(y) && is_at_full_precision()) return in_x87(y);
-  return on_interval<extended>(x, high);
+  return x < 8192.0f ? on_interval<extended>(x, upper_half(double(x))) : stirling(x);
 }
 
 // The least argument that overflows.
@@ -115,12 +138,18 @@ struct lgammaf_lane {
   static float value(float x) { return float(x > 0.0f ? on_positive_axis(x) : on_negative_axis(x)); }
 };
 
+[[gnu::noinline]] status lgammaf_in_x87(const float* px, float* py, std::int32_t* sign) {
+  return log_gamma<lgammaf_lane>(*px, *py, *sign);
+}
+
 LANEMATH_RARE lgammaf_rare(const float* px, float* py) {
+  if (settled_in_double(*px, *py)) return status::ordinary;
   std::int32_t sign;
-  return log_gamma<lgammaf_lane>(*px, *py, sign);
+  return lgammaf_in_x87(px, py, &sign);
 }
 LANEMATH_RARE lgammarf_rare(const float* px, float* py, std::int32_t* sign) {
-  return log_gamma<lgammaf_lane>(*px, *py, *sign);
+  *sign = 1;
+  return settled_in_double(*px, *py) ? status::ordinary : lgammaf_in_x87(px, py, sign);
 }
 
 }  // namespace

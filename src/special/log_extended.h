@@ -10,7 +10,7 @@ namespace lanemath::special {
 // Near 1, a polynomial in x - 1, whose second term is split so that its square is exact. Elsewhere x = 2^k m, and a
 // table gives a reciprocal r of m, so that m r - 1 is small; the high parts of log 2 and log r are multiples of 2^-50,
 // so that k times the one plus the other is exact.
-[[gnu::noinline]] inline extended log_extended(extended x) {
+[[gnu::noinline]] inline extended log_extended(const extended& x) {
   struct {
     std::uint64_t significand;
     std::uint16_t exponent;

@@ -21,7 +21,7 @@ status gamma(T x, T& y) {
     y = pole(std::copysign(one_v<T>, x));
     return status::singular;
   }
-  if (a <= Lane::tiny) {
+  if (magnitude_pattern(x) <= pattern_of(Lane::tiny)) {
     y = overflowed(x);
     return status::overflow;
   }
@@ -46,21 +46,24 @@ status gamma(T x, T& y) {
   }
 
   const real magnitude = a;
-  real product, walk = 1;
+  constexpr real one = 1;
+  real product, walk = one;
   if (a < two) {
-    product = Lane::below_2(a < one_v<T> ? 1 + magnitude : magnitude);
+    product = Lane::below_2(a < one_v<T> ? one + magnitude : magnitude);
   } else {
     const int row = int(whole) / Lane::stretch;
     const int steps = int(whole) % Lane::stretch - (row == 0 ? 2 : 0);
-    product = product_at(Lane::rows[row], magnitude - n);
-    for (int q = 1; q <= steps; ++q) walk *= magnitude - q;
+    product = product_at(Lane::rows[row], real(a - n));
+    double factor = a;
+#pragma GCC unroll 1
+    for (int q = 1; q <= steps; ++q) walk *= factor -= 1.0;
   }
   if (!negative) {
     y = T(a < one_v<T> ? product / magnitude : product * walk);
     return status::ordinary;
   }
   const real sine = Lane::sine(std::fabs(a - nearest));
-  real reflected = 1 / ((a < one_v<T> ? sine : magnitude * sine) * product * walk);
+  real reflected = one / ((a < one_v<T> ? sine : magnitude * sine) * product * walk);
   if (x < Lane::last_row) reflected *= Lane::last_row_scale;
   y = T(whole % 2 != 0 ? reflected : -reflected);
   return status::ordinary;

@@ -16,6 +16,7 @@ template <auto& Pi, auto& C>
 struct cos_form {
   using signature = double(double);
   static constexpr auto rare = cosine_rare<double>;
+  static constexpr bool tested_first = true;
   template <class V>
   static V kernel(V x) {
     const V a = magnitude(x);

@@ -29,24 +29,21 @@ LANEMATH_INLINE turn_fraction<lanes<std::uint32_t, W>> fraction_of_turn(const la
   return {as<std::uint32_t>(upper(sum)), as<std::uint32_t>(lower(sum))};
 }
 
-// 128 bits, in the same way by products of 32-bit halves, with explicit carries.
+// 128 bits, lane by lane, because integer registers multiply 64 bits at once. Of the products of 32-bit halves with the
+// last word the least significant one is left out, and the lower half of the next two.
 template <int W>
 LANEMATH_INLINE turn_fraction<lanes<std::uint64_t, W>> fraction_of_turn(const lanes<double, W>& x) {
-  const auto pattern = as<std::uint64_t>(x);
-  const auto m = (pattern & 0x000FFFFFFFFFFFFF) | 0x0010000000000000;
-  const auto [w0, w1, w2] =
-      look_up_row(inverse_turn_window_f64, as<std::int32_t>(as<std::uint32_t>(upper(x)) >> 20) & 0x7FF);
-  const auto hi = [](const auto& v) LANEMATH_LAMBDA { return v >> 32; };
-  const auto lo = [](const auto& v) LANEMATH_LAMBDA { return v & 0xFFFFFFFF; };
-  const auto by_high = [&](const auto& w) LANEMATH_LAMBDA { return product_of_lower(hi(m), w); };
-  const auto by_low = [&](const auto& w) LANEMATH_LAMBDA { return product_of_lower(m, w); };
-
-  const auto low_1l = by_low(w1), low_1h = by_low(hi(w1)), low_0l = by_low(w0), low_0h = by_low(hi(w0));
-  const auto s0 = hi(by_high(w2)) + lo(low_1l) + by_high(hi(w2)) + hi(by_low(hi(w2)));
-  const auto s1 = hi(s0) + lo(low_1h) + by_high(w1) + hi(low_1l);
-  const auto s2 = hi(s1) + lo(low_0l) + by_high(hi(w1)) + hi(low_1h);
-  const auto s3 = hi(s2) + lo(low_0h) + by_high(w0) + hi(low_0l);
-  return {(s3 << 32) + lo(s2), (s1 << 32) + lo(s0)};
+  turn_fraction<lanes<std::uint64_t, W>> result;
+  const auto lane = [](std::uint64_t pattern, auto& high, auto& low) LANEMATH_LAMBDA {
+    const std::uint64_t m = (pattern & 0x000FFFFFFFFFFFFF) | 0x0010000000000000;
+    const auto& [w0, w1, w2] = inverse_turn_window_f64[(pattern >> 52) & 0x7FF];
+    const std::uint64_t mh = m >> 32, ml = m & 0xFFFFFFFF, wh = w2 >> 32, wl = w2 & 0xFFFFFFFF;
+    const auto sum = static_cast<unsigned __int128>(m) * w1 + (mh * wh + (mh * wl >> 32) + (ml * wh >> 32));
+    high = std::uint64_t(sum >> 64) + m * w0;
+    low = std::uint64_t(sum);
+  };
+  lane_by_lane(lane, as<std::uint64_t>(x), result.high, result.low);
+  return result;
 }
 
 template <class T>

@@ -19,6 +19,7 @@ template <auto& Pi, auto& C>
 struct sin_form {
   using signature = double(double);
   static constexpr auto rare = sine_rare<double>;
+  static constexpr bool tested_first = true;
   template <class V>
   static V kernel(V x) {
     return sine<Pi, C>(x);

@@ -17,6 +17,7 @@ template <auto& Pi, auto& C>
 struct sincos_form {
   using signature = through_pointer<double, double>(double);
   static constexpr auto rare = sine_cosine_rare<double>;
+  static constexpr bool tested_first = true;
   template <class V>
   LANEMATH_INLINE static two_results<V, V> kernel(V x) {
     const two_remainders<Pi, V> r(magnitude(x));

@@ -1,14 +1,15 @@
 // sin(pi x) and cos(pi x), both precisions.
 //
-// Default: up to whole turns, x is exactly a multiple of 1/64 or 1/256 plus a remainder d. The result is the step's
+// Default, double: up to whole turns, x is exactly a multiple of 1/256 plus a remainder d. The result is the step's
 // sine from a table, in two parts, plus short polynomials in d. The slope, pi times the step's cosine, is split into a
-// power of two, whose product with d is exact, and the rest. The native forms: one polynomial up to 1/2.
+// number of few bits, whose products with the parts of d are exact, and the rest. Default, single: one polynomial in
+// doubles. The native forms: one polynomial up to 1/2.
 //
 // Largest errors found, in ulp:
-//   sinpi: default 0.929706; _native 4.78642e7
-//   sinpif: default 1.05769; _native 1816.27
-//   cospi: default 0.943476; _native 4.78642e7
-//   cospif: default 1.04242; _native 1816.01
+//   sinpi: default 0.782797; _native 4.78642e7
+//   sinpif: default 0.600209; _native 1816.27
+//   cospi: default 0.632164; _native 4.78642e7
+//   cospif: default 0.600111; _native 1816.01
 //
 // Looks odd and is meant, see docs/design.md: native results above 1.
 #include <iterator>
@@ -23,42 +24,43 @@ template <class T>
 struct of_pi;
 template <>
 struct of_pi<float> {
-  static constexpr auto& steps = of_pi_f32;
-  static constexpr float SHIFTER = 0x1.8p17f;  // rounds to 1/64
-  static constexpr float WHOLE_TURNS = 0x1.8p24f;
-  // (sin(pi d) / (pi d) - 1) / d^2 and (cos(pi d) - 1) / d^2 in d^2, highest power first
-  static constexpr float sine[] = {0xBFD28C63_f32};
-  static constexpr float cosine[] = {0xC09DE8E3_f32};
+  // In doubles. Few enough bits after the point for sums that are exact at 1/2: the result there is 1 however it is
+  // rounded.
+  static constexpr double full[] = {0x3FB3D42437802000_f64, 0xBFE324687A27A200_f64, 0x400466876B29F490_f64,
+                                    0xC014ABBC02329376_f64, 0x400921FB51BF1613_f64};
   static constexpr float native[] = {0x4014E7A0_f32, 0xC0A4AA6F_f32, 0x40490A49_f32};
 };
 template <>
 struct of_pi<double> {
-  static constexpr auto& steps = of_pi_f64;
-  static constexpr double SHIFTER = 0x1.8p44;  // rounds to 1/256
-  static constexpr double WHOLE_TURNS = 0x1.8p53;
+  // (sin(pi d) / (pi d) - 1) / d^2 and (cos(pi d) - 1) / d^2 in d^2, highest power first
   static constexpr double sine[] = {0x3FE9F9C9B97D9A28_f64, 0xBFFA51A6625301B8_f64};
   static constexpr double cosine[] = {0x40103C1DB2490898_f64, 0xC013BD3CC9BE3B30_f64};
   static constexpr double native[] = {0x3FB3DAFF5DA18B33_f64, 0xBFE324CCAC0255A8_f64, 0x4004668AF4E909D3_f64,
                                       0xC014ABBC166DBC5B_f64, 0x400921FB52068F99_f64};
 };
 
-// The sine of pi x or, a quarter of a turn later, the cosine, for x >= 0. For a large x the sum with WHOLE_TURNS is a
-// multiple of 2 however it is rounded, and d is 0.
-template <bool Cosine, class V>
-LANEMATH_INLINE V sine_of_pi(const V& x) {
-  using c = of_pi<typename V::value_type>;
-  constexpr std::int32_t steps = std::size(c::steps);
-  const V f = x - ((x + c::WHOLE_TURNS) - c::WHOLE_TURNS);
-  const V t = f + c::SHIFTER;
-  const V d = f - (t - c::SHIFTER);
+// The sine of pi f or, a quarter of a turn later, the cosine, |f| <= 1.
+template <bool Cosine, int W>
+LANEMATH_INLINE lanes<double, W> sine_of_pi(const lanes<double, W>& f) {
+  using c = of_pi<double>;
+  using V = lanes<double, W>;
+  constexpr std::int32_t steps = std::size(of_pi_f64);
+  const auto [t, d] = steps_and_rest(f);
   const auto j = (low_word(t) + (Cosine ? steps / 4 : 0)) & (steps - 1);
-  const auto [value, value_low, slope, slope_rest] = look_up_row(c::steps, j);
+  const auto [value, value_low, slope, slope_rest] = look_up_row(of_pi_f64, j);
   const V z = d * d;
-  const V linear = d * slope;
-  const auto [sum, lost] = fast_sum(value, linear);
-  const V above_linear = (slope + slope_rest) * (z * horner(z, c::sine));
+  const V dh = without_low_bits(d, 5), dl = d - dh;
+  const auto [sum, lost] = fast_sum(value, dh * slope);
+  const V above_linear = slope_rest + (slope + slope_rest) * (z * horner(z, c::sine));
   const V even = value * (z * horner(z, c::cosine));
-  return sum + ((lost + value_low) + (d * (slope_rest + above_linear) + even));
+  // In this order NaNs keep their bits: those of dh lose the lowest.
+  const V rest = ordered_sum((d * above_linear + dl * slope) + even, lost + value_low);
+  return ordered_sum(rest, sum);
+}
+// The sine of pi m, |m| <= 1/2.
+template <int W>
+LANEMATH_INLINE lanes<float, W> sine_to_half(const lanes<double, W>& m) {
+  return convert<float>(m * horner(m * m, of_pi<float>::full));
 }
 template <class V>
 LANEMATH_INLINE V native_sine(const V& m) {
@@ -68,26 +70,34 @@ LANEMATH_INLINE V native_sine(const V& m) {
 template <class T, bool Native>
 struct sinpi_form {
   using signature = T(T);
+  static constexpr int groups_at_once = sizeof(T) == 8 && !Native ? 2 : 4;
   template <class V>
   static V kernel(V x) {
+    const V f = within_a_turn(magnitude(x));
     if constexpr (Native) {
-      const V f = within_a_turn(magnitude(x));
       // The addition turns -0 into +0, so that a zero gets the sign of x.
       return flipped(flipped(native_sine(distance_to_whole(magnitude(f))), sign_of(f)) + zero_v<T>, sign_of(x));
+    } else if constexpr (sizeof(T) == 8) {
+      return flipped(sine_of_pi<false>(f), sign_of(x));
     } else {
-      return flipped(sine_of_pi<false>(magnitude(x)), sign_of(x));
+      const V m = maximum(minimum(1.0f - f, f), -1.0f - f);
+      return flipped(sine_to_half(convert<double>(m)), sign_of(x));
     }
   }
 };
 template <class T, bool Native>
 struct cospi_form {
   using signature = T(T);
+  static constexpr int groups_at_once = sizeof(T) == 8 && !Native ? 2 : 4;
   template <class V>
   static V kernel(V x) {
+    const V f = within_a_turn(x);
     if constexpr (Native)
-      return native_sine(half_v<T> - magnitude(within_a_turn(x)));
+      return native_sine(half_v<T> - magnitude(f));
+    else if constexpr (sizeof(T) == 8)
+      return sine_of_pi<true>(magnitude(f));
     else
-      return sine_of_pi<true>(magnitude(x));
+      return sine_to_half(0.5 - magnitude(convert<double>(f)));
   }
 };
 

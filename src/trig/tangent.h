@@ -1,4 +1,4 @@
-// What the tangents of x and of pi x share: the last steps, from the remainder's tangent in two parts.
+// What the tangents of x and of pi x share.
 #pragma once
 
 #include <bit>
@@ -26,16 +26,41 @@ LANEMATH_INLINE V polynomial_by_halves(const V& z, const T (&c)[Size]) {
   return terms<0, Size>({z, square, fourth, fourth * fourth}, c);
 }
 
-// 1 / (high + low), |low| far below |high|: the upper part of the quotient plus a correction.
-template <class V>
-LANEMATH_INLINE V reciprocal(const V& high, const V& low) {
-  using T = typename V::value_type;
-  const V t = high + low, below = (high - t) + low;
-  const V y = one_v<T> / t;
-  constexpr int half = sizeof(T) == 4 ? 12 : 27;
-  const V yh = without_low_bits(y, half), th = without_low_bits(t, half);
-  const V rest = (one_v<T> - yh * th) - yh * ((t - th) + below);
-  return yh + y * rest;
+// A mask of the odd numbers.
+template <class I, int W>
+LANEMATH_INLINE auto odd_ones(const lanes<I, W>& n) {
+  const lanes<I, W> zero(0);
+  return zero - (n & I(1));
+}
+
+inline constexpr double tangent_c[] = {0x3FABA1EEB3FE1C92_f64, 0x3FC1111110FE87F4_f64, 0x3FD5555555555559_f64};
+
+// The tangent of j steps, 256 in half a turn, plus r + rl, |r| up to half a step, by the theorem of addition. The sum
+// of the two tangents and 1 less their product have two parts each; the quotient is its upper half plus a correction.
+// At a pole it is not a number.
+template <int W>
+LANEMATH_INLINE lanes<double, W> tangent_of_steps(const lanes<std::int64_t, W>& j, const lanes<double, W>& r,
+                                                  const lanes<double, W>& rl) {
+  if constexpr (W == 1) {  // Scalars would pass through integer registers at every selection.
+    return first(tangent_of_steps(spread(j), spread(r), spread(rl)));
+  } else {
+    using V = lanes<double, W>;
+    const auto [t, tl] = look_up_row(tangent_quarter, lower(j) & 127);
+    const V z = r * r;
+    const V tail = (r * z) * horner(z, tangent_c) + rl;
+    const V rh = without_low_bits(r, 32), p = t * rh;
+    const auto [sum, sum_lost] = fast_sum(t, r);
+    const V sum_low = sum_lost + (tl + tail);
+    const V rest = 1.0 - p, rest_low = ((1.0 - rest) - p) - (t * ((r - rh) + tail) + tl * r);
+
+    // In odd quadrants the negative reciprocal.
+    const auto odd = odd_ones(as<std::int64_t>(as<std::uint64_t>(j + 64) >> 7));
+    const V n = select(odd, rest, sum), nl = select(odd, rest_low, sum_low);
+    const V d = select(odd, sum, rest), dl = select(odd, sum_low, rest_low);
+    const V y = 1.0 / (d + dl);
+    const V qh = without_low_bits(n * y, 27), dh = without_low_bits(d, 27);
+    return flipped(qh + y * (((n - qh * dh) - qh * ((d - dh) + dl)) + nl), odd & sign_mask<double>);
+  }
 }
 
 }  // namespace lanemath

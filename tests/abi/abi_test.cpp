@@ -2,13 +2,12 @@
 // functions return.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
-#include <sys/mman.h>
-#include <unistd.h>
 
 #include <cstring>
 #include <sstream>
 
 #include "support/lanes_of.h"
+#include "support/lone_pages.h"
 
 namespace lanemath::testing {
 namespace {
@@ -82,26 +81,9 @@ TEST_P(Caller, GetsEveryLaneOfEveryShape) {
   EXPECT_EQ(called, 22u * widths.size());
 }
 
-// A page between two that cannot be touched.
-class lone_page {
- public:
-  lone_page() {
-    if (all_ == MAP_FAILED || mprotect(begin(), size(), PROT_READ | PROT_WRITE)) throw std::bad_alloc();
-  }
-  ~lone_page() { munmap(all_, 3 * size()); }
-  lone_page(const lone_page&) = delete;
-  lone_page& operator=(const lone_page&) = delete;
-  std::byte* begin() const { return static_cast<std::byte*>(all_) + size(); }
-  std::byte* end() const { return begin() + size(); }
-
- private:
-  static std::size_t size() { return std::size_t(sysconf(_SC_PAGESIZE)); }
-  void* all_ = mmap(nullptr, 3 * size(), PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-};
-
 // At both ends of a page, and at any alignment next to bytes that must stay.
 void expect_exact_access(void* caller) {
-  const lone_page from, to;
+  const lone_pages from, to;
   for (auto l : {lane::f32, lane::f64, lane::i32, lane::u32, lane::i64, lane::u64})
     for (int width : widths) {
       const auto type = fmt::format("{}{}", type_name(l), width);

@@ -61,6 +61,26 @@ TEST_F(ErrorFile, IsRefusedWhereItIsNotAsItShouldBe) {
   EXPECT_THROW(accuracy::read_errors(folder_), std::runtime_error);
 }
 
+TEST_F(ErrorFile, OfSharesIsReadAlike) {
+  const std::string head_of_shares = "operation,width,part,lanes,rounded,error,at\n";
+  const auto read_shares = [&](const std::string& lines) {
+    std::ofstream(path_) << head_of_shares << lines;
+    return accuracy::read_shares(path_);
+  };
+  const std::string lines =
+      "pown,,rare lanes,2000000,1999999,0.500141,0x3FF0026DD36E0DB2 0x001242F9\n"
+      "asinh,2,some,1000000,0,1.8,0x3FD6F5A153CBC738\n";
+  accuracy::write_shares(path_, read_shares(lines));
+  std::ostringstream text;
+  text << std::ifstream(path_).rdbuf();
+  EXPECT_EQ(text.str(), head_of_shares + lines);
+  for (const auto* line :
+       {"pow,,,1000000,1,0.5,0x3FF0026DD36E0DB2", "asinh,4,,1000000,1,0.5,0x3FF0026DD36E0DB2",
+        "sinh,,,1000001,1,0.5,0x3FF0026DD36E0DB2", "sinh,,,1000000,1000001,0.5,0x3FF0026DD36E0DB2",
+        "sinh,,,1000000,1,-1,0x3FF0026DD36E0DB2", "sinh,,,1000000,1,0.5,", "sinh,,,1000000,1,0.5", ""})
+    EXPECT_THROW(read_shares(std::string(line) + '\n'), std::runtime_error) << line;
+}
+
 TEST_F(ErrorFile, KeepsTheLargerErrorAndItsPlace) {
   auto records = read("expf,native half,,,2,0x00000001,all inputs,50.0000,\n");
   const auto found = [](double error, std::uint64_t at) {

@@ -3,10 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <tuple>
 
+#include "accuracy/shares.h"
 #include "support/lanes_of.h"
+#include "support/library.h"
 
 namespace lanemath::testing {
 namespace {
@@ -85,6 +89,48 @@ TEST(Sampling, StaysInTheRangeAndReachesTheBounds) {
   EXPECT_GT(infinite, 0u);
   EXPECT_GT(zero, 0u);
   EXPECT_GT(at_bound, 0u);
+}
+
+// The fast judgement counts what MPFR alone would, and goes on where it was left.
+TEST(Shares, AreThoseThatMpfrAloneFinds) {
+  for (const auto& road : accuracy::roads()) {
+    const auto index = index_of(road.operation);
+    const auto& o = catalogue[index];
+    const int width = road.width ? road.width : 16;
+    const auto f = library().find(index, variant::standard, width).value();
+    const auto& exact = *accuracy::find_reference(o);
+    std::mt19937_64 random(7);
+    std::vector<arguments> inputs(2'000);
+    for (auto& each : inputs) each = road.draw(random);
+    const auto fast = accuracy::measure_by_stand_in(o, exact, f, width, inputs, road.near);
+    const auto slow = accuracy::measure(o, exact, f, width, inputs);
+    EXPECT_EQ(fast.lanes, slow.lanes);
+    EXPECT_EQ(fast.correctly_rounded, slow.correctly_rounded) << o.name();
+    EXPECT_EQ(std::max(fast.largest_error, 0.5), std::max(slow.largest_error, 0.5)) << o.name();
+  }
+}
+
+TEST(Shares, AreRefusedWhereTheStandInIsOff) {
+  const auto& o = catalogue[index_of("sinh")];
+  const std::vector<arguments> inputs(1, {std::bit_cast<std::uint64_t>(708.0)});
+  EXPECT_THROW(accuracy::measure_by_stand_in(o, *accuracy::find_reference(o),
+                                             library().find(index_of("sinh"), variant::standard, 1).value(), 1, inputs,
+                                             [](const arguments&) { return std::sinh(708.0L) * (1 + 0x1p-58L); }),
+               std::runtime_error);
+}
+
+TEST(Shares, GoOnWhereTheyWereLeft) {
+  const auto& road = *std::ranges::find(accuracy::roads(), "sinh", &accuracy::road::operation);
+  const auto measured = [&](std::initializer_list<std::uint64_t> steps, unsigned threads) {
+    accuracy::share line{.index = index_of("sinh")};
+    int saved = 0;
+    for (const auto blocks : steps)
+      accuracy::extend(line, road, library(), blocks * accuracy::share::block, threads, [&] { ++saved; });
+    EXPECT_GT(saved, 0);
+    EXPECT_EQ(line.lanes, 2 * accuracy::share::block);
+    return std::tuple(line.rounded, line.error, line.at);
+  };
+  EXPECT_EQ(measured({1, 2}, 1), measured({2}, 2));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
-// Properties that hold between results, or around a call, without a reference.
+// Properties that hold between results, without a reference.
 #include <gtest/gtest.h>
-#include <xmmintrin.h>
 
 #include "support/lanes_of.h"
 #include "support/library.h"
@@ -9,43 +8,6 @@ namespace lanemath::testing {
 namespace {
 
 using u64 = std::uint64_t;
-
-// The control bits of MXCSR and the x87 control word.
-struct control_words {
-  std::uint32_t mxcsr;
-  std::uint16_t x87;
-  bool operator==(const control_words&) const = default;
-
-  static control_words now() {
-    control_words found{_mm_getcsr() & 0xFFC0, 0};
-    asm volatile("fnstcw %0" : "=m"(found.x87));
-    return found;
-  }
-  void set() const {
-    _mm_setcsr(mxcsr);
-    asm volatile("fldcw %0" ::"m"(x87));
-  }
-};
-
-// Whatever is in force: here every direction, and each x87 precision.
-TEST(Properties, FunctionsLeaveTheControlWordsAlone) {
-  const auto usual = control_words::now();
-  for_each_built(library(), [&](std::size_t index, const operation& o, variant v) {
-    const auto tuples = mixed_tuples(o, 192);
-    for (int width : widths) {
-      const auto f = library().find(index, v, width).value();
-      for (std::uint32_t direction = 0; direction < 4; ++direction) {
-        const std::uint16_t precision = direction == 0 ? 0x300 : direction == 1 ? 0x200 : 0;
-        const control_words before{0x1F80 | direction << 13, std::uint16_t(0x7F | precision | direction << 10)};
-        before.set();
-        const auto got = harness::evaluate(o, f, width, tuples);
-        const auto after = control_words::now();
-        usual.set();
-        ASSERT_EQ(after, before) << o.name() << width << suffix(v) << " in direction " << direction;
-      }
-    }
-  });
-}
 
 // Functions that work on the magnitude and restore the sign, or drop it, have the same bits on both sides of zero.
 TEST(Properties, OddAndEvenFunctionsAreSoToTheLastBit) {

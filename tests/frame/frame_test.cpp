@@ -166,29 +166,6 @@ TEST_P(Frame, LaneThreeOfWidthThreeIsTheValueAtTheFiller) {
   }
 }
 
-TEST_P(Frame, SecondResultIsOneStoreOfTheVectorAtAnyAddress) {
-  if (o.sig.how != delivery::pointer) return;
-  for (int width : widths)
-    for (int offset : {0, 1, 4}) {
-      const auto f = probe().find(index, variant::standard, width);
-      ASSERT_TRUE(f);
-      const std::size_t lanes = padded(width), size = lanes * size_of(o.sig.second);
-      std::array<std::array<u64, 16>, 2> inputs{};
-      std::array<u64, 16> first;
-      alignas(64) std::array<unsigned char, 256> second;
-      second.fill(0xA5);
-      const std::array<const void*, 3> from{&inputs[0], &inputs[1], nullptr};
-      f->call(from.data(), &first, second.data() + 64 + offset, lanes);
-      for (std::size_t at = 0; at < second.size(); ++at) {
-        const std::size_t inside = at - 64 - offset;
-        const std::size_t told = width * size_of(o.sig.second);  // beyond it is the filler's lane
-        if (inside < told || inside >= size) {
-          ASSERT_EQ(int(second[at]), inside < told ? 0 : 0xA5) << "byte " << inside << " at width " << width;
-        }
-      }
-    }
-}
-
 std::vector<std::string_view> names() {
   std::vector<std::string_view> all;
   for (const auto& [name, model] : models) all.push_back(name);

@@ -136,8 +136,8 @@ TEST(Hyperbolic, TablesHaveTheirStatedEntries) {
   EXPECT_EQ(cosh_256[256], 1.0);
 }
 
-// Standalone forms: a lane below their range sends its neighbours to the scalar routine, which is almost correctly
-// rounded, unlike the vector path.
+// Standalone forms: a lane below their range takes its neighbours into double precision, where all are almost correctly
+// rounded.
 TEST(Hyperbolic, ALaneOutOfRangeTakesItsNeighboursAlong) {
   struct form {
     std::string_view name;

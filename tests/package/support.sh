@@ -16,7 +16,9 @@ quietly() {
 configure() {
   local folder=$work/$1 from=$2 absent=()
   shift 2
-  for package in MPFR fmt CLI11 GTest benchmark SLEEF; do absent+=(-DCMAKE_DISABLE_FIND_PACKAGE_$package=ON); done
+  for package in MPFR fmt CLI11 GTest benchmark SLEEF nlohmann_json; do
+    absent+=(-DCMAKE_DISABLE_FIND_PACKAGE_$package=ON)
+  done
   quietly cmake -G Ninja -S "$from" -B "$folder" "${absent[@]}" \
     -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_BUILD_TYPE=Release "$@"
   cp "$work/log" "$folder"

@@ -10,6 +10,7 @@
 #include <set>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lanemath::testing {
@@ -20,6 +21,7 @@ class elf_file {
     std::string name;
     unsigned char type, binding, visibility;
     bool defined;
+    std::uint64_t value;
   };
 
   explicit elf_file(const std::string& path) {
@@ -35,6 +37,14 @@ class elf_file {
   const std::vector<Elf64_Phdr>& segments() const { return segments_; }
   std::string name(const Elf64_Shdr& s) const { return text(sections_.at(header().e_shstrndx), s.sh_name); }
 
+  std::string_view bytes() const { return {bytes_.data(), bytes_.size()}; }
+  // What is in the section of this name; empty if there is none.
+  std::string_view contents(std::string_view section) const {
+    for (const auto& s : sections_)
+      if (name(s) == section) return bytes().substr(s.sh_offset, s.sh_size);
+    return {};
+  }
+
   // For a symbol table: SHT_DYNSYM in a shared object, SHT_SYMTAB in an object.
   std::vector<symbol> symbols(std::uint32_t table) const {
     std::vector<symbol> all;
@@ -44,7 +54,7 @@ class elf_file {
           if (s.st_name)
             all.push_back({text(sections_.at(section.sh_link), s.st_name), std::uint8_t(ELF64_ST_TYPE(s.st_info)),
                            std::uint8_t(ELF64_ST_BIND(s.st_info)), std::uint8_t(ELF64_ST_VISIBILITY(s.st_other)),
-                           s.st_shndx != SHN_UNDEF});
+                           s.st_shndx != SHN_UNDEF, s.st_value});
     return all;
   }
 

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <span>
 
 #include "support/call.h"
 #include "tables/trig.h"
@@ -53,6 +54,18 @@ TEST(OfPi, StatedResults) {
   for (const auto& each : rounded_results) expect(each, standard, each.x, each.y);
 }
 
+// The sign of a zero apart.
+TEST(OfPi, StatedResultsInEveryDirection) {
+  for (const auto& direction : harness::directions)
+    for (const auto& results : {std::span<const stated>(exact_results), std::span<const stated>(rounded_results)})
+      for (const auto& each : results)
+        for (const std::string precision : {"", "f"}) {
+          const auto name = std::string(each.name) + precision;
+          EXPECT_EQ(in_direction(direction.mode, [&] { return of(name, standard, 4, each.x); }), each.y)
+              << name << each.x << direction.name;
+        }
+}
+
 TEST(OfPi, SineAndTangentAreOdd) {
   for (const auto& each : exact_results)
     if (each.name != "cospi") expect(each, standard, -each.x, -each.y);
@@ -74,7 +87,7 @@ TEST(Tangent, KeepsTheSignOfZero) {
     }
 }
 
-// Doubles next to a multiple of pi/2, the nearest of all among them, within 1.2 units in the last place.
+// Doubles next to a multiple of pi/2, the nearest of all among them.
 TEST(Tangent, KeepsBothPartsOfTheRemainder) {
   constexpr std::pair<double, double> results[] = {{0x1p-1074, 0x1p-1074},
                                                    {0x1.921fb54442d18p0, 0x1.d02967c31cdb5p+53},

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -17,6 +18,7 @@ namespace accuracy {
 namespace {
 
 constexpr std::string_view head = "operation,variants,width,part,error,at,search,rounded,anywhere";
+constexpr std::string_view head_of_shares = "operation,width,part,lanes,rounded,error,at";
 
 std::vector<std::string> split(std::string_view text, char by) {
   std::vector<std::string> parts;
@@ -80,16 +82,56 @@ error_record record_in(const std::string& line) {
   return r;
 }
 
+share share_in(const std::string& line) {
+  const auto field = split(line, ',');
+  if (field.size() != 7) throw std::runtime_error("not seven fields");
+  share s;
+  s.index = operation_in(field[0]);
+  const auto& o = catalogue[s.index];
+  if (!field[1].empty()) {
+    s.width = number<int>(field[1]);
+    if (own_width(o, variant::standard, s.width) != s.width) throw std::runtime_error("not a standalone form");
+  }
+  s.part = field[2];
+  s.lanes = number<std::uint64_t>(field[3]);
+  s.rounded = number<std::uint64_t>(field[4]);
+  if (s.lanes % share::block != 0 || s.rounded > s.lanes) throw std::runtime_error("no numbers of lanes");
+  s.error = error_in(field[5]);
+  s.at = place_in(field[6], o.sig);
+  return s;
+}
+
+std::string text_of_place(const operation& o, const arguments& at) {
+  std::string text;
+  for (int i = 0; i < o.sig.arity(); ++i)
+    text += fmt::format("{}0x{:0{}X}", i ? " " : "", at[i], 2 * size_of(o.sig.arguments[i]));
+  return text;
+}
+
+// What `line_in` makes of each line of a file below its head.
+template <class Line>
+auto read_lines(const std::string& path, std::string_view head, std::string_view content, Line line_in) {
+  std::ifstream in(path);
+  std::vector<decltype(line_in(std::string()))> lines;
+  std::string line;
+  if (!std::getline(in, line)) throw std::runtime_error(fmt::format("cannot read {}", path));
+  if (line != head) throw std::runtime_error(fmt::format("{} is no file of {}", path, content));
+  for (int n = 2; std::getline(in, line); ++n) try {
+      lines.push_back(line_in(line));
+    } catch (const std::exception& e) {
+      throw std::runtime_error(fmt::format("{}:{}: {}", path, n, e.what()));
+    }
+  if (in.bad()) throw std::runtime_error(fmt::format("cannot read {}", path));
+  return lines;
+}
+
 std::string line_of(const error_record& r) {
   const auto& o = catalogue[r.index];
-  std::string forms, at;
+  std::string forms;
   for (auto v : r.variants) forms += fmt::format("{}{}", forms.empty() ? "" : " ", name_of(v));
-  if (r.at)
-    for (int i = 0; i < o.sig.arity(); ++i)
-      at += fmt::format("{}0x{:0{}X}", i ? " " : "", (*r.at)[i], 2 * size_of(o.sig.arguments[i]));
   return fmt::format("{},{},{},{},{},{},{},{},{}\n", o.name(), forms, r.width ? fmt::format("{}", r.width) : "", r.part,
-                     text_of_error(r.error), at, r.search, r.rounded ? fmt::format("{:.4f}", *r.rounded) : "",
-                     r.anywhere ? text_of_error(*r.anywhere) : "");
+                     text_of_error(r.error), r.at ? text_of_place(o, *r.at) : "", r.search,
+                     r.rounded ? fmt::format("{:.4f}", *r.rounded) : "", r.anywhere ? text_of_error(*r.anywhere) : "");
 }
 
 bool same_form(const error_record& a, const error_record& b) {
@@ -126,17 +168,7 @@ bool error_record::is_of(const operation& o, variant v, int of_width) const {
 double error_record::bound() const { return anywhere.value_or(rounded_up(error, 3)); }
 
 std::vector<error_record> read_errors(const std::string& path) {
-  std::ifstream in(path);
-  std::vector<error_record> records;
-  std::string line;
-  if (!std::getline(in, line)) throw std::runtime_error(fmt::format("cannot read {}", path));
-  if (line != head) throw std::runtime_error(fmt::format("{} is no file of errors", path));
-  for (int n = 2; std::getline(in, line); ++n) try {
-      records.push_back(record_in(line));
-    } catch (const std::exception& e) {
-      throw std::runtime_error(fmt::format("{}:{}: {}", path, n, e.what()));
-    }
-  if (in.bad()) throw std::runtime_error(fmt::format("cannot read {}", path));
+  auto records = read_lines(path, head, "errors", record_in);
   try {
     check_together(records);
   } catch (const std::exception& e) {
@@ -163,6 +195,19 @@ const std::vector<error_record>& recorded_errors() {
   static const auto records = read_errors(errors_path());
   return records;
 }
+
+std::vector<share> read_shares(const std::string& path) { return read_lines(path, head_of_shares, "shares", share_in); }
+void write_shares(const std::string& path, std::vector<share> lines) {
+  std::ranges::sort(lines, {}, [](const share& s) { return std::tuple(s.index, s.width, s.part); });
+  std::string text = std::string(head_of_shares) + '\n';
+  for (const auto& s : lines) {
+    const auto& o = catalogue[s.index];
+    text += fmt::format("{},{},{},{},{},{},{}\n", o.name(), s.width ? fmt::format("{}", s.width) : "", s.part, s.lanes,
+                        s.rounded, text_of_error(s.error), text_of_place(o, s.at));
+  }
+  harness::replace_file(path, text);
+}
+std::string shares_path() { return std::filesystem::path(errors_path()).replace_filename("shares.csv"); }
 
 void merge(std::vector<error_record>& records, const error_record& measured) {
   auto found = measured;

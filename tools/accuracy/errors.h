@@ -52,6 +52,22 @@ const std::vector<error_record>& recorded_errors();
 // error of a part counts for all arguments too. Throws if a bound that should hold on every processor is broken.
 void merge(std::vector<error_record>& records, const error_record& found);
 
+// A line of shares.csv beside that file: how many results are correctly rounded, of how many that were measured in a
+// part of the arguments of a default form.
+struct share {
+  static constexpr std::uint64_t block = 1'000'000;  // lanes are measured in blocks
+
+  std::size_t index = 0;
+  int width = 0;  // of a standalone form, or 0
+  std::string part{};
+  std::uint64_t lanes = 0, rounded = 0;
+  double error = 0;  // the largest, in ulp, rounded up to six digits
+  arguments at{};
+};
+std::vector<share> read_shares(const std::string& path);
+void write_shares(const std::string& path, std::vector<share> lines);
+std::string shares_path();
+
 // The bit patterns of an operation's arguments, as in the file: "0x3F7FB84A 0x47982860".
 arguments place_in(std::string_view text, const signature& sig);
 

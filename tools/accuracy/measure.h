@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,12 @@ tally measure(const operation& o, const reference& r, const harness::function& f
               const std::vector<arguments>& inputs);
 // The same for one tuple, in every lane.
 tally measure_at(const operation& o, const reference& r, const harness::function& f, int width, const arguments& input);
+
+// The same for a double function on this core, by a faster stand-in that is within 2^-60 of the exact value,
+// relatively. MPFR judges the lanes whose rounding that leaves open, those whose error may be the largest above 1/2,
+// and one in 256 of the others. Throws if it finds the stand-in to be worse than that.
+tally measure_by_stand_in(const operation& o, const reference& r, const harness::function& f, int width,
+                          std::span<const arguments> inputs, long double (*near)(const arguments& at));
 
 // The largest error found by climbing from a place: round after round of tuples around the worst so far, at distances
 // of every size.

@@ -12,6 +12,7 @@
 
 #include "accuracy/errors.h"
 #include "accuracy/measure.h"
+#include "accuracy/shares.h"
 #include "generate/families.h"
 #include "harness/files.h"
 
@@ -30,25 +31,26 @@ std::optional<double> bound_anywhere(const error_record& r, const std::vector<er
 
 int check(const harness::library& library) {
   int measured = 0, wrong = 0;
-  const auto& records = recorded_errors();
-  for (const auto& r : records) {
-    if (!r.at) continue;
-    const auto& o = catalogue[r.index];
+  const auto demand = [&](std::size_t index, variant v, int own_width, const arguments& at, double recorded,
+                          std::optional<double> limit = {}) {
+    const auto& o = catalogue[index];
     const auto* reference = find_reference(o);
-    const int width = r.width ? r.width : widths.back();
-    for (auto v : r.variants) {
-      const auto name = harness::symbol(o, width, v);
-      const auto f = library.find(r.index, v, width);
-      if (!reference || !f) throw std::runtime_error(fmt::format("{}: nothing to measure", name));
-      const double error = rounded_up(measure_at(o, *reference, *f, width, *r.at).largest_error, 6);
-      ++measured;
-      const auto limit = bound_anywhere(r, records);
-      if (limit ? error <= *limit : error == r.error) continue;
-      fmt::print("{} at {}: {} ulp, recorded {}\n", name, text_of(o, *r.at), text_of_error(error),
-                 text_of_error(limit.value_or(r.error)));
-      ++wrong;
-    }
-  }
+    const int width = own_width ? own_width : widths.back();
+    const auto name = harness::symbol(o, width, v);
+    const auto f = library.find(index, v, width);
+    if (!reference || !f) throw std::runtime_error(fmt::format("{}: nothing to measure", name));
+    const double error = rounded_up(measure_at(o, *reference, *f, width, at).largest_error, 6);
+    ++measured;
+    if (limit ? error <= *limit : error == recorded) return;
+    fmt::print("{} at {}: {} ulp, recorded {}\n", name, text_of(o, at), text_of_error(error),
+               text_of_error(limit.value_or(recorded)));
+    ++wrong;
+  };
+  const auto& records = recorded_errors();
+  for (const auto& r : records)
+    for (auto v : r.variants)
+      if (r.at) demand(r.index, v, r.width, *r.at, r.error, bound_anywhere(r, records));
+  for (const auto& s : read_shares(shares_path())) demand(s.index, variant::standard, s.width, s.at, s.error);
   fmt::print("{} of {} errors are not what they should be\n", wrong, measured);
   return wrong ? 1 : 0;
 }
@@ -66,8 +68,33 @@ std::string form_text(const error_record& r, const std::vector<error_record>& re
   return fmt::format("{}{}{}", fmt::join(words, ", "), r.part.empty() ? "" : ": ", r.part);
 }
 
+// Columns without an entry are left out.
+std::string table(const std::vector<std::string>& heads, const std::vector<std::vector<std::string>>& rows) {
+  std::vector<std::string> lines(rows.size() + 2);
+  for (std::size_t column = 0; column < heads.size(); ++column) {
+    if (std::all_of(rows.begin(), rows.end(), [&](const auto& row) { return row[column].empty(); })) continue;
+    lines[0] += fmt::format("| {} ", heads[column]);
+    lines[1] += "|---";
+    for (std::size_t i = 0; i < rows.size(); ++i) lines[i + 2] += fmt::format("| {} ", rows[i][column]);
+  }
+  return fmt::format("{}|\n", fmt::join(lines, "|\n"));
+}
+
+std::string table_of_shares() {
+  std::vector<std::vector<std::string>> rows;
+  for (const auto& s : read_shares(shares_path())) {
+    const auto& o = catalogue[s.index];
+    const error_record form{.index = s.index, .variants = {variant::standard}, .width = s.width, .part = s.part};
+    rows.push_back({fmt::format("`{}`", o.name()), form_text(form, recorded_errors()),
+                    fmt::format("{} million", s.lanes / share::block),
+                    fmt::format("{:.5f} %", 100 * double(s.rounded) / double(s.lanes)), text_of_error(s.error),
+                    text_of(o, s.at)});
+  }
+  return table({"operation", "form", "lanes", "rounded", "largest error", "at"}, rows);
+}
+
 // The table of the families and the precision that a marker names.
-std::string table(const std::string& names) {
+std::string table_of_errors(const std::string& names) {
   std::istringstream words(names);
   std::vector<family> groups;
   std::optional<bool> single;
@@ -92,16 +119,7 @@ std::string table(const std::string& names) {
   }
   if (rows.empty()) throw std::runtime_error(fmt::format("no errors of {}", names));
 
-  const std::vector<std::string> heads{"operation", "form", "largest error", "any processor",
-                                       "rounded",   "at",   "found in"};
-  std::vector<std::string> lines(rows.size() + 2);
-  for (std::size_t column = 0; column < heads.size(); ++column) {
-    if (std::all_of(rows.begin(), rows.end(), [&](const auto& row) { return row[column].empty(); })) continue;
-    lines[0] += fmt::format("| {} ", heads[column]);
-    lines[1] += "|---";
-    for (std::size_t i = 0; i < rows.size(); ++i) lines[i + 2] += fmt::format("| {} ", rows[i][column]);
-  }
-  return fmt::format("{}|\n", fmt::join(lines, "|\n"));
+  return table({"operation", "form", "largest error", "any processor", "rounded", "at", "found in"}, rows);
 }
 
 // The document with the tables between its markers made anew.
@@ -119,7 +137,8 @@ std::string with_tables(const std::string& text) {
     if (line.starts_with(opening)) {
       if (inside || !line.ends_with(" -->")) throw std::runtime_error("a table that does not end: " + line);
       inside = true;
-      made += '\n' + table(line.substr(opening.size(), line.size() - opening.size() - 4)) + '\n';
+      const auto names = line.substr(opening.size(), line.size() - opening.size() - 4);
+      made += '\n' + (names == "shares" ? table_of_shares() : table_of_errors(names)) + '\n';
     }
   }
   if (inside) throw std::runtime_error("the last table does not end");
@@ -141,6 +160,24 @@ int document(const std::string& path, bool only_compare) {
     return 1;
   }
   harness::replace_file(path, made);
+  return 0;
+}
+
+// Measures until every road, or every one of these operations, has so many lanes.
+int measure_shares(const harness::library& library, const std::vector<std::string>& operations, std::uint64_t lanes,
+                   unsigned threads, const std::string& path) {
+  auto lines = read_shares(path);
+  for (const auto& name : operations)
+    if (std::ranges::none_of(roads(), [&](const road& r) { return r.operation == name; }))
+      throw std::runtime_error("no share to be measured of " + name);
+  for (const auto& r : roads()) {
+    if (!operations.empty() && std::ranges::find(operations, r.operation) == operations.end()) continue;
+    const auto index = index_of(r.operation);
+    auto line = std::ranges::find_if(
+        lines, [&](const share& s) { return s.index == index && s.width == r.width && s.part == r.part; });
+    if (line == lines.end()) line = lines.insert(line, {.index = index, .width = r.width, .part = std::string(r.part)});
+    extend(*line, r, library, lanes, threads, [&] { write_shares(path, lines); });
+  }
   return 0;
 }
 
@@ -221,12 +258,22 @@ int main(int argc, char** argv) try {
   auto* documenting = app.add_subcommand("document", "make the tables of the accuracy document");
   documenting->add_option("FILE", path, "the document")->required();
   documenting->add_flag("--check", only_compare, "write nothing; fail where the document would change");
-  std::vector<std::string> sources;
+  std::vector<std::string> sources, operations;
   auto* heading = app.add_subcommand("heads", "state the errors in the heads of source files");
   heading->add_option("FILES", sources, "source files that export functions")->required()->check(CLI::ExistingFile);
   heading->add_flag("--check", only_compare, "write nothing; fail where a head would change");
+  std::string shares = shares_path();
+  std::uint64_t lanes = 100 * share::block;
+  unsigned threads = 2;
+  auto* sharing = app.add_subcommand("shares", "count correctly rounded results on rare roads, from where it was left");
+  sharing->add_option("operations", operations, "only of these operations");
+  sharing->add_option("-n,--lanes", lanes, "lanes of each")->capture_default_str();
+  sharing->add_option("-j,--threads", threads)->check(CLI::Range(1, 256))->capture_default_str();
+  sharing->add_option("-f,--file", shares, "the file of shares")->check(CLI::ExistingFile)->capture_default_str();
+  sharing->add_option("-l,--library", library, "the library to measure");
   CLI11_PARSE(app, argc, argv);
   const int status = *heading    ? heads(sources, only_compare)
+                     : *sharing  ? measure_shares(harness::library(library), operations, lanes, threads, shares)
                      : *checking ? check(harness::library(library))
                                  : document(path, only_compare);
   harness::finish_output();

@@ -134,22 +134,21 @@ void add_accuracy(const std::vector<const operation*>& operations, document& pag
           : "All widths have the same bits, lane by lane."});
 }
 
-void add_speed(const std::vector<const operation*>& operations, const std::map<std::string, speeds>& known,
-               document& page) {
+void add_speed(const std::vector<const operation*>& operations, const speeds& known, document& page) {
   table t{{"Form", "Width 1", "Width 4", "Width 8", "Width 16"}, {}};
   for (const auto* o : operations)
     for (auto v : variants)
-      if (const auto form = fmt::format("{}{}", o->name(), suffix(v)); known.contains(form)) {
-        const auto& row = known.at(form);
-        t.rows.push_back({form, row[0], row[1], row[2], row[3]});
+      if (const auto form = fmt::format("{}{}", o->name(), suffix(v)); known.of_form.contains(form)) {
+        t.rows.push_back({form});
+        t.rows.back().insert(t.rows.back().end(), known.of_form.at(form).begin(), known.of_form.at(form).end());
       }
   if (t.rows.empty()) return;
   page.blocks.insert(
       page.blocks.end(),
       {heading{"Speed"},
-       paragraph{
-           "Nanoseconds per lane on one machine, an AMD EPYC (Zen 3), which was busy for some of the pages: compare "
-           "within a page. performance.md has all figures, and those of other libraries."},
+       paragraph{fmt::format("Nanoseconds per lane on one machine ({}). performance.md has all figures, and those of "
+                             "other libraries.",
+                             known.processor)},
        t});
 }
 
@@ -196,8 +195,7 @@ void add_trap(const operation& o, document& page) {
                                   name_of(o), other.name(), width, name_of(o))});
 }
 
-document page_about(const description& text, const std::vector<const operation*>& operations,
-                    const std::map<std::string, speeds>& speed) {
+document page_about(const description& text, const std::vector<const operation*>& operations, const speeds& speed) {
   const auto& o = *operations[0];
   document page{"lanemath_" + text.page, {}, brief_of(operations), 3, {}};
   code synopsis{{"#include <lanemath/lanemath.h>", ""}};
@@ -235,8 +233,7 @@ document page_about(const description& text, const std::vector<const operation*>
 
 }  // namespace
 
-std::vector<document> function_pages(const std::vector<description>& descriptions,
-                                     const std::map<std::string, speeds>& speed) {
+std::vector<document> function_pages(const std::vector<description>& descriptions, const speeds& speed) {
   std::vector<document> pages;
   std::map<family, lines> of_family;
   std::vector<family> groups;

@@ -1,7 +1,6 @@
 // The pages of the reference.
 #pragma once
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -12,8 +11,7 @@
 namespace lanemath::reference {
 
 // One for each description.
-std::vector<document> function_pages(const std::vector<description>& descriptions,
-                                     const std::map<std::string, speeds>& speed);
+std::vector<document> function_pages(const std::vector<description>& descriptions, const speeds& speed);
 // What holds for all functions, with a list of the pages.
 document overview(const std::vector<document>& pages_of_functions);
 

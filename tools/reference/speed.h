@@ -1,16 +1,19 @@
-// The figures of docs/performance.md.
+// The figures of docs/performance.json.
 #pragma once
 
-#include <array>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace lanemath::reference {
 
-// Nanoseconds: a call at width 1, and a lane at widths 4, 8 and 16.
-using speeds = std::array<std::string, 4>;
+struct speeds {
+  std::string processor;
+  // By form, such as expf_native: nanoseconds a lane at widths 1, 4, 8 and 16.
+  std::map<std::string, std::vector<std::string>> of_form;
+};
 
-// By form, such as expf_native; not all are in the document. Throws if it has none.
-std::map<std::string, speeds> read_speeds(const std::string& path);
+// Throws std::runtime_error if the file has none.
+speeds read_speeds(const std::string& path);
 
 }  // namespace lanemath::reference

@@ -113,7 +113,11 @@ class table_writer {
   // entry(j) is a pair, high part first.
   template <class T, class F>
   void pairs(std::string_view name, std::string_view meaning, int size, F entry) {
-    table(fmt::format("{}[{}]", name, size), meaning, fmt::format("two_part<{}>", type<T>()), size, [&](int j) {
+    pairs<T>(name, meaning, fmt::format("two_part<{}>", type<T>()), size, entry);
+  }
+  template <class T, class F>
+  void pairs(std::string_view name, std::string_view meaning, std::string_view of, int size, F entry) {
+    table(fmt::format("{}[{}]", name, size), meaning, of, size, [&](int j) {
       const auto [hi, lo] = entry(j);
       return fmt::format("{{{}, {}}}", literal(T(hi)), literal(T(lo)));
     });
@@ -146,12 +150,13 @@ class table_writer {
     table(fmt::format("{}[{}]{}", name, rows.size(), dimension), meaning, of, int(rows.size()),
           [&](int j) { return text(std::span(rows[j])); });
   }
-  // A fitted table of one row as an array.
+  // A fitted table of one row as an array of numbers rounded to T, which it may hold as another type.
   template <class T>
-  void polynomial(std::string_view name, std::string_view meaning) {
+  void polynomial(std::string_view name, std::string_view meaning, std::string_view of = type<T>()) {
     const auto& rows = fit(name);
     if (rows.size() != 1) throw std::runtime_error(fmt::format("{}: {} rows, not one", name, rows.size()));
-    values<T>(name, meaning, int(rows[0].size()), [&](int j) { return rows[0][j].template nearest<T>(); });
+    table(fmt::format("{}[{}]", name, rows[0].size()), meaning, of, int(rows[0].size()),
+          [&](int j) { return literal(rows[0][j].template nearest<T>()); });
   }
   template <class T>
   static std::string literal(T value) {

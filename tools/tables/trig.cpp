@@ -81,15 +81,23 @@ struct step {
   }
 };
 
-// The sine of step j of so many in a turn in two parts, and pi times its cosine as a power of two and the rest.
-template <class T, int Steps>
-std::array<T, 4> step_of_pi(int j) {
+// The sine of step j of 512 in a turn in two parts, and pi times its cosine, in few bits and the rest. At a whole
+// number of half turns they are two bits, an integer, whose products with denormals are exact.
+std::array<double, 4> step_of_pi(int j) {
   real slope;
   mpfr_const_pi(slope.v, MPFR_RNDN);
-  slope = slope * cosine(j, Steps);
-  const real value = sine(j, Steps);
-  const T high = value.nearest<T>(), head = T(power_near(slope));
-  return {high, (value - real(high)).template nearest<T>(), head, (slope - real(head)).template nearest<T>()};
+  slope = slope * cosine(j, 512);
+  const real value = sine(j, 512);
+  const double high = value.nearest<double>(), head = cut(slope, j % 256 == 0 ? 2 : 5, MPFR_RNDN).nearest<double>();
+  return {high, (value - real(high)).nearest<double>(), head, (slope - real(head)).nearest<double>()};
+}
+
+// The tangent of step j of 128 in a quarter of a turn, or of step j - 128, in two parts, the first of 32 bits.
+std::array<double, 2> tangent_of_step(int j) {
+  const int step = j < 64 ? j : j - 128;
+  const real t = j == 64 ? real(-1) : sine(step, 512) / cosine(step, 512);
+  const double high = cut(t, 32, MPFR_RNDN).nearest<double>();
+  return {high, (t - real(high)).nearest<double>()};
 }
 
 // The tangent's expansion about step j of 128 in half a turn; next to the pole, the expansion of the tangent less the
@@ -153,9 +161,13 @@ void write_trig_tables(table_writer& out) {
              return std::array{s.cos_tail, s.sin_hi, s.sin_lo, s.cos_head == 0 ? -0.0 : s.cos_head};
            });
 
-  constexpr auto of_pi = "By step in a turn: sine and its low part, pi times the cosine as a power of two and the rest";
-  out.rows("of_pi_f32", of_pi, 128, step_of_pi<float, 128>);
-  out.rows("of_pi_f64", of_pi, 512, step_of_pi<double, 512>);
+  out.rows("of_pi_f64",
+           "By step j of 512 in a turn: sine and its low part, pi times the cosine, in few bits and the rest", 512,
+           step_of_pi);
+  out.rows(
+      "tangent_quarter",
+      "By step j of 128 in a quarter of a turn: tangent of j steps, from 64 on of j - 128, in 32 bits, and the rest",
+      128, tangent_of_step);
 
   out.rows(
       "tangent_128",

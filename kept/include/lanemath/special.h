@@ -332,50 +332,50 @@ LANEMATH_INLINE lanemath_float16 lanemath_erfcf16_native(lanemath_float16 x) {
  * the head of <lanemath/special.h>. */ \
   LANEMATH_UNARY(erfcf16_native, float16, float16, x)
 
-/** natural logarithm of |gamma(x)|; one double. Largest error 0.509 ulp. Domain and special values: at the head of
+/** natural logarithm of |gamma(x)|; one double. Largest error 0.51 ulp. Domain and special values: at the head of
  * <lanemath/special.h>. */
 lanemath_double1 lanemath_lgamma1(lanemath_double1 x) LANEMATH_NAMED("lgamma1");
-/** natural logarithm of |gamma(x)|; 2 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
- * head of <lanemath/special.h>. */
+/** natural logarithm of |gamma(x)|; 2 lanes of double. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */
 lanemath_double2 lanemath_lgamma2(lanemath_double2 x) LANEMATH_NAMED("lgamma2");
 lanemath_border_double3 __ocl_lanemath_h8_lgamma3(lanemath_border_double3);
-/** natural logarithm of |gamma(x)|; 3 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
- * head of <lanemath/special.h>. */
+/** natural logarithm of |gamma(x)|; 3 lanes of double. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_lgamma3(lanemath_double3 x) {
   return LANEMATH_UNARY(lgamma3, double3, double3, x);
 }
 #define lanemath_lgamma3(x) \
-/** natural logarithm of |gamma(x)|; 3 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
- * head of <lanemath/special.h>. */ \
+/** natural logarithm of |gamma(x)|; 3 lanes of double. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */ \
   LANEMATH_UNARY(lgamma3, double3, double3, x)
 lanemath_border_double4 __ocl_lanemath_h8_lgamma4(lanemath_border_double4);
-/** natural logarithm of |gamma(x)|; 4 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
- * head of <lanemath/special.h>. */
+/** natural logarithm of |gamma(x)|; 4 lanes of double. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_lgamma4(lanemath_double4 x) {
   return LANEMATH_UNARY(lgamma4, double4, double4, x);
 }
 #define lanemath_lgamma4(x) \
-/** natural logarithm of |gamma(x)|; 4 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
- * head of <lanemath/special.h>. */ \
+/** natural logarithm of |gamma(x)|; 4 lanes of double. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */ \
   LANEMATH_UNARY(lgamma4, double4, double4, x)
 lanemath_border_double8 __ocl_lanemath_h8_lgamma8(lanemath_border_double8);
-/** natural logarithm of |gamma(x)|; 8 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
- * head of <lanemath/special.h>. */
+/** natural logarithm of |gamma(x)|; 8 lanes of double. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_lgamma8(lanemath_double8 x) {
   return LANEMATH_UNARY(lgamma8, double8, double8, x);
 }
 #define lanemath_lgamma8(x) \
-/** natural logarithm of |gamma(x)|; 8 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
- * head of <lanemath/special.h>. */ \
+/** natural logarithm of |gamma(x)|; 8 lanes of double. Largest error 0.51 ulp. Domain and special values: at the head
+ * of <lanemath/special.h>. */ \
   LANEMATH_UNARY(lgamma8, double8, double8, x)
 lanemath_border_double16 __ocl_lanemath_h8_lgamma16(lanemath_border_double16);
-/** natural logarithm of |gamma(x)|; 16 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
+/** natural logarithm of |gamma(x)|; 16 lanes of double. Largest error 0.51 ulp. Domain and special values: at the
  * head of <lanemath/special.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_lgamma16(lanemath_double16 x) {
   return LANEMATH_UNARY(lgamma16, double16, double16, x);
 }
 #define lanemath_lgamma16(x) \
-/** natural logarithm of |gamma(x)|; 16 lanes of double. Largest error 0.509 ulp. Domain and special values: at the
+/** natural logarithm of |gamma(x)|; 16 lanes of double. Largest error 0.51 ulp. Domain and special values: at the
  * head of <lanemath/special.h>. */ \
   LANEMATH_UNARY(lgamma16, double16, double16, x)
 
@@ -412,50 +412,50 @@ LANEMATH_INLINE lanemath_float16 lanemath_lgammaf16(lanemath_float16 x) {
  * of <lanemath/special.h>. */ \
   LANEMATH_UNARY(lgammaf16, float16, float16, x)
 
-/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; one double. Largest error 0.509 ulp.
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; one double. Largest error 0.51 ulp.
  * Domain and special values: at the head of <lanemath/special.h>. */
 lanemath_double1 lanemath_lgammar1(lanemath_double1 x, lanemath_int1* sign) LANEMATH_NAMED("lgammar1");
-/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 2 lanes of double. Largest error 0.509
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 2 lanes of double. Largest error 0.51
  * ulp. Domain and special values: at the head of <lanemath/special.h>. */
 lanemath_double2 lanemath_lgammar2(lanemath_double2 x, lanemath_int2* sign) LANEMATH_NAMED("lgammar2");
 lanemath_border_double3 __ocl_lanemath_h8_lgammar3(lanemath_border_double3, lanemath_int3*);
-/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 3 lanes of double. Largest error 0.509
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 3 lanes of double. Largest error 0.51
  * ulp. Domain and special values: at the head of <lanemath/special.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_lgammar3(lanemath_double3 x, lanemath_int3* sign) {
   return LANEMATH_UNARY_POINTER(lgammar3, double3, double3, int3, x, sign);
 }
 #define lanemath_lgammar3(x, sign) \
-/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 3 lanes of double. Largest error 0.509
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 3 lanes of double. Largest error 0.51
  * ulp. Domain and special values: at the head of <lanemath/special.h>. */ \
   LANEMATH_UNARY_POINTER(lgammar3, double3, double3, int3, x, sign)
 lanemath_border_double4 __ocl_lanemath_h8_lgammar4(lanemath_border_double4, lanemath_int4*);
-/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 4 lanes of double. Largest error 0.509
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 4 lanes of double. Largest error 0.51
  * ulp. Domain and special values: at the head of <lanemath/special.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_lgammar4(lanemath_double4 x, lanemath_int4* sign) {
   return LANEMATH_UNARY_POINTER(lgammar4, double4, double4, int4, x, sign);
 }
 #define lanemath_lgammar4(x, sign) \
-/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 4 lanes of double. Largest error 0.509
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 4 lanes of double. Largest error 0.51
  * ulp. Domain and special values: at the head of <lanemath/special.h>. */ \
   LANEMATH_UNARY_POINTER(lgammar4, double4, double4, int4, x, sign)
 lanemath_border_double8 __ocl_lanemath_h8_lgammar8(lanemath_border_double8, lanemath_int8*);
-/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 8 lanes of double. Largest error 0.509
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 8 lanes of double. Largest error 0.51
  * ulp. Domain and special values: at the head of <lanemath/special.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_lgammar8(lanemath_double8 x, lanemath_int8* sign) {
   return LANEMATH_UNARY_POINTER(lgammar8, double8, double8, int8, x, sign);
 }
 #define lanemath_lgammar8(x, sign) \
-/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 8 lanes of double. Largest error 0.509
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 8 lanes of double. Largest error 0.51
  * ulp. Domain and special values: at the head of <lanemath/special.h>. */ \
   LANEMATH_UNARY_POINTER(lgammar8, double8, double8, int8, x, sign)
 lanemath_border_double16 __ocl_lanemath_h8_lgammar16(lanemath_border_double16, lanemath_int16*);
-/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 16 lanes of double. Largest error 0.509
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 16 lanes of double. Largest error 0.51
  * ulp. Domain and special values: at the head of <lanemath/special.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_lgammar16(lanemath_double16 x, lanemath_int16* sign) {
   return LANEMATH_UNARY_POINTER(lgammar16, double16, double16, int16, x, sign);
 }
 #define lanemath_lgammar16(x, sign) \
-/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 16 lanes of double. Largest error 0.509
+/** natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer; 16 lanes of double. Largest error 0.51
  * ulp. Domain and special values: at the head of <lanemath/special.h>. */ \
   LANEMATH_UNARY_POINTER(lgammar16, double16, double16, int16, x, sign)
 
@@ -492,50 +492,50 @@ LANEMATH_INLINE lanemath_float16 lanemath_lgammarf16(lanemath_float16 x, lanemat
  * ulp. Domain and special values: at the head of <lanemath/special.h>. */ \
   LANEMATH_UNARY_POINTER(lgammarf16, float16, float16, int16, x, sign)
 
-/** gamma function of x; one double. Largest error 0.504 ulp. Domain and special values: at the head of
+/** gamma function of x; one double. Largest error 0.505 ulp. Domain and special values: at the head of
  * <lanemath/special.h>. */
 lanemath_double1 lanemath_tgamma1(lanemath_double1 x) LANEMATH_NAMED("tgamma1");
-/** gamma function of x; 2 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+/** gamma function of x; 2 lanes of double. Largest error 0.505 ulp. Domain and special values: at the head of
  * <lanemath/special.h>. */
 lanemath_double2 lanemath_tgamma2(lanemath_double2 x) LANEMATH_NAMED("tgamma2");
 lanemath_border_double3 __ocl_lanemath_h8_tgamma3(lanemath_border_double3);
-/** gamma function of x; 3 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+/** gamma function of x; 3 lanes of double. Largest error 0.505 ulp. Domain and special values: at the head of
  * <lanemath/special.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_tgamma3(lanemath_double3 x) {
   return LANEMATH_UNARY(tgamma3, double3, double3, x);
 }
 #define lanemath_tgamma3(x) \
-/** gamma function of x; 3 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+/** gamma function of x; 3 lanes of double. Largest error 0.505 ulp. Domain and special values: at the head of
  * <lanemath/special.h>. */ \
   LANEMATH_UNARY(tgamma3, double3, double3, x)
 lanemath_border_double4 __ocl_lanemath_h8_tgamma4(lanemath_border_double4);
-/** gamma function of x; 4 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+/** gamma function of x; 4 lanes of double. Largest error 0.505 ulp. Domain and special values: at the head of
  * <lanemath/special.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_tgamma4(lanemath_double4 x) {
   return LANEMATH_UNARY(tgamma4, double4, double4, x);
 }
 #define lanemath_tgamma4(x) \
-/** gamma function of x; 4 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+/** gamma function of x; 4 lanes of double. Largest error 0.505 ulp. Domain and special values: at the head of
  * <lanemath/special.h>. */ \
   LANEMATH_UNARY(tgamma4, double4, double4, x)
 lanemath_border_double8 __ocl_lanemath_h8_tgamma8(lanemath_border_double8);
-/** gamma function of x; 8 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+/** gamma function of x; 8 lanes of double. Largest error 0.505 ulp. Domain and special values: at the head of
  * <lanemath/special.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_tgamma8(lanemath_double8 x) {
   return LANEMATH_UNARY(tgamma8, double8, double8, x);
 }
 #define lanemath_tgamma8(x) \
-/** gamma function of x; 8 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+/** gamma function of x; 8 lanes of double. Largest error 0.505 ulp. Domain and special values: at the head of
  * <lanemath/special.h>. */ \
   LANEMATH_UNARY(tgamma8, double8, double8, x)
 lanemath_border_double16 __ocl_lanemath_h8_tgamma16(lanemath_border_double16);
-/** gamma function of x; 16 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+/** gamma function of x; 16 lanes of double. Largest error 0.505 ulp. Domain and special values: at the head of
  * <lanemath/special.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_tgamma16(lanemath_double16 x) {
   return LANEMATH_UNARY(tgamma16, double16, double16, x);
 }
 #define lanemath_tgamma16(x) \
-/** gamma function of x; 16 lanes of double. Largest error 0.504 ulp. Domain and special values: at the head of
+/** gamma function of x; 16 lanes of double. Largest error 0.505 ulp. Domain and special values: at the head of
  * <lanemath/special.h>. */ \
   LANEMATH_UNARY(tgamma16, double16, double16, x)
 

@@ -1,0 +1,413 @@
+"""Measures the speed of every form and of its peers, and makes docs/performance.md and its plots from the figures."""
+import argparse
+import datetime
+import hashlib
+import json
+import math
+import os
+import pathlib
+import platform
+import re
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+import document
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+DOCS = ROOT / "docs"
+BUILD = ROOT / "build/release"
+BENCHMARK = BUILD / "bin/lanemath-benchmark"
+OPENCL_BENCHMARK = BUILD / "bin/lanemath-opencl-benchmark"
+LIBRARY = BUILD / "lib/__ocl_lanemath_h8.so.3.5"
+WITHOUT_FMA = {"GLIBC_TUNABLES": "glibc.cpu.hwcaps=-AVX2,-FMA"}
+# Arguments that only the long reductions serve.
+LARGE = [(2e7, 1e9), (1e15, 1e30)]
+LARGE_OPERATIONS = [name + f for name in ("sin", "cos", "sincos", "tan") for f in ("", "f")]
+OPENCL_TYPES = ["float", "float4", "double", "double2"]
+
+
+def fail(message):
+    sys.exit(f"report: {message}")
+
+
+def run(*command, **more):
+    done = subprocess.run([str(word) for word in command], text=True, stdout=subprocess.PIPE, **more)
+    if done.returncode != 0:
+        fail(f"{pathlib.Path(command[0]).name} ended with an error: {' '.join(map(str, command[1:]))}")
+    return done.stdout
+
+
+def write(path, text):
+    """Replaces a file as a whole."""
+    temporary = path.with_name(path.name + ".new")
+    try:
+        temporary.write_text(text)
+        temporary.replace(path)
+    finally:
+        temporary.unlink(missing_ok=True)
+
+
+def build():
+    """Whether there is the benchmark of OpenCL built-ins too."""
+    run("cmake", "-S", ROOT, "--preset", "release", "--log-level=WARNING")
+    targets = re.findall(r"^(lanemath-benchmark|lanemath-opencl-benchmark):",
+                         run("cmake", "--build", BUILD, "--target", "help"), re.M)
+    run("cmake", "--build", BUILD, "--target", *targets, "--", "--quiet")
+    return "lanemath-opencl-benchmark" in targets
+
+
+def find_tools():
+    """Before any work: llvm-mca's path."""
+    for tool, package in (("objdump", "binutils"), ("nm", "binutils"), ("gnuplot", "gnuplot-nox")):
+        if not shutil.which(tool):
+            fail(f"there is no {tool} (Debian package {package})")
+    names = [f"llvm-mca-{version}" for version in range(30, 12, -1)] + ["llvm-mca"]
+    found = next(filter(None, map(shutil.which, names)), None)
+    return found or fail("there is no llvm-mca (Debian package llvm)")
+
+
+def packages(*names):
+    """The versions that Debian's packages have here."""
+    found = {}
+    for name in names:
+        done = subprocess.run(["dpkg-query", "--show", "--showformat", "${db:Status-Status} ${Version}", name],
+                              text=True, capture_output=True)
+        status, _, version = done.stdout.partition(" ")
+        if status == "installed":
+            found[name] = version
+    return found
+
+
+def processor():
+    fields = dict(re.findall(r"^([^\t:]+)\s*: (.*)$", pathlib.Path("/proc/cpuinfo").read_text(), re.M))
+    flags = fields["flags"].split()
+    described = f"{fields['model name']}, family {fields['cpu family']}, model {fields['model']}"
+    return described + (", a virtual machine" if "hypervisor" in flags else ""), flags
+
+
+def check_tunables(flags):
+    """That the C library takes its other variants, by the place of expf in it."""
+    script = ("import ctypes\n"
+              "f = ctypes.cast(ctypes.CDLL('libm.so.6').expf, ctypes.c_void_p).value\n"
+              "print(f - next(int(line.split('-')[0], 16) for line in open('/proc/self/maps') if '/libm.so' in line))")
+    chosen = [run(sys.executable, "-c", script, env={**os.environ, **more}) for more in ({}, WITHOUT_FMA)]
+    if "fma" in flags and chosen[0] == chosen[1]:
+        fail(f"{WITHOUT_FMA} changes nothing: this C library spells it differently")
+
+
+class Journal:
+    """What was measured so far, a file for each piece, so that an interrupted run continues."""
+
+    def __init__(self, folder, conditions, fresh):
+        self.folder = folder
+        kept = folder / "conditions.json"
+        if fresh or not kept.exists() or json.loads(kept.read_text()) != conditions:
+            shutil.rmtree(folder, ignore_errors=True)
+            folder.mkdir(parents=True)
+            write(kept, json.dumps(conditions))
+
+    def piece(self, name, measure):
+        path = self.folder / f"{name}.json"
+        if not path.exists():
+            measured = measure()
+            write(path, json.dumps({"load": os.getloadavg()[0], "measured": measured}))
+        return json.loads(path.read_text())
+
+    def end(self):
+        shutil.rmtree(self.folder)
+
+
+class Benchmark:
+    def __init__(self, trial):
+        self.flags = (["--benchmark_repetitions=2", "--benchmark_min_time=0.001"] if trial else
+                      ["--benchmark_repetitions=5", "--benchmark_min_time=0.01"])
+        self.samples = 200 if trial else 10000
+        # The last core that this process may use: the first ones do the machine's own work.
+        self.core = max(os.sched_getaffinity(0))
+
+    def __call__(self, operation, *flags, env=None):
+        """The least time of each benchmark, in nanoseconds a lane, and its error."""
+        with tempfile.TemporaryDirectory() as folder:
+            out = pathlib.Path(folder) / "out.json"
+            run("taskset", "--cpu-list", self.core, BENCHMARK, operation, *self.flags, *flags,
+                f"--benchmark_out={out}", env={**os.environ, **(env or {})})
+            benchmarks = json.loads(out.read_text())["benchmarks"]
+        best = {}
+        for each in benchmarks:
+            if each["run_type"] != "iteration":
+                continue
+            # The rest of the name is about the repetitions.
+            name = "/".join(each["name"].split("/")[:2 if each["name"].split("/")[1] == "cycle" else 4])
+            kept = best.setdefault(name, {"lane": float("inf")})
+            kept["lane"] = min(kept["lane"], significant(each["seconds_per_lane"] * 1e9))
+            if "ulp" in each:
+                kept["ulp"] = significant(each["ulp"])
+        return best
+
+    def opencl(self, builtin):
+        with tempfile.TemporaryDirectory() as folder:
+            out = pathlib.Path(folder) / "out.json"
+            run("taskset", "--cpu-list", self.core, OPENCL_BENCHMARK, builtin, "--type", ",".join(OPENCL_TYPES),
+                "--json", out, stderr=subprocess.DEVNULL)
+            return json.loads(out.read_text())["measurements"]
+
+
+def significant(number):
+    """To four digits. An infinite error becomes text, which JSON can hold."""
+    rounded = float(f"{number:.4g}")
+    return rounded if math.isfinite(rounded) else "inf"
+
+
+def progress(done, of, what, began):
+    terminal = sys.stderr.isatty()
+    text = f"[{done}/{of}] {what}, {(time.time() - began) / 60:.1f} min"
+    print(f"\r\033[K{text}" if terminal else text, end="" if terminal else "\n", file=sys.stderr, flush=True)
+
+
+def form_of(name, family, all_measured):
+    """The figures of one form, put together from its benchmarks."""
+    form = {"family": family, "lane": {}, "peers": {}}
+    # They were measured in random order: short keys first, so that widths are in theirs.
+    for key, figures in sorted(all_measured.items(), key=lambda item: (len(item[0]), item[0])):
+        title, *rest = key.split("/")
+        if title != name:
+            continue
+        if rest[0] == "cycle":
+            form["cycle"] = figures["lane"]
+            continue
+        by, kind, width = rest
+        if by != "lanemath":
+            if kind == "throughput":
+                library = "SLEEF" if by.startswith("Sleef_") else by if by in document.INLINED else "C library"
+                form["peers"][library] = {"function": by, "width": int(width), **figures}
+        elif kind == "throughput":
+            form["lane"][width] = figures["lane"]
+            if "ulp" in figures:
+                form["ulp"] = figures["ulp"]
+        else:
+            form[kind] = figures["lane"]
+    return form
+
+
+def bounds(tool, names, symbol_of):
+    """The reciprocal throughput that llvm-mca gives for the common path of these functions, in cycles."""
+    code, at = {}, {}
+    for line in run("objdump", "-d", "--no-show-raw-insn", LIBRARY).splitlines():
+        match = re.match(r" *([0-9a-f]+):\t(.+)", line)
+        if match:
+            code[int(match[1], 16)] = match[2]
+    for line in run("nm", "-D", "--defined-only", LIBRARY).splitlines():
+        place, _, symbol = line.split()
+        at[symbol.split("@")[0]] = int(place, 16)
+    following = dict(zip(sorted(code), sorted(code)[1:]))
+    regions = []
+    for name in names:
+        path = common_path(code, following, at[symbol_of(name)])
+        if path:
+            regions += [f"# LLVM-MCA-BEGIN {name}", *path, "# LLVM-MCA-END"]
+    out = run(tool, "-mcpu=native", "--summary-view", "--resource-pressure=0", "--instruction-info=0", "-",
+              input="\n".join(regions) + "\n", stderr=subprocess.DEVNULL)
+    found = re.findall(r"^\[\d+\] Code Region - (\S+)\n.*?^Block RThroughput: ([\d.]+)", out, re.M | re.S)
+    about = run(tool, "--version")
+    version, host = (re.search(text + r"(\S+)", about)[1] for text in ("version ", "Host CPU: "))
+    return f"llvm-mca {version} for {host}", {name: float(cycles) for name, cycles in found}
+
+
+def common_path(code, following, place):
+    """A function's instructions to its first return where no conditional jump is taken; none if that calls or loops."""
+    path, seen = [], set()
+    while place in code and place not in seen:
+        seen.add(place)
+        text = re.sub(r"\s*(#|<).*", "", code[place])
+        mnemonic = text.split()[0]
+        if mnemonic.startswith("call"):
+            return None
+        if mnemonic == "jmp":
+            target = re.fullmatch(r"jmp\s+([0-9a-f]+)", text)
+            if not target:
+                return None
+            place = int(target[1], 16)
+            continue
+        if mnemonic.startswith("j"):
+            if int(text.split()[1], 16) <= place:
+                return None
+            text = f"{mnemonic} .Lrare"
+        path.append(text)
+        if mnemonic == "ret":
+            return path
+        place = following.get(place)
+    return None
+
+
+def families_of_forms(operations):
+    done = subprocess.run([BENCHMARK, "--list", *operations], text=True, capture_output=True)
+    if done.returncode != 0:
+        fail(done.stderr.strip().partition(": ")[2])
+    return dict(reversed(line.split("\t")) for line in done.stdout.splitlines())
+
+
+def lesser(one, other):
+    """The lesser of any two times, at every depth."""
+    if isinstance(one, dict):
+        return {key: lesser(one[key], other.get(key, one[key])) for key in one}
+    return min(one, other) if isinstance(one, float) and isinstance(other, float) else one
+
+
+def measure(arguments):
+    before = read(arguments.kept) if arguments.again else None
+    llvm_mca = find_tools()
+    description, flags = processor()
+    check_tunables(flags)
+    with_opencl = build()
+    trial = bool(arguments.trial)
+    benchmark = Benchmark(trial)
+    family_of = families_of_forms(arguments.operations)
+    operations = list(dict.fromkeys(name.split("_")[0] for name in family_of))
+    large_operations = [name for name in LARGE_OPERATIONS if name in operations]
+    builtins = [name for name, operation in document.BUILTINS.items()
+                if with_opencl and operation in operations and not arguments.again]
+    journal = Journal(BUILD / "report" / ("trial" if trial else "again" if before else "performance"), {
+        "library": hashlib.sha256(LIBRARY.read_bytes()).hexdigest(),
+        "benchmark": hashlib.sha256(BENCHMARK.read_bytes()).hexdigest(),
+        "processor": description, "operations": operations, "flags": benchmark.flags}, arguments.fresh)
+
+    pieces = {}
+    for name in operations:
+        pieces[name] = lambda n=name: benchmark(n, f"--errors={benchmark.samples}")
+        # By the name of the default form alone: the other variants have the same peer.
+        pieces[f"{name}-without-fma"] = lambda n=name: benchmark(f"{n}1", "--c-library-alone", env=WITHOUT_FMA)
+    for low, high in LARGE:
+        for name in large_operations:
+            pieces[f"{name}-{low:.0e}"] = lambda n=name, l=low, h=high: benchmark(n, "--between", l, h)
+    for name in builtins:
+        pieces[f"opencl-{name}"] = lambda n=name: benchmark.opencl(n)
+    began, found, loads = time.time(), {}, []
+    for i, (name, measure_piece) in enumerate(pieces.items()):
+        progress(i + 1, len(pieces), name, began)
+        piece = journal.piece(name, measure_piece)
+        found[name] = piece["measured"]
+        loads.append(piece["load"])
+    if sys.stderr.isatty():
+        print(file=sys.stderr)
+
+    forms = {name: form_of(name, family, found[name.split("_")[0]]) for name, family in family_of.items()}
+    for name, form in forms.items():
+        operation = name.split("_")[0]
+        for key, figures in found[f"{operation}-without-fma"].items():
+            if key.split("/")[1] != "cycle" and key.split("/")[2] == "throughput":
+                form["peers"]["C library"]["lane without FMA"] = figures["lane"]
+    floating = [name for name, family in family_of.items() if family not in document.EXACT[1:]]
+    bounds_by, cycles = bounds(llvm_mca, floating, lambda name: "__ocl_lanemath_h8_" + re.sub(
+        r"(_|$)", document.group_width(name) + r"\1", name, count=1))
+    for name, bound in cycles.items():
+        forms[name]["bound"] = bound
+    compiler = re.search(r"^CMAKE_CXX_COMPILER:\w+=(.*)$", (BUILD / "CMakeCache.txt").read_text(), re.M)[1]
+    figures = {
+        "about": {
+            "date": datetime.datetime.now(datetime.timezone.utc).strftime("%Y-%m-%d"),
+            "processor": description,
+            "cores": os.cpu_count(),
+            "system": platform.freedesktop_os_release()["PRETTY_NAME"],
+            "compiler": run(compiler, "--version").splitlines()[0],
+            "clock": significant(1 / statistics.median(form["cycle"] for form in forms.values())),
+            "load": {"median": significant(statistics.median(loads)), "largest": significant(max(loads))},
+            "repetitions": int(benchmark.flags[0].partition("=")[2]),
+            "samples": benchmark.samples,
+            "bounds": bounds_by,
+            "packages": packages("libsleef3", "libc6", "libhwy-dev", "libxsimd-dev", "libeigen3-dev",
+                                 "pocl-opencl-icd"),
+        },
+        "forms": forms,
+        "large": {f"{name} {low:.0e}": form_of(name, forms[name]["family"], found[f"{operation}-{low:.0e}"])
+                  for low, _ in LARGE for operation in large_operations
+                  for name in forms if name.split("_")[0] == operation},
+        "opencl": [measurement for name in builtins for measurement in found[f"opencl-{name}"]],
+    }
+    if before:
+        about = before["about"]
+        about["again"] = sorted({*about.get("again", []), *operations})
+        merged = {part: before[part] | {key: lesser(before[part][key], of) for key, of in figures[part].items()}
+                  for part in ("forms", "large")}
+        figures = before | merged
+    write(arguments.kept, text_of(figures))
+    journal.end()
+
+
+def text_of(figures):
+    """JSON with a line for each form."""
+    def lines(content):
+        if isinstance(content, dict):
+            return "{\n" + ",\n".join(f"{json.dumps(name)}: {json.dumps(of, allow_nan=False)}"
+                                      for name, of in content.items()) + "\n}"
+        return "[\n" + ",\n".join(map(json.dumps, content)) + "\n]"
+
+    return "{\n" + ",\n".join(f"{json.dumps(part)}: {lines(content)}" for part, content in figures.items()) + "\n}\n"
+
+
+def read(path):
+    try:
+        figures = json.loads(path.read_text())
+        if list(figures) != ["about", "forms", "large", "opencl"]:
+            raise ValueError("it has other parts")
+        return figures
+    except (OSError, ValueError) as error:
+        fail(f"cannot read the figures: {path}: {error}")
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="scripts/report performance", description=__doc__)
+    what = parser.add_mutually_exclusive_group()
+    what.add_argument("--render", action="store_true", help="make document and plots from the kept figures alone")
+    what.add_argument("--check", action="store_true", help="fail if they are not what the kept figures give")
+    what.add_argument("--fresh", action="store_true", help="do not continue a run that was interrupted")
+    parser.add_argument("--trial", metavar="FOLDER", type=pathlib.Path,
+                        help="a quick run, in this folder instead of docs; reasons may be missing")
+    what.add_argument("--again", action="store_true",
+                      help="measure some operations once more, because something disturbed them, and keep the lesser "
+                      "of all times, the peers' too")
+    parser.add_argument("operations", nargs="*", metavar="OPERATION", help="with --trial or --again: these alone")
+    arguments = parser.parse_args()
+    if arguments.operations and not (arguments.trial or arguments.again):
+        parser.error("only a trial measures some operations alone")
+    if arguments.again and not arguments.operations:
+        parser.error("--again needs operations")
+    folder = arguments.trial or DOCS
+    kept = arguments.kept = folder / "performance.json"
+    if not folder.is_dir():
+        fail(f"there is no folder {folder}")
+    if arguments.render or arguments.check:
+        figures = read(kept)
+    else:
+        measure(arguments)
+        figures = read(kept)
+    try:
+        files = document.make(figures, strict=not arguments.trial)
+    except document.Unexplained as error:
+        fail(f"the figures are kept, but tools/report/performance.toml lacks reasons: {error}; then --render")
+    except (KeyError, TypeError, ValueError, AttributeError, ArithmeticError) as error:
+        fail(f"the figures are incomplete: {kept}: {error!r}")
+    superfluous = [plot for plot in folder.glob("performance-*.svg") if plot.name not in files]
+    if arguments.check:
+        stale = [name for name, text in files.items()
+                 if not (folder / name).exists() or (folder / name).read_text() != text]
+        stale += [plot.name for plot in superfluous]
+        if stale:
+            fail(f"not what the kept figures give: {', '.join(stale)}; run scripts/report performance --render")
+        return
+    for name, text in files.items():
+        write(folder / name, text)
+    for plot in superfluous:
+        plot.unlink()
+    if not arguments.render:
+        print(folder / "performance.md", file=sys.stderr)
+
+
+if __name__ == "__main__":
+    try:
+        main()
+    except KeyboardInterrupt:
+        fail("interrupted; the next run continues")
