@@ -214,14 +214,14 @@ LANEMATH_INLINE lanes<std::int32_t, W> halves(const lanes<T, W>& v) {
   } else {
     using on = typename lanes<T, W>::on_group;
     using group = typename lanes<std::int32_t, W>::group;
-    const auto whole = [&](int i) LANEMATH_LAMBDA { return std::bit_cast<typename on::integers>(v.g[i]); };
+    using floats = typename on::floats;
     constexpr int last = lanes<T, W>::groups - 1;
     for (int i = 0; i < result.groups; ++i) {
       if constexpr (halves_of<T, W> == 2)
-        result.g[i] =
-            std::bit_cast<group>(on::template words<Half>(whole(2 * i), whole(2 * i < last ? 2 * i + 1 : last)));
+        result.g[i] = std::bit_cast<group>(on::template words<Half>(
+            std::bit_cast<floats>(v.g[2 * i]), std::bit_cast<floats>(v.g[2 * i < last ? 2 * i + 1 : last])));
       else
-        result.g[i] = std::bit_cast<group>(on::template words<Half>(whole(i)));
+        result.g[i] = std::bit_cast<group>(on::template words<Half>(std::bit_cast<floats>(v.g[i])));
     }
   }
   return result;
@@ -290,9 +290,12 @@ LANEMATH_INLINE void lane_by_lane(F f, const lanes<T, W>& v, lanes<T, W>& ones, 
       constexpr int per_group = lanes<T, W>::group_bytes / int(sizeof(T));
       T one[per_group], other[per_group];
       for (int k = 0; k < per_group; ++k) f(v.g[i][k], one[k], other[k]);
-      using group = typename lanes<T, W>::group;
-      ones.g[i] = std::bit_cast<group>(one);
-      others.g[i] = std::bit_cast<group>(other);
+      const auto joined = []<std::size_t... K>(const T(&of)[per_group], std::index_sequence<K...>) LANEMATH_LAMBDA {
+        return typename lanes<T, W>::group{of[K]...};
+      };
+      constexpr std::make_index_sequence<per_group> places;
+      ones.g[i] = joined(one, places);
+      others.g[i] = joined(other, places);
     }
   }
 }

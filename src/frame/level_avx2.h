@@ -53,14 +53,13 @@ struct instructions<32> {
   static constexpr auto sllv_epi64 = _mm256_sllv_epi64;
 
   template <int Upper>
-  LANEMATH_INLINE static integers words(integers low, integers high) {
-    const auto halves = _mm256_shuffle_ps(_mm256_castsi256_ps(low), _mm256_castsi256_ps(high),
-                                          _MM_SHUFFLE(2 + Upper, Upper, 2 + Upper, Upper));
+  LANEMATH_INLINE static integers words(floats low, floats high) {
+    const auto halves = _mm256_shuffle_ps(low, high, _MM_SHUFFLE(2 + Upper, Upper, 2 + Upper, Upper));
     return _mm256_permute4x64_epi64(_mm256_castps_si256(halves), _MM_SHUFFLE(3, 1, 2, 0));
   }
   template <int Upper>
-  LANEMATH_INLINE static half_integers words(integers v) {
-    return instructions<16>::words<Upper>(half(v, 0), half(v, 1));
+  LANEMATH_INLINE static half_floats words(floats v) {
+    return instructions<16>::words<Upper>(_mm256_castps256_ps128(v), _mm256_extractf128_ps(v, 1));
   }
   LANEMATH_INLINE static integers in_upper_words(auto v, int k) {
     return _mm256_slli_epi64(widen_unsigned(half(v, k)), 32);

@@ -58,12 +58,13 @@ struct instructions<64> {
   static constexpr auto sllv_epi64 = _mm512_sllv_epi64;
 
   template <int Upper>
-  LANEMATH_INLINE static integers words(integers low, integers high) {
+  LANEMATH_INLINE static integers words(floats low, floats high) {
     return joined(words<Upper>(low), words<Upper>(high));
   }
   template <int Upper>
-  LANEMATH_INLINE static half_integers words(integers v) {
-    return _mm512_cvtepi64_epi32(Upper ? _mm512_srli_epi64(v, 32) : v);
+  LANEMATH_INLINE static half_integers words(floats v) {
+    const auto whole = _mm512_castps_si512(v);
+    return _mm512_cvtepi64_epi32(Upper ? _mm512_srli_epi64(whole, 32) : whole);
   }
   LANEMATH_INLINE static integers in_upper_words(auto v, int k) {
     return _mm512_slli_epi64(widen_unsigned(half(v, k)), 32);

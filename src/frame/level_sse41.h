@@ -50,9 +50,8 @@ struct instructions<16> {
 
   // Between lanes of 32 and 64 bits. `words` are the upper or lower words of 64-bit lanes.
   template <int Upper>
-  LANEMATH_INLINE static integers words(integers low, integers high) {
-    return _mm_castps_si128(
-        _mm_shuffle_ps(_mm_castsi128_ps(low), _mm_castsi128_ps(high), _MM_SHUFFLE(2 + Upper, Upper, 2 + Upper, Upper)));
+  LANEMATH_INLINE static floats words(floats low, floats high) {
+    return _mm_shuffle_ps(low, high, _MM_SHUFFLE(2 + Upper, Upper, 2 + Upper, Upper));
   }
   // Half k as upper words, above zeros.
   LANEMATH_INLINE static integers in_upper_words(integers v, int k) {

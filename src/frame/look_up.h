@@ -25,13 +25,6 @@ struct index_pair {
   LANEMATH_INLINE explicit index_pair(long long both)
       : first(std::uint32_t(both)), second(std::uint32_t(std::uint64_t(both) >> 32)) {}
 };
-template <int W>
-LANEMATH_INLINE index_pair indices(const lanes<std::int32_t, W>& index, int pair) {
-  using on = typename lanes<std::int32_t, W>::on_group;
-  constexpr int pieces = lanes<std::int32_t, W>::group_bytes / 16;
-  const auto group = on::piece(std::bit_cast<typename on::integers>(index.g[pair / 2 / pieces]), pair / 2 % pieces);
-  return index_pair(pair % 2 ? _mm_extract_epi64(group, 1) : _mm_cvtsi128_si64(group));
-}
 
 // A group larger than 16 bytes is looked up in pieces of 16. What is known of each piece is joined in pairs, and
 // registers to larger ones.
@@ -60,13 +53,17 @@ LANEMATH_INLINE auto on_both_pieces(F f, const P& first, const P& second) {
   else
     return f(first, second);
 }
-// The pair of indices number `pair` for the first piece, and for each further one that `Step` pairs on.
-template <int Bytes, int Step, int W>
-LANEMATH_INLINE auto indices(const lanes<std::int32_t, W>& index, int pair) {
-  if constexpr (Bytes == 16)
-    return indices(index, pair);
-  else
-    return join(indices<Bytes / 2, Step>(index, pair), indices<Bytes / 2, Step>(index, pair + Step * Bytes / 32));
+// The pair of indices number `pair` for the first piece, and for each further one that `step` pairs on.
+template <int Bytes, int W>
+LANEMATH_INLINE auto indices(const lanes<std::int32_t, W>& index, int pair, int step) {
+  if constexpr (Bytes == 16) {
+    using on = typename lanes<std::int32_t, W>::on_group;
+    constexpr int pieces = lanes<std::int32_t, W>::group_bytes / 16;
+    const auto group = on::piece(std::bit_cast<typename on::integers>(index.g[pair / 2 / pieces]), pair / 2 % pieces);
+    return index_pair(pair % 2 ? _mm_extract_epi64(group, 1) : _mm_cvtsi128_si64(group));
+  } else {
+    return join(indices<Bytes / 2>(index, pair, step), indices<Bytes / 2>(index, pair + step * Bytes / 32, step));
+  }
 }
 
 }  // namespace lanes_detail
@@ -85,21 +82,22 @@ LANEMATH_INLINE looked_up<lanes<T, W>> look_up(const two_part<T> (&table)[Size],
     result.lo = entry.lo;
   } else if constexpr (sizeof(T) == 4) {
     for (int i = 0; i < result.hi.groups; ++i) {
-      const auto two = [&](index_pair at) LANEMATH_LAMBDA {
+      const auto two = [&](const index_pair& at) LANEMATH_LAMBDA {
         const auto first = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&table[at.first]));
         return _mm_loadh_pi(_mm_castsi128_ps(first), reinterpret_cast<const __m64*>(&table[at.second]));
       };
-      const auto low = on_pieces(two, indices<bytes, 2>(index, bytes / 8 * i));
-      const auto high = W == 2 ? low : on_pieces(two, indices<bytes, 2>(index, bytes / 8 * i + 1));
+      const auto low = on_pieces(two, indices<bytes>(index, bytes / 8 * i, 2));
+      const auto high = W == 2 ? low : on_pieces(two, indices<bytes>(index, bytes / 8 * i + 1, 2));
       result.hi.g[i] = std::bit_cast<group>(on::evens(low, high));
       result.lo.g[i] = std::bit_cast<group>(on::odds(low, high));
     }
   } else {
     for (int i = 0; i < result.hi.groups; ++i) {
-      const auto at = indices<bytes, 1>(index, bytes / 16 * i);
-      const auto first = on_pieces([&](index_pair p) LANEMATH_LAMBDA { return _mm_loadu_pd(&table[p.first].hi); }, at);
+      const auto at = indices<bytes>(index, bytes / 16 * i, 1);
+      const auto first =
+          on_pieces([&](const index_pair& p) LANEMATH_LAMBDA { return _mm_loadu_pd(&table[p.first].hi); }, at);
       const auto second =
-          on_pieces([&](index_pair p) LANEMATH_LAMBDA { return _mm_loadu_pd(&table[p.second].hi); }, at);
+          on_pieces([&](const index_pair& p) LANEMATH_LAMBDA { return _mm_loadu_pd(&table[p.second].hi); }, at);
       result.hi.g[i] = std::bit_cast<group>(on::unpacklo_pd(first, second));
       result.lo.g[i] = std::bit_cast<group>(on::unpackhi_pd(first, second));
     }
@@ -119,19 +117,19 @@ LANEMATH_INLINE lanes<T, W> look_up(const T (&table)[Size], const lanes<std::int
     result = table[std::uint32_t(index.g[0])];
   } else if constexpr (sizeof(T) == 4) {
     for (int i = 0; i < result.groups; ++i) {
-      const auto low = indices<bytes, 2>(index, bytes / 8 * i);
-      const auto high = W == 2 ? low : indices<bytes, 2>(index, bytes / 8 * i + 1);
+      const auto low = indices<bytes>(index, bytes / 8 * i, 2);
+      const auto high = W == 2 ? low : indices<bytes>(index, bytes / 8 * i + 1, 2);
       result.g[i] = std::bit_cast<group>(on_both_pieces(
-          [&](index_pair p, index_pair q) LANEMATH_LAMBDA {
+          [&](const index_pair& p, const index_pair& q) LANEMATH_LAMBDA {
             return piece{table[p.first], table[p.second], table[q.first], table[q.second]};
           },
           low, high));
     }
   } else {
     for (int i = 0; i < result.groups; ++i) {
-      const auto at = indices<bytes, 1>(index, bytes / 16 * i);
+      const auto at = indices<bytes>(index, bytes / 16 * i, 1);
       result.g[i] = std::bit_cast<group>(on_pieces(
-          [&](index_pair p) LANEMATH_LAMBDA {
+          [&](const index_pair& p) LANEMATH_LAMBDA {
             return piece{table[p.first], table[p.second]};
           },
           at));
@@ -165,11 +163,11 @@ LANEMATH_INLINE looked_up_triple<lanes<float, W>> look_up(const triple<float> (&
     using on = typename lanes<float, W>::on_group;
     constexpr int bytes = lanes<float, W>::group_bytes;
     for (int i = 0; i < result.first.groups; ++i) {
-      const auto low = indices<bytes, 2>(index, bytes / 8 * i);
-      const auto high = W == 2 ? low : indices<bytes, 2>(index, bytes / 8 * i + 1);
+      const auto low = indices<bytes>(index, bytes / 8 * i, 2);
+      const auto high = W == 2 ? low : indices<bytes>(index, bytes / 8 * i + 1, 2);
       const auto entry = [&](std::uint32_t at) LANEMATH_LAMBDA { return _mm_load_ps(&table[at].first); };
-      const auto first = [&](index_pair p) LANEMATH_LAMBDA { return entry(p.first); };
-      const auto second = [&](index_pair p) LANEMATH_LAMBDA { return entry(p.second); };
+      const auto first = [&](const index_pair& p) LANEMATH_LAMBDA { return entry(p.first); };
+      const auto second = [&](const index_pair& p) LANEMATH_LAMBDA { return entry(p.second); };
       const auto a = on_pieces(first, low), b = on_pieces(second, low);
       const auto c = on_pieces(first, high), d = on_pieces(second, high);
       const auto ab = on::unpacklo_ps(a, b), cd = on::unpacklo_ps(c, d);
@@ -236,12 +234,12 @@ LANEMATH_INLINE std::array<lanes<T, W>, Columns> look_up_row(const T (&table)[Si
     using group = typename lanes<T, W>::group;
     using on = typename lanes<T, W>::on_group;
     for (int i = 0; i < result[0].groups; ++i) {
-      const auto first = indices<bytes, step>(index, step * bytes / 16 * i);
-      const auto second = sizeof(T) == 4 && W > 2 ? indices<bytes, step>(index, step * bytes / 16 * i + 1) : first;
+      const auto first = indices<bytes>(index, step * bytes / 16 * i, step);
+      const auto second = sizeof(T) == 4 && W > 2 ? indices<bytes>(index, step * bytes / 16 * i + 1, step) : first;
       const auto turn = [&](auto count, std::size_t column) LANEMATH_LAMBDA {
         std::array<typename on::floats, count> turned;
-        const auto one = [&](index_pair p) LANEMATH_LAMBDA { return table[p.first] + column; };
-        const auto other = [&](index_pair p) LANEMATH_LAMBDA { return table[p.second] + column; };
+        const auto one = [&](const index_pair& p) LANEMATH_LAMBDA { return table[p.first] + column; };
+        const auto other = [&](const index_pair& p) LANEMATH_LAMBDA { return table[p.second] + column; };
         turn_columns<T, on>(turned, on_pieces(one, first), on_pieces(other, first), on_pieces(one, second),
                             on_pieces(other, second));
         for (std::size_t c = 0; c < count; ++c) result[column + c].g[i] = std::bit_cast<group>(turned[c]);
