@@ -267,7 +267,8 @@ template <class Op, int W, class... X>
 LANEMATH_INLINE auto evaluate(const X&... x) {
   // At least a group of the narrowest lanes.
   constexpr int piece =
-      std::max(4, groups_at_once<Op>() * register_bytes / int(border<typename Op::signature>::sig.widest_lane()));
+      std::max(largest_group<std::int32_t>,
+               groups_at_once<Op>() * register_bytes / int(border<typename Op::signature>::sig.widest_lane()));
   if constexpr (requires { Op::marked_kernel(x...); })
     return evaluate_marked<Op, W, piece>(x...);
   else if constexpr (requires { Op::tested_first; })

@@ -1,4 +1,5 @@
-// The linker's export list: every name of the catalogue that a level has, and nothing else.
+// The linker's export list: every name of the catalogue that a level has, a companion's version, and nothing
+// else.
 #include <fmt/format.h>
 
 #include "frame/catalogue.h"
@@ -13,5 +14,6 @@ void write_export_list(std::FILE* out, const lanemath::level& of) {
         for (int width : widths)
           if (operation.is_at(of, width))
             fmt::print(out, "    {}{}{}{};\n", of.symbol_prefix, operation.name(), width, suffix(variant));
+  if (!of.name.empty()) fmt::print(out, "    {}version;\n", of.symbol_prefix);
   fmt::print(out, "  local: *;\n}};\n");
 }
