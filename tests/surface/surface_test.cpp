@@ -82,6 +82,7 @@ TEST_P(FinishedFile, RecordsItsName) {
     if (d.tag == DT_SONAME) names.push_back(d.text);
   const std::string name(GetParam().name);
   EXPECT_EQ(names, std::vector{name.empty() ? "__ocl_lanemath_h8.so.3.5" : "liblanemath_" + name + ".so.3"});
+  EXPECT_TRUE(path().ends_with("/" + names.at(0)));
 }
 
 // By which a program that loads a companion knows it for one of its own version.
