@@ -38,7 +38,7 @@ lanemath_package(development liblanemath-dev libdevel "${same_library}"
   "holds the headers and the files for CMake and pkg-config")
 
 if(TARGET lanemath-reference)
-  lanemath_package(documentation lanemath-doc doc "" "holds the function reference and documents")
+  lanemath_package(documentation lanemath-doc doc "" "holds the function reference, documents and examples")
   set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_ARCHITECTURE all)
 endif()
 if(LANEMATH_TOOLS)

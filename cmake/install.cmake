@@ -32,6 +32,8 @@ install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} 
 
 set(docs ${PROJECT_SOURCE_DIR}/docs)
 file(GLOB documents ${docs}/*.md ${docs}/*.svg ${docs}/performance.json)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation
+  USE_SOURCE_PERMISSIONS PATTERN CMakeLists.txt EXCLUDE)
 install(FILES ${documents} ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_SOURCE_DIR}/SECURITY.md
   DESTINATION ${CMAKE_INSTALL_DOCDIR}
   COMPONENT documentation)
@@ -51,8 +53,6 @@ if(LANEMATH_TOOLS)
 endif()
 if(TARGET lanemath-opencl-library)
   install(FILES ${docs}/man/lanemath-opencl.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT opencl)
-  install(DIRECTORY ${PROJECT_SOURCE_DIR}/opencl/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation
-    PATTERN CMakeLists.txt EXCLUDE)
 endif()
 if(PROJECT_IS_TOP_LEVEL)
   include(cmake/debian.cmake)

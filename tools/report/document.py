@@ -57,7 +57,8 @@ def table(heading, rows):
 
 def single(name):
     """Whether an operation on floating lanes is in single precision, by the form's name."""
-    return name.split("_")[0].endswith("f")
+    operation = name.split("_")[0]
+    return operation.endswith("f") and operation not in ("erf", "modf")
 
 
 def group_width(name):
@@ -213,32 +214,41 @@ def large_table(large):
     return table(["Form"] + [cell for each in ranges for cell in (f"lane, {WORDS['large'][each]}", "SLEEF", "C")], rows)
 
 
-def opencl_table(measurements):
+def opencl_table(measurements, figure):
+    """A figure of each built-in for each type; of ratios their means too."""
     types = list(dict.fromkeys(m["type"] for m in measurements))
-    found = {(m["builtin"], m["type"]): m for m in measurements}
-    rows = []
-    for name in dict.fromkeys(m["builtin"] for m in measurements):
-        of = [found.get((name, each)) for each in types]
-        rows.append([f"`{name}`"] + [number(m and m["lanemath"]) for m in of] + [number(m and m["ratio"]) for m in of])
+    found = {(m["builtin"], m["type"]): number(m[figure]) for m in measurements}
+    rows = sorted([f"`{name}`"] + [found.get((name, each), "") for each in types]
+                  for name in dict.fromkeys(m["builtin"] for m in measurements))
     means = []
-    for group in dict.fromkeys(m["group"] for m in measurements):
-        of = [mean([m["ratio"] for m in measurements if (m["type"], m["group"]) == (each, group)]) for each in types]
-        means.append([f"*{group}, geometric mean*"] + [""] * len(types) + list(map(number, of)))
-    return table(["Built-in", *types, *(f"times, {each}" for each in types)], means + sorted(rows))
+    if figure == "ratio":
+        for group in dict.fromkeys(m["group"] for m in measurements):
+            of = [mean([m["ratio"] for m in measurements if (m["type"], m["group"]) == (each, group)])
+                  for each in types]
+            means.append([f"*{group}, geometric mean*", *map(number, of)])
+    return table(["Built-in", *types], means + rows)
+
+
+def draw(script):
+    """What gnuplot draws."""
+    gnuplot = shutil.which("gnuplot")
+    if not gnuplot:
+        raise SystemExit("report: there is no gnuplot (Debian package gnuplot-nox)")
+    done = subprocess.run([gnuplot], input=script, text=True, capture_output=True)
+    if done.returncode != 0:
+        raise SystemExit(f"report: gnuplot: {done.stderr}")
+    return done.stdout
 
 
 def plot(title, names, columns, label, scale):
     """Bars, side by side for each name: columns maps a title to a list of values, None where there is none."""
-    gnuplot = shutil.which("gnuplot")
-    if not gnuplot:
-        raise SystemExit("report: there is no gnuplot (Debian package gnuplot-nox)")
     data = "\n".join(" ".join([f'"{name}"'] + [str(values[i] or "NaN") for values in columns.values()])
                      for i, name in enumerate(names))
     colours = ["#1f5fa8", "#e08a1e", "#7a7a7a", "#4f9d4f", "#b04a6a"]
     series = ", ".join(f"$data using {i + 2}:xtic(1) lc rgb '{colours[i]}' title '{each}'"
                        for i, each in enumerate(columns))
     width = max(640, 100 + 9 * len(names) * (len(columns) + 1))
-    script = f"""set terminal svg size {width},420 font "sans-serif,13" background "white"
+    return draw(f"""set terminal svg size {width},420 font "sans-serif,13" background "white"
 $data << EOD
 {data}
 EOD
@@ -252,11 +262,7 @@ set grid ytics
 set key outside below samplen 1
 set xtics rotate by -35 noenhanced scale 0
 plot {series}
-"""
-    done = subprocess.run([gnuplot], input=script, text=True, capture_output=True)
-    if done.returncode != 0:
-        raise SystemExit(f"report: gnuplot: {done.stderr}")
-    return done.stdout
+""")
 
 
 def family_plot(title, forms):
@@ -331,6 +337,8 @@ def make(figures, strict):
             parts += ["### Large arguments", WORDS["large"]["text"].strip(),
                       large_table({k: v for k, v in figures["large"].items() if k.split()[0] in of})]
     if figures["opencl"]:
-        parts += ["## In OpenCL kernels", WORDS["opencl"]["text"].strip(), opencl_table(figures["opencl"])]
+        parts += ["## In OpenCL kernels", WORDS["opencl"]["text"].strip(),
+                  f"**Times as fast as the runtime's own**\n\n{opencl_table(figures['opencl'], 'ratio')}",
+                  f"**Nanoseconds a lane**\n\n{opencl_table(figures['opencl'], 'lanemath')}"]
     files["performance.md"] = "\n\n".join(parts) + "\n"
     return files

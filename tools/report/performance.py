@@ -27,7 +27,7 @@ WITHOUT_FMA = {"GLIBC_TUNABLES": "glibc.cpu.hwcaps=-AVX2,-FMA"}
 # Arguments that only the long reductions serve.
 LARGE = [(2e7, 1e9), (1e15, 1e30)]
 LARGE_OPERATIONS = [name + f for name in ("sin", "cos", "sincos", "tan") for f in ("", "f")]
-OPENCL_TYPES = ["float", "float4", "double", "double2"]
+OPENCL_TYPES = ["float", "float4", "float8", "float16", "double", "double2", "double4", "double8"]
 
 
 def fail(message):

@@ -18,6 +18,13 @@ std::vector<double> read_column(const std::string& path);
 // The column in ascending order.
 std::vector<double> read_observations(const std::string& path);
 
+// Positive values, one for every year in turn, from lines of YEAR,VALUE under a title.
+struct years {
+  int first_year;
+  std::vector<double> values;
+};
+years read_years(const std::string& path, std::size_t fewest);
+
 class device {
  public:
   // Kernels of the source are compiled with `real` as a vector of this type and width.
@@ -42,6 +49,9 @@ class device {
     return all;
   }
 
+  void run(const cl::Kernel& kernel, const cl::NDRange& items) const {
+    queue_.enqueueNDRangeKernel(kernel, cl::NullRange, items, cl::NullRange);
+  }
   // The shortest time in nanoseconds.
   double time(const cl::Kernel& kernel, const cl::NDRange& items, int repetitions) const;
 

@@ -1,11 +1,14 @@
 // Compound growth between any two years of a price index on an OpenCL device: the average yearly inflation, which takes
-// one power, and what money put away at interest buys in the end, which takes one exponential.
+// one power, and what money put away at interest buys in the end, which takes one exponential. The data are the
+// consumer prices of the United States.
+//
+//     c++ -std=c++20 -O2 price_growth.cpp example.cpp -lOpenCL -lfmt -o price-growth
+//     lanemath-opencl ./price-growth data/consumer_prices.csv
 #include <dlfcn.h>
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
 #include <cmath>
-#include <fstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -16,39 +19,15 @@ namespace {
 
 // From one year to four others. The two years may be exchanged: growth per year stays the same.
 constexpr const char* kernel_source = R"(
-kernel void growth(global const double* prices, double interest, global double4* inflation, global double4* worth) {
+kernel void growth(global const double* prices, double interest, global real* inflation, global real* worth) {
   const size_t from = get_global_id(0), block = get_global_id(1);
-  const double4 ratio = vload4(block, prices) / prices[from];
-  const double4 years = (double4)(0, 1, 2, 3) + ((double)(4 * block) - (double)from);
+  const real ratio = vload4(block, prices) / prices[from];
+  const real years = (real)(0, 1, 2, 3) + ((double)(4 * block) - (double)from);
   const size_t i = from * get_global_size(1) + block;
   inflation[i] = pow(ratio, 1 / years);
   worth[i] = exp(interest * years) / ratio;
 }
 )";
-
-struct price_index {
-  int first_year;
-  std::vector<double> prices;  // year by year
-};
-
-price_index read_prices(const std::string& path) {
-  std::ifstream file(path);
-  std::string titles;
-  std::getline(file, titles);
-  price_index all{};
-  int year;
-  char comma;
-  double price;
-  while (file >> year >> comma >> price) {
-    if (all.prices.empty()) all.first_year = year;
-    if (comma != ',' || year != all.first_year + int(all.prices.size()) || !(price > 0) || !std::isfinite(price))
-      throw std::runtime_error(fmt::format("{}: year {}: needs a price for every year in turn", path, year));
-    all.prices.push_back(price);
-  }
-  if (!file.eof() || all.prices.size() < 2)
-    throw std::runtime_error(fmt::format("{}: needs titles and two lines of YEAR,PRICE or more", path));
-  return all;
-}
 
 // Factors from each year to each, row by row.
 struct factors {
@@ -60,24 +39,17 @@ struct factors {
 factors compute(std::vector<double> prices, double interest) {
   const std::size_t rows = prices.size(), columns = (rows + 3) / 4 * 4;
   prices.resize(columns, 1);
-  const cl::Context context(CL_DEVICE_TYPE_ALL);
-  cl::CommandQueue queue(context);
-  cl::Program program(context, kernel_source);
-  program.build();
-  cl::Kernel kernel(program, "growth");
-  factors all{columns, std::vector<double>(rows * columns), std::vector<double>(rows * columns),
-              queue.getInfo<CL_QUEUE_DEVICE>().getInfo<CL_DEVICE_NAME>()};
-  cl::Buffer given(context, prices.begin(), prices.end(), true);
-  cl::Buffer inflation(context, CL_MEM_WRITE_ONLY, rows * columns * sizeof(double));
-  cl::Buffer worth(context, CL_MEM_WRITE_ONLY, rows * columns * sizeof(double));
+  const example::device device(kernel_source, 4, "double");
+  auto kernel = device.kernel("growth");
+  const auto given = device.input(prices);
+  const auto inflation = device.output<double>(rows * columns), worth = device.output<double>(rows * columns);
   kernel.setArg(0, given);
   kernel.setArg(1, interest);
   kernel.setArg(2, inflation);
   kernel.setArg(3, worth);
-  queue.enqueueNDRangeKernel(kernel, cl::NullRange, cl::NDRange(rows, columns / 4));
-  cl::copy(queue, inflation, all.inflation.begin(), all.inflation.end());
-  cl::copy(queue, worth, all.worth.begin(), all.worth.end());
-  return all;
+  device.run(kernel, cl::NDRange(rows, columns / 4));
+  return {columns, device.read<double>(inflation, rows * columns), device.read<double>(worth, rows * columns),
+          device.name()};
 }
 
 // Compares every factor with the host's, and its bits with the library's own if that is loaded.
@@ -110,13 +82,13 @@ int run(int argc, char** argv) {
       ->capture_default_str();
   CLI11_PARSE(app, argc, argv);
 
-  const auto index = read_prices(data);
-  const auto got = compute(index.prices, interest);
-  const auto built_ins = check(got, index.prices, interest);
+  const auto index = example::read_years(data, 2);
+  const auto got = compute(index.values, interest);
+  const auto built_ins = check(got, index.values, interest);
 
   // Every tenth year back from the last.
   std::vector<std::size_t> places;
-  for (std::size_t place = (index.prices.size() - 1) % 10; place < index.prices.size(); place += 10)
+  for (std::size_t place = (index.values.size() - 1) % 10; place < index.values.size(); place += 10)
     places.push_back(place);
   const auto print_table = [&](const std::string& title, const std::vector<double>& values, auto shown) {
     fmt::print("{}\n from \\ to", title);

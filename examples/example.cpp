@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstring>
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
 
 namespace example {
@@ -41,6 +42,27 @@ std::vector<double> read_column(const std::string& path) {
 std::vector<double> read_observations(const std::string& path) {
   auto all = read_column(path);
   std::ranges::sort(all);
+  return all;
+}
+
+years read_years(const std::string& path, std::size_t fewest) {
+  std::ifstream file(path);
+  std::string line;
+  std::getline(file, line);  // the columns' titles
+  years all{};
+  while (std::getline(file, line)) {
+    std::istringstream fields(line);
+    int year;
+    char comma;
+    double value;
+    if (!(fields >> year >> comma >> value) || !(fields >> std::ws).eof() || comma != ',' || !(value > 0) ||
+        (!all.values.empty() && year != all.first_year + int(all.values.size())))
+      throw std::runtime_error(fmt::format("{}: not the next year and a positive value: '{}'", path, line));
+    if (all.values.empty()) all.first_year = year;
+    all.values.push_back(value);
+  }
+  if (all.values.size() < fewest)
+    throw std::runtime_error(fmt::format("{}: needs titles and {} lines of YEAR,VALUE or more", path, fewest));
   return all;
 }
 
@@ -81,7 +103,7 @@ std::string device::who_answers(const std::string& builtin, const std::string& f
   const auto given = input(arguments), result = output(count);
   kernel.setArg(0, given);
   kernel.setArg(1, result);
-  queue_.enqueueNDRangeKernel(kernel, cl::NullRange, cl::NDRange(count / 8), cl::NullRange);
+  run(kernel, cl::NDRange(count / 8));
   const auto answers = read(result, count);
 
   const auto name = fmt::format("__ocl_lanemath_h8_{}8", function);

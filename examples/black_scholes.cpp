@@ -1,12 +1,14 @@
 // Prices of European options on a stock index by Black and Scholes (1973) on an OpenCL device, over a grid of strikes
 // and times to expiry: for each option a logarithm, a root, an exponential and four complementary error functions. The
-// volatility is that of the index's yearly closes.
+// volatility is that of the yearly closes of the S&P 500.
+//
+//     c++ -std=c++20 -O2 black_scholes.cpp example.cpp -lOpenCL -lfmt -o black-scholes
+//     lanemath-opencl ./black-scholes data/sp500.csv
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 #include <numbers>
 #include <stdexcept>
 #include <string>
@@ -33,30 +35,6 @@ kernel void price(global const real* strikes, global const float* years, float s
   puts[i] = discounted * normal(-d2) - spot * normal(-d1);
 }
 )";
-
-struct closes {
-  int first_year;
-  std::vector<double> values;  // year by year
-};
-
-closes read_closes(const std::string& path) {
-  std::ifstream file(path);
-  std::string titles;
-  std::getline(file, titles);
-  closes all{};
-  int year;
-  char comma;
-  double value;
-  while (file >> year >> comma >> value) {
-    if (all.values.empty()) all.first_year = year;
-    if (comma != ',' || year != all.first_year + int(all.values.size()) || !(value > 0) || !std::isfinite(value))
-      throw std::runtime_error(fmt::format("{}: year {}: needs a close for every year in turn", path, year));
-    all.values.push_back(value);
-  }
-  if (!file.eof() || all.values.size() < 3)
-    throw std::runtime_error(fmt::format("{}: needs titles and three lines of YEAR,CLOSE or more", path));
-  return all;
-}
 
 // The standard deviation of a year's logarithmic return.
 double volatility_of(const std::vector<double>& values) {
@@ -92,7 +70,7 @@ int run(int argc, char** argv) {
   CLI11_PARSE(app, argc, argv);
 
   const std::size_t points = given.points / 16 * 16;
-  const auto index = read_closes(given.data);
+  const auto index = example::read_years(given.data, 3);
   const double spot = index.values.back(), volatility = volatility_of(index.values);
   // Strikes from half the spot price to one and a half times it; expiries every quarter up to two years.
   std::vector<float> strikes(points), years(8);

@@ -1,7 +1,10 @@
-// Periods in a yearly series: for every trial frequency the share of the variance that a harmonic fitted by least
-// squares explains, which takes a sine and a cosine for each frequency and year. Yearly data cannot distinguish two
-// frequencies that differ by a whole number of turns per year: 2^20 turns a year higher the shares are the same again,
-// if sine and cosine are right at large arguments.
+// Periods in a yearly series, such as the sunspot numbers: for every trial frequency the share of the variance that a
+// harmonic fitted by least squares explains, which takes a sine and a cosine for each frequency and year. Yearly data
+// cannot distinguish two frequencies that differ by a whole number of turns per year: 2^20 turns a year higher the
+// shares are the same again, if sine and cosine are right at large arguments.
+//
+//     c++ -std=c++20 -O2 harmonic_fit.cpp example.cpp -lOpenCL -lfmt -o harmonic-fit
+//     lanemath-opencl ./harmonic-fit data/sunspots.csv
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
@@ -72,7 +75,10 @@ fitted fit(const example::device& device, const std::vector<double>& frequencies
 
 double largest_difference(const std::vector<double>& a, const std::vector<double>& b) {
   double largest = 0;
-  for (std::size_t i = 0; i < a.size(); ++i) largest = std::fmax(largest, std::fabs(a[i] - b[i]));
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    const double difference = std::fabs(a[i] - b[i]);
+    if (!(difference <= largest)) largest = std::isnan(difference) ? HUGE_VAL : difference;
+  }
   return largest;
 }
 
@@ -101,6 +107,7 @@ int run(int argc, char** argv) {
   const double mean = std::accumulate(values.begin(), values.end(), 0.0) / double(values.size());
   for (double& value : values) value -= mean;
   const double squares = std::inner_product(values.begin(), values.end(), values.begin(), 0.0);
+  if (!(squares > 0)) throw std::runtime_error("all values are the same");
 
   // From 1/50 to 1/5 a year; multiples of 2^-32, so that the higher ones are exact as well.
   std::vector<double> frequencies(points), higher;

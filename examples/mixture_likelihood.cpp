@@ -1,6 +1,10 @@
 // Log-likelihood of a mixture of two normal distributions on an OpenCL device, over a grid of the two means: at each
 // point the sum over the observations of the logarithm of two exponentials. The parameters come from expectation
-// maximisation on the host; the map shows how well the observations determine the means.
+// maximisation on the host; the map shows how well the observations, the eruption times of the Old Faithful geyser,
+// determine the means.
+//
+//     c++ -std=c++20 -O2 mixture_likelihood.cpp example.cpp -lOpenCL -lfmt -o mixture-likelihood
+//     lanemath-opencl ./mixture-likelihood data/old_faithful.csv
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>

@@ -1,5 +1,9 @@
 // Gaussian kernel density estimate of a column of numbers on an OpenCL device: at each point of a grid the mean of
-// normal densities round the observations, which is one exponential per point and observation.
+// normal densities round the observations, which is one exponential per point and observation. The data are the
+// eruption times of the Old Faithful geyser.
+//
+//     c++ -std=c++20 -O2 kernel_density.cpp example.cpp -lOpenCL -lfmt -o kernel-density
+//     lanemath-opencl ./kernel-density data/old_faithful.csv
 #include <fmt/format.h>
 #include <fmt/os.h>
 
