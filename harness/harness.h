@@ -18,10 +18,11 @@ struct invoker_arguments {
   void* second;
   std::size_t lanes;
 };
+using invoker = void (*)(void* address, const invoker_arguments&);
 
 class function {
  public:
-  function(void* address, void (*invoker)(void*, const invoker_arguments&)) : address_(address), invoker_(invoker) {}
+  function(void* address, invoker calls) : address_(address), invoker_(calls) {}
 
   // One call for every vector of the arrays. `lanes` counts the lanes that the vectors occupy, a multiple of
   // padded(width). `second` receives the second result, through a pointer or from a pair.
@@ -32,15 +33,18 @@ class function {
 
  private:
   void* address_;
-  void (*invoker_)(void*, const invoker_arguments&);
+  invoker invoker_;
 };
 
-std::string symbol(const operation& o, int width, variant v);
+std::string symbol(const operation& o, int width, variant v, const level& at = levels[0]);
 
 // The path of the library that was installed or built with this program.
 std::string default_library();
 
-// A loaded library. Its functions live as long as it does.
+// Whether this processor has what a level needs.
+bool has_instructions(const level& l);
+
+// A loaded library, or a companion for wider registers. Its functions live as long as it does.
 class library {
  public:
   explicit library(const std::string& path);
@@ -50,9 +54,11 @@ class library {
 
   // Empty if the library does not export it.
   std::optional<function> find(std::size_t operation_index, variant v, int width) const;
+  const level& of_level() const { return *level_; }
 
  private:
   void* handle_;
+  const level* level_ = &levels[0];
 };
 
 // Bit patterns: the arguments of one lane, and its results.

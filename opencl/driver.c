@@ -77,6 +77,19 @@ static void take_over(void) {
   table->clGetDeviceInfo = get_device_info;
 }
 
+// Loads the companion of a level of instructions, if kernels call it. Returns what went wrong, or null.
+static const char* load_companion(const char* folder, const char* level, int wanted) {
+  if (!LANEMATH_LEVELS || !wanted) return NULL;
+  char path[PATH_MAX + 64], name[64];
+  snprintf(path, sizeof path, "%s/../../liblanemath_%s.so." LANEMATH_MAJOR, folder, level);
+  void* const companion = dlopen(path, RTLD_NOW | RTLD_GLOBAL);
+  if (!companion) return dlerror();
+  snprintf(name, sizeof name, "lanemath_%s_version", level);
+  const char* (*version)(void);
+  *(void**)&version = dlsym(companion, name);
+  return version && strcmp(version(), LANEMATH_VERSION) == 0 ? NULL : "a companion is of another version";
+}
+
 // Returns what went wrong, or null.
 static const char* load_over(const char* folder, const char* runtime) {
   cache = getenv("LANEMATH_KERNEL_CACHE");
@@ -92,6 +105,9 @@ static const char* load_over(const char* folder, const char* runtime) {
 
   snprintf(path, sizeof path, "%s/" LANEMATH_LIBRARY, folder);
   if (!dlopen(path, RTLD_NOW | RTLD_GLOBAL)) return dlerror();
+  const char* trouble = load_companion(folder, "avx2", __builtin_cpu_supports("avx2"));
+  if (!trouble) trouble = load_companion(folder, "avx512", __builtin_cpu_supports("avx512bw"));
+  if (trouble) return trouble;
   void* const library = dlopen(runtime, RTLD_LAZY | RTLD_LOCAL);
   if (!library) return dlerror();
   *(void**)&find_in_runtime = dlsym(library, "clGetExtensionFunctionAddress");

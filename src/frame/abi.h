@@ -1,6 +1,6 @@
-// How lanes cross the library's border: the System V x86-64 convention without AVX. A scalar or a vector of up to 16
-// bytes travels in a register; a wider one in memory, and is returned through the hidden pointer, as every compiler
-// passes a structure that holds an array.
+// How lanes cross the library's border: the System V x86-64 convention without AVX, or at the companions' levels with
+// it. A scalar or a vector of up to the level's register travels in a register; a wider one in memory, and is returned
+// through the hidden pointer, as every compiler passes a structure that holds an array.
 #pragma once
 
 #include <type_traits>
@@ -11,7 +11,7 @@
 namespace lanemath {
 
 namespace abi_detail {
-template <class T, int W, int Bytes>
+template <class T, int W, int Bytes, bool InRegister = (Bytes >= 16 && Bytes <= register_bytes)>
 struct type {
   // Aligned only as the stack is, so that a caller that aligns less than the vector's own size does no harm. The
   // argument's place is the same either way.
@@ -21,15 +21,15 @@ struct type {
   using is = in_memory;
 };
 template <class T, int Bytes>
-struct type<T, 1, Bytes> {
+struct type<T, 1, Bytes, false> {
   using is = T;
 };
-template <class T, int W>
-struct type<T, W, 16> {
+template <class T, int W, int Bytes>
+struct type<T, W, Bytes, true> {
   using is = typename lanes<T, W>::group;
 };
 template <class T>
-struct type<T, 2, 8> {
+struct type<T, 2, 8, false> {
   typedef T is __attribute__((vector_size(8)));
 };
 }  // namespace abi_detail
@@ -43,6 +43,21 @@ struct abi_pair {
   abi<U, W> second;
 };
 
+namespace abi_detail {
+// A register in pieces of 16 bytes. Compilers copy a structure into a call in such pieces, and a wider load would have
+// to wait for the stores.
+template <int Bytes>
+LANEMATH_INLINE auto load(const char* from) {
+  if constexpr (Bytes == 16) {
+    auto piece = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+    asm("" : "+x"(piece));  // keeps two loads from becoming a wider one
+    return piece;
+  } else {
+    return instructions<Bytes>::joined(load<Bytes / 2>(from), load<Bytes / 2>(from + Bytes / 2));
+  }
+}
+}  // namespace abi_detail
+
 template <class T, int W>
 LANEMATH_INLINE lanes<T, padded(W)> from_abi(const abi<T, W>& v) {
   using V = lanes<T, padded(W)>;
@@ -50,6 +65,10 @@ LANEMATH_INLINE lanes<T, padded(W)> from_abi(const abi<T, W>& v) {
   if constexpr (sizeof(v) == 8 && W == 2) {
     // Fills the upper half with a copy of the lower one: ordinary values there cost nothing.
     result.g[0] = std::bit_cast<typename V::group>(_mm_set1_pd(std::bit_cast<double>(v)));
+  } else if constexpr (register_bytes > 16 && sizeof(v) > register_bytes) {
+    for (int i = 0; i < V::groups; ++i)
+      result.g[i] = std::bit_cast<typename V::group>(
+          abi_detail::load<register_bytes>(reinterpret_cast<const char*>(&v) + i * register_bytes));
   } else {
     __builtin_memcpy(&result, &v, sizeof v);
   }

@@ -137,11 +137,12 @@ inline constexpr row floating_rows[] = {
 
     row(special, "erf", unary, "error function of x", around_zero(3)).variants(N, N).odd(),
     row(special, "erfc", unary, "complementary error function, 1 - erf(x)", between(-2, 5)).variants(N, N),
-    row(special, "lgamma", unary, "natural logarithm of |gamma(x)|", between(0.5, 30)),
+    row(special, "lgamma", unary, "natural logarithm of |gamma(x)|", between(0.5, 30)).always_scalar(),
     row(special, "lgammar", second_int, "natural logarithm of |gamma(x)|; the sign of gamma(x) through the pointer",
         between(0.5, 30))
+        .always_scalar()
         .opencl("lgamma_r"),
-    row(special, "tgamma", unary, "gamma function of x", between(0.5, 20)),
+    row(special, "tgamma", unary, "gamma function of x", between(0.5, 20)).always_scalar(),
 
     row(manipulation, "ceil", unary, "x rounded up to an integer", around_zero(1000)),
     row(manipulation, "floor", unary, "x rounded down to an integer", around_zero(1000)),

@@ -101,6 +101,9 @@ class row {
   constexpr row filler(double value) const {
     return with([=](operation& o) { o.filler = value; });
   }
+  constexpr row always_scalar() const {
+    return with([](operation& o) { o.always_scalar = true; });
+  }
   // To the last bit. Beyond the limit a float may have another result, because there the reduction depends on the sign.
   constexpr row odd(double limit = std::numeric_limits<double>::infinity()) const {
     return symmetric(parity::odd, limit);

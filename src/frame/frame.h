@@ -91,7 +91,6 @@ struct border;
 template <class T, class... A>
 struct border<T(A...)> {
   static constexpr signature sig{frame_detail::lane_of<T>(), {frame_detail::lane_of<A>()...}};
-  static constexpr std::size_t widest_lane = std::max({sizeof(T), sizeof(A)...});
   template <int W>
   using result = abi<T, W>;
   template <int W>
@@ -108,7 +107,6 @@ template <class T, class U, class... A>
 struct border<through_pointer<T, U>(A...)> {
   static constexpr signature sig{
       frame_detail::lane_of<T>(), {frame_detail::lane_of<A>()...}, frame_detail::lane_of<U>(), delivery::pointer};
-  static constexpr std::size_t widest_lane = std::max({sizeof(T), sizeof(U), sizeof(A)...});
   template <int W>
   using result = abi<T, W>;
   template <int W>
@@ -127,7 +125,6 @@ template <class T, class U, class... A>
 struct border<pair_of<T, U>(A...)> {
   static constexpr signature sig{
       frame_detail::lane_of<T>(), {frame_detail::lane_of<A>()...}, frame_detail::lane_of<U>(), delivery::pair};
-  static constexpr std::size_t widest_lane = std::max({sizeof(T), sizeof(U), sizeof(A)...});
   template <int W>
   using result = abi_pair<T, U, W>;
   template <int W>
@@ -269,7 +266,9 @@ LANEMATH_INLINE auto evaluate_tested_first(const X&... x) -> decltype(by_pieces<
 template <class Op, int W, class... X>
 LANEMATH_INLINE auto evaluate(const X&... x) {
   // At least a group of the narrowest lanes.
-  constexpr int piece = std::max(4, groups_at_once<Op>() * 16 / int(border<typename Op::signature>::widest_lane));
+  constexpr int piece =
+      std::max(largest_group<std::int32_t>,
+               groups_at_once<Op>() * register_bytes / int(border<typename Op::signature>::sig.widest_lane()));
   if constexpr (requires { Op::marked_kernel(x...); })
     return evaluate_marked<Op, W, piece>(x...);
   else if constexpr (requires { Op::tested_first; })
@@ -280,7 +279,7 @@ LANEMATH_INLINE auto evaluate(const X&... x) {
 
 template <std::size_t Index, class T>
 LANEMATH_INLINE lanes<T, 4> with_filler(lanes<T, 4> v) {
-  constexpr int per_group = 16 / int(sizeof(T));
+  constexpr int per_group = lanes<T, 4>::group_bytes / int(sizeof(T));
   // A constant of the lane's own type: under -frounding-math every call would otherwise convert it.
   constexpr T filler = static_cast<T>(catalogue[Index].filler);
   v.g[3 / per_group][3 % per_group] = filler;
@@ -315,6 +314,15 @@ constexpr void check_form() {
   static_assert(catalogue[Index].is_standalone(W, V) == Standalone, "standalone here or in the catalogue alone");
   static_assert(catalogue[Index].served_by(W, V) == V, "another variant's function by the catalogue");
 }
+template <class Op, std::size_t Index, int W>
+constexpr bool is_exported() {
+  if constexpr (register_bytes > 16) {
+    constexpr bool always_scalar = requires { Op::always_scalar; };
+    static_assert(always_scalar == catalogue[Index].always_scalar, "always scalar here or in the catalogue alone");
+    return catalogue[Index].is_wide(W);
+  }
+  return true;
+}
 template <std::size_t Index, int W, variant One, variant Other>
 inline constexpr bool are_same = catalogue[Index].has(One) && catalogue[Index].has(Other) &&
                                  catalogue[Index].served_by(W, One) == catalogue[Index].served_by(W, Other);
@@ -345,18 +353,35 @@ using result_t = typename border<typename Op::signature>::template result<W>;
 // LANEMATH_SAME(operation, variant, other) exports the same functions as another variant too. LANEMATH_EXPORT_BUT omits
 // one width, at which LANEMATH_EXPORT_AT exports a standalone body. A last argument names a variant other than the
 // default: LANEMATH_EXPORT(expf, expf_native, _native). The catalogue's row must agree.
-#define LANEMATH_SYMBOL(name) __ocl_lanemath_h8_##name
+//
+// A companion has no forms of the narrowest widths and no standalone ones. Which forms of width 4 it has, only the
+// catalogue knows: the others have no body there, are not in the list of exports, and so do not reach the file.
+#define LANEMATH_AT_4(...) __VA_ARGS__
+#define LANEMATH_AT_8(...) __VA_ARGS__
+#define LANEMATH_AT_16(...) __VA_ARGS__
+#if LANEMATH_REGISTER_BYTES == 16
+#define LANEMATH_IN_LIBRARY(...) __VA_ARGS__
+#else
+#define LANEMATH_IN_LIBRARY(...)
+#endif
+#define LANEMATH_AT_1(...) LANEMATH_IN_LIBRARY(__VA_ARGS__)
+#define LANEMATH_AT_2(...) LANEMATH_IN_LIBRARY(__VA_ARGS__)
+#define LANEMATH_AT_3(...) LANEMATH_IN_LIBRARY(__VA_ARGS__)
 
-#define LANEMATH_DEFINE(width, standalone, operation, body, ...)                                            \
+#define LANEMATH_DEFINE(width, ...) LANEMATH_AT_##width(LANEMATH_DEFINE_(width, __VA_ARGS__))
+#define LANEMATH_DEFINE_(width, standalone, operation, body, ...)                                           \
   extern "C" [[gnu::visibility("default"), gnu::flatten]] ::lanemath::frame_detail::result_t<body, width>   \
   LANEMATH_SYMBOL(operation##width##__VA_ARGS__)(::lanemath::frame_detail::parameter_t<body, width, 0> a,   \
                                                  ::lanemath::frame_detail::parameter_t<body, width, 1> b,   \
                                                  ::lanemath::frame_detail::parameter_t<body, width, 2> c) { \
     constexpr auto index = ::lanemath::index_of(#operation);                                                \
     ::lanemath::frame_detail::check_form<index, width, ::lanemath::variant_of(#__VA_ARGS__), standalone>(); \
-    return ::lanemath::frame_detail::enter<body, width, index>(a, b, c);                                    \
+    if constexpr (::lanemath::frame_detail::is_exported<body, index, width>())                              \
+      return ::lanemath::frame_detail::enter<body, width, index>(a, b, c);                                  \
+    else                                                                                                    \
+      __builtin_unreachable();                                                                              \
   }
-#define LANEMATH_EXPORT_AT(width, ...) LANEMATH_DEFINE(width, true, __VA_ARGS__)
+#define LANEMATH_EXPORT_AT(width, ...) LANEMATH_IN_LIBRARY(LANEMATH_DEFINE(width, true, __VA_ARGS__))
 #define LANEMATH_EXPORT(...)             \
   LANEMATH_DEFINE(1, false, __VA_ARGS__) \
   LANEMATH_DEFINE(2, false, __VA_ARGS__) \
@@ -381,7 +406,8 @@ using result_t = typename border<typename Op::signature>::template result<W>;
 #define LANEMATH_STRING_(text) #text
 #define LANEMATH_STRING(text) LANEMATH_STRING_(text)
 // clang-format off
-#define LANEMATH_SAME_AT(width, operation, variant, other)                                                      \
+#define LANEMATH_SAME_AT(width, ...) LANEMATH_AT_##width(LANEMATH_SAME_AT_(width, __VA_ARGS__))
+#define LANEMATH_SAME_AT_(width, operation, variant, other)                                                      \
   static_assert(::lanemath::frame_detail::are_same<::lanemath::index_of(#operation), width,                     \
                                                    ::lanemath::variant_of(#variant), ::lanemath::variant_of(#other)>); \
   extern "C" [[gnu::visibility("default"),                                                                      \

@@ -10,9 +10,6 @@ namespace lanemath {
 // could be computed on.
 namespace lanes_detail {
 
-template <class T>
-using packed = std::conditional_t<sizeof(T) == 4, __m128, __m128d>;
-
 LANEMATH_INLINE __m128 in_register(float v) { return _mm_set_ss(v); }
 LANEMATH_INLINE __m128d in_register(double v) { return _mm_set_sd(v); }
 
@@ -24,7 +21,8 @@ LANEMATH_INLINE lanes<T, W> instruction(Packed on_group, Scalar on_lane, const l
         if constexpr (W == 1)
           return opaque(T(on_lane(in_register(v)...)[0]));  // as in a comparison
         else
-          return std::bit_cast<typename lanes<T, W>::group>(on_group(std::bit_cast<packed<T>>(v)...));
+          return std::bit_cast<typename lanes<T, W>::group>(
+              on_group(std::bit_cast<register_of<T, typename lanes<T, W>::on_group>>(v)...));
       },
       first, rest...);
 }
@@ -39,13 +37,13 @@ LANEMATH_INLINE lanes<T, W> instruction(Packed on_group, Scalar on_lane, const l
     return map<T>(                                                               \
         [](auto first, auto second) LANEMATH_LAMBDA {                            \
           if constexpr (W == 1 && sizeof(T) == 4)                                \
-            asm(mnemonic "ss %1, %0" : "+x"(first) : "x"(second));               \
+            asm(LANEMATH_REPLACING(mnemonic "ss") : "+x"(first) : "x"(second));  \
           else if constexpr (W == 1)                                             \
-            asm(mnemonic "sd %1, %0" : "+x"(first) : "x"(second));               \
+            asm(LANEMATH_REPLACING(mnemonic "sd") : "+x"(first) : "x"(second));  \
           else if constexpr (sizeof(T) == 4)                                     \
-            asm(mnemonic "ps %1, %0" : "+x"(first) : "x"(second));               \
+            asm(LANEMATH_REPLACING(mnemonic "ps") : "+x"(first) : "x"(second));  \
           else                                                                   \
-            asm(mnemonic "pd %1, %0" : "+x"(first) : "x"(second));               \
+            asm(LANEMATH_REPLACING(mnemonic "pd") : "+x"(first) : "x"(second));  \
           return first;                                                          \
         },                                                                       \
         x, y);                                                                   \
@@ -57,45 +55,49 @@ LANEMATH_IN_ORDER(ordered_product, "mul")
 // MINPS and MAXPS: x < y ? x : y and x > y ? x : y. A tie, or a NaN in either argument, gives y.
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> minimum(const lanes<T, W>& x, const std::type_identity_t<lanes<T, W>>& y) {
+  using on = typename lanes<T, W>::on_group;
   if constexpr (sizeof(T) == 4)
-    return lanes_detail::instruction(_mm_min_ps, _mm_min_ss, x, y);
+    return lanes_detail::instruction(on::min_ps, _mm_min_ss, x, y);
   else
-    return lanes_detail::instruction(_mm_min_pd, _mm_min_sd, x, y);
+    return lanes_detail::instruction(on::min_pd, _mm_min_sd, x, y);
 }
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> maximum(const lanes<T, W>& x, const std::type_identity_t<lanes<T, W>>& y) {
+  using on = typename lanes<T, W>::on_group;
   if constexpr (sizeof(T) == 4)
-    return lanes_detail::instruction(_mm_max_ps, _mm_max_ss, x, y);
+    return lanes_detail::instruction(on::max_ps, _mm_max_ss, x, y);
   else
-    return lanes_detail::instruction(_mm_max_pd, _mm_max_sd, x, y);
+    return lanes_detail::instruction(on::max_pd, _mm_max_sd, x, y);
 }
 
 template <class T, int W>
 LANEMATH_INLINE lanes<T, W> square_root(const lanes<T, W>& x) {
+  using on = typename lanes<T, W>::on_group;
   if constexpr (sizeof(T) == 4)
-    return lanes_detail::instruction(_mm_sqrt_ps, _mm_sqrt_ss, x);
+    return lanes_detail::instruction(on::sqrt_ps, _mm_sqrt_ss, x);
   else
     return lanes_detail::instruction(
-        _mm_sqrt_pd, [](__m128d v) LANEMATH_LAMBDA { return _mm_sqrt_sd(v, v); }, x);
+        on::sqrt_pd, [](__m128d v) LANEMATH_LAMBDA { return _mm_sqrt_sd(v, v); }, x);
 }
 
 // Accurate to about 11.5 bits; the exact bits differ between processors.
 template <int W>
 LANEMATH_INLINE lanes<float, W> reciprocal_estimate(const lanes<float, W>& x) {
-  return lanes_detail::instruction(_mm_rcp_ps, _mm_rcp_ss, x);
+  return lanes_detail::instruction(lanes<float, W>::on_group::rcp_ps, _mm_rcp_ss, x);
 }
 template <int W>
 LANEMATH_INLINE lanes<float, W> reciprocal_root_estimate(const lanes<float, W>& x) {
-  return lanes_detail::instruction(_mm_rsqrt_ps, _mm_rsqrt_ss, x);
+  return lanes_detail::instruction(lanes<float, W>::on_group::rsqrt_ps, _mm_rsqrt_ss, x);
 }
 
 template <direction D, class T, int W>
 LANEMATH_INLINE lanes<T, W> round_to(const lanes<T, W>& x) {
+  using on = typename lanes<T, W>::on_group;
   if constexpr (sizeof(T) == 4)
-    return lanes_detail::instruction([](__m128 v) LANEMATH_LAMBDA { return _mm_round_ps(v, int(D)); },
+    return lanes_detail::instruction([](auto v) LANEMATH_LAMBDA { return on::template round<int(D)>(v); },
                                      [](__m128 v) LANEMATH_LAMBDA { return _mm_round_ss(v, v, int(D)); }, x);
   else
-    return lanes_detail::instruction([](__m128d v) LANEMATH_LAMBDA { return _mm_round_pd(v, int(D)); },
+    return lanes_detail::instruction([](auto v) LANEMATH_LAMBDA { return on::template round<int(D)>(v); },
                                      [](__m128d v) LANEMATH_LAMBDA { return _mm_round_sd(v, v, int(D)); }, x);
 }
 
@@ -105,10 +107,12 @@ LANEMATH_INLINE lanes<std::uint64_t, W> product_of_lower(const lanes<std::uint64
                                                          const lanes<std::uint64_t, W>& b) {
   return map<std::uint64_t>(
       [](auto p, auto q) LANEMATH_LAMBDA {
+        using on = typename lanes<std::uint64_t, W>::on_group;
         if constexpr (W == 1)
           return std::uint64_t(std::uint32_t(p)) * std::uint32_t(q);
         else
-          return std::bit_cast<decltype(p)>(_mm_mul_epu32(std::bit_cast<__m128i>(p), std::bit_cast<__m128i>(q)));
+          return std::bit_cast<decltype(p)>(
+              on::mul_epu32(std::bit_cast<typename on::integers>(p), std::bit_cast<typename on::integers>(q)));
       },
       a, b);
 }
@@ -123,10 +127,9 @@ LANEMATH_INLINE lanes<T, W> shifted_left(const lanes<T, W>& v, const lanes<T, W>
         if constexpr (W == 1) {
           return a << (n & 63);
         } else {
-          const auto both = std::bit_cast<__m128i>(a), first = std::bit_cast<__m128i>(n);
-          const auto second = _mm_unpackhi_epi64(first, first);
+          using on = typename lanes<U, W>::on_group;
           return std::bit_cast<typename lanes<U, W>::group>(
-              _mm_blend_epi16(_mm_sll_epi64(both, first), _mm_sll_epi64(both, second), 0xF0));
+              on::sllv_epi64(std::bit_cast<typename on::integers>(a), std::bit_cast<typename on::integers>(n)));
         }
       },
       as<U>(v), as<U>(count)));
@@ -135,10 +138,11 @@ LANEMATH_INLINE lanes<T, W> shifted_left(const lanes<T, W>& v, const lanes<T, W>
 // Lanes in which either argument is a NaN.
 template <class T, int W>
 LANEMATH_INLINE auto unordered(const lanes<T, W>& x, const lanes<T, W>& y) {
+  using on = typename lanes<T, W>::on_group;
   if constexpr (sizeof(T) == 4)
-    return bits(lanes_detail::instruction(_mm_cmpunord_ps, _mm_cmpunord_ss, x, y));
+    return bits(lanes_detail::instruction(on::cmpunord_ps, _mm_cmpunord_ss, x, y));
   else
-    return bits(lanes_detail::instruction(_mm_cmpunord_pd, _mm_cmpunord_sd, x, y));
+    return bits(lanes_detail::instruction(on::cmpunord_pd, _mm_cmpunord_sd, x, y));
 }
 
 // Lanes whose magnitude is above a bound, given as a bit pattern (the upper half of it for doubles): infinities and

@@ -1,26 +1,31 @@
-// lanes<T, W>: W lanes of T, carried as 128-bit groups; lanes<T, 1> is one scalar and compiles to scalar
-// instructions. The operators apply to every group in turn, so that one kernel text serves all widths.
+// lanes<T, W>: W lanes of T, carried as groups, each in a register of 128 bits or, at the levels that have larger ones,
+// in the smallest that takes all lanes, or else the largest; lanes<T, 1> is one scalar and compiles to scalar
+// instructions. The operators apply to every group in turn, so that one kernel text serves all widths and levels.
 // Lanes of 32 bits at width 2 fill the lower half of their group; the contents of its upper half are never used.
 //
 // Integer lanes wrap. A comparison gives a mask: integer lanes of the same size, all ones or all zeros.
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <type_traits>
+#include <utility>
 
-#include <smmintrin.h>
-
-#define LANEMATH_INLINE [[gnu::always_inline]] inline
-#define LANEMATH_LAMBDA __attribute__((always_inline))
+#include "frame/level.h"
 
 namespace lanemath {
 
+// The lanes of a register as large as the level has.
+template <class T>
+inline constexpr int largest_group = register_bytes / int(sizeof(T));
+
 template <class T, int W>
 struct group_of {
-  typedef T type __attribute__((vector_size(16)));
+  static constexpr int bytes = std::clamp(W * int(sizeof(T)), 16, register_bytes);
+  typedef T type __attribute__((vector_size(bytes)));
 };
 template <class T>
 struct group_of<T, 1> {
@@ -35,7 +40,9 @@ struct lanes {
   using value_type = T;
   using group = typename group_of<T, W>::type;
   static constexpr int width = W;
-  static constexpr int groups = (W * int(sizeof(T)) + 15) / 16;
+  static constexpr int group_bytes = sizeof(group);
+  static constexpr int groups = (W * int(sizeof(T)) + group_bytes - 1) / group_bytes;
+  using on_group = instructions<std::max(group_bytes, 16)>;
 
   group g[groups];
 
@@ -44,10 +51,9 @@ struct lanes {
     for (auto& each : g) {
       if constexpr (W == 1)
         each = value;
-      else if constexpr (sizeof(T) == 4)
-        each = group{value, value, value, value};
       else
-        each = group{value, value};
+        each = [&]<std::size_t... I>(std::index_sequence<I...>) LANEMATH_LAMBDA { return group{(void(I), value)...}; }
+      (std::make_index_sequence<group_bytes / sizeof(T)>{});
     }
   }
 };
@@ -189,6 +195,15 @@ LANEMATH_INLINE lanes<T, W> select(const lanes<int_of_size<sizeof(T)>, W>& mask,
 
 namespace lanes_detail {
 
+// The register that holds a group of lanes of T.
+template <class T, class On>
+using register_of = std::conditional_t<std::is_integral_v<T>, typename On::integers,
+                                       std::conditional_t<sizeof(T) == 4, typename On::floats, typename On::doubles>>;
+
+// How many groups of 64-bit lanes have the lanes of one group of 32-bit lanes: where that is no larger, it is one.
+template <class T, int W>
+inline constexpr int halves_of = lanes<std::int32_t, W>::group_bytes == lanes<T, W>::group_bytes ? 2 : 1;
+
 // One 32-bit half of each 64-bit lane.
 template <int Half, class T, int W>
 LANEMATH_INLINE lanes<std::int32_t, W> halves(const lanes<T, W>& v) {
@@ -197,11 +212,17 @@ LANEMATH_INLINE lanes<std::int32_t, W> halves(const lanes<T, W>& v) {
   if constexpr (W == 1) {
     result.g[0] = std::int32_t(std::bit_cast<std::int64_t>(v.g[0]) >> 32 * Half);
   } else {
+    using on = typename lanes<T, W>::on_group;
+    using group = typename lanes<std::int32_t, W>::group;
+    using floats = typename on::floats;
     constexpr int last = lanes<T, W>::groups - 1;
-    for (int i = 0; i < result.groups; ++i)
-      result.g[i] = std::bit_cast<typename lanes<std::int32_t, W>::group>(
-          _mm_shuffle_ps(std::bit_cast<__m128>(v.g[2 * i]), std::bit_cast<__m128>(v.g[2 * i < last ? 2 * i + 1 : last]),
-                         _MM_SHUFFLE(2 + Half, Half, 2 + Half, Half)));
+    for (int i = 0; i < result.groups; ++i) {
+      if constexpr (halves_of<T, W> == 2)
+        result.g[i] = std::bit_cast<group>(on::template words<Half>(
+            std::bit_cast<floats>(v.g[2 * i]), std::bit_cast<floats>(v.g[2 * i < last ? 2 * i + 1 : last])));
+      else
+        result.g[i] = std::bit_cast<group>(on::template words<Half>(std::bit_cast<floats>(v.g[i])));
+    }
   }
   return result;
 }
@@ -236,12 +257,14 @@ LANEMATH_INLINE lanes<std::int32_t, W> narrow_mask(const lanes<T, W>& mask) {
 template <int C, class T, int W>
 LANEMATH_INLINE lanes<T, C> part(const lanes<T, W>& v, int first) {
   lanes<T, C> result;
-  for (int i = 0; i < result.groups; ++i) result.g[i] = v.g[first * int(sizeof(T)) / 16 + i];
+  static_assert(lanes<T, C>::group_bytes == lanes<T, W>::group_bytes);
+  for (int i = 0; i < result.groups; ++i) result.g[i] = v.g[first * int(sizeof(T)) / v.group_bytes + i];
   return result;
 }
 template <class T, int W, int C>
 LANEMATH_INLINE void put_part(lanes<T, W>& v, int first, const lanes<T, C>& piece) {
-  for (int i = 0; i < piece.groups; ++i) v.g[first * int(sizeof(T)) / 16 + i] = piece.g[i];
+  static_assert(lanes<T, C>::group_bytes == lanes<T, W>::group_bytes);
+  for (int i = 0; i < piece.groups; ++i) v.g[first * int(sizeof(T)) / v.group_bytes + i] = piece.g[i];
 }
 
 // A single lane in every place of a group, and the first lane of a group. What is done to the bits of a single lane
@@ -264,11 +287,15 @@ LANEMATH_INLINE void lane_by_lane(F f, const lanes<T, W>& v, lanes<T, W>& ones, 
     if constexpr (W == 1) {
       f(v.g[i], ones.g[i], others.g[i]);
     } else {
-      T one[2], other[2];
-      for (int k = 0; k < 2; ++k) f(v.g[i][k], one[k], other[k]);
-      using group = typename lanes<T, W>::group;
-      ones.g[i] = group{one[0], one[1]};
-      others.g[i] = group{other[0], other[1]};
+      constexpr int per_group = lanes<T, W>::group_bytes / int(sizeof(T));
+      T one[per_group], other[per_group];
+      for (int k = 0; k < per_group; ++k) f(v.g[i][k], one[k], other[k]);
+      const auto joined = []<std::size_t... K>(const T(&of)[per_group], std::index_sequence<K...>) LANEMATH_LAMBDA {
+        return typename lanes<T, W>::group{of[K]...};
+      };
+      constexpr std::make_index_sequence<per_group> places;
+      ones.g[i] = joined(one, places);
+      others.g[i] = joined(other, places);
     }
   }
 }
@@ -280,13 +307,10 @@ LANEMATH_INLINE unsigned mask_bits(const lanes<T, W>& mask) {
   if constexpr (W == 1) {
     result = mask.g[0] & 1;
   } else {
-    constexpr int per_group = 16 / int(sizeof(T));
-    for (int i = 0; i < mask.groups; ++i) {
-      if constexpr (sizeof(T) == 4)
-        result |= unsigned(_mm_movemask_ps(std::bit_cast<__m128>(mask.g[i]))) << i * per_group;
-      else
-        result |= unsigned(_mm_movemask_pd(std::bit_cast<__m128d>(mask.g[i]))) << i * per_group;
-    }
+    using on = typename lanes<T, W>::on_group;
+    using packed = std::conditional_t<sizeof(T) == 4, typename on::floats, typename on::doubles>;
+    constexpr int per_group = lanes<T, W>::group_bytes / int(sizeof(T));
+    for (int i = 0; i < mask.groups; ++i) result |= on::signs(std::bit_cast<packed>(mask.g[i])) << i * per_group;
   }
   return result & ((1u << W) - 1);
 }
@@ -299,7 +323,7 @@ LANEMATH_INLINE bool any(const lanes<T, W>& mask) {
   } else {
     auto all = mask.g[0];
     for (int i = 1; i < mask.groups; ++i) all |= mask.g[i];
-    lanes<T, 16 / int(sizeof(T))> folded;
+    lanes<T, lanes<T, W>::group_bytes / int(sizeof(T))> folded;
     folded.g[0] = all;
     return (mask_bits(folded) & ((1u << W) - 1)) != 0;
   }

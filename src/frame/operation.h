@@ -1,6 +1,7 @@
 // What the catalogue knows of an operation: its signature, its accuracy variants, and properties of its results.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +12,14 @@ namespace lanemath {
 
 inline constexpr std::string_view symbol_prefix = "__ocl_lanemath_h8_";
 inline constexpr std::array widths{1, 2, 3, 4, 8, 16};
+
+// The levels of instructions that kernels are compiled for: the library's own, and those of its companions.
+struct level {
+  std::string_view name, symbol_prefix;
+  std::size_t register_bytes;
+};
+inline constexpr std::array levels{level{"", symbol_prefix, 16}, level{"avx2", "lanemath_avx2_", 32},
+                                   level{"avx512", "lanemath_avx512_", 64}};
 
 enum class lane : std::uint8_t { none, f32, f64, i32, u32, i64, u64 };
 
@@ -53,6 +62,11 @@ struct signature {
     int n = 0;
     while (n < 3 && arguments[n] != lane::none) ++n;
     return n;
+  }
+  constexpr std::size_t widest_lane() const {
+    std::size_t bytes = std::max(size_of(result), size_of(second));
+    for (lane each : arguments) bytes = std::max(bytes, size_of(each));
+    return bytes;
   }
   constexpr bool operator==(const signature&) const = default;
 };
@@ -108,6 +122,8 @@ struct operation {
   std::array<variant, 4> shared = variants;         // variants[i] is this one under another name
   std::array<std::uint8_t, 4> standalone_widths{};  // bit k of [i]: variants[i] is standalone at widths[k]
 
+  bool always_scalar = false;  // every lane goes to the rare routine
+
   parity symmetry{};
   double symmetric_to = std::numeric_limits<double>::infinity();
 
@@ -145,6 +161,10 @@ struct operation {
     const variant other = shared[std::size_t(v)];
     return is_standalone(width, other) ? v : other;
   }
+  // Whether the companions of wider registers have this form: it is computed in vectors, some of which are wider than
+  // the library's registers. Three lanes are not: the fourth costs nothing in a register.
+  constexpr bool is_wide(int width) const { return !always_scalar && width != 3 && width * sig.widest_lane() > 16; }
+  constexpr bool is_at(const level& l, int width) const { return l.name.empty() || is_wide(width); }
   // Whether callers must keep to the variant's range: it has no rare test, and its results outside are unspecified.
   constexpr bool is_unguarded(variant v) const { return untested_bits >> int(v) & 1; }
 };

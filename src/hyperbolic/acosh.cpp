@@ -109,7 +109,7 @@ struct acosh_width_2 {
 LANEMATH_EXPORT_BUT(4, acoshf, acoshf_standard)
 LANEMATH_EXPORT_AT(4, acoshf, acoshf_width_4)
 LANEMATH_EXPORT_BUT(4, acoshf, acoshf_native, _native)
-LANEMATH_SAME_AT(4, acoshf, , _native)
+LANEMATH_IN_LIBRARY(LANEMATH_SAME_AT(4, acoshf, , _native))
 
 LANEMATH_EXPORT_BUT(2, acosh, acosh_standard)
 LANEMATH_EXPORT_AT(2, acosh, acosh_width_2)

@@ -124,7 +124,7 @@ struct asinh_width_2 {
 LANEMATH_EXPORT_BUT(4, asinhf, asinhf_standard)
 LANEMATH_EXPORT_AT(4, asinhf, asinhf_width_4)
 LANEMATH_EXPORT_BUT(4, asinhf, asinhf_native, _native)
-LANEMATH_SAME_AT(4, asinhf, , _native)
+LANEMATH_IN_LIBRARY(LANEMATH_SAME_AT(4, asinhf, , _native))
 
 LANEMATH_EXPORT_BUT(2, asinh, asinh_standard)
 LANEMATH_EXPORT_AT(2, asinh, asinh_width_2)

@@ -10,8 +10,8 @@ namespace lanemath {
 // An estimate in float for doubles, group by group: joining two groups for one estimate costs more than it saves.
 template <class F, int W>
 LANEMATH_INLINE lanes<double, W> by_floats(F estimate, const lanes<double, W>& x) {
-  return by_pieces<2, W>([&](const auto& v) LANEMATH_LAMBDA { return convert<double>(estimate(convert<float>(v))); },
-                         x);
+  return by_pieces<largest_group<double>, W>(
+      [&](const auto& v) LANEMATH_LAMBDA { return convert<double>(estimate(convert<float>(v))); }, x);
 }
 
 }  // namespace lanemath

@@ -74,7 +74,7 @@ struct tan_form {
   template <int W>
   static lanes<double, W> kernel(lanes<double, W> x) {
     const auto group = [](const auto& v) LANEMATH_LAMBDA { return flipped(Form::tangent(magnitude(v)), sign_of(v)); };
-    return by_pieces<2, W>(group, x);
+    return by_pieces<largest_group<double>, W>(group, x);
   }
   static auto rare_test(auto x) { return ~(magnitude(x) <= 0x1p20); }
   template <int W, class M>

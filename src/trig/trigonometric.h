@@ -72,13 +72,13 @@ struct two_remainders {
 template <class F, class T, int W, class M>
 LANEMATH_INLINE void large_stage(F stage, const lanes<T, W>& x, lanes<T, W>& y, M& rare,
                                  T largest = std::numeric_limits<T>::max()) {
-  y = select(rare, by_pieces<16 / int(sizeof(T)), W>(stage, x), y);
+  y = select(rare, by_pieces<largest_group<T>, W>(stage, x), y);
   rare = ~(magnitude(x) <= largest);
 }
 template <class F, class T, int W, class M>
 LANEMATH_INLINE void large_stage(F stage, const lanes<T, W>& x, lanes<T, W>& sine, lanes<T, W>& cosine, M& rare,
                                  T largest = std::numeric_limits<T>::max()) {
-  const auto y = by_pieces<16 / int(sizeof(T)), W>(stage, x);
+  const auto y = by_pieces<largest_group<T>, W>(stage, x);
   sine = select(rare, y.first, sine);
   cosine = select(rare, y.second, cosine);
   rare = ~(magnitude(x) <= largest);

@@ -21,7 +21,8 @@ inline std::map<std::uint64_t, instruction> disassembled(const std::string& path
   const std::string command = LANEMATH_OBJDUMP " -d --no-show-raw-insn " + path;
   const std::unique_ptr<FILE, int (*)(FILE*)> out(popen(command.c_str(), "r"), pclose);
   if (!out) throw std::runtime_error("cannot run " + command);
-  const std::regex form(R"(^\s*([0-9a-f]+):\s+(?:(?:repz|repnz|rep|lock|data16|cs|ds|notrack)\s+)*(\S+)\s*([^#\n]*))");
+  const std::regex form(
+      R"(^\s*([0-9a-f]+):\s+(?:(?:repz|repnz|rep|lock|data16|cs|ds|notrack|\{[a-z0-9]+\})\s+)*(\S+)\s*([^#\n]*))");
   const std::regex space(" +");
   std::map<std::uint64_t, instruction> all;
   char line[1024];

@@ -1,4 +1,5 @@
-// Shows whether two builds of the library give the same bits: calls every function of both on the same lanes.
+// Shows whether two builds of the library give the same bits, or a companion those of the library: calls every function
+// of both on the same lanes.
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
@@ -47,7 +48,8 @@ int main(int argc, char** argv) try {
   std::uint64_t seed = 1;
   bool all_directions = false;
   app.add_option("first", first_path, "a library")->required();
-  app.add_option("second", second_path, "the library to compare it with")->required();
+  app.add_option("second", second_path, "the library, or a companion for wider registers, to compare it with")
+      ->required();
   app.add_option("operations", patterns, "what to compare, all if none is named: expf, expf_native, expf4, 'exp*'...");
   app.add_option("-n,--lanes", lanes, "random lanes per function, besides a fixed set")
       ->check(CLI::Range(std::size_t(1), std::size_t(1) << 40))
@@ -68,6 +70,7 @@ int main(int argc, char** argv) try {
     for (auto v : variants) {
       for (int width : widths) {
         if (!chosen.has(index, v, width)) continue;
+        if (!o.is_at(first.of_level(), width) || !o.is_at(second.of_level(), width)) continue;
         const auto one = first.find(index, v, width), other = second.find(index, v, width);
         if (one && other) forms.push_back({v, width, *one, *other});
         if (bool(one) == bool(other)) continue;

@@ -150,7 +150,7 @@ void write_array_functions(std::FILE* out) {
                               ? fmt::format("block_pair<{}, {}>", c_type(s.result), c_type(s.second))
                               : fmt::format("block<{}>", c_type(s.result));
     const auto taken = of_arguments(s, [](lane l, char) { return fmt::format("block<{}>", c_type(l)); });
-    const auto wide = form{o, v, 16}.function();
+    const auto wide = in_library(o, v, 16).function();
     fmt::print(out, "\n{} {}({}{});\n", returned, wide, fmt::join(taken, ", "),
                s.how == delivery::pointer ? ", void*" : "");
     fmt::print(out, "{} {{ {}({}, {}, n, {}, {}); }}\n", array_prototype(o, v), shape, wide, o.filler,
@@ -213,8 +213,9 @@ constexpr instruction_set instruction_sets[] = {{'b', 16, 16}, {'c', 16, 32}, {'
 // The width whose functions give these lanes the bits of width 1: in so many calls, the fastest.
 int width_of_calls(const operation& o, variant v, int lanes) {
   if (o.is_standalone(1, v)) return 1;
-  switch (crossing_of({o, v, lanes})) {
-    case crossing::in_pieces: return lanes_of_a_register(o);
+  const auto all = in_library(o, v, lanes);
+  switch (crossing_of(all)) {
+    case crossing::in_pieces: return all.lanes_of_a_register();
     case crossing::whole:
     case crossing::in_memory: break;
   }
@@ -241,14 +242,14 @@ void write_loop_entries(std::FILE* out, const instruction_set& on) {
       values.push_back(fmt::format("argument<{}, {}>({})", c_type(l), lanes, fmt::join(names, ", ")));
     }
     const auto abi_type = [&](lane l) { return fmt::format("abi<{}, {}>", c_type(l), width); };
-    const auto library_function = form{o, v, width}.function();
+    const auto library_function = in_library(o, v, width).function();
     const auto entry = fmt::format("vector<{}, {}> {}_{}{}({})", c_type(s.result), lanes, on.letter, o.name(),
                                    suffix(v), fmt::join(registers, ", "));
     fmt::print(out, "\n{} {}({});\n", abi_type(s.result), library_function,
                fmt::join(of_arguments(s, [&](lane l, char) { return abi_type(l); }), ", "));
     fmt::print(out, "{} __asm__(\"_ZGV{}N{}{}_{}\");\n{} {{ return call<{}, {}, {}>({}, {}); }}\n", entry, on.letter,
-               lanes, std::string(s.arity(), 'v'), form{o, v, 1}.function(), entry, c_type(s.result), width, lanes,
-               library_function, fmt::join(values, ", "));
+               lanes, std::string(s.arity(), 'v'), in_library(o, v, 1).function(), entry, c_type(s.result), width,
+               lanes, library_function, fmt::join(values, ", "));
   });
   fmt::print(out, "\n}}\n");
 }

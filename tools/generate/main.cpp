@@ -32,14 +32,20 @@ const machine& machine_of_kind(std::string_view kind) {
   throw std::runtime_error(fmt::format("no kind of machine {}", kind));
 }
 
+const level& level_of_name(std::string_view name) {
+  for (const auto& each : levels)
+    if (each.name == name) return each;
+  throw std::runtime_error(fmt::format("no level {}", name));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) try {
   const auto path = harness::take_output_path(argc, argv);
   harness::whole_output out;
   const std::string_view what = argc > 1 ? argv[1] : "";
-  if (what == "export-list" && argc == 2) {
-    write_export_list(out.stream());
+  if (what == "export-list" && argc <= 3) {
+    write_export_list(out.stream(), level_of_name(argc == 3 ? argv[2] : ""));
   } else if (what == "public-header" && argc == 3) {
     write_public_header(out.stream(), argv[2]);
   } else if (what == "companion" && argc == 3) {
@@ -61,7 +67,7 @@ int main(int argc, char** argv) try {
     write_opencl_crossings(out.stream(), machine_of_kind(argv[2]), exported_names_in(argv[3]));
   } else {
     fmt::print(stderr,
-               "usage: {} export-list | public-header FAMILY | vectors-header | cpp-header | cpp-calls |\n"
+               "usage: {} export-list [LEVEL] | public-header FAMILY | vectors-header | cpp-header | cpp-calls |\n"
                "       companion FILE | opencl-kinds | opencl-processor KIND |\n"
                "       opencl-builtins KIND EXPORTED_NAMES | opencl-crossings KIND EXPORTED_NAMES [--output FILE]\n",
                argv[0]);

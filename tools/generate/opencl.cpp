@@ -74,19 +74,20 @@ bool left_to_compiler(const operation& o, variant v, const machine& on) {
   return from != lane::f64 || o.rounding != direction::zero;
 }
 
-std::string form::function() const { return fmt::format("{}{}{}{}", symbol_prefix, op.name(), width, suffix(variant)); }
+const level& form::from() const {
+  const auto& companion = levels.at(LANEMATH_LEVELS ? on.level : 0);
+  return op.is_at(companion, width) ? companion : levels[0];
+}
+bool form::is_in_register(lane l) const { return padded(width) * size_of(l) <= from().register_bytes; }
+int form::lanes_of_a_register() const { return int(from().register_bytes / sig().widest_lane()); }
+
+std::string form::function() const {
+  return fmt::format("{}{}{}{}", from().symbol_prefix, op.name(), width, suffix(variant));
+}
 std::string form::by_value() const { return fmt::format("lanemath_{}{}{}", op.name(), width, suffix(variant)); }
 std::string form::packed() const { return by_value() + "_packed"; }
 std::string form::lane_by_lane() const { return by_value() + "_lane_by_lane"; }
 std::string form::by_pointer() const { return by_value() + "_by_pointer"; }
-
-bool crosses_in_register(lane l, int width) { return std::size_t(padded(width)) * size_of(l) <= 16; }
-
-int lanes_of_a_register(const operation& o) {
-  std::size_t widest = std::max(size_of(o.sig.result), size_of(o.sig.second));
-  for (lane l : o.sig.arguments) widest = std::max(widest, size_of(l));
-  return int(16 / widest);
-}
 
 // The number of registers from which one call of a wide form, through memory, takes less time than a call for each
 // register, because its kernel gains that much from interleaving its groups. Measured; most never do.
@@ -102,7 +103,7 @@ int registers_that_pay_for_memory(const operation& o, variant v) {
 }
 
 crossing crossing_of(const form& f) {
-  const int lanes = lanes_of_a_register(f.op), registers = padded(f.width) / lanes;
+  const int lanes = f.lanes_of_a_register(), registers = padded(f.width) / lanes;
   if (registers <= 1) return crossing::whole;
   const bool same_bits = !f.op.is_standalone(lanes, f.variant) && !f.has_second();
   return same_bits && registers < registers_that_pay_for_memory(f.op, f.variant) ? crossing::in_pieces
@@ -110,7 +111,7 @@ crossing crossing_of(const form& f) {
 }
 
 std::vector<int> loop_widths(const operation& o, const machine& on) {
-  const int lanes = lanes_of_a_register(o);
+  const int lanes = int(16 / o.sig.widest_lane());
   // At twice the lanes two packed floats would be wider than what all kernels pass alike.
   const bool wide = on.register_size == 32 && (o.sig.how == delivery::none || lanes == 2);
   return wide ? std::vector{lanes, 2 * lanes} : std::vector{lanes};
@@ -127,6 +128,6 @@ std::string loop_function(const form& vector) {
 
 std::vector<std::string> loop_functions(const operation& o, variant v, const machine& on) {
   std::vector<std::string> all;
-  for (int width : loop_widths(o, on)) all.push_back(loop_function({o, v, width}));
+  for (int width : loop_widths(o, on)) all.push_back(loop_function({on, o, v, width}));
   return all;
 }

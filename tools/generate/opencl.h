@@ -1,9 +1,11 @@
 // The built-ins of OpenCL C that are calls of the library, and how kernels reach it.
 //
 // A kernel calls a built-in as the runtime's compiler passes its vectors, which differs between machines. The library
-// takes vectors of up to 16 bytes in registers and wider ones in memory. Between them stand two texts: OpenCL C, whose
-// built-ins hand everything on by pointers, and LLVM IR, which takes it to the library. Once the first is inlined into
-// a kernel and the second into the first, no memory is left between them but what the library itself asks for.
+// takes vectors of up to 16 bytes in registers and wider ones in memory; where the machine has a companion's level and
+// the companions are built, that one takes the forms that it has, up to its registers' size in registers. Between them
+// stand two texts: OpenCL C, whose built-ins hand everything on by pointers, and LLVM IR, which takes it to the
+// library. Once the first is inlined into a kernel and the second into the first, no memory is left between them but
+// what the library itself asks for.
 #pragma once
 
 #include <cstdio>
@@ -32,6 +34,7 @@ struct machine {
   int register_size;           // of the vectors that the compiler turns loops into, in bytes
   bool rounds, fuses;          // has instructions that round to integers, that multiply and add at once
   std::string_view features;   // none: the runtime never takes it
+  std::size_t level = 0;       // in `levels`: of the companion that kernels call there with wide vectors
 };
 inline constexpr machine machines[] = {
     {"GENERIC", "x86-64", 16, false, false, ""},
@@ -41,8 +44,8 @@ inline constexpr machine machines[] = {
     {"avx", "sandybridge", 32, true, false, "sse2 avx cx16 popcnt"},
     {"avx_f16c", "ivybridge", 32, true, false, "sse2 avx cx16 popcnt f16c"},
     {"avx_fma4", "bdver1", 32, true, true, "sse2 avx cx16 popcnt xop fma4"},
-    {"avx2", "haswell", 32, true, true, "sse2 avx avx2 cx16 popcnt abm f16c fma bmi1 bmi2"},
-    {"avx512", "skylake-avx512", 32, true, true, "sse2 avx512f"},
+    {"avx2", "haswell", 32, true, true, "sse2 avx avx2 cx16 popcnt abm f16c fma bmi1 bmi2", 1},
+    {"avx512", "skylake-avx512", 32, true, true, "sse2 avx512f", 2},
 };
 
 // Whether the compiler keeps a built-in on this machine: an instruction or a few, by the runtime's definition or ours.

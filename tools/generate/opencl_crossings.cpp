@@ -61,7 +61,7 @@ class writer {
 
   void declare() {
     std::vector<std::string> types;
-    if (!crosses_in_register(s_.result, f_.width))
+    if (!f_.is_in_register(s_.result))
       types.push_back(fmt::format("ptr sret({}) align 16", room_type(s_.result, f_.width)));
     for (int i = 0; i < s_.arity(); ++i) types.push_back(passed_to_library(i));
     if (f_.has_second()) types.push_back("ptr");
@@ -103,7 +103,7 @@ class writer {
       fmt::print(
           out_,
           "  %result{0} = call {1} @{2}({3}) {4}\n  %joined{0} = insertelement {5} {6}, {1} %result{0}, i64 {0}\n",
-          lane, scalar, form{f_.op, f_.variant, 1}.function(), passed, pure, result_type(), joined);
+          lane, scalar, form{on_, f_.op, f_.variant, 1}.function(), passed, pure, result_type(), joined);
       joined = fmt::format("%joined{}", lane);
     }
     fmt::print(out_, "  ret {} {}\n}}\n", result_type(), joined);
@@ -113,7 +113,7 @@ class writer {
     std::vector<std::string> mappings, addresses, constraints;
     const auto own_name = f_.has_second() ? f_.packed() : f_.by_value();
     for (int lanes : lane_counts) {
-      const auto function = loop_function({f_.op, f_.variant, lanes});
+      const auto function = loop_function({on_, f_.op, f_.variant, lanes});
       mappings.push_back(
           fmt::format("_ZGV_LLVM_N{}{}_{}({})", lanes, std::string(s_.arity(), 'v'), own_name, function));
       addresses.push_back("ptr @" + function);
@@ -126,7 +126,7 @@ class writer {
     for (int lanes : lane_counts)
       fmt::print(out_, "  %unused{} = call {} @{}({}) {}\n", lanes,
                  f_.has_second() ? packed_type(lanes) : ir_type(s_.result, lanes),
-                 loop_function({f_.op, f_.variant, lanes}),
+                 loop_function({on_, f_.op, f_.variant, lanes}),
                  arguments([&](int i) { return ir_type(s_.arguments[i], lanes) + " zeroinitializer"; }), pure);
     fmt::print(out_, "  call void asm sideeffect \"\", \"{}\"({})\n", fmt::join(constraints, ","),
                fmt::join(addresses, ", "));
@@ -177,11 +177,10 @@ class writer {
   }
   std::string passed_to_library(int i) const {
     const lane l = s_.arguments[i];
-    return crosses_in_register(l, f_.width) ? ir_type(l, f_.width)
-                                            : fmt::format("ptr byval({}) align 16", room_type(l, f_.width));
+    return f_.is_in_register(l) ? ir_type(l, f_.width) : fmt::format("ptr byval({}) align 16", room_type(l, f_.width));
   }
   std::string returned_by_library() const {
-    return crosses_in_register(s_.result, f_.width) ? ir_type(s_.result, f_.width) : "void";
+    return f_.is_in_register(s_.result) ? ir_type(s_.result, f_.width) : "void";
   }
   std::string result_type() const {
     const auto first = ir_type(s_.result, f_.width);
@@ -206,22 +205,23 @@ class writer {
   // The compiler does so if an argument has upper halves, but not if only what is returned has them.
   void clear_upper_halves(int bytes_returned) {
     const bool from_registers = std::all_of(s_.arguments.begin(), s_.arguments.begin() + s_.arity(),
-                                            [&](lane l) { return crosses_in_register(l, f_.width); });
-    if (on_.register_size > 16 && bytes_returned > 16 && from_registers)
+                                            [&](lane l) { return f_.is_in_register(l); });
+    const bool narrow = f_.from().register_bytes == 16;
+    if (narrow && on_.register_size > 16 && bytes_returned > 16 && from_registers)
       fmt::print(out_, "  call void @llvm.x86.avx.vzeroupper()\n");
   }
 
   // From the arguments to %result and %second.
   void call_library() {
     std::vector<std::string> passed;
-    const bool result_in_memory = !crosses_in_register(s_.result, f_.width);
+    const bool result_in_memory = !f_.is_in_register(s_.result);
     if (result_in_memory)
       passed.push_back(
           fmt::format("ptr sret({}) align 16 {}", room_type(s_.result, f_.width), room("result", s_.result)));
     for (int i = 0; i < s_.arity(); ++i)
-      passed.push_back(passed_to_library(i) + " " +
-                       (crosses_in_register(s_.arguments[i], f_.width) ? fmt::format("%{}", names[i])
-                                                                       : store(names[i], s_.arguments[i])));
+      passed.push_back(
+          passed_to_library(i) + " " +
+          (f_.is_in_register(s_.arguments[i]) ? fmt::format("%{}", names[i]) : store(names[i], s_.arguments[i])));
     if (f_.has_second()) passed.push_back("ptr " + room("second", s_.second));
     fmt::print(out_, "  {}call {} @{}({}) {}\n", result_in_memory ? "" : "%result = ", returned_by_library(),
                f_.function(), fmt::join(passed, ", "), in_registers_only() ? pure : with_memory);
@@ -297,8 +297,8 @@ class writer {
   }
 
   void in_pieces() {
-    const int lanes = lanes_of_a_register(f_.op);
-    const form piece{f_.op, f_.variant, lanes};
+    const int lanes = f_.lanes_of_a_register();
+    const form piece{on_, f_.op, f_.variant, lanes};
     for (int k = 0; k * lanes < f_.width; ++k) {
       const auto at = [&](std::string_view pointer, lane l) {
         auto name = fmt::format("%{}{}", pointer, k);

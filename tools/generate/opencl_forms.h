@@ -6,6 +6,7 @@
 #include "opencl.h"
 
 struct form {
+  const machine& on;
   const lanemath::operation& op;
   lanemath::variant variant;
   int width;
@@ -13,9 +14,14 @@ struct form {
   const lanemath::signature& sig() const { return op.sig; }
   bool has_second() const { return op.sig.how == lanemath::delivery::pointer; }
 
-  // The functions that give it. The library's own takes wide vectors in memory; the others, whatever the vectors' size,
-  // take them by value; by value, with both results packed into 64 or 128 bits; by value, calling the scalar for each
-  // lane; and in memory, the results first.
+  // What exports it: the library or the machine's companion.
+  const lanemath::level& from() const;
+  bool is_in_register(lanemath::lane l) const;
+  int lanes_of_a_register() const;  // of the operation's widest type
+
+  // The functions that give it. That which is exported takes wide vectors in memory; the others, whatever the vectors'
+  // size, take them by value; by value, with both results packed into 64 or 128 bits; by value, calling the scalar for
+  // each lane; and in memory, the results first.
   std::string function() const;
   std::string by_value() const;
   std::string packed() const;
@@ -23,14 +29,14 @@ struct form {
   std::string by_pointer() const;
 };
 
-// How a form reaches the library: its vectors unchanged, a register's lanes at a time, or through memory.
+// On machines that no companion serves.
+inline form in_library(const lanemath::operation& o, lanemath::variant v, int width) {
+  return {machines[0], o, v, width};
+}
+
+// How a form crosses: its vectors unchanged, a register's lanes at a time, or through memory.
 enum class crossing { whole, in_pieces, in_memory };
 crossing crossing_of(const form& f);
-
-bool crosses_in_register(lanemath::lane l, int width);
-
-// How many lanes of an operation's widest type fill a register of the library.
-int lanes_of_a_register(const lanemath::operation& o);
 
 // The numbers of lanes at which loops over a scalar built-in can be vectorised, and what they call then.
 std::vector<int> loop_widths(const lanemath::operation& o, const machine& on);
@@ -45,7 +51,7 @@ void for_each_form(const machine& on, const std::set<std::string>& exported, Eac
   for (const auto& o : lanemath::catalogue)
     for (auto v : lanemath::variants)
       for (int width : lanemath::widths) {
-        const form f{o, v, width};
+        const form f{on, o, v, width};
         if (o.has(v) && !opencl_names(o, v, width).empty() && exported.contains(f.function()) &&
             !left_to_compiler(o, v, on))
           each(f);
