@@ -71,6 +71,8 @@ std::string shares_path();
 // The bit patterns of an operation's arguments, as in the file: "0x3F7FB84A 0x47982860".
 arguments place_in(std::string_view text, const signature& sig);
 
+std::string text_of_place(const operation& o, const arguments& at);
+
 // The error rounded up to so many significant digits; the error as text.
 double rounded_up(double error, int digits);
 std::string text_of_error(double error);

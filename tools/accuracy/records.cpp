@@ -6,6 +6,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -232,6 +233,108 @@ std::string with_head(const std::string& source) {
   return fmt::format("{}{}", fmt::join(paragraphs, "//\n"), rest);
 }
 
+// The forms of an operation that have code of their own, and the variants that share each.
+struct distinct_form {
+  std::vector<variant> of{};
+  int width = 0;  // of a standalone form, or 0
+};
+std::vector<distinct_form> distinct_forms(const operation& o) {
+  std::vector<distinct_form> found;
+  std::vector<variant> by;
+  for (const int width : {0, 1, 2, 3, 4, 8, 16})
+    for (auto v : variants) {
+      if (!o.has(v) || (width && !own_width(o, v, width))) continue;
+      const auto server = width ? o.served_by(width, v) : o.shared[std::size_t(v)];
+      std::size_t k = 0;
+      while (k < found.size() && !(found[k].width == width && by[k] == server)) ++k;
+      if (k == found.size()) {
+        found.push_back({.width = width});
+        by.push_back(server);
+      }
+      found[k].of.push_back(v);
+    }
+  return found;
+}
+
+// What there is to measure: operations that are not exact.
+std::vector<std::size_t> measurable() {
+  std::vector<std::size_t> found;
+  for (std::size_t i = 0; i < catalogue.size(); ++i)
+    if (!is_exact(catalogue[i].group) && find_reference(catalogue[i])) found.push_back(i);
+  return found;
+}
+
+using json = nlohmann::ordered_json;
+
+int list() {
+  auto listed = json::array();
+  for (const auto index : measurable()) {
+    const auto& o = catalogue[index];
+    const auto* text = std::ranges::find_if(families, [&](const auto& each) { return each.group == o.group; });
+    listed.push_back({{"operation", o.name()},
+                      {"family", text->file},
+                      {"single", o.single()},
+                      {"sweeps", can_sweep(o, *find_reference(o))},
+                      {"symmetric", o.symmetry != parity::none}});
+  }
+  fmt::print("{}\n", listed.dump());
+  return 0;
+}
+
+json json_of(const operation& o, const tally& found) {
+  if (found.lanes == 0) return nullptr;
+  return {{"error", text_of_error(found.largest_error)},
+          {"at", text_of_place(o, found.input)},
+          {"lanes", found.lanes},
+          {"rounded", found.correctly_rounded}};
+}
+
+// Measures one portion of an operation's arguments, and prints what it finds.
+int measure(const harness::library& library, const std::string& name, portion which, std::size_t lanes,
+            unsigned threads) {
+  if (which.number >= which.of) throw std::runtime_error("there is no such portion");
+  const auto all = measurable();
+  const auto index = std::ranges::find(all, name, [](std::size_t i) { return catalogue[i].name(); });
+  if (index == all.end()) throw std::runtime_error("no operation to measure: " + name);
+  const auto& o = catalogue[*index];
+  const auto& exact = *find_reference(o);
+  const auto distinct = distinct_forms(o);
+  std::vector<form> forms;
+  for (const auto& each : distinct) {
+    const int width = each.width ? each.width : widths.back();
+    const auto f = library.find(*index, each.of[0], width);
+    if (!f) throw std::runtime_error(fmt::format("{} is not exported by this library", o.name()));
+    forms.push_back({*f, width, o.is_unguarded(each.of[0])});
+  }
+  const bool sweeps = can_sweep(o, exact);
+  auto found =
+      sweeps ? sweep(o, exact, forms, which, threads, [](double) {}) : search(o, exact, forms, lanes, which, threads);
+  auto made = json::array();
+  for (std::size_t k = 0; k < forms.size(); ++k) {
+    std::vector<std::string_view> names;
+    for (auto v : distinct[k].of) names.push_back(name_of(v));
+    const auto climb_from = [&](const arguments& at) {
+      found[k].all.merge(climb(o, exact, forms[k].f, forms[k].width, at, lanes / 20 + 1, which.number + 1));
+    };
+    if (!sweeps && !forms[k].unguarded) {
+      climb_from(found[k].all.input);
+      for (const auto& r : recorded_errors())
+        if (r.at && r.is_of(o, distinct[k].of[0], forms[k].width)) climb_from(*r.at);
+    }
+    json curve = json::array(), parts;
+    for (const auto& [cell, error] : found[k].curve) curve.push_back({cell, error});
+    for (const auto& [part, of] : found[k].parts) parts[part] = json_of(o, of);
+    auto one = json_of(o, found[k].all);
+    one["variants"] = names;
+    one["width"] = distinct[k].width;
+    one["parts"] = parts;
+    one["curve"] = curve;
+    made.push_back(one);
+  }
+  fmt::print("{}\n", made.dump());
+  return 0;
+}
+
 int heads(const std::vector<std::string>& paths, bool only_compare) {
   int different = 0;
   for (const auto& path : paths) {
@@ -271,11 +374,24 @@ int main(int argc, char** argv) try {
   sharing->add_option("-j,--threads", threads)->check(CLI::Range(1, 256))->capture_default_str();
   sharing->add_option("-f,--file", shares, "the file of shares")->check(CLI::ExistingFile)->capture_default_str();
   sharing->add_option("-l,--library", library, "the library to measure");
+  auto* listing = app.add_subcommand("list", "the operations that can be measured, as JSON");
+  std::string operation;
+  portion which;
+  auto* measuring =
+      app.add_subcommand("measure", "the errors of an operation's forms, over all floats or by a search, as JSON");
+  measuring->add_option("OPERATION", operation, "such as expf")->required();
+  measuring->add_option("-p,--portion", which.number, "only this one, from 0 on")->capture_default_str();
+  measuring->add_option("--of", which.of, "portions")->check(CLI::Range(1, 1 << 17))->capture_default_str();
+  measuring->add_option("-n,--lanes", lanes, "of each range, in a search")->check(CLI::PositiveNumber);
+  measuring->add_option("-j,--threads", threads)->check(CLI::Range(1, 256))->capture_default_str();
+  measuring->add_option("-l,--library", library, "the library to measure");
   CLI11_PARSE(app, argc, argv);
-  const int status = *heading    ? heads(sources, only_compare)
-                     : *sharing  ? measure_shares(harness::library(library), operations, lanes, threads, shares)
-                     : *checking ? check(harness::library(library))
-                                 : document(path, only_compare);
+  const int status = *heading     ? heads(sources, only_compare)
+                     : *listing   ? list()
+                     : *measuring ? measure(harness::library(library), operation, which, lanes, threads)
+                     : *sharing   ? measure_shares(harness::library(library), operations, lanes, threads, shares)
+                     : *checking  ? check(harness::library(library))
+                                  : document(path, only_compare);
   harness::finish_output();
   return status;
 } catch (const std::exception& e) {
