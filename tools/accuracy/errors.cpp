@@ -215,7 +215,7 @@ void merge(std::vector<error_record>& records, const error_record& measured) {
   if (line->anywhere && found.error > *line->anywhere)
     throw std::runtime_error(fmt::format("{}: {} ulp are above the bound of every processor, {}", o.name(),
                                          text_of_error(found.error), text_of_error(*line->anywhere)));
-  if (found.error > line->error || (found.error == line->error && (found.rounded || !line->at))) {
+  if (found.rounded || found.error > line->error || (found.error == line->error && !line->at)) {
     line->error = found.error;
     line->at = found.at;
     line->search = found.search;
@@ -223,6 +223,7 @@ void merge(std::vector<error_record>& records, const error_record& measured) {
   }
   if (!found.part.empty()) {
     found.part.clear();
+    found.rounded.reset();
     merge(records, found);
   }
 }

@@ -48,8 +48,9 @@ void write_errors(const std::string& path, std::vector<error_record> records);
 const std::string& errors_path();
 const std::vector<error_record>& recorded_errors();
 
-// Enters a measured error: if it is larger than that of its line of `records`, it replaces it, with its place. The
-// error of a part counts for all arguments too. Throws if a bound that should hold on every processor is broken.
+// Enters a measured error: if it is larger than that of its line of `records`, or the largest of all inputs, it
+// replaces it, with its place. The error of a part counts for all arguments too. Throws if a bound that should hold on
+// every processor is broken.
 void merge(std::vector<error_record>& records, const error_record& found);
 
 // A line of shares.csv beside that file: how many results are correctly rounded, of how many that were measured in a

@@ -66,7 +66,7 @@ class report {
                         text_of(o, t.input));
     empty_ = false;
     const auto bound = bound_of(o, v, width);
-    const bool anything = range == "bounds" || range == "patterns" || range == "all";
+    const bool anything = range == "bounds" || range == "patterns";
     if (anything && o.is_unguarded(v)) return;
     if (bound && t.largest_error > *bound) {
       fmt::print("  above the stated bound of {} ulp\n", *bound);
@@ -81,7 +81,7 @@ class report {
              .part = part_,
              .error = t.largest_error,
              .at = t.input,
-             .search = range == "all"                           ? "all inputs"
+             .search = range == "all"                           ? std::string(swept_inputs(o, v))
                        : range == "a place" || range == "climb" ? "directed search"
                                                                 : fmt::format("{} lanes in one range", t.lanes),
              .rounded = range == "all" ? std::optional(share * 100) : std::nullopt});

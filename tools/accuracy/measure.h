@@ -98,6 +98,8 @@ std::vector<finding> search(const operation& o, const reference& r, std::span<co
 
 // Whether there is a fast stand-in for all results of a function of one float.
 bool can_sweep(const operation& o, const reference& r);
+// Which floats are measured then, in words.
+std::string_view swept_inputs(const operation& o, variant v);
 
 // The forms of such an operation over all 2^32 floats, or a portion of these. The stand-in is computed once for all
 // forms; MPFR judges where it leaves the rounding open, where the error may be the largest, and one lane in 2^14.

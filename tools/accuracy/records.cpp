@@ -1,5 +1,5 @@
-// What is made from the file of errors, and what keeps it true: the tables of the accuracy document, the figures in the
-// heads of source files, and a new measurement at every recorded place.
+// Measures errors for the report, enters them into the file of errors, and keeps what rests on that file true: the
+// figures in the heads of source files, and a new measurement at every recorded place.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
@@ -69,99 +69,11 @@ std::string form_text(const error_record& r, const std::vector<error_record>& re
   return fmt::format("{}{}{}", fmt::join(words, ", "), r.part.empty() ? "" : ": ", r.part);
 }
 
-// Columns without an entry are left out.
-std::string table(const std::vector<std::string>& heads, const std::vector<std::vector<std::string>>& rows) {
-  std::vector<std::string> lines(rows.size() + 2);
-  for (std::size_t column = 0; column < heads.size(); ++column) {
-    if (std::all_of(rows.begin(), rows.end(), [&](const auto& row) { return row[column].empty(); })) continue;
-    lines[0] += fmt::format("| {} ", heads[column]);
-    lines[1] += "|---";
-    for (std::size_t i = 0; i < rows.size(); ++i) lines[i + 2] += fmt::format("| {} ", rows[i][column]);
-  }
-  return fmt::format("{}|\n", fmt::join(lines, "|\n"));
-}
-
-std::string table_of_shares() {
-  std::vector<std::vector<std::string>> rows;
-  for (const auto& s : read_shares(shares_path())) {
-    const auto& o = catalogue[s.index];
-    const error_record form{.index = s.index, .variants = {variant::standard}, .width = s.width, .part = s.part};
-    rows.push_back({fmt::format("`{}`", o.name()), form_text(form, recorded_errors()),
-                    fmt::format("{} million", s.lanes / share::block),
-                    fmt::format("{:.5f} %", 100 * double(s.rounded) / double(s.lanes)), text_of_error(s.error),
-                    text_of(o, s.at)});
-  }
-  return table({"operation", "form", "lanes", "rounded", "largest error", "at"}, rows);
-}
-
-// The table of the families and the precision that a marker names.
-std::string table_of_errors(const std::string& names) {
-  std::istringstream words(names);
-  std::vector<family> groups;
-  std::optional<bool> single;
-  for (std::string word; words >> word;) {
-    const auto* text =
-        std::find_if(std::begin(families), std::end(families), [&](const auto& each) { return each.file == word; });
-    if (text != std::end(families))
-      groups.push_back(text->group);
-    else if (word == "single" || word == "double")
-      single = word == "single";
-    else
-      throw std::runtime_error(fmt::format("no family of operations: {}", word));
-  }
-  std::vector<std::vector<std::string>> rows;
-  const auto& records = recorded_errors();
-  for (const auto& r : records) {
-    const auto& o = catalogue[r.index];
-    if (std::find(groups.begin(), groups.end(), o.group) == groups.end() || (single && *single != o.single())) continue;
-    rows.push_back({fmt::format("`{}`", o.name()), form_text(r, records), text_of_error(r.error),
-                    r.anywhere ? text_of_error(*r.anywhere) : "", r.rounded ? fmt::format("{:.4f} %", *r.rounded) : "",
-                    r.at ? text_of(o, *r.at) : "", r.search});
-  }
-  if (rows.empty()) throw std::runtime_error(fmt::format("no errors of {}", names));
-
-  return table({"operation", "form", "largest error", "any processor", "rounded", "at", "found in"}, rows);
-}
-
-// The document with the tables between its markers made anew.
-std::string with_tables(const std::string& text) {
-  constexpr std::string_view opening = "<!-- errors: ", closing = "<!-- end of errors -->";
-  std::string made;
-  std::istringstream in(text);
-  bool inside = false;
-  for (std::string line; std::getline(in, line);) {
-    if (line == closing) {
-      if (!inside) throw std::runtime_error("the end of a table that did not begin");
-      inside = false;
-    }
-    if (!inside) made += line + '\n';
-    if (line.starts_with(opening)) {
-      if (inside || !line.ends_with(" -->")) throw std::runtime_error("a table that does not end: " + line);
-      inside = true;
-      const auto names = line.substr(opening.size(), line.size() - opening.size() - 4);
-      made += '\n' + (names == "shares" ? table_of_shares() : table_of_errors(names)) + '\n';
-    }
-  }
-  if (inside) throw std::runtime_error("the last table does not end");
-  return made;
-}
-
 std::string text_of_file(const std::string& path) {
   std::ifstream in(path);
   std::ostringstream text;
   if (!(text << in.rdbuf())) throw std::runtime_error("cannot read " + path);
   return text.str();
-}
-
-int document(const std::string& path, bool only_compare) {
-  const auto text = text_of_file(path), made = with_tables(text);
-  if (made == text) return 0;
-  if (only_compare) {
-    fmt::print("{} is not what `lanemath-errors document` makes of {}\n", path, errors_path());
-    return 1;
-  }
-  harness::replace_file(path, made);
-  return 0;
 }
 
 // Measures until every road, or every one of these operations, has so many lanes.
@@ -270,12 +182,15 @@ int list() {
   auto listed = json::array();
   for (const auto index : measurable()) {
     const auto& o = catalogue[index];
+    constexpr std::array abscissas{"argument", "result", "quotient"};
     const auto* text = std::ranges::find_if(families, [&](const auto& each) { return each.group == o.group; });
+    const auto& exact = *find_reference(o);
+    const auto symmetry = exact.second ? exact.symmetry[0] : o.symmetry;
     listed.push_back({{"operation", o.name()},
                       {"family", text->file},
-                      {"single", o.single()},
-                      {"sweeps", can_sweep(o, *find_reference(o))},
-                      {"symmetric", o.symmetry != parity::none}});
+                      {"sweeps", can_sweep(o, exact)},
+                      {"symmetric", symmetry != parity::none},
+                      {"over", abscissas.at(std::size_t(exact.over))}});
   }
   fmt::print("{}\n", listed.dump());
   return 0;
@@ -283,10 +198,44 @@ int list() {
 
 json json_of(const operation& o, const tally& found) {
   if (found.lanes == 0) return nullptr;
-  return {{"error", text_of_error(found.largest_error)},
+  return {{"error", text_of_error(rounded_up(found.largest_error, 6))},
           {"at", text_of_place(o, found.input)},
           {"lanes", found.lanes},
           {"rounded", found.correctly_rounded}};
+}
+
+// Enters the figures of a report into the file of errors.
+int record(const std::string& report, const std::string& path) {
+  const auto figures = json::parse(text_of_file(report));
+  auto records = read_errors(path);
+  for (const auto& [name, of] : figures.at("operations").items()) {
+    const auto index = index_of(name);
+    const auto& o = catalogue[index];
+    for (const auto& one : of.at("forms")) {
+      error_record found{.index = index, .width = one.at("width")};
+      const auto names = one.at("variants").get<std::vector<std::string>>();
+      for (auto v : variants)
+        if (std::ranges::find(names, name_of(v)) != names.end()) found.variants.push_back(v);
+      if (found.variants.empty()) throw std::runtime_error("no variant of " + name);
+      const bool sweeps = of.at("all");
+      const auto enter = [&](const std::string& part, const json& figures) {
+        found.part = part;
+        found.error = std::stod(figures.at("error").get<std::string>());
+        found.at = place_in(figures.at("at").get<std::string>(), o.sig);
+        found.search = sweeps ? swept_inputs(o, found.variants[0]) : "directed search";
+        if (sweeps) found.rounded = 100 * figures.at("rounded").get<double>() / figures.at("lanes").get<double>();
+        merge(records, found);
+      };
+      enter("", one);
+      for (const auto& [part, figures] : one.at("parts").items())
+        if (std::ranges::any_of(records, [&](const auto& r) {
+              return r.part == part && r.index == index && r.width == found.width && r.has(found.variants[0]);
+            }))
+          enter(part, figures);
+    }
+  }
+  write_errors(path, std::move(records));
+  return 0;
 }
 
 // Measures one portion of an operation's arguments, and prints what it finds.
@@ -358,9 +307,6 @@ int main(int argc, char** argv) try {
   bool only_compare = false;
   auto* checking = app.add_subcommand("check", "measure every recorded place again");
   checking->add_option("-l,--library", library, "the library to measure");
-  auto* documenting = app.add_subcommand("document", "make the tables of the accuracy document");
-  documenting->add_option("FILE", path, "the document")->required();
-  documenting->add_flag("--check", only_compare, "write nothing; fail where the document would change");
   std::vector<std::string> sources, operations;
   auto* heading = app.add_subcommand("heads", "state the errors in the heads of source files");
   heading->add_option("FILES", sources, "source files that export functions")->required()->check(CLI::ExistingFile);
@@ -385,13 +331,15 @@ int main(int argc, char** argv) try {
   measuring->add_option("-n,--lanes", lanes, "of each range, in a search")->check(CLI::PositiveNumber);
   measuring->add_option("-j,--threads", threads)->check(CLI::Range(1, 256))->capture_default_str();
   measuring->add_option("-l,--library", library, "the library to measure");
+  auto* recording = app.add_subcommand("record", "enter the figures of a report into the file of errors");
+  recording->add_option("REPORT", path, "its JSON")->required();
   CLI11_PARSE(app, argc, argv);
   const int status = *heading     ? heads(sources, only_compare)
                      : *listing   ? list()
                      : *measuring ? measure(harness::library(library), operation, which, lanes, threads)
+                     : *recording ? record(path, errors_path())
                      : *sharing   ? measure_shares(harness::library(library), operations, lanes, threads, shares)
-                     : *checking  ? check(harness::library(library))
-                                  : document(path, only_compare);
+                                  : check(harness::library(library));
   harness::finish_output();
   return status;
 } catch (const std::exception& e) {

@@ -3,9 +3,9 @@ import fnmatch
 import math
 import pathlib
 import re
-import shutil
-import subprocess
 import tomllib
+
+import common
 
 WORDS = tomllib.loads((pathlib.Path(__file__).parent / "performance.toml").read_text())
 # Other libraries' functions that are inlined into the caller's loop, and loops of plain C++.
@@ -229,9 +229,6 @@ def opencl_table(measurements):
 
 def plot(title, names, columns, label, scale):
     """Bars, side by side for each name: columns maps a title to a list of values, None where there is none."""
-    gnuplot = shutil.which("gnuplot")
-    if not gnuplot:
-        raise SystemExit("report: there is no gnuplot (Debian package gnuplot-nox)")
     data = "\n".join(" ".join([f'"{name}"'] + [str(values[i] or "NaN") for values in columns.values()])
                      for i, name in enumerate(names))
     colours = ["#1f5fa8", "#e08a1e", "#7a7a7a", "#4f9d4f", "#b04a6a"]
@@ -253,10 +250,7 @@ set key outside below samplen 1
 set xtics rotate by -35 noenhanced scale 0
 plot {series}
 """
-    done = subprocess.run([gnuplot], input=script, text=True, capture_output=True)
-    if done.returncode != 0:
-        raise SystemExit(f"report: gnuplot: {done.stderr}")
-    return done.stdout
+    return common.gnuplot(script)
 
 
 def family_plot(title, forms):
