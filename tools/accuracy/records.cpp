@@ -176,6 +176,12 @@ std::vector<std::size_t> measurable() {
   return found;
 }
 
+std::size_t measurable(const std::string& name) {
+  for (const auto index : measurable())
+    if (catalogue[index].name() == name) return index;
+  throw std::runtime_error("no operation to measure: " + name);
+}
+
 using json = nlohmann::ordered_json;
 
 int list() {
@@ -209,7 +215,7 @@ int record(const std::string& report, const std::string& path) {
   const auto figures = json::parse(text_of_file(report));
   auto records = read_errors(path);
   for (const auto& [name, of] : figures.at("operations").items()) {
-    const auto index = index_of(name);
+    const auto index = measurable(name);
     const auto& o = catalogue[index];
     for (const auto& one : of.at("forms")) {
       error_record found{.index = index, .width = one.at("width")};
@@ -242,16 +248,14 @@ int record(const std::string& report, const std::string& path) {
 int measure(const harness::library& library, const std::string& name, portion which, std::size_t lanes,
             unsigned threads) {
   if (which.number >= which.of) throw std::runtime_error("there is no such portion");
-  const auto all = measurable();
-  const auto index = std::ranges::find(all, name, [](std::size_t i) { return catalogue[i].name(); });
-  if (index == all.end()) throw std::runtime_error("no operation to measure: " + name);
-  const auto& o = catalogue[*index];
+  const auto index = measurable(name);
+  const auto& o = catalogue[index];
   const auto& exact = *find_reference(o);
   const auto distinct = distinct_forms(o);
   std::vector<form> forms;
   for (const auto& each : distinct) {
     const int width = each.width ? each.width : widths.back();
-    const auto f = library.find(*index, each.of[0], width);
+    const auto f = library.find(index, each.of[0], width);
     if (!f) throw std::runtime_error(fmt::format("{} is not exported by this library", o.name()));
     forms.push_back({*f, width, o.is_unguarded(each.of[0])});
   }
@@ -303,7 +307,7 @@ int heads(const std::vector<std::string>& paths, bool only_compare) {
 int main(int argc, char** argv) try {
   CLI::App app{"The recorded errors of lanemath's functions."};
   app.require_subcommand(1);
-  std::string library = harness::default_library(), path;
+  std::string library = harness::default_library(), errors = errors_path(), path;
   bool only_compare = false;
   auto* checking = app.add_subcommand("check", "measure every recorded place again");
   checking->add_option("-l,--library", library, "the library to measure");
@@ -333,11 +337,12 @@ int main(int argc, char** argv) try {
   measuring->add_option("-l,--library", library, "the library to measure");
   auto* recording = app.add_subcommand("record", "enter the figures of a report into the file of errors");
   recording->add_option("REPORT", path, "its JSON")->required();
+  recording->add_option("-f,--file", errors, "the file of errors")->check(CLI::ExistingFile)->capture_default_str();
   CLI11_PARSE(app, argc, argv);
   const int status = *heading     ? heads(sources, only_compare)
                      : *listing   ? list()
                      : *measuring ? measure(harness::library(library), operation, which, lanes, threads)
-                     : *recording ? record(path, errors_path())
+                     : *recording ? record(path, errors)
                      : *sharing   ? measure_shares(harness::library(library), operations, lanes, threads, shares)
                                   : check(harness::library(library));
   harness::finish_output();

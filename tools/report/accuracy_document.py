@@ -196,6 +196,7 @@ class Axis:
         found = [(f"{10.0**k:g}" if -3 <= k <= 4 else f"1e{k}", k * math.log2(10) - self.least)
                  for k in decades if k % step == 0]
         if both:
+            found = [(text, at) for text, at in found if at > 0.08 * self.span]
             found += [(f"-{text}", self.mirrored(at)) for text, at in found]
         return ", ".join(f'"{text}" {at:.3f}' for text, at in found)
 
@@ -217,12 +218,13 @@ def panel(name, operation, record):
                     set(line["variants"].split()) & set(form["variants"]))
         title = ", ".join(form["variants"]) + (f", width {form['width']}" if form["width"] else "")
         colour, limit = COLOURS[i % len(COLOURS)], float(bound(line))
-        worst = axis.position(abscissa(operation["over"], line["at"], name)) if line["at"] else 0
         data.append(f"$curve{i} << EOD\n{axis.points(form['curves'])}\nEOD")
         series += [f"$curve{i} with lines lw 1.4 lc rgb '{colour}' title '{title}'",
-                   f"{limit:g} with lines dt 2 lc rgb '{colour}' notitle",
-                   f"'+' using ({worst:.2f}):({float(line['error']):g}) every ::::0 with points pt 7 ps 0.5 "
-                   f"lc rgb '{colour}' notitle"]
+                   f"{limit:g} with lines dt 2 lc rgb '{colour}' notitle"]
+        if line["at"]:
+            worst = axis.position(abscissa(operation["over"], line["at"], name))
+            series.append(f"'+' using ({worst:.2f}):({float(line['error']):g}) every ::::0 with points pt 7 ps 0.5 "
+                          f"lc rgb '{colour}' notitle")
         tops.append(limit)
     scale = f"set logscale y; set yrange [{LEAST}:{max(tops) * 2:g}]" if max(tops) > 20 else \
         f"unset logscale y; set yrange [0:{max(tops) * 1.15:g}]"
@@ -264,16 +266,14 @@ def make(figures, path):
     for family in WORDS["family"]:
         parts.append(f"## {family['title']}")
         of_family = {name: of for name, of in operations.items() if of["family"] == family["name"]}
-        manipulated = [line for line in record if line["operation"] not in operations] \
-            if family["name"] == "manipulation" else []
         for precision, words in PRECISIONS.items():
             of = {name: each for name, each in of_family.items() if single(name) == (precision == "float")}
             if of:
                 file = f"accuracy-{family['name'].replace('_', '-')}-{precision}.svg"
                 files[file] = picture(of, record)
                 parts.append(f"![{family['title']} in {words}: errors in ulp]({file})")
-            lines = [line for line in record if line["operation"] in of] or \
-                [line for line in manipulated if single(line["operation"]) == (precision == "float")]
+            unmeasured = [name for name in family.get("operations", []) if single(name) == (precision == "float")]
+            lines = [line for line in record if line["operation"] in of or line["operation"] in unmeasured]
             if lines:
                 parts.append(f"**{words.capitalize()}**\n\n{errors_table(lines, figures)}")
         if family["remarks"]:
