@@ -233,11 +233,11 @@ int record(const std::string& report, const std::string& path) {
         merge(records, found);
       };
       enter("", one);
-      for (const auto& [part, figures] : one.at("parts").items())
+      for (const auto& part : one.at("parts").items())
         if (std::ranges::any_of(records, [&](const auto& r) {
-              return r.part == part && r.index == index && r.width == found.width && r.has(found.variants[0]);
+              return r.part == part.key() && r.index == index && r.width == found.width && r.has(found.variants[0]);
             }))
-          enter(part, figures);
+          enter(part.key(), part.value());
     }
   }
   write_errors(path, std::move(records));

@@ -5,7 +5,6 @@
 #include <atomic>
 #include <chrono>
 #include <cmath>
-#include <cstring>
 #include <limits>
 #include <numeric>
 #include <set>
@@ -43,10 +42,11 @@ struct verdicts {
   }
 };
 
-void judge_run(const double* near, const float* got, std::size_t lanes, verdicts& v) {
+void judge_floats(const double* near, const std::uint32_t* got, std::size_t lanes, verdicts& v) {
   for (std::size_t i = 0; i < lanes; ++i) {
     const double value = near[i], size = std::max(0x1p-126, std::fabs(value));
-    const float result = got[i], low = float(value * (1 - margin)), high = float(value * (1 + margin));
+    const float result = std::bit_cast<float>(got[i]), low = float(value * (1 - margin)),
+                high = float(value * (1 + margin));
     // 1 / the last place.
     const double scale = std::bit_cast<double>((2069ull << 52) - (std::bit_cast<std::uint64_t>(size) & 0x7FFull << 52));
     // No branches, so that this is done in vectors.
@@ -60,10 +60,10 @@ void judge_run(const double* near, const float* got, std::size_t lanes, verdicts
 }
 
 // Integers are right or wrong.
-void judge_run(const double* near, const std::int32_t* got, std::size_t lanes, verdicts& v) {
+void judge_integers(const double* near, const std::uint32_t* got, std::size_t lanes, verdicts& v) {
   for (std::size_t i = 0; i < lanes; ++i) {
     v.error[i] = 0;
-    v.same[i] = got[i] == near[i];
+    v.same[i] = std::int32_t(got[i]) == near[i];
     v.open[i] = !v.same[i];
   }
   v.lanes = lanes;
@@ -73,7 +73,6 @@ class sweeper {
  public:
   sweeper(const operation& o, const reference& r, std::span<const form> forms)
       : o_(o), r_(r), forms_(forms), found_(forms.size()), results_(forms.size()) {
-    results_.resize(forms.size());
     for (auto& each : results_)
       each = {std::vector<std::uint32_t>(padded_block), std::vector<std::uint32_t>(padded_block)};
     for (const auto& part : r.single_parts)
@@ -171,10 +170,7 @@ class sweeper {
         }
       if (!judged[k]) {
         auto& v = verdicts_.at(k);
-        if (type_of(result) == lane::f32)
-          judge_run(&near_[result][from], reinterpret_cast<const float*>(got + from), to - from, v);
-        else
-          judge_run(&near_[result][from], reinterpret_cast<const std::int32_t*>(got + from), to - from, v);
+        (type_of(result) == lane::f32 ? judge_floats : judge_integers)(&near_[result][from], got + from, to - from, v);
         if (r_.left_out)
           for (std::size_t i = from; i < to; ++i)
             if (r_.left_out(std::bit_cast<float>(patterns_[i]))) v.leave_out(i - from);

@@ -25,7 +25,9 @@ double fast_sign_of_gamma(double x) {
   const double whole = std::floor(x), half = whole / 2;
   return x == 0 ? std::copysign(1, x) : whole != x && std::floor(half) != half ? -1 : 1;
 }
-bool is_large_odd_integer(float x) { return x < -0x1p22f && std::floor(x) == x && std::floor(x / 2) != x / 2; }
+bool is_large_odd_integer(float x) {
+  return x < -0x1p22f && x > -0x1p24f && std::floor(x) == x && std::floor(x / 2) != x / 2;
+}
 
 const std::vector<range> log_gamma_ranges{{"typical", {{0.5, 30}}},   {"to 4", {{0, 4}}},    {"octaves", {{4, 600}}},
                                           {"large", {{500, 1e6}}},    {"roots", {{-4, -2}}}, {"negative", {{-17.5, 0}}},
