@@ -273,7 +273,8 @@ def make(figures, path):
                 files[file] = picture(of, record)
                 parts.append(f"![{family['title']} in {words}: errors in ulp]({file})")
             unmeasured = [name for name in family.get("operations", []) if single(name) == (precision == "float")]
-            lines = [line for line in record if line["operation"] in of or line["operation"] in unmeasured]
+            lines = sorted((line for line in record if line["operation"] in of or line["operation"] in unmeasured),
+                           key=lambda line: line["operation"])
             if lines:
                 parts.append(f"**{words.capitalize()}**\n\n{errors_table(lines, figures)}")
         if family["remarks"]:
