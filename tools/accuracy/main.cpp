@@ -57,6 +57,7 @@ class report {
   }
 
   void add(const operation& o, variant v, int width, std::string_view range, const tally& t) {
+    if (t.lanes == 0) throw std::runtime_error(fmt::format("{} is meant to differ there", o.name()));
     const auto name = v == variant::standard ? "default" : suffix(v);
     const double share = double(t.correctly_rounded) / double(t.lanes);
     fmt::print("{:<10} {:<8} {:>5} {:<10} {:>10.4f} {:>10.4f} %  {}\n", o.name(), name, width, range, t.largest_error,

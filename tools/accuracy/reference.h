@@ -48,7 +48,7 @@ struct reference {
   double (*fast_second)(double) = nullptr;
   std::array<parity, 2> symmetry{};  // of two results
   std::vector<part> single_parts{};
-  bool (*left_out)(float) = nullptr;  // arguments whose results are meant to be others, see docs/design.md
+  bool (*left_out)(lane, double) = nullptr;  // arguments whose results are meant to be others, see docs/design.md
   abscissa over = abscissa::argument;
 };
 

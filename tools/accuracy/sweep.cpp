@@ -173,7 +173,7 @@ class sweeper {
         (type_of(result) == lane::f32 ? judge_floats : judge_integers)(&near_[result][from], got + from, to - from, v);
         if (r_.left_out)
           for (std::size_t i = from; i < to; ++i)
-            if (r_.left_out(std::bit_cast<float>(patterns_[i]))) v.leave_out(i - from);
+            if (r_.left_out(lane::f32, std::bit_cast<float>(patterns_[i]))) v.leave_out(i - from);
         v.sum_up(to - from);
         judged[k] = &v;
       }
@@ -235,7 +235,7 @@ bool can_sweep(const operation& o, const reference& r) {
 
 std::string_view swept_inputs(const operation& o, variant v) {
   if (o.is_unguarded(v)) return "all inputs but zeros and denormals and infinity";
-  return find_reference(o)->left_out ? "all inputs but odd integers below -2^22" : "all inputs";
+  return find_reference(o)->left_out ? "all inputs but every fourth integer below -2^22" : "all inputs";
 }
 
 std::vector<finding> sweep(const operation& o, const reference& r, std::span<const form> forms, portion which,

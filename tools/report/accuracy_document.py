@@ -239,7 +239,7 @@ def picture(operations, record):
     return common.gnuplot(f"""set terminal svg size 760,{230 * rows} font "sans-serif,11" background "white"
 set multiplot layout {rows},2
 set key below horizontal samplen 1
-set lmargin 7; set rmargin 2; set tmargin 2
+set lmargin 7; set rmargin 3; set tmargin 2
 set samples 2
 set grid
 set xtics noenhanced scale 0
