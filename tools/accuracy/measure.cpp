@@ -248,7 +248,7 @@ tally measure_by_stand_in(const operation& o, const reference& r, const harness:
 }
 
 tally climb(const operation& o, const reference& r, const harness::function& f, int width, const arguments& from,
-            std::size_t lanes_a_round, std::uint64_t seed) {
+            std::size_t lanes_a_round, std::uint64_t seed, unsigned threads) {
   constexpr int patience = 5, most_rounds = 100;
   std::mt19937_64 random(seed);
   tally best = measure_at(o, r, f, width, from);
@@ -261,7 +261,7 @@ tally climb(const operation& o, const reference& r, const harness::function& f, 
         tuple[i] = is_floating(type) ? unordered(type, ordered(type, tuple[i]) + distance)
                                      : std::uint32_t(tuple[i] + std::uint64_t(distance));
       }
-    const auto found = measure(o, r, f, width, around);
+    const auto found = measure(o, r, std::array{form{f, width}}, around, threads)[0].all;
     if (found.largest_error > best.largest_error) last_growth = round;
     best.merge(found);
   }

@@ -33,6 +33,8 @@ struct tally {
   }
 };
 
+unsigned cores();
+
 // A form to be measured.
 struct form {
   harness::function f;
@@ -84,7 +86,7 @@ tally measure_by_stand_in(const operation& o, const reference& r, const harness:
 // The largest error found by climbing from a place: rounds of tuples around the worst so far, at distances of every
 // size, until round after round finds nothing larger.
 tally climb(const operation& o, const reference& r, const harness::function& f, int width, const arguments& from,
-            std::size_t lanes_a_round, std::uint64_t seed);
+            std::size_t lanes_a_round, std::uint64_t seed, unsigned threads = cores());
 
 // One of some equal portions of the work.
 struct portion {
@@ -106,7 +108,5 @@ std::string_view swept_inputs(const operation& o, variant v);
 // Throws if the stand-in is found to be worse than it should be. `progress` receives the share that is done.
 std::vector<finding> sweep(const operation& o, const reference& r, std::span<const form> forms, portion which,
                            unsigned threads, const std::function<void(double)>& progress);
-
-unsigned cores();
 
 }  // namespace lanemath::accuracy

@@ -222,7 +222,8 @@ int record(const std::string& report, const std::string& path) {
       const auto names = one.at("variants").get<std::vector<std::string>>();
       for (auto v : variants)
         if (std::ranges::find(names, name_of(v)) != names.end()) found.variants.push_back(v);
-      if (found.variants.empty()) throw std::runtime_error("no variant of " + name);
+      if (found.variants.empty() || own_width(o, found.variants[0], found.width) != found.width)
+        throw std::runtime_error("no form of " + name);
       const bool sweeps = of.at("all");
       const auto enter = [&](const std::string& part, const json& figures) {
         found.part = part;
@@ -267,7 +268,7 @@ int measure(const harness::library& library, const std::string& name, portion wh
     std::vector<std::string_view> names;
     for (auto v : distinct[k].of) names.push_back(name_of(v));
     const auto climb_from = [&](const arguments& at) {
-      found[k].all.merge(climb(o, exact, forms[k].f, forms[k].width, at, lanes / 20 + 1, which.number + 1));
+      found[k].all.merge(climb(o, exact, forms[k].f, forms[k].width, at, lanes / 20 + 1, which.number + 1, threads));
     };
     if (!sweeps && !forms[k].unguarded) {
       climb_from(found[k].all.input);
