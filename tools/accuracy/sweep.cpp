@@ -42,9 +42,10 @@ struct verdicts {
   }
 };
 
-void judge_floats(const double* near, const std::uint32_t* got, std::size_t lanes, verdicts& v) {
+void judge_run(const double* near, const std::uint32_t* got, std::size_t lanes, verdicts& v) {
   for (std::size_t i = 0; i < lanes; ++i) {
-    const double value = near[i], size = std::max(0x1p-126, std::fabs(value));
+    // A value next to a power of two counts as one.
+    const double value = near[i], size = std::max(0x1p-126, std::fabs(value * (1 + margin)));
     const float result = std::bit_cast<float>(got[i]), low = float(value * (1 - margin)),
                 high = float(value * (1 + margin));
     // 1 / the last place.
@@ -55,16 +56,6 @@ void judge_floats(const double* near, const std::uint32_t* got, std::size_t lane
     v.same[i] = (decided & int(result == low)) | (int(value != value) & int(result != result));
     v.open[i] = !(finite | v.same[i]);
     v.error[i] = finite ? std::fabs(result - value) * scale : 0;
-  }
-  v.lanes = lanes;
-}
-
-// Integers are right or wrong.
-void judge_integers(const double* near, const std::uint32_t* got, std::size_t lanes, verdicts& v) {
-  for (std::size_t i = 0; i < lanes; ++i) {
-    v.error[i] = 0;
-    v.same[i] = std::int32_t(got[i]) == near[i];
-    v.open[i] = !v.same[i];
   }
   v.lanes = lanes;
 }
@@ -105,7 +96,6 @@ class sweeper {
   void stand_in(int result, std::uint32_t first) {
     const auto near = result ? r_.fast_second : r_.fast;
     for (std::uint32_t i = 0; i < block; ++i) near_[result][i] = near(std::bit_cast<float>(first + i));
-    check(first + first / block * 10007 % block, result);
   }
 
   void add_block(std::uint32_t first) {
@@ -117,6 +107,11 @@ class sweeper {
         evaluate(forms_[k], results_[k]);
         measured.push_back(k);
       }
+    const std::size_t sampled = first / block * 10007 % block;
+    for (int result = 0; result <= has_second(); ++result) {
+      check(patterns_[sampled], result);
+      for (const std::size_t k : measured) judge_sample(k, result, sampled);
+    }
     std::size_t from = 0;
     for (auto cut = cuts_.upper_bound(first); from < block; ++cut) {
       const std::size_t to = cut == cuts_.end() ? block : std::min<std::size_t>(*cut - first, block);
@@ -149,13 +144,24 @@ class sweeper {
   void check(std::uint32_t pattern, int result) {
     value_at(pattern, result);
     const double near = near_[result][pattern % block], exact = mpfr_get_d(exact_.v, MPFR_RNDN);
-    mpfr_sub_d(exact_.v, exact_.v, near, MPFR_RNDN);
-    if (std::isnan(near)             ? std::isnan(exact)
-        : std::fabs(near) > 0x1p200  ? std::copysign(exact, exact * near) > 0x1p199
-        : std::fabs(near) < 0x1p-200 ? std::fabs(exact) < 0x1p-199
-                                     : std::fabs(mpfr_get_d(exact_.v, MPFR_RNDN)) <= std::fabs(near) * (margin / 2))
+    mpfr_sub_d(difference_.v, exact_.v, near, MPFR_RNDN);
+    if (std::isnan(near)            ? std::isnan(exact)
+        : std::fabs(near) > 0x1p200 ? std::copysign(exact, exact * near) > 0x1p199
+        : std::fabs(near) < 0x1p-200
+            ? std::fabs(exact) < 0x1p-199
+            : std::fabs(mpfr_get_d(difference_.v, MPFR_RNDN)) <= std::fabs(near) * (margin / 2))
       return;
     throw std::runtime_error(fmt::format("the stand-in for {} is off at {}", o_.name(), text_of(lane::f32, pattern)));
+  }
+
+  // Long runs of values just below a power of two, such as 1, have errors that only MPFR sees.
+  void judge_sample(std::size_t form, int result, std::size_t lane_of_block) {
+    const std::uint32_t pattern = patterns_[lane_of_block];
+    const float x = std::bit_cast<float>(pattern);
+    if (r_.left_out && r_.left_out(lane::f32, x)) return;
+    const double error = judge(lane::f32, exact_.v, std::bit_cast<float>(results_[form][result][lane_of_block])).error;
+    found_[form].all.merge({.largest_error = error, .input = {pattern}});
+    found_[form].add_to_curve(x, error);
   }
 
   // Forms whose bits are the same are judged once.
@@ -170,7 +176,7 @@ class sweeper {
         }
       if (!judged[k]) {
         auto& v = verdicts_.at(k);
-        (type_of(result) == lane::f32 ? judge_floats : judge_integers)(&near_[result][from], got + from, to - from, v);
+        judge_run(&near_[result][from], got + from, to - from, v);
         if (r_.left_out)
           for (std::size_t i = from; i < to; ++i)
             if (r_.left_out(lane::f32, std::bit_cast<float>(patterns_[i]))) v.leave_out(i - from);
@@ -199,8 +205,7 @@ class sweeper {
       for (std::size_t i = 0; i < to - from; ++i) {
         if (!v.open[i] && !(may_be_worst && v.error[i] >= v.largest - 2 * doubt)) continue;
         value_at(patterns_[from + i], result);
-        const auto verdict =
-            judge(type_of(result), exact_.v, value_of(type_of(result), results_[form][result][from + i]));
+        const auto verdict = judge(lane::f32, exact_.v, std::bit_cast<float>(results_[form][result][from + i]));
         add(verdict.error, i);
         if (!v.open[i]) continue;
         into.correctly_rounded += verdict.correct;
@@ -212,8 +217,6 @@ class sweeper {
     return largest;
   }
 
-  lane type_of(int result) const { return result ? o_.sig.second : o_.sig.result; }
-
   const operation& o_;
   const reference& r_;
   std::span<const form> forms_;
@@ -223,7 +226,7 @@ class sweeper {
   std::set<std::uint32_t> cuts_;  // no run contains both sides of one
   std::vector<std::uint32_t> patterns_ = std::vector<std::uint32_t>(block);
   std::array<std::vector<double>, 2> near_{std::vector<double>(block), std::vector<double>(block)};
-  big exact_;
+  big exact_, difference_;
   big_arguments given_;
 };
 

@@ -19,7 +19,7 @@ TOOL = BUILD / "bin/lanemath-errors"
 LIBRARY = BUILD / "lib/__ocl_lanemath_h8.so.3.5"
 RECORD = ROOT / "tools/accuracy/errors.csv"
 # In how many portions the floats of an operation are measured, and how often a search is repeated with other lanes.
-SWEEPS, SEARCHES, LANES = 8, 2, 50_000
+SWEEPS, SEARCHES, LANES = 8, 1, 50_000
 
 
 def combined(portions):

@@ -4,6 +4,7 @@ import ctypes
 import decimal
 import math
 import pathlib
+import re
 import statistics
 import struct
 import tomllib
@@ -61,8 +62,7 @@ def rounded_up(text, digits):
 
 def number(value):
     """As a person would write it: three digits of a small one, 6.15e7."""
-    value = float(value)
-    return f"{value:.3g}".replace("e+0", "e").replace("e+", "e") if value < 1e5 else f"{value:.2e}".replace("e+0", "e")
+    return f"{float(value):.3g}".replace("e+0", "e").replace("e+", "e")
 
 
 def bound(line):
@@ -164,7 +164,7 @@ def shares_table(path, figures):
 
 class Axis:
     """Magnitudes from left to right, by their binades; those of negative arguments mirrored to the left of them."""
-    COLUMNS = 150
+    COLUMNS = 100
 
     def __init__(self, name):
         low, *high = WORDS["axis"][base(name)]
@@ -236,7 +236,7 @@ def panel(name, operation, record):
 def picture(operations, record):
     rows = (len(operations) + 1) // 2
     panels = "\n".join(panel(name, of, record) for name, of in operations.items())
-    return common.gnuplot(f"""set terminal svg size 760,{230 * rows} font "sans-serif,11" background "white"
+    drawn = common.gnuplot(f"""set terminal svg size 760,{230 * rows} font "sans-serif,11" background "white"
 set multiplot layout {rows},2
 set key below horizontal samplen 1
 set lmargin 7; set rmargin 3; set tmargin 2
@@ -247,6 +247,7 @@ set ytics scale 0
 {panels}
 unset multiplot
 """)
+    return re.sub(r"(\d\.\d)\d(?=[, ])", r"\1", drawn)  # a tenth of a pixel is enough
 
 
 def make(figures, path):
