@@ -62,7 +62,8 @@ def rounded_up(text, digits):
 
 def number(value):
     """As a person would write it: three digits of a small one, 6.15e7."""
-    return f"{float(value):.3g}".replace("e+0", "e").replace("e+", "e")
+    rounded = float(f"{float(value):.3g}")
+    return f"{rounded:g}" if rounded < 1e5 else f"{rounded:.3g}".replace("e+0", "e").replace("e+", "e")
 
 
 def bound(line):
