@@ -56,7 +56,7 @@ std::vector<reference> special_references() {
        .single_bounds = {1, 1.25, 1.5, 1.75, 2, 4, 9, 8192, 4.085e36},
        .double_bounds = {0.875, 1, 1.25, 1.75, 2, 2.25, 4, 15, 17, 512, 2.556e305},
        .fast = fast_log_gamma},
-      // Without a stand-in: the first results are those of lgamma, and take long.
+      // Without a stand-in: a sweep would take long.
       {.name = "lgammar", .value = log_gamma, .ranges = log_gamma_ranges, .second = sign_of_gamma},
       {.name = "tgamma",
        .value = unary<mpfr_gamma>,
