@@ -31,7 +31,7 @@ install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT license)
 
 set(docs ${PROJECT_SOURCE_DIR}/docs)
-file(GLOB documents ${docs}/*.md ${docs}/*.svg ${docs}/performance.json)
+file(GLOB documents ${docs}/*.md ${docs}/*.svg ${docs}/performance.json ${docs}/accuracy.json)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation
   USE_SOURCE_PERMISSIONS PATTERN CMakeLists.txt EXCLUDE)
 install(FILES ${documents} ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_SOURCE_DIR}/SECURITY.md

@@ -4,7 +4,7 @@
 // form: a shorter polynomial, and in double the root from a float estimate. Beyond 1 the result is a NaN.
 //
 // Largest errors found, in ulp:
-//   acos: default 1.31955; _native 4.85337e6 (6.4e6 on any processor)
+//   acos: default 1.32109; _native 4.85337e6 (6.4e6 on any processor)
 //   acosf: default 1.23813; _native 532.466
 //
 // Looks odd and is meant, see docs/design.md: signs of NaNs.

@@ -6,7 +6,7 @@
 // estimated reciprocal, which fails only at infinity.
 //
 // Largest errors found, in ulp:
-//   atan: default, other widths 2.61862; _native 2.16494e7 (2.25e7 on any processor); default, width 2 4.62302
+//   atan: default, other widths 2.62227; _native 2.16494e7 (2.25e7 on any processor); default, width 2 4.62302
 //   atanf: default, other widths 2.81155; _native 3771 (3780 on any processor); default, width 4 3.75196
 //
 // Looks odd and is meant, see docs/design.md: signs and payloads of NaNs.

@@ -4,7 +4,7 @@
 // corrected once, or twice in the default double form. The native form: a shorter polynomial.
 //
 // Largest errors found, in ulp:
-//   atan2pi: default 4.54523 (4.55 on any processor); _native 2.17914e7 (2.25e7 on any processor)
+//   atan2pi: default 4.54523 (4.55 on any processor); _native 2.17962e7 (2.25e7 on any processor)
 //   atan2pif: default 5.50821 (6.3 on any processor); _native 3774.92 (3780 on any processor)
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"

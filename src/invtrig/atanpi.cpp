@@ -4,7 +4,7 @@
 // corrected estimate, except in the default double form, which divides. The native form: a shorter polynomial.
 //
 // Largest errors found, in ulp:
-//   atanpi: default 3.2659; _native 2.17803e7 (2.25e7 on any processor)
+//   atanpi: default 3.2659; _native 2.17805e7 (2.25e7 on any processor)
 //   atanpif: default 3.60718 (4.8 on any processor); _native 3773.1 (3780 on any processor)
 #include "invtrig/arc_tangent.h"
 #include "invtrig/arc_tangent_rare.h"

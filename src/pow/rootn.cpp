@@ -2,7 +2,7 @@
 // native form takes 1/n in one. Rare lanes are computed in pairs of doubles.
 //
 // Largest errors found, in ulp:
-//   rootn: default 1.032; _native 6.44963e7 (1.7e8 on any processor)
+//   rootn: default 1.032; _native 6.44969e7 (1.7e8 on any processor)
 #include "pow/power_double.h"
 #include "pow/power_rare_double.h"
 #include "pow/power_widened.h"

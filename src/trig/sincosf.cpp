@@ -2,8 +2,8 @@
 // half, by the sign of the remainder. Otherwise as the sine.
 //
 // Largest errors found, in ulp:
-//   sincosf: default 2.83095; _native, _rm 2524.62
-//   sincosregf: default 2.83095; _native 2524.62
+//   sincosf: default 2.86099; _native, _rm 2524.73
+//   sincosregf: default 2.86099; _native 2524.73
 #include "trig/sine_single.h"
 
 namespace lanemath {

@@ -7,7 +7,7 @@
 //
 // Largest errors found, in ulp:
 //   sinpi: default 0.782797; _native 4.78642e7
-//   sinpif: default 0.600209; _native 1816.27
+//   sinpif: default 0.600229; _native 1816.27
 //   cospi: default 0.632164; _native 4.78642e7
 //   cospif: default 0.600111; _native 1816.01
 //

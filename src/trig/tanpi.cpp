@@ -6,7 +6,7 @@
 //
 // Largest errors found, in ulp:
 //   tanpi: default 0.782797; _native 1.05655e7
-//   tanpif: default 0.538154; _native 741.345
+//   tanpif: default 0.538154; _native 741.58
 //
 // Looks odd and is meant, see docs/design.md: signs at whole numbers.
 #include "trig/pi_scaled.h"

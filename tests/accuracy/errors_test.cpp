@@ -92,6 +92,12 @@ TEST_F(ErrorFile, KeepsTheLargerErrorAndItsPlace) {
   accuracy::merge(records, found(2.0000001, 3));
   EXPECT_EQ(rewritten(records), head + "expf,native half,,,2.00001,0x00000003,here,,\n");
 
+  // What was found at all inputs is the largest.
+  auto whole = found(1.5, 5);
+  whole.rounded = 60;
+  accuracy::merge(records, whole);
+  EXPECT_EQ(rewritten(records), head + "expf,native half,,,1.5,0x00000005,here,60.0000,\n");
+
   auto part = found(3, 4);
   part.part = "some";
   accuracy::merge(records, part);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <limits>
 #include <tuple>
@@ -89,6 +90,73 @@ TEST(Sampling, StaysInTheRangeAndReachesTheBounds) {
   EXPECT_GT(infinite, 0u);
   EXPECT_GT(zero, 0u);
   EXPECT_GT(at_bound, 0u);
+}
+
+// A block of floats of both signs, of every operation that can be swept.
+TEST(Sweep, FindsWhatMpfrAloneFinds) {
+  constexpr std::uint64_t blocks = 1 << 17, around_5 = 111'424;
+  for (const auto* name : {"expf", "sincosf", "sqrtf", "lgammaf", "tanpif"}) {
+    const auto index = index_of(name);
+    const auto& o = catalogue[index];
+    const auto& exact = *accuracy::find_reference(o);
+    ASSERT_TRUE(accuracy::can_sweep(o, exact));
+    std::vector<accuracy::form> forms;
+    for (int width : {16, 3}) forms.push_back({library().find(index, variant::standard, width).value(), width});
+    const auto found = accuracy::sweep(o, exact, forms, {around_5, blocks}, 2, [](double) {});
+    ASSERT_EQ(found.size(), 2u);
+
+    // The place tells which block it was.
+    const auto first = found[0].all.input[0] & 0x7FFF'C000;
+    std::vector<arguments> inputs;
+    for (std::uint64_t sign : {0u, 0x8000'0000u})
+      for (std::uint64_t i = 0; i < 0x4000; ++i) inputs.push_back({(first | sign) + i});
+    const auto slow = accuracy::measure(o, exact, forms[0].f, 16, inputs);
+    for (const auto& form : found) {
+      EXPECT_EQ(form.all.lanes, slow.lanes) << name;
+      EXPECT_EQ(form.all.correctly_rounded, slow.correctly_rounded) << name;
+      EXPECT_EQ(form.all.input, slow.input) << name;
+      EXPECT_EQ(form.all.largest_error, slow.largest_error) << name;
+      EXPECT_FALSE(form.curve.empty());
+      for (const auto& [cell, error] : form.curve) EXPECT_LE(error, slow.largest_error + 1e-6);
+    }
+  }
+}
+
+TEST(Sweep, SeparatesPartsAndLeavesOutWhatIsMeantToDiffer) {
+  const auto swept = [](const char* name) {
+    const auto index = index_of(name);
+    const auto& o = catalogue[index];
+    const accuracy::form forms[]{{library().find(index, variant::standard, 16).value(), 16}};
+    return accuracy::sweep(o, *accuracy::find_reference(o), forms, {1, 1 << 9}, 2, [](double) {})[0];
+  };
+  const auto sine = swept("sinf");
+  const auto& large = sine.parts.at("above 10000");
+  EXPECT_GT(large.lanes, 0u);
+  EXPECT_LT(large.lanes, sine.all.lanes);
+  EXPECT_LT(large.largest_error, 0.7);
+  EXPECT_GT(sine.all.largest_error, 2);
+  EXPECT_GT(std::fabs(std::bit_cast<float>(std::uint32_t(large.input[0]))), 10000);
+  const auto gamma = swept("tgammaf");
+  EXPECT_LT(gamma.all.lanes, sine.all.lanes);
+  EXPECT_LT(gamma.all.largest_error, 1);
+}
+
+TEST(Sweep, IsRefusedWhereTheStandInIsOff) {
+  const auto index = index_of("expf");
+  const auto& o = catalogue[index];
+  auto off = *accuracy::find_reference(o);
+  off.fast = [](double x) { return std::exp(x) * (1 + 0x1p-44); };
+  const accuracy::form forms[]{{library().find(index, variant::standard, 16).value(), 16}};
+  EXPECT_THROW(accuracy::sweep(o, off, forms, {0, 1 << 10}, 2, [](double) {}), std::runtime_error);
+}
+
+TEST(Search, ClimbsUntilNothingLargerIsFound) {
+  const auto index = index_of("exp2f");
+  const auto& o = catalogue[index];
+  const auto f = library().find(index, variant::standard, 16).value();
+  const auto found = accuracy::climb(o, *accuracy::find_reference(o), f, 16, {0xBEFF'0000}, 2'000, 1);
+  EXPECT_GT(found.largest_error, 1.05);
+  EXPECT_LE(found.largest_error, 1.10173);
 }
 
 // The fast judgement counts what MPFR alone would, and goes on where it was left.

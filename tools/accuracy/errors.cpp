@@ -101,13 +101,6 @@ share share_in(const std::string& line) {
   return s;
 }
 
-std::string text_of_place(const operation& o, const arguments& at) {
-  std::string text;
-  for (int i = 0; i < o.sig.arity(); ++i)
-    text += fmt::format("{}0x{:0{}X}", i ? " " : "", at[i], 2 * size_of(o.sig.arguments[i]));
-  return text;
-}
-
 // What `line_in` makes of each line of a file below its head.
 template <class Line>
 auto read_lines(const std::string& path, std::string_view head, std::string_view content, Line line_in) {
@@ -222,7 +215,7 @@ void merge(std::vector<error_record>& records, const error_record& measured) {
   if (line->anywhere && found.error > *line->anywhere)
     throw std::runtime_error(fmt::format("{}: {} ulp are above the bound of every processor, {}", o.name(),
                                          text_of_error(found.error), text_of_error(*line->anywhere)));
-  if (found.error > line->error || (found.error == line->error && (found.rounded || !line->at))) {
+  if (found.rounded || found.error > line->error || (found.error == line->error && !line->at)) {
     line->error = found.error;
     line->at = found.at;
     line->search = found.search;
@@ -230,6 +223,7 @@ void merge(std::vector<error_record>& records, const error_record& measured) {
   }
   if (!found.part.empty()) {
     found.part.clear();
+    found.rounded.reset();
     merge(records, found);
   }
 }
@@ -244,6 +238,13 @@ arguments place_in(std::string_view text, const signature& sig) {
     at[i] = number<std::uint64_t>(std::string_view(words[i]).substr(2), 16);
   }
   return at;
+}
+
+std::string text_of_place(const operation& o, const arguments& at) {
+  std::string text;
+  for (int i = 0; i < o.sig.arity(); ++i)
+    text += fmt::format("{}0x{:0{}X}", i ? " " : "", at[i], 2 * size_of(o.sig.arguments[i]));
+  return text;
 }
 
 double rounded_up(double error, int digits) {

@@ -48,8 +48,9 @@ void write_errors(const std::string& path, std::vector<error_record> records);
 const std::string& errors_path();
 const std::vector<error_record>& recorded_errors();
 
-// Enters a measured error: if it is larger than that of its line of `records`, it replaces it, with its place. The
-// error of a part counts for all arguments too. Throws if a bound that should hold on every processor is broken.
+// Enters a measured error: if it is larger than that of its line of `records`, or the largest of all inputs, it
+// replaces it, with its place. The error of a part counts for all arguments too. Throws if a bound that should hold on
+// every processor is broken.
 void merge(std::vector<error_record>& records, const error_record& found);
 
 // A line of shares.csv beside that file: how many results are correctly rounded, of how many that were measured in a
@@ -70,6 +71,8 @@ std::string shares_path();
 
 // The bit patterns of an operation's arguments, as in the file: "0x3F7FB84A 0x47982860".
 arguments place_in(std::string_view text, const signature& sig);
+
+std::string text_of_place(const operation& o, const arguments& at);
 
 // The error rounded up to so many significant digits; the error as text.
 double rounded_up(double error, int digits);

@@ -57,6 +57,7 @@ class report {
   }
 
   void add(const operation& o, variant v, int width, std::string_view range, const tally& t) {
+    if (t.lanes == 0) throw std::runtime_error(fmt::format("{} is meant to differ there", o.name()));
     const auto name = v == variant::standard ? "default" : suffix(v);
     const double share = double(t.correctly_rounded) / double(t.lanes);
     fmt::print("{:<10} {:<8} {:>5} {:<10} {:>10.4f} {:>10.4f} %  {}\n", o.name(), name, width, range, t.largest_error,
@@ -66,7 +67,7 @@ class report {
                         text_of(o, t.input));
     empty_ = false;
     const auto bound = bound_of(o, v, width);
-    const bool anything = range == "bounds" || range == "patterns" || range == "all";
+    const bool anything = range == "bounds" || range == "patterns";
     if (anything && o.is_unguarded(v)) return;
     if (bound && t.largest_error > *bound) {
       fmt::print("  above the stated bound of {} ulp\n", *bound);
@@ -81,7 +82,7 @@ class report {
              .part = part_,
              .error = t.largest_error,
              .at = t.input,
-             .search = range == "all"                           ? "all inputs"
+             .search = range == "all"                           ? std::string(swept_inputs(o, v))
                        : range == "a place" || range == "climb" ? "directed search"
                                                                 : fmt::format("{} lanes in one range", t.lanes),
              .rounded = range == "all" ? std::optional(share * 100) : std::nullopt});
@@ -107,7 +108,7 @@ struct request {
 };
 
 // What can be measured.
-struct form {
+struct candidate {
   std::size_t index;
   variant v;
   int width;
@@ -125,12 +126,13 @@ std::vector<std::string> ranges_of(const reference& r) {
 }
 
 // The forms that these names and the rest of the request ask for, at least one.
-std::vector<form> forms_of(const std::vector<std::string>& names, const request& asked, const harness::library& from) {
+std::vector<candidate> forms_of(const std::vector<std::string>& names, const request& asked,
+                                const harness::library& from) {
   constexpr std::array lacking{
       "has no such variant or width", "has no reference to be measured against", "is not exported by this library",
       "cannot be measured over all floats: that takes one float and a fast reference", "has no such range"};
   std::size_t furthest = 0;
-  std::vector<form> found;
+  std::vector<candidate> found;
   const harness::selection named(names);
   for (std::size_t index = 0; index < catalogue.size(); ++index)
     for (auto v : variants)
@@ -139,7 +141,7 @@ std::vector<form> forms_of(const std::vector<std::string>& names, const request&
           continue;
         const auto* exact = find_reference(catalogue[index]);
         const auto f = from.find(index, v, width);
-        const bool sweeps = exact && exact->fast && catalogue[index].sig == signature{lane::f32, {lane::f32}};
+        const bool sweeps = exact && can_sweep(catalogue[index], *exact);
         const bool ranges =
             exact && (asked.ranges.empty() ||
                       std::ranges::any_of(ranges_of(*exact), [&](const auto& r) { return wanted(asked.ranges, r); }));
@@ -158,24 +160,24 @@ std::vector<form> forms_of(const std::vector<std::string>& names, const request&
 }
 
 // What the whole request asks for. Throws if any part of it asks for nothing.
-std::vector<form> forms_of(const request& asked, const harness::library& from) {
+std::vector<candidate> forms_of(const request& asked, const harness::library& from) {
   for (const auto& name : asked.names) forms_of({name}, asked, from);
   auto all = forms_of(asked.names, asked, from);
   const auto demand = [&](const auto& each_asked, const char* noun, auto has) {
     for (const auto& one : each_asked)
-      if (std::ranges::none_of(all, [&](const form& f) { return has(f, one); }))
+      if (std::ranges::none_of(all, [&](const candidate& f) { return has(f, one); }))
         throw std::runtime_error(fmt::format("none of these has the {} {}", noun, one));
   };
-  demand(asked.variants, "variant", [](const form& f, const auto& name) { return name_of(f.v) == name; });
-  demand(asked.widths, "width", [](const form& f, int width) { return f.width == width; });
-  demand(asked.ranges, "range", [](const form& f, const auto& name) {
+  demand(asked.variants, "variant", [](const candidate& f, const auto& name) { return name_of(f.v) == name; });
+  demand(asked.widths, "width", [](const candidate& f, int width) { return f.width == width; });
+  demand(asked.ranges, "range", [](const candidate& f, const auto& name) {
     const auto names = ranges_of(*f.exact);
     return std::ranges::find(names, name) != names.end();
   });
   return all;
 }
 
-void list(const std::vector<form>& forms) {
+void list(const std::vector<candidate>& forms) {
   for (auto f = forms.begin(); f != forms.end();) {
     const auto index = f->index;
     const auto ranges = ranges_of(*f->exact);
@@ -247,15 +249,16 @@ int main(int argc, char** argv) try {
     const auto add = [&](std::string_view range, const tally& t) { table.add(o, one.v, one.width, range, t); };
     if (asked.exhaustive) {
       progress_bar bar(fmt::format("{}{} at width {}", o.name(), suffix(one.v), one.width));
-      const auto found = measure_all_floats(*one.exact, one.f, one.width, [&](double share) { bar.show(share); });
+      const form alone[]{{one.f, one.width, o.is_unguarded(one.v)}};
+      const auto found = sweep(o, *one.exact, alone, {}, cores(), [&](double share) { bar.show(share); });
       bar.clear();
-      add("all", found);
+      add("all", found[0].all);
     } else if (*at) {
       add("a place", measure_at(o, *one.exact, one.f, one.width, place_in(place, o.sig)));
     } else if (climbing) {
       for (const auto& line : records)
         if (line.part.empty() && line.at && line.is_of(o, one.v, one.width) && !o.is_unguarded(one.v))
-          add("climb", climb(o, *one.exact, one.f, one.width, *line.at, samples, seed));
+          add("climb", climb(o, *one.exact, one.f, one.width, *line.at, samples / 20 + 1, seed));
     } else {
       const auto on = [&](std::string_view range, auto inputs) {
         if (wanted(asked.ranges, range)) add(range, measure(o, *one.exact, one.f, one.width, inputs()));

@@ -3,56 +3,24 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <atomic>
 #include <bit>
-#include <chrono>
 #include <cmath>
 #include <limits>
-#include <numeric>
 #include <random>
 #include <span>
 #include <stdexcept>
 #include <thread>
 #include <utility>
 
+#include "accuracy/exact.h"
+
 namespace lanemath::accuracy {
 namespace {
-
-constexpr int reference_bits = 200;
-
-struct big {
-  mpfr_t v;
-  big() { mpfr_init2(v, reference_bits); }
-  ~big() { mpfr_clear(v); }
-  big(const big&) = delete;
-  big& operator=(const big&) = delete;
-};
-struct big_arguments {
-  mpfr_t v[3];
-  big_arguments() {
-    for (auto& each : v) mpfr_init2(each, reference_bits);
-  }
-  ~big_arguments() {
-    for (auto& each : v) mpfr_clear(each);
-  }
-  big_arguments(const big_arguments&) = delete;
-  big_arguments& operator=(const big_arguments&) = delete;
-};
 
 struct format {
   int precision, least_exponent, greatest_exponent;  // of the last bit of a denormal; of the overflow bound
 };
 constexpr format format_of(lane l) { return l == lane::f32 ? format{24, -149, 128} : format{53, -1074, 1024}; }
-
-double value_of(lane type, std::uint64_t pattern) {
-  switch (type) {
-    case lane::f32: return std::bit_cast<float>(std::uint32_t(pattern));
-    case lane::f64: return std::bit_cast<double>(pattern);
-    case lane::i32: return std::int32_t(pattern);
-    case lane::u32: return std::uint32_t(pattern);
-    default: throw std::logic_error("no reference takes 64-bit integers");
-  }
-}
 
 std::uint64_t pattern_of(lane type, double value) {
   switch (type) {
@@ -60,21 +28,6 @@ std::uint64_t pattern_of(lane type, double value) {
     case lane::f64: return std::bit_cast<std::uint64_t>(value);
     default: return std::uint32_t(std::int64_t(value));
   }
-}
-
-unsigned cores() { return std::max(1u, std::thread::hardware_concurrency()); }
-
-// Runs work(part) on every core, part counting the cores, and merges the tallies.
-template <class F>
-tally on_all_cores(F work) {
-  std::vector<tally> parts(cores());
-  {
-    std::vector<std::jthread> threads;
-    for (unsigned i = 0; i < parts.size(); ++i) threads.emplace_back([&, i] { parts[i] = work(i); });
-  }
-  tally all;
-  for (const auto& part : parts) all.merge(part);
-  return all;
 }
 
 // A random pattern of any lane type, drawn evenly.
@@ -104,28 +57,65 @@ std::uint64_t draw(lane type, const interval& from, bool over_patterns, std::mt1
 }
 
 // On this core.
-tally measure_here(const operation& o, const reference& r, const harness::function& f, int width,
-                   std::span<const arguments> tuples) {
-  const auto outcomes = harness::evaluate(o, f, width, tuples);
-  tally found;
+std::vector<finding> measure_here(const operation& o, const reference& r, std::span<const form> forms,
+                                  std::span<const arguments> tuples) {
+  std::vector<std::vector<harness::outcome>> outcomes;
+  for (const auto& each : forms) outcomes.push_back(harness::evaluate(o, each.f, each.width, tuples));
+  std::vector<finding> found(forms.size());
   big exact;
   big_arguments given;
+  std::vector<judgement> verdicts(forms.size());
   for (std::size_t n = 0; n < tuples.size(); ++n) {
+    if (r.left_out && r.left_out(o.sig.arguments[0], value_of(o.sig.arguments[0], tuples[n][0]))) continue;
     for (int i = 0; i < o.sig.arity(); ++i)
       mpfr_set_d(given.v[i], value_of(o.sig.arguments[i], tuples[n][i]), MPFR_RNDN);
-    const auto add = [&](exact_function value, lane type, std::uint64_t got) {
+    const auto add = [&](exact_function value, lane type, auto result) {
       value(exact.v, given.v);
-      const auto verdict = judge(type, exact.v, value_of(type, got));
-      found.add(verdict.error, tuples[n], verdict.correct);
+      const double abscissa = r.over == abscissa::argument ? value_of(o.sig.arguments[0], tuples[n][0])
+                              : r.over == abscissa::result ? mpfr_get_d(exact.v, MPFR_RNDN)
+                                                           : value_of(o.sig.arguments[0], tuples[n][0]) /
+                                                                 value_of(o.sig.arguments[1], tuples[n][1]);
+      for (std::size_t k = 0; k < forms.size(); ++k) {
+        const auto got = outcomes[k][n].*result;
+        const auto same = std::ranges::find(outcomes, got, [&](const auto& of) { return of[n].*result; });
+        const auto first = std::size_t(same - outcomes.begin());
+        verdicts[k] = first < k ? verdicts[first] : judge(type, exact.v, value_of(type, got));
+        found[k].all.add(verdicts[k].error, tuples[n], verdicts[k].correct);
+        found[k].add_to_curve(abscissa, verdicts[k].error);
+      }
     };
-    add(r.value, o.sig.result, outcomes[n].first);
-    if (r.second) add(r.second, o.sig.second, outcomes[n].second);
+    add(r.value, o.sig.result, &harness::outcome::first);
+    if (r.second) add(r.second, o.sig.second, &harness::outcome::second);
   }
   mpfr_free_cache2(MPFR_FREE_LOCAL_CACHE);
   return found;
 }
 
+// On several.
+std::vector<finding> measure(const operation& o, const reference& r, std::span<const form> forms,
+                             std::span<const arguments> tuples, unsigned threads) {
+  return on_threads(threads, [&](unsigned part) {
+    const std::size_t from = tuples.size() * part / threads, to = tuples.size() * (part + 1) / threads;
+    return measure_here(o, r, forms, tuples.subspan(from, to - from));
+  });
+}
+
 }  // namespace
+
+unsigned cores() { return std::max(1u, std::thread::hardware_concurrency()); }
+
+void finding::add_to_curve(double abscissa, double error) {
+  const auto pattern = std::bit_cast<std::uint64_t>(abscissa);
+  if (std::isfinite(abscissa)) {
+    auto& cell = curve[int(pattern >> 49)];
+    cell = std::max(cell, error);
+  }
+}
+void finding::merge(const finding& other) {
+  all.merge(other.all);
+  for (const auto& [name, tally] : other.parts) parts[name].merge(tally);
+  for (const auto& [cell, error] : other.curve) curve[cell] = std::max(curve[cell], error);
+}
 
 judgement judge(lane type, const mpfr_t exact, double got) {
   constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -214,15 +204,12 @@ std::vector<arguments> around_bounds(const operation& o, const reference& r, std
 
 tally measure(const operation& o, const reference& r, const harness::function& f, int width,
               const std::vector<arguments>& inputs) {
-  return on_all_cores([&](unsigned part) {
-    const std::size_t from = inputs.size() * part / cores(), to = inputs.size() * (part + 1) / cores();
-    return measure_here(o, r, f, width, {inputs.data() + from, to - from});
-  });
+  return measure(o, r, std::array{form{f, width}}, inputs, cores())[0].all;
 }
 
 tally measure_at(const operation& o, const reference& r, const harness::function& f, int width,
                  const arguments& input) {
-  return measure_here(o, r, f, width, std::vector(std::size_t(width), input));
+  return measure_here(o, r, std::array{form{f, width}}, std::vector(std::size_t(width), input))[0].all;
 }
 
 tally measure_by_stand_in(const operation& o, const reference& r, const harness::function& f, int width,
@@ -261,12 +248,12 @@ tally measure_by_stand_in(const operation& o, const reference& r, const harness:
 }
 
 tally climb(const operation& o, const reference& r, const harness::function& f, int width, const arguments& from,
-            std::size_t count, std::uint64_t seed) {
-  constexpr std::size_t rounds = 20;
+            std::size_t lanes_a_round, std::uint64_t seed, unsigned threads) {
+  constexpr int patience = 5, most_rounds = 100;
   std::mt19937_64 random(seed);
   tally best = measure_at(o, r, f, width, from);
-  for (std::size_t round = 0; round < rounds; ++round) {
-    std::vector<arguments> around(count / rounds + 1, best.input);
+  for (int round = 0, last_growth = 0; round < most_rounds && round - last_growth < patience; ++round) {
+    std::vector<arguments> around(lanes_a_round, best.input);
     for (auto& tuple : around)
       for (int i = 0; i < o.sig.arity(); ++i) {
         const lane type = o.sig.arguments[i];
@@ -274,78 +261,42 @@ tally climb(const operation& o, const reference& r, const harness::function& f, 
         tuple[i] = is_floating(type) ? unordered(type, ordered(type, tuple[i]) + distance)
                                      : std::uint32_t(tuple[i] + std::uint64_t(distance));
       }
-    best.merge(measure(o, r, f, width, around));
+    const auto found = measure(o, r, std::array{form{f, width}}, around, threads)[0].all;
+    if (found.largest_error > best.largest_error) last_growth = round;
+    best.merge(found);
   }
   return best;
 }
 
-tally measure_all_floats(const reference& r, const harness::function& f, int width,
-                         const std::function<void(double)>& progress) {
-  constexpr std::uint64_t block_lanes = 1 << 14, blocks = (std::uint64_t(1) << 32) / block_lanes;
-  std::atomic<std::uint64_t> next = 0;
-
-  return on_all_cores([&](unsigned part) {
-    tally found;
-    std::vector<std::uint32_t> patterns(block_lanes);
-    std::vector<float> results(block_lanes);
-    big exact;
-    big_arguments given;
-    const auto judge_exactly = [&](std::uint32_t pattern, float got) {
-      mpfr_set_flt(given.v[0], std::bit_cast<float>(pattern), MPFR_RNDN);
-      r.value(exact.v, given.v);
-      return judge(lane::f32, exact.v, got);
-    };
-    // The last lanes whose error was larger than any before, for the exact check.
-    std::vector<std::pair<std::uint32_t, float>> worst(64);
-    std::size_t records = 0;
-    const auto add = [&](std::uint32_t pattern, float got) {
-      const auto note = [&](double error, bool correct) {
-        if (error > found.largest_error) worst[records++ % worst.size()] = {pattern, got};
-        found.add(error, {pattern}, correct);
-      };
-      const double near = r.fast(std::bit_cast<float>(pattern));
-      if (std::isnan(near) && std::isnan(got)) return note(0, true);
-      const float nearest = float(near * (1 - 0x1p-48));
-      // The fast value is enough if it decides the rounding.
-      if (nearest == float(near * (1 + 0x1p-48))) {
-        if (std::isinf(nearest) && got == nearest) return note(0, true);
-        if (std::isfinite(nearest) && std::isfinite(got)) {
-          const int exponent = int(std::bit_cast<std::uint64_t>(near) >> 52 & 0x7FF) - 1023;
-          const int last_bit = std::max(exponent - 23, -149);
-          return note(std::fabs(got - near) * std::bit_cast<double>(std::uint64_t(1023 - last_bit) << 52),
-                      got == nearest);
-        }
+std::vector<finding> search(const operation& o, const reference& r, std::span<const form> forms, std::size_t lanes,
+                            portion which, unsigned threads) {
+  std::vector<finding> found(forms.size());
+  std::uint64_t seed = which.number + 1;
+  const auto add = [&](const std::vector<arguments>& inputs, bool in_a_range) {
+    seed += which.of;
+    std::vector<form> measured;
+    std::vector<finding*> of;
+    for (std::size_t k = 0; k < forms.size(); ++k)
+      if (in_a_range || !forms[k].unguarded) {
+        measured.push_back(forms[k]);
+        of.push_back(&found[k]);
       }
-      const auto verdict = judge_exactly(pattern, got);
-      note(verdict.error, verdict.correct);
-    };
-
-    auto last_told = std::chrono::steady_clock::now();
-    for (std::uint64_t n; (n = next++) < blocks;) {
-      const auto first = std::uint32_t(n * block_lanes);
-      std::iota(patterns.begin(), patterns.end(), first);
-      const void* from = patterns.data();
-      f.call(&from, results.data(), nullptr, block_lanes);
-      for (std::uint32_t i = 0; i < block_lanes; ++i)
-        if (width != 3 || i % 4 != 3) add(first + i, results[i]);
-      using namespace std::chrono_literals;
-      if (part == 0 && std::chrono::steady_clock::now() - last_told > 200ms) {
-        last_told = std::chrono::steady_clock::now();
-        progress(double(n) / double(blocks));
-      }
+    const auto more = measure(o, r, measured, inputs, threads);
+    for (std::size_t k = 0; k < of.size(); ++k) of[k]->merge(more[k]);
+  };
+  for (const auto& range : r.ranges) add(sample(o, range, lanes, seed), true);
+  add(around_bounds(o, r, lanes, seed), false);
+  add(sample_patterns(o, lanes, seed), false);
+  if (o.sig.arity() == 1) {
+    std::mt19937_64 random(seed);
+    std::vector<arguments> inputs(lanes);
+    for (auto& tuple : inputs) {
+      const double exponent = std::uniform_real_distribution<double>(-20, 20)(random);
+      tuple[0] = pattern_of(o.sig.arguments[0], std::exp2(exponent) * (random() % 2 ? 1 : -1));
     }
-    found.largest_error = -1;
-    for (std::size_t n = 0; n < std::min(records, worst.size()); ++n) {
-      const auto [pattern, got] = worst[n];
-      const double error = judge_exactly(pattern, got).error;
-      if (error > found.largest_error) {
-        found.largest_error = error;
-        found.input = {pattern};
-      }
-    }
-    mpfr_free_cache2(MPFR_FREE_LOCAL_CACHE);
-    return found;
-  });
+    add(inputs, true);
+  }
+  return found;
 }
 
 }  // namespace lanemath::accuracy

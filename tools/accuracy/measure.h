@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <span>
 #include <string>
 #include <vector>
@@ -24,11 +25,32 @@ struct tally {
   void merge(const tally& other) {
     lanes += other.lanes;
     correctly_rounded += other.correctly_rounded;
-    if (other.largest_error > largest_error) {
+    // Of equal errors the one at the least pattern counts, whatever the order.
+    if (other.largest_error > largest_error || (other.largest_error == largest_error && other.input < input)) {
       largest_error = other.largest_error;
       input = other.input;
     }
   }
+};
+
+unsigned cores();
+
+// A form to be measured.
+struct form {
+  harness::function f;
+  int width;
+  bool unguarded = false;  // zeros, denormals and infinities are not its arguments
+};
+
+// What was found of a form: the tally of all lanes and of the parts that the reference names, and the largest error in
+// each eighth of a binade of the reference's abscissa.
+struct finding {
+  tally all{};
+  std::map<std::string, tally, std::less<>> parts{};
+  std::map<int, double> curve{};
+
+  void add_to_curve(double abscissa, double error);
+  void merge(const finding& other);
 };
 
 struct judgement {
@@ -61,14 +83,30 @@ tally measure_at(const operation& o, const reference& r, const harness::function
 tally measure_by_stand_in(const operation& o, const reference& r, const harness::function& f, int width,
                           std::span<const arguments> inputs, long double (*near)(const arguments& at));
 
-// The largest error found by climbing from a place: round after round of tuples around the worst so far, at distances
-// of every size.
+// The largest error found by climbing from a place: rounds of tuples around the worst so far, at distances of every
+// size, until round after round finds nothing larger.
 tally climb(const operation& o, const reference& r, const harness::function& f, int width, const arguments& from,
-            std::size_t count, std::uint64_t seed);
+            std::size_t lanes_a_round, std::uint64_t seed, unsigned threads = cores());
 
-// The function's largest error over all 2^32 floats (three quarters of them at width 3, whose fourth lane is not a
-// result), on all cores. `progress` receives the share that is done.
-tally measure_all_floats(const reference& r, const harness::function& f, int width,
-                         const std::function<void(double)>& progress);
+// One of some equal portions of the work.
+struct portion {
+  std::uint64_t number = 0, of = 1;
+};
+
+// The forms of an operation over its ranges, its bounds, its patterns and, with one argument, magnitudes from 2^-20 to
+// 2^20: so many tuples of each, other ones in each portion. The value is computed once for all forms.
+std::vector<finding> search(const operation& o, const reference& r, std::span<const form> forms, std::size_t lanes,
+                            portion which, unsigned threads);
+
+// Whether there is a fast stand-in for all results of a function of one float.
+bool can_sweep(const operation& o, const reference& r);
+// Which floats are measured then, in words.
+std::string_view swept_inputs(const operation& o, variant v);
+
+// The forms of such an operation over all 2^32 floats, or a portion of these. The stand-in is computed once for all
+// forms; MPFR judges where it leaves the rounding open, where the error may be the largest, and one lane in 2^14.
+// Throws if the stand-in is found to be worse than it should be. `progress` receives the share that is done.
+std::vector<finding> sweep(const operation& o, const reference& r, std::span<const form> forms, portion which,
+                           unsigned threads, const std::function<void(double)>& progress);
 
 }  // namespace lanemath::accuracy

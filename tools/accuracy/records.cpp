@@ -1,11 +1,12 @@
-// What is made from the file of errors, and what keeps it true: the tables of the accuracy document, the figures in the
-// heads of source files, and a new measurement at every recorded place.
+// Measures errors for the report, enters them into the file of errors, and keeps what rests on that file true: the
+// figures in the heads of source files, and a new measurement at every recorded place.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -68,99 +69,11 @@ std::string form_text(const error_record& r, const std::vector<error_record>& re
   return fmt::format("{}{}{}", fmt::join(words, ", "), r.part.empty() ? "" : ": ", r.part);
 }
 
-// Columns without an entry are left out.
-std::string table(const std::vector<std::string>& heads, const std::vector<std::vector<std::string>>& rows) {
-  std::vector<std::string> lines(rows.size() + 2);
-  for (std::size_t column = 0; column < heads.size(); ++column) {
-    if (std::all_of(rows.begin(), rows.end(), [&](const auto& row) { return row[column].empty(); })) continue;
-    lines[0] += fmt::format("| {} ", heads[column]);
-    lines[1] += "|---";
-    for (std::size_t i = 0; i < rows.size(); ++i) lines[i + 2] += fmt::format("| {} ", rows[i][column]);
-  }
-  return fmt::format("{}|\n", fmt::join(lines, "|\n"));
-}
-
-std::string table_of_shares() {
-  std::vector<std::vector<std::string>> rows;
-  for (const auto& s : read_shares(shares_path())) {
-    const auto& o = catalogue[s.index];
-    const error_record form{.index = s.index, .variants = {variant::standard}, .width = s.width, .part = s.part};
-    rows.push_back({fmt::format("`{}`", o.name()), form_text(form, recorded_errors()),
-                    fmt::format("{} million", s.lanes / share::block),
-                    fmt::format("{:.5f} %", 100 * double(s.rounded) / double(s.lanes)), text_of_error(s.error),
-                    text_of(o, s.at)});
-  }
-  return table({"operation", "form", "lanes", "rounded", "largest error", "at"}, rows);
-}
-
-// The table of the families and the precision that a marker names.
-std::string table_of_errors(const std::string& names) {
-  std::istringstream words(names);
-  std::vector<family> groups;
-  std::optional<bool> single;
-  for (std::string word; words >> word;) {
-    const auto* text =
-        std::find_if(std::begin(families), std::end(families), [&](const auto& each) { return each.file == word; });
-    if (text != std::end(families))
-      groups.push_back(text->group);
-    else if (word == "single" || word == "double")
-      single = word == "single";
-    else
-      throw std::runtime_error(fmt::format("no family of operations: {}", word));
-  }
-  std::vector<std::vector<std::string>> rows;
-  const auto& records = recorded_errors();
-  for (const auto& r : records) {
-    const auto& o = catalogue[r.index];
-    if (std::find(groups.begin(), groups.end(), o.group) == groups.end() || (single && *single != o.single())) continue;
-    rows.push_back({fmt::format("`{}`", o.name()), form_text(r, records), text_of_error(r.error),
-                    r.anywhere ? text_of_error(*r.anywhere) : "", r.rounded ? fmt::format("{:.4f} %", *r.rounded) : "",
-                    r.at ? text_of(o, *r.at) : "", r.search});
-  }
-  if (rows.empty()) throw std::runtime_error(fmt::format("no errors of {}", names));
-
-  return table({"operation", "form", "largest error", "any processor", "rounded", "at", "found in"}, rows);
-}
-
-// The document with the tables between its markers made anew.
-std::string with_tables(const std::string& text) {
-  constexpr std::string_view opening = "<!-- errors: ", closing = "<!-- end of errors -->";
-  std::string made;
-  std::istringstream in(text);
-  bool inside = false;
-  for (std::string line; std::getline(in, line);) {
-    if (line == closing) {
-      if (!inside) throw std::runtime_error("the end of a table that did not begin");
-      inside = false;
-    }
-    if (!inside) made += line + '\n';
-    if (line.starts_with(opening)) {
-      if (inside || !line.ends_with(" -->")) throw std::runtime_error("a table that does not end: " + line);
-      inside = true;
-      const auto names = line.substr(opening.size(), line.size() - opening.size() - 4);
-      made += '\n' + (names == "shares" ? table_of_shares() : table_of_errors(names)) + '\n';
-    }
-  }
-  if (inside) throw std::runtime_error("the last table does not end");
-  return made;
-}
-
 std::string text_of_file(const std::string& path) {
   std::ifstream in(path);
   std::ostringstream text;
   if (!(text << in.rdbuf())) throw std::runtime_error("cannot read " + path);
   return text.str();
-}
-
-int document(const std::string& path, bool only_compare) {
-  const auto text = text_of_file(path), made = with_tables(text);
-  if (made == text) return 0;
-  if (only_compare) {
-    fmt::print("{} is not what `lanemath-errors document` makes of {}\n", path, errors_path());
-    return 1;
-  }
-  harness::replace_file(path, made);
-  return 0;
 }
 
 // Measures until every road, or every one of these operations, has so many lanes.
@@ -232,6 +145,150 @@ std::string with_head(const std::string& source) {
   return fmt::format("{}{}", fmt::join(paragraphs, "//\n"), rest);
 }
 
+// The forms of an operation that have code of their own, and the variants that share each.
+struct distinct_form {
+  std::vector<variant> of{};
+  int width = 0;  // of a standalone form, or 0
+};
+std::vector<distinct_form> distinct_forms(const operation& o) {
+  std::vector<distinct_form> found;
+  std::vector<variant> by;
+  for (const int width : {0, 1, 2, 3, 4, 8, 16})
+    for (auto v : variants) {
+      if (!o.has(v) || (width && !own_width(o, v, width))) continue;
+      const auto server = width ? o.served_by(width, v) : o.shared[std::size_t(v)];
+      std::size_t k = 0;
+      while (k < found.size() && !(found[k].width == width && by[k] == server)) ++k;
+      if (k == found.size()) {
+        found.push_back({.width = width});
+        by.push_back(server);
+      }
+      found[k].of.push_back(v);
+    }
+  return found;
+}
+
+// What there is to measure: operations that are not exact.
+std::vector<std::size_t> measurable() {
+  std::vector<std::size_t> found;
+  for (std::size_t i = 0; i < catalogue.size(); ++i)
+    if (!is_exact(catalogue[i].group) && find_reference(catalogue[i])) found.push_back(i);
+  return found;
+}
+
+std::size_t measurable(const std::string& name) {
+  for (const auto index : measurable())
+    if (catalogue[index].name() == name) return index;
+  throw std::runtime_error("no operation to measure: " + name);
+}
+
+using json = nlohmann::ordered_json;
+
+int list() {
+  auto listed = json::array();
+  for (const auto index : measurable()) {
+    const auto& o = catalogue[index];
+    constexpr std::array abscissas{"argument", "result", "quotient"};
+    const auto* text = std::ranges::find_if(families, [&](const auto& each) { return each.group == o.group; });
+    const auto& exact = *find_reference(o);
+    const auto symmetry = exact.second ? exact.symmetry[0] : o.symmetry;
+    listed.push_back({{"operation", o.name()},
+                      {"family", text->file},
+                      {"sweeps", can_sweep(o, exact)},
+                      {"symmetric", symmetry != parity::none},
+                      {"over", abscissas.at(std::size_t(exact.over))}});
+  }
+  fmt::print("{}\n", listed.dump());
+  return 0;
+}
+
+json json_of(const operation& o, const tally& found) {
+  if (found.lanes == 0) return nullptr;
+  return {{"error", text_of_error(rounded_up(found.largest_error, 6))},
+          {"at", text_of_place(o, found.input)},
+          {"lanes", found.lanes},
+          {"rounded", found.correctly_rounded}};
+}
+
+// Enters the figures of a report into the file of errors.
+int record(const std::string& report, const std::string& path) {
+  const auto figures = json::parse(text_of_file(report));
+  auto records = read_errors(path);
+  for (const auto& [name, of] : figures.at("operations").items()) {
+    const auto index = measurable(name);
+    const auto& o = catalogue[index];
+    for (const auto& one : of.at("forms")) {
+      error_record found{.index = index, .width = one.at("width")};
+      const auto names = one.at("variants").get<std::vector<std::string>>();
+      for (auto v : variants)
+        if (std::ranges::find(names, name_of(v)) != names.end()) found.variants.push_back(v);
+      if (found.variants.empty() || own_width(o, found.variants[0], found.width) != found.width)
+        throw std::runtime_error("no form of " + name);
+      const bool sweeps = of.at("all");
+      const auto enter = [&](const std::string& part, const json& figures) {
+        found.part = part;
+        found.error = std::stod(figures.at("error").get<std::string>());
+        found.at = place_in(figures.at("at").get<std::string>(), o.sig);
+        found.search = sweeps ? swept_inputs(o, found.variants[0]) : "directed search";
+        if (sweeps) found.rounded = 100 * figures.at("rounded").get<double>() / figures.at("lanes").get<double>();
+        merge(records, found);
+      };
+      enter("", one);
+      for (const auto& part : one.at("parts").items())
+        if (std::ranges::any_of(records, [&](const auto& r) {
+              return r.part == part.key() && r.index == index && r.width == found.width && r.has(found.variants[0]);
+            }))
+          enter(part.key(), part.value());
+    }
+  }
+  write_errors(path, std::move(records));
+  return 0;
+}
+
+// Measures one portion of an operation's arguments, and prints what it finds.
+int measure(const harness::library& library, const std::string& name, portion which, std::size_t lanes,
+            unsigned threads) {
+  if (which.number >= which.of) throw std::runtime_error("there is no such portion");
+  const auto index = measurable(name);
+  const auto& o = catalogue[index];
+  const auto& exact = *find_reference(o);
+  const auto distinct = distinct_forms(o);
+  std::vector<form> forms;
+  for (const auto& each : distinct) {
+    const int width = each.width ? each.width : widths.back();
+    const auto f = library.find(index, each.of[0], width);
+    if (!f) throw std::runtime_error(fmt::format("{} is not exported by this library", o.name()));
+    forms.push_back({*f, width, o.is_unguarded(each.of[0])});
+  }
+  const bool sweeps = can_sweep(o, exact);
+  auto found =
+      sweeps ? sweep(o, exact, forms, which, threads, [](double) {}) : search(o, exact, forms, lanes, which, threads);
+  auto made = json::array();
+  for (std::size_t k = 0; k < forms.size(); ++k) {
+    std::vector<std::string_view> names;
+    for (auto v : distinct[k].of) names.push_back(name_of(v));
+    const auto climb_from = [&](const arguments& at) {
+      found[k].all.merge(climb(o, exact, forms[k].f, forms[k].width, at, lanes / 20 + 1, which.number + 1, threads));
+    };
+    if (!sweeps && !forms[k].unguarded) {
+      climb_from(found[k].all.input);
+      for (const auto& r : recorded_errors())
+        if (r.at && r.is_of(o, distinct[k].of[0], forms[k].width)) climb_from(*r.at);
+    }
+    json curve = json::array(), parts;
+    for (const auto& [cell, error] : found[k].curve) curve.push_back({cell, error});
+    for (const auto& [part, of] : found[k].parts) parts[part] = json_of(o, of);
+    auto one = json_of(o, found[k].all);
+    one["variants"] = names;
+    one["width"] = distinct[k].width;
+    one["parts"] = parts;
+    one["curve"] = curve;
+    made.push_back(one);
+  }
+  fmt::print("{}\n", made.dump());
+  return 0;
+}
+
 int heads(const std::vector<std::string>& paths, bool only_compare) {
   int different = 0;
   for (const auto& path : paths) {
@@ -251,13 +308,10 @@ int heads(const std::vector<std::string>& paths, bool only_compare) {
 int main(int argc, char** argv) try {
   CLI::App app{"The recorded errors of lanemath's functions."};
   app.require_subcommand(1);
-  std::string library = harness::default_library(), path;
+  std::string library = harness::default_library(), errors = errors_path(), path;
   bool only_compare = false;
   auto* checking = app.add_subcommand("check", "measure every recorded place again");
   checking->add_option("-l,--library", library, "the library to measure");
-  auto* documenting = app.add_subcommand("document", "make the tables of the accuracy document");
-  documenting->add_option("FILE", path, "the document")->required();
-  documenting->add_flag("--check", only_compare, "write nothing; fail where the document would change");
   std::vector<std::string> sources, operations;
   auto* heading = app.add_subcommand("heads", "state the errors in the heads of source files");
   heading->add_option("FILES", sources, "source files that export functions")->required()->check(CLI::ExistingFile);
@@ -271,11 +325,27 @@ int main(int argc, char** argv) try {
   sharing->add_option("-j,--threads", threads)->check(CLI::Range(1, 256))->capture_default_str();
   sharing->add_option("-f,--file", shares, "the file of shares")->check(CLI::ExistingFile)->capture_default_str();
   sharing->add_option("-l,--library", library, "the library to measure");
+  auto* listing = app.add_subcommand("list", "the operations that can be measured, as JSON");
+  std::string operation;
+  portion which;
+  auto* measuring =
+      app.add_subcommand("measure", "the errors of an operation's forms, over all floats or by a search, as JSON");
+  measuring->add_option("OPERATION", operation, "such as expf")->required();
+  measuring->add_option("-p,--portion", which.number, "only this one, from 0 on")->capture_default_str();
+  measuring->add_option("--of", which.of, "portions")->check(CLI::Range(1, 1 << 17))->capture_default_str();
+  measuring->add_option("-n,--lanes", lanes, "of each range, in a search")->check(CLI::PositiveNumber);
+  measuring->add_option("-j,--threads", threads)->check(CLI::Range(1, 256))->capture_default_str();
+  measuring->add_option("-l,--library", library, "the library to measure");
+  auto* recording = app.add_subcommand("record", "enter the figures of a report into the file of errors");
+  recording->add_option("REPORT", path, "its JSON")->required();
+  recording->add_option("-f,--file", errors, "the file of errors")->check(CLI::ExistingFile)->capture_default_str();
   CLI11_PARSE(app, argc, argv);
-  const int status = *heading    ? heads(sources, only_compare)
-                     : *sharing  ? measure_shares(harness::library(library), operations, lanes, threads, shares)
-                     : *checking ? check(harness::library(library))
-                                 : document(path, only_compare);
+  const int status = *heading     ? heads(sources, only_compare)
+                     : *listing   ? list()
+                     : *measuring ? measure(harness::library(library), operation, which, lanes, threads)
+                     : *recording ? record(path, errors)
+                     : *sharing   ? measure_shares(harness::library(library), operations, lanes, threads, shares)
+                                  : check(harness::library(library));
   harness::finish_output();
   return status;
 } catch (const std::exception& e) {

@@ -3,9 +3,9 @@ import fnmatch
 import math
 import pathlib
 import re
-import shutil
-import subprocess
 import tomllib
+
+import common
 
 WORDS = tomllib.loads((pathlib.Path(__file__).parent / "performance.toml").read_text())
 # Other libraries' functions that are inlined into the caller's loop, and loops of plain C++.
@@ -229,17 +229,6 @@ def opencl_table(measurements, figure):
     return table(["Built-in", *types], means + rows)
 
 
-def draw(script):
-    """What gnuplot draws."""
-    gnuplot = shutil.which("gnuplot")
-    if not gnuplot:
-        raise SystemExit("report: there is no gnuplot (Debian package gnuplot-nox)")
-    done = subprocess.run([gnuplot], input=script, text=True, capture_output=True)
-    if done.returncode != 0:
-        raise SystemExit(f"report: gnuplot: {done.stderr}")
-    return done.stdout
-
-
 def plot(title, names, columns, label, scale):
     """Bars, side by side for each name: columns maps a title to a list of values, None where there is none."""
     data = "\n".join(" ".join([f'"{name}"'] + [str(values[i] or "NaN") for values in columns.values()])
@@ -248,7 +237,7 @@ def plot(title, names, columns, label, scale):
     series = ", ".join(f"$data using {i + 2}:xtic(1) lc rgb '{colours[i]}' title '{each}'"
                        for i, each in enumerate(columns))
     width = max(640, 100 + 9 * len(names) * (len(columns) + 1))
-    return draw(f"""set terminal svg size {width},420 font "sans-serif,13" background "white"
+    return common.gnuplot(f"""set terminal svg size {width},420 font "sans-serif,13" background "white"
 $data << EOD
 {data}
 EOD

@@ -15,10 +15,10 @@ import sys
 import tempfile
 import time
 
+import common
 import document
+from common import DOCS, Journal, ROOT, fail, processor, progress, run, significant, text_of, write
 
-ROOT = pathlib.Path(__file__).resolve().parents[2]
-DOCS = ROOT / "docs"
 BUILD = ROOT / "build/release"
 BENCHMARK = BUILD / "bin/lanemath-benchmark"
 OPENCL_BENCHMARK = BUILD / "bin/lanemath-opencl-benchmark"
@@ -28,27 +28,6 @@ WITHOUT_FMA = {"GLIBC_TUNABLES": "glibc.cpu.hwcaps=-AVX2,-FMA"}
 LARGE = [(2e7, 1e9), (1e15, 1e30)]
 LARGE_OPERATIONS = [name + f for name in ("sin", "cos", "sincos", "tan") for f in ("", "f")]
 OPENCL_TYPES = ["float", "float4", "float8", "float16", "double", "double2", "double4", "double8"]
-
-
-def fail(message):
-    sys.exit(f"report: {message}")
-
-
-def run(*command, **more):
-    done = subprocess.run([str(word) for word in command], text=True, stdout=subprocess.PIPE, **more)
-    if done.returncode != 0:
-        fail(f"{pathlib.Path(command[0]).name} ended with an error: {' '.join(map(str, command[1:]))}")
-    return done.stdout
-
-
-def write(path, text):
-    """Replaces a file as a whole."""
-    temporary = path.with_name(path.name + ".new")
-    try:
-        temporary.write_text(text)
-        temporary.replace(path)
-    finally:
-        temporary.unlink(missing_ok=True)
 
 
 def build():
@@ -82,13 +61,6 @@ def packages(*names):
     return found
 
 
-def processor():
-    fields = dict(re.findall(r"^([^\t:]+)\s*: (.*)$", pathlib.Path("/proc/cpuinfo").read_text(), re.M))
-    flags = fields["flags"].split()
-    described = f"{fields['model name']}, family {fields['cpu family']}, model {fields['model']}"
-    return described + (", a virtual machine" if "hypervisor" in flags else ""), flags
-
-
 def check_tunables(flags):
     """That the C library takes its other variants, by the place of expf in it."""
     script = ("import ctypes\n"
@@ -97,28 +69,6 @@ def check_tunables(flags):
     chosen = [run(sys.executable, "-c", script, env={**os.environ, **more}) for more in ({}, WITHOUT_FMA)]
     if "fma" in flags and chosen[0] == chosen[1]:
         fail(f"{WITHOUT_FMA} changes nothing: this C library spells it differently")
-
-
-class Journal:
-    """What was measured so far, a file for each piece, so that an interrupted run continues."""
-
-    def __init__(self, folder, conditions, fresh):
-        self.folder = folder
-        kept = folder / "conditions.json"
-        if fresh or not kept.exists() or json.loads(kept.read_text()) != conditions:
-            shutil.rmtree(folder, ignore_errors=True)
-            folder.mkdir(parents=True)
-            write(kept, json.dumps(conditions))
-
-    def piece(self, name, measure):
-        path = self.folder / f"{name}.json"
-        if not path.exists():
-            measured = measure()
-            write(path, json.dumps({"load": os.getloadavg()[0], "measured": measured}))
-        return json.loads(path.read_text())
-
-    def end(self):
-        shutil.rmtree(self.folder)
 
 
 class Benchmark:
@@ -154,18 +104,6 @@ class Benchmark:
             run("taskset", "--cpu-list", self.core, OPENCL_BENCHMARK, builtin, "--type", ",".join(OPENCL_TYPES),
                 "--json", out, stderr=subprocess.DEVNULL)
             return json.loads(out.read_text())["measurements"]
-
-
-def significant(number):
-    """To four digits. An infinite error becomes text, which JSON can hold."""
-    rounded = float(f"{number:.4g}")
-    return rounded if math.isfinite(rounded) else "inf"
-
-
-def progress(done, of, what, began):
-    terminal = sys.stderr.isatty()
-    text = f"[{done}/{of}] {what}, {(time.time() - began) / 60:.1f} min"
-    print(f"\r\033[K{text}" if terminal else text, end="" if terminal else "\n", file=sys.stderr, flush=True)
 
 
 def form_of(name, family, all_measured):
@@ -337,17 +275,6 @@ def measure(arguments):
     journal.end()
 
 
-def text_of(figures):
-    """JSON with a line for each form."""
-    def lines(content):
-        if isinstance(content, dict):
-            return "{\n" + ",\n".join(f"{json.dumps(name)}: {json.dumps(of, allow_nan=False)}"
-                                      for name, of in content.items()) + "\n}"
-        return "[\n" + ",\n".join(map(json.dumps, content)) + "\n]"
-
-    return "{\n" + ",\n".join(f"{json.dumps(part)}: {lines(content)}" for part, content in figures.items()) + "\n}\n"
-
-
 def read(path):
     try:
         figures = json.loads(path.read_text())
@@ -390,18 +317,9 @@ def main():
         fail(f"the figures are kept, but tools/report/performance.toml lacks reasons: {error}; then --render")
     except (KeyError, TypeError, ValueError, AttributeError, ArithmeticError) as error:
         fail(f"the figures are incomplete: {kept}: {error!r}")
-    superfluous = [plot for plot in folder.glob("performance-*.svg") if plot.name not in files]
+    common.publish(folder, "performance", files, arguments.check)
     if arguments.check:
-        stale = [name for name, text in files.items()
-                 if not (folder / name).exists() or (folder / name).read_text() != text]
-        stale += [plot.name for plot in superfluous]
-        if stale:
-            fail(f"not what the kept figures give: {', '.join(stale)}; run scripts/report performance --render")
         return
-    for name, text in files.items():
-        write(folder / name, text)
-    for plot in superfluous:
-        plot.unlink()
     if not arguments.render:
         print(folder / "performance.md", file=sys.stderr)
 

@@ -6,12 +6,13 @@ import re
 import statistics
 import textwrap
 
+import common
 import document
 import performance
 
-README = performance.ROOT / "README.md"
-ERRORS = performance.ROOT / "tools/accuracy/errors.csv"
-KEPT = performance.ROOT / "kept"
+README = common.ROOT / "README.md"
+ERRORS = common.ROOT / "tools/accuracy/errors.csv"
+KEPT = common.ROOT / "kept"
 PLOT = "opencl-kernels.svg"
 VARIANTS = {
     "": "serves every argument",
@@ -139,7 +140,7 @@ def drawn(measurements):
             ratios.setdefault(m["builtin"], {})[m["type"]] = m["ratio"]
     rows = "\n".join(f'"{name}" {of["float"]} {of["double"]}'
                      for name, of in sorted(ratios.items(), key=lambda item: -item[1]["float"]))
-    return document.draw(f"""set terminal svg size 480,{100 + 15 * len(ratios)} font "sans-serif,14" background "white"
+    return common.gnuplot(f"""set terminal svg size 480,{100 + 15 * len(ratios)} font "sans-serif,14" background "white"
 $data << EOD
 {rows}
 EOD
@@ -161,7 +162,7 @@ plot $data using 2:0:ytic(1) with points pt 7 ps 0.8 lc rgb "#1f5fa8" title "flo
 def replaced(text, name, block):
     pattern = rf"(<!-- report: {name} -->\n).*?(<!-- end of report -->)"
     if len(re.findall(pattern, text, re.S)) != 1:
-        performance.fail(f"{README}: needs one place for the figures: {name}")
+        common.fail(f"{README}: needs one place for the figures: {name}")
     return re.sub(pattern, lambda match: f"{match[1]}\n{block}\n\n{match[2]}", text, flags=re.S)
 
 
@@ -169,24 +170,24 @@ def main():
     parser = argparse.ArgumentParser(prog="scripts/report readme", description=__doc__)
     parser.add_argument("--check", action="store_true", help="fail if they are not what these files give")
     arguments = parser.parse_args()
-    figures = performance.read(performance.DOCS / "performance.json")
+    figures = performance.read(common.DOCS / "performance.json")
     exported = len(re.findall(r"^\s+__ocl_\w+;$", (KEPT / "exports.map").read_text(), re.M))
     found = bounds(figures["forms"])
     text = README.read_text()
     for name, block in {"figures": figures_block(figures, found, exported), "variants": variants_block(figures, found),
                         "limits": limits_block(figures)}.items():
         text = replaced(text, name, block)
-    files = {README: text, performance.DOCS / PLOT: drawn(figures["opencl"])}
+    files = {README: text, common.DOCS / PLOT: drawn(figures["opencl"])}
     stale = [path.name for path, content in files.items() if not path.exists() or path.read_text() != content]
     if not arguments.check:
         for path, content in files.items():
-            performance.write(path, content)
+            common.write(path, content)
     elif stale:
-        performance.fail(f"not what the reports give: {', '.join(stale)}; run scripts/report readme")
+        common.fail(f"not what the reports give: {', '.join(stale)}; run scripts/report readme")
 
 
 if __name__ == "__main__":
     try:
         main()
     except (OSError, LookupError, TypeError, ValueError, AttributeError, ArithmeticError) as error:
-        performance.fail(f"cannot make the README's figures: {error!r}")
+        common.fail(f"cannot make the README's figures: {error!r}")

@@ -173,50 +173,50 @@ LANEMATH_INLINE lanemath_float16 lanemath_asinf16_native(lanemath_float16 x) {
  * <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_UNARY(asinf16_native, float16, float16, x)
 
-/** arc cosine of x, in radians; one double. Largest error 1.32 ulp. Domain and special values: at the head of
+/** arc cosine of x, in radians; one double. Largest error 1.33 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */
 lanemath_double1 lanemath_acos1(lanemath_double1 x) LANEMATH_NAMED("acos1");
-/** arc cosine of x, in radians; 2 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+/** arc cosine of x, in radians; 2 lanes of double. Largest error 1.33 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */
 lanemath_double2 lanemath_acos2(lanemath_double2 x) LANEMATH_NAMED("acos2");
 lanemath_border_double3 __ocl_lanemath_h8_acos3(lanemath_border_double3);
-/** arc cosine of x, in radians; 3 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+/** arc cosine of x, in radians; 3 lanes of double. Largest error 1.33 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_acos3(lanemath_double3 x) {
   return LANEMATH_UNARY(acos3, double3, double3, x);
 }
 #define lanemath_acos3(x) \
-/** arc cosine of x, in radians; 3 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+/** arc cosine of x, in radians; 3 lanes of double. Largest error 1.33 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_UNARY(acos3, double3, double3, x)
 lanemath_border_double4 __ocl_lanemath_h8_acos4(lanemath_border_double4);
-/** arc cosine of x, in radians; 4 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+/** arc cosine of x, in radians; 4 lanes of double. Largest error 1.33 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_acos4(lanemath_double4 x) {
   return LANEMATH_UNARY(acos4, double4, double4, x);
 }
 #define lanemath_acos4(x) \
-/** arc cosine of x, in radians; 4 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+/** arc cosine of x, in radians; 4 lanes of double. Largest error 1.33 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_UNARY(acos4, double4, double4, x)
 lanemath_border_double8 __ocl_lanemath_h8_acos8(lanemath_border_double8);
-/** arc cosine of x, in radians; 8 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+/** arc cosine of x, in radians; 8 lanes of double. Largest error 1.33 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_acos8(lanemath_double8 x) {
   return LANEMATH_UNARY(acos8, double8, double8, x);
 }
 #define lanemath_acos8(x) \
-/** arc cosine of x, in radians; 8 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+/** arc cosine of x, in radians; 8 lanes of double. Largest error 1.33 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_UNARY(acos8, double8, double8, x)
 lanemath_border_double16 __ocl_lanemath_h8_acos16(lanemath_border_double16);
-/** arc cosine of x, in radians; 16 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+/** arc cosine of x, in radians; 16 lanes of double. Largest error 1.33 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_acos16(lanemath_double16 x) {
   return LANEMATH_UNARY(acos16, double16, double16, x);
 }
 #define lanemath_acos16(x) \
-/** arc cosine of x, in radians; 16 lanes of double. Largest error 1.32 ulp. Domain and special values: at the head of
+/** arc cosine of x, in radians; 16 lanes of double. Largest error 1.33 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_UNARY(acos16, double16, double16, x)
 
@@ -653,50 +653,50 @@ LANEMATH_INLINE lanemath_float16 lanemath_acospif16_native(lanemath_float16 x) {
  * of <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_UNARY(acospif16_native, float16, float16, x)
 
-/** arc tangent of x, in radians; one double. Largest error 2.62 ulp. Domain and special values: at the head of
+/** arc tangent of x, in radians; one double. Largest error 2.63 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */
 lanemath_double1 lanemath_atan1(lanemath_double1 x) LANEMATH_NAMED("atan1");
 /** arc tangent of x, in radians; 2 lanes of double. An algorithm of its own: the last bits differ from those of other
  * widths. Largest error 4.63 ulp. Domain and special values: at the head of <lanemath/inverse_trigonometric.h>. */
 lanemath_double2 lanemath_atan2(lanemath_double2 x) LANEMATH_NAMED("atan2");
 lanemath_border_double3 __ocl_lanemath_h8_atan3(lanemath_border_double3);
-/** arc tangent of x, in radians; 3 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head of
+/** arc tangent of x, in radians; 3 lanes of double. Largest error 2.63 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_atan3(lanemath_double3 x) {
   return LANEMATH_UNARY(atan3, double3, double3, x);
 }
 #define lanemath_atan3(x) \
-/** arc tangent of x, in radians; 3 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head of
+/** arc tangent of x, in radians; 3 lanes of double. Largest error 2.63 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_UNARY(atan3, double3, double3, x)
 lanemath_border_double4 __ocl_lanemath_h8_atan4(lanemath_border_double4);
-/** arc tangent of x, in radians; 4 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head of
+/** arc tangent of x, in radians; 4 lanes of double. Largest error 2.63 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_atan4(lanemath_double4 x) {
   return LANEMATH_UNARY(atan4, double4, double4, x);
 }
 #define lanemath_atan4(x) \
-/** arc tangent of x, in radians; 4 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head of
+/** arc tangent of x, in radians; 4 lanes of double. Largest error 2.63 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_UNARY(atan4, double4, double4, x)
 lanemath_border_double8 __ocl_lanemath_h8_atan8(lanemath_border_double8);
-/** arc tangent of x, in radians; 8 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head of
+/** arc tangent of x, in radians; 8 lanes of double. Largest error 2.63 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_atan8(lanemath_double8 x) {
   return LANEMATH_UNARY(atan8, double8, double8, x);
 }
 #define lanemath_atan8(x) \
-/** arc tangent of x, in radians; 8 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head of
+/** arc tangent of x, in radians; 8 lanes of double. Largest error 2.63 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_UNARY(atan8, double8, double8, x)
 lanemath_border_double16 __ocl_lanemath_h8_atan16(lanemath_border_double16);
-/** arc tangent of x, in radians; 16 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head
+/** arc tangent of x, in radians; 16 lanes of double. Largest error 2.63 ulp. Domain and special values: at the head
  * of <lanemath/inverse_trigonometric.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_atan16(lanemath_double16 x) {
   return LANEMATH_UNARY(atan16, double16, double16, x);
 }
 #define lanemath_atan16(x) \
-/** arc tangent of x, in radians; 16 lanes of double. Largest error 2.62 ulp. Domain and special values: at the head
+/** arc tangent of x, in radians; 16 lanes of double. Largest error 2.63 ulp. Domain and special values: at the head
  * of <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_UNARY(atan16, double16, double16, x)
 
@@ -973,51 +973,51 @@ LANEMATH_INLINE lanemath_float16 lanemath_atanpif16_native(lanemath_float16 x) {
  * of <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_UNARY(atanpif16_native, float16, float16, x)
 
-/** angle of the point (second, first) in radians, -pi to pi; one double. Largest error 4.71 ulp. Domain and special
+/** angle of the point (second, first) in radians, -pi to pi; one double. Largest error 4.72 ulp. Domain and special
  * values: at the head of <lanemath/inverse_trigonometric.h>. */
 lanemath_double1 lanemath_atan21(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("atan21");
 /** angle of the point (second, first) in radians, -pi to pi; 2 lanes of double. An algorithm of its own: the last
- * bits differ from those of other widths. Largest error 4.71 ulp. Domain and special values: at the head of
+ * bits differ from those of other widths. Largest error 4.72 ulp. Domain and special values: at the head of
  * <lanemath/inverse_trigonometric.h>. */
 lanemath_double2 lanemath_atan22(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("atan22");
 lanemath_border_double3 __ocl_lanemath_h8_atan23(lanemath_border_double3, lanemath_border_double3);
-/** angle of the point (second, first) in radians, -pi to pi; 3 lanes of double. Largest error 4.71 ulp. Domain and
+/** angle of the point (second, first) in radians, -pi to pi; 3 lanes of double. Largest error 4.72 ulp. Domain and
  * special values: at the head of <lanemath/inverse_trigonometric.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_atan23(lanemath_double3 x, lanemath_double3 y) {
   return LANEMATH_BINARY(atan23, double3, double3, double3, x, y);
 }
 #define lanemath_atan23(x, y) \
-/** angle of the point (second, first) in radians, -pi to pi; 3 lanes of double. Largest error 4.71 ulp. Domain and
+/** angle of the point (second, first) in radians, -pi to pi; 3 lanes of double. Largest error 4.72 ulp. Domain and
  * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_BINARY(atan23, double3, double3, double3, x, y)
 lanemath_border_double4 __ocl_lanemath_h8_atan24(lanemath_border_double4, lanemath_border_double4);
-/** angle of the point (second, first) in radians, -pi to pi; 4 lanes of double. Largest error 4.71 ulp. Domain and
+/** angle of the point (second, first) in radians, -pi to pi; 4 lanes of double. Largest error 4.72 ulp. Domain and
  * special values: at the head of <lanemath/inverse_trigonometric.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_atan24(lanemath_double4 x, lanemath_double4 y) {
   return LANEMATH_BINARY(atan24, double4, double4, double4, x, y);
 }
 #define lanemath_atan24(x, y) \
-/** angle of the point (second, first) in radians, -pi to pi; 4 lanes of double. Largest error 4.71 ulp. Domain and
+/** angle of the point (second, first) in radians, -pi to pi; 4 lanes of double. Largest error 4.72 ulp. Domain and
  * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_BINARY(atan24, double4, double4, double4, x, y)
 lanemath_border_double8 __ocl_lanemath_h8_atan28(lanemath_border_double8, lanemath_border_double8);
-/** angle of the point (second, first) in radians, -pi to pi; 8 lanes of double. Largest error 4.71 ulp. Domain and
+/** angle of the point (second, first) in radians, -pi to pi; 8 lanes of double. Largest error 4.72 ulp. Domain and
  * special values: at the head of <lanemath/inverse_trigonometric.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_atan28(lanemath_double8 x, lanemath_double8 y) {
   return LANEMATH_BINARY(atan28, double8, double8, double8, x, y);
 }
 #define lanemath_atan28(x, y) \
-/** angle of the point (second, first) in radians, -pi to pi; 8 lanes of double. Largest error 4.71 ulp. Domain and
+/** angle of the point (second, first) in radians, -pi to pi; 8 lanes of double. Largest error 4.72 ulp. Domain and
  * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_BINARY(atan28, double8, double8, double8, x, y)
 lanemath_border_double16 __ocl_lanemath_h8_atan216(lanemath_border_double16, lanemath_border_double16);
-/** angle of the point (second, first) in radians, -pi to pi; 16 lanes of double. Largest error 4.71 ulp. Domain and
+/** angle of the point (second, first) in radians, -pi to pi; 16 lanes of double. Largest error 4.72 ulp. Domain and
  * special values: at the head of <lanemath/inverse_trigonometric.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_atan216(lanemath_double16 x, lanemath_double16 y) {
   return LANEMATH_BINARY(atan216, double16, double16, double16, x, y);
 }
 #define lanemath_atan216(x, y) \
-/** angle of the point (second, first) in radians, -pi to pi; 16 lanes of double. Largest error 4.71 ulp. Domain and
+/** angle of the point (second, first) in radians, -pi to pi; 16 lanes of double. Largest error 4.72 ulp. Domain and
  * special values: at the head of <lanemath/inverse_trigonometric.h>. */ \
   LANEMATH_BINARY(atan216, double16, double16, double16, x, y)
 

@@ -14,50 +14,50 @@
 
 LANEMATH_BEGIN
 
-/** x to the power y; one double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y; one double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */
 lanemath_double1 lanemath_pow1(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("pow1");
-/** x to the power y; 2 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y; 2 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */
 lanemath_double2 lanemath_pow2(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("pow2");
 lanemath_border_double3 __ocl_lanemath_h8_pow3(lanemath_border_double3, lanemath_border_double3);
-/** x to the power y; 3 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y; 3 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_pow3(lanemath_double3 x, lanemath_double3 y) {
   return LANEMATH_BINARY(pow3, double3, double3, double3, x, y);
 }
 #define lanemath_pow3(x, y) \
-/** x to the power y; 3 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y; 3 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */ \
   LANEMATH_BINARY(pow3, double3, double3, double3, x, y)
 lanemath_border_double4 __ocl_lanemath_h8_pow4(lanemath_border_double4, lanemath_border_double4);
-/** x to the power y; 4 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y; 4 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_pow4(lanemath_double4 x, lanemath_double4 y) {
   return LANEMATH_BINARY(pow4, double4, double4, double4, x, y);
 }
 #define lanemath_pow4(x, y) \
-/** x to the power y; 4 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y; 4 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */ \
   LANEMATH_BINARY(pow4, double4, double4, double4, x, y)
 lanemath_border_double8 __ocl_lanemath_h8_pow8(lanemath_border_double8, lanemath_border_double8);
-/** x to the power y; 8 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y; 8 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_pow8(lanemath_double8 x, lanemath_double8 y) {
   return LANEMATH_BINARY(pow8, double8, double8, double8, x, y);
 }
 #define lanemath_pow8(x, y) \
-/** x to the power y; 8 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y; 8 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */ \
   LANEMATH_BINARY(pow8, double8, double8, double8, x, y)
 lanemath_border_double16 __ocl_lanemath_h8_pow16(lanemath_border_double16, lanemath_border_double16);
-/** x to the power y; 16 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y; 16 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_pow16(lanemath_double16 x, lanemath_double16 y) {
   return LANEMATH_BINARY(pow16, double16, double16, double16, x, y);
 }
 #define lanemath_pow16(x, y) \
-/** x to the power y; 16 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y; 16 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */ \
   LANEMATH_BINARY(pow16, double16, double16, double16, x, y)
 
@@ -205,50 +205,50 @@ LANEMATH_INLINE lanemath_float16 lanemath_powf16_rm(lanemath_float16 x, lanemath
  * values: at the head of <lanemath/power.h>. */ \
   LANEMATH_BINARY(powf16_rm, float16, float16, float16, x, y)
 
-/** x to the power y, for x >= 0; one double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y, for x >= 0; one double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */
 lanemath_double1 lanemath_powr1(lanemath_double1 x, lanemath_double1 y) LANEMATH_NAMED("powr1");
-/** x to the power y, for x >= 0; 2 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y, for x >= 0; 2 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */
 lanemath_double2 lanemath_powr2(lanemath_double2 x, lanemath_double2 y) LANEMATH_NAMED("powr2");
 lanemath_border_double3 __ocl_lanemath_h8_powr3(lanemath_border_double3, lanemath_border_double3);
-/** x to the power y, for x >= 0; 3 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y, for x >= 0; 3 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_powr3(lanemath_double3 x, lanemath_double3 y) {
   return LANEMATH_BINARY(powr3, double3, double3, double3, x, y);
 }
 #define lanemath_powr3(x, y) \
-/** x to the power y, for x >= 0; 3 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y, for x >= 0; 3 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */ \
   LANEMATH_BINARY(powr3, double3, double3, double3, x, y)
 lanemath_border_double4 __ocl_lanemath_h8_powr4(lanemath_border_double4, lanemath_border_double4);
-/** x to the power y, for x >= 0; 4 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y, for x >= 0; 4 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_powr4(lanemath_double4 x, lanemath_double4 y) {
   return LANEMATH_BINARY(powr4, double4, double4, double4, x, y);
 }
 #define lanemath_powr4(x, y) \
-/** x to the power y, for x >= 0; 4 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y, for x >= 0; 4 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */ \
   LANEMATH_BINARY(powr4, double4, double4, double4, x, y)
 lanemath_border_double8 __ocl_lanemath_h8_powr8(lanemath_border_double8, lanemath_border_double8);
-/** x to the power y, for x >= 0; 8 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y, for x >= 0; 8 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_powr8(lanemath_double8 x, lanemath_double8 y) {
   return LANEMATH_BINARY(powr8, double8, double8, double8, x, y);
 }
 #define lanemath_powr8(x, y) \
-/** x to the power y, for x >= 0; 8 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head of
+/** x to the power y, for x >= 0; 8 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head of
  * <lanemath/power.h>. */ \
   LANEMATH_BINARY(powr8, double8, double8, double8, x, y)
 lanemath_border_double16 __ocl_lanemath_h8_powr16(lanemath_border_double16, lanemath_border_double16);
-/** x to the power y, for x >= 0; 16 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head
+/** x to the power y, for x >= 0; 16 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head
  * of <lanemath/power.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_powr16(lanemath_double16 x, lanemath_double16 y) {
   return LANEMATH_BINARY(powr16, double16, double16, double16, x, y);
 }
 #define lanemath_powr16(x, y) \
-/** x to the power y, for x >= 0; 16 lanes of double. Largest error 1.62 ulp. Domain and special values: at the head
+/** x to the power y, for x >= 0; 16 lanes of double. Largest error 1.64 ulp. Domain and special values: at the head
  * of <lanemath/power.h>. */ \
   LANEMATH_BINARY(powr16, double16, double16, double16, x, y)
 

@@ -560,36 +560,36 @@ LANEMATH_INLINE lanemath_double16 lanemath_sincos16_native(lanemath_double16 x, 
  * values: at the head of <lanemath/trigonometric.h>. */ \
   LANEMATH_UNARY_POINTER(sincos16_native, double16, double16, double16, x, cosine)
 
-/** sine of x radians; cosine through the pointer; one float. Largest error 2.84 ulp. Domain and special values: at
+/** sine of x radians; cosine through the pointer; one float. Largest error 2.87 ulp. Domain and special values: at
  * the head of <lanemath/trigonometric.h>. */
 lanemath_float1 lanemath_sincosf1(lanemath_float1 x, lanemath_float1* cosine) LANEMATH_NAMED("sincosf1");
-/** sine of x radians; cosine through the pointer; 2 lanes of float. Largest error 2.84 ulp. Domain and special
+/** sine of x radians; cosine through the pointer; 2 lanes of float. Largest error 2.87 ulp. Domain and special
  * values: at the head of <lanemath/trigonometric.h>. */
 lanemath_float2 lanemath_sincosf2(lanemath_float2 x, lanemath_float2* cosine) LANEMATH_NAMED("sincosf2");
-/** sine of x radians; cosine through the pointer; 3 lanes of float. Largest error 2.84 ulp. Domain and special
+/** sine of x radians; cosine through the pointer; 3 lanes of float. Largest error 2.87 ulp. Domain and special
  * values: at the head of <lanemath/trigonometric.h>. */
 lanemath_float3 lanemath_sincosf3(lanemath_float3 x, lanemath_float3* cosine) LANEMATH_NAMED("sincosf3");
-/** sine of x radians; cosine through the pointer; 4 lanes of float. Largest error 2.84 ulp. Domain and special
+/** sine of x radians; cosine through the pointer; 4 lanes of float. Largest error 2.87 ulp. Domain and special
  * values: at the head of <lanemath/trigonometric.h>. */
 lanemath_float4 lanemath_sincosf4(lanemath_float4 x, lanemath_float4* cosine) LANEMATH_NAMED("sincosf4");
 lanemath_border_float8 __ocl_lanemath_h8_sincosf8(lanemath_border_float8, lanemath_float8*);
-/** sine of x radians; cosine through the pointer; 8 lanes of float. Largest error 2.84 ulp. Domain and special
+/** sine of x radians; cosine through the pointer; 8 lanes of float. Largest error 2.87 ulp. Domain and special
  * values: at the head of <lanemath/trigonometric.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_sincosf8(lanemath_float8 x, lanemath_float8* cosine) {
   return LANEMATH_UNARY_POINTER(sincosf8, float8, float8, float8, x, cosine);
 }
 #define lanemath_sincosf8(x, cosine) \
-/** sine of x radians; cosine through the pointer; 8 lanes of float. Largest error 2.84 ulp. Domain and special
+/** sine of x radians; cosine through the pointer; 8 lanes of float. Largest error 2.87 ulp. Domain and special
  * values: at the head of <lanemath/trigonometric.h>. */ \
   LANEMATH_UNARY_POINTER(sincosf8, float8, float8, float8, x, cosine)
 lanemath_border_float16 __ocl_lanemath_h8_sincosf16(lanemath_border_float16, lanemath_float16*);
-/** sine of x radians; cosine through the pointer; 16 lanes of float. Largest error 2.84 ulp. Domain and special
+/** sine of x radians; cosine through the pointer; 16 lanes of float. Largest error 2.87 ulp. Domain and special
  * values: at the head of <lanemath/trigonometric.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_sincosf16(lanemath_float16 x, lanemath_float16* cosine) {
   return LANEMATH_UNARY_POINTER(sincosf16, float16, float16, float16, x, cosine);
 }
 #define lanemath_sincosf16(x, cosine) \
-/** sine of x radians; cosine through the pointer; 16 lanes of float. Largest error 2.84 ulp. Domain and special
+/** sine of x radians; cosine through the pointer; 16 lanes of float. Largest error 2.87 ulp. Domain and special
  * values: at the head of <lanemath/trigonometric.h>. */ \
   LANEMATH_UNARY_POINTER(sincosf16, float16, float16, float16, x, cosine)
 
@@ -753,36 +753,36 @@ LANEMATH_INLINE lanemath_double16_pair lanemath_sincosreg16_native(lanemath_doub
  * values: at the head of <lanemath/trigonometric.h>. */ \
   LANEMATH_UNARY_PAIR(sincosreg16_native, double16, double16, x)
 
-/** sine and cosine of x radians, as a pair; one float. Largest error 2.84 ulp. Domain and special values: at the head
+/** sine and cosine of x radians, as a pair; one float. Largest error 2.87 ulp. Domain and special values: at the head
  * of <lanemath/trigonometric.h>. */
 lanemath_float1_pair lanemath_sincosregf1(lanemath_float1 x) LANEMATH_NAMED("sincosregf1");
-/** sine and cosine of x radians, as a pair; 2 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+/** sine and cosine of x radians, as a pair; 2 lanes of float. Largest error 2.87 ulp. Domain and special values: at
  * the head of <lanemath/trigonometric.h>. */
 lanemath_float2_pair lanemath_sincosregf2(lanemath_float2 x) LANEMATH_NAMED("sincosregf2");
-/** sine and cosine of x radians, as a pair; 3 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+/** sine and cosine of x radians, as a pair; 3 lanes of float. Largest error 2.87 ulp. Domain and special values: at
  * the head of <lanemath/trigonometric.h>. */
 lanemath_float3_pair lanemath_sincosregf3(lanemath_float3 x) LANEMATH_NAMED("sincosregf3");
-/** sine and cosine of x radians, as a pair; 4 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+/** sine and cosine of x radians, as a pair; 4 lanes of float. Largest error 2.87 ulp. Domain and special values: at
  * the head of <lanemath/trigonometric.h>. */
 lanemath_float4_pair lanemath_sincosregf4(lanemath_float4 x) LANEMATH_NAMED("sincosregf4");
 lanemath_border_float8_pair __ocl_lanemath_h8_sincosregf8(lanemath_border_float8);
-/** sine and cosine of x radians, as a pair; 8 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+/** sine and cosine of x radians, as a pair; 8 lanes of float. Largest error 2.87 ulp. Domain and special values: at
  * the head of <lanemath/trigonometric.h>. */
 LANEMATH_INLINE lanemath_float8_pair lanemath_sincosregf8(lanemath_float8 x) {
   return LANEMATH_UNARY_PAIR(sincosregf8, float8, float8, x);
 }
 #define lanemath_sincosregf8(x) \
-/** sine and cosine of x radians, as a pair; 8 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+/** sine and cosine of x radians, as a pair; 8 lanes of float. Largest error 2.87 ulp. Domain and special values: at
  * the head of <lanemath/trigonometric.h>. */ \
   LANEMATH_UNARY_PAIR(sincosregf8, float8, float8, x)
 lanemath_border_float16_pair __ocl_lanemath_h8_sincosregf16(lanemath_border_float16);
-/** sine and cosine of x radians, as a pair; 16 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+/** sine and cosine of x radians, as a pair; 16 lanes of float. Largest error 2.87 ulp. Domain and special values: at
  * the head of <lanemath/trigonometric.h>. */
 LANEMATH_INLINE lanemath_float16_pair lanemath_sincosregf16(lanemath_float16 x) {
   return LANEMATH_UNARY_PAIR(sincosregf16, float16, float16, x);
 }
 #define lanemath_sincosregf16(x) \
-/** sine and cosine of x radians, as a pair; 16 lanes of float. Largest error 2.84 ulp. Domain and special values: at
+/** sine and cosine of x radians, as a pair; 16 lanes of float. Largest error 2.87 ulp. Domain and special values: at
  * the head of <lanemath/trigonometric.h>. */ \
   LANEMATH_UNARY_PAIR(sincosregf16, float16, float16, x)
 
@@ -819,50 +819,50 @@ LANEMATH_INLINE lanemath_float16_pair lanemath_sincosregf16_native(lanemath_floa
  * the head of <lanemath/trigonometric.h>. */ \
   LANEMATH_UNARY_PAIR(sincosregf16_native, float16, float16, x)
 
-/** tangent of x radians; one double. Largest error 0.57 ulp. Domain and special values: at the head of
+/** tangent of x radians; one double. Largest error 0.571 ulp. Domain and special values: at the head of
  * <lanemath/trigonometric.h>. */
 lanemath_double1 lanemath_tan1(lanemath_double1 x) LANEMATH_NAMED("tan1");
-/** tangent of x radians; 2 lanes of double. Largest error 0.57 ulp. Domain and special values: at the head of
+/** tangent of x radians; 2 lanes of double. Largest error 0.571 ulp. Domain and special values: at the head of
  * <lanemath/trigonometric.h>. */
 lanemath_double2 lanemath_tan2(lanemath_double2 x) LANEMATH_NAMED("tan2");
 lanemath_border_double3 __ocl_lanemath_h8_tan3(lanemath_border_double3);
-/** tangent of x radians; 3 lanes of double. Largest error 0.57 ulp. Domain and special values: at the head of
+/** tangent of x radians; 3 lanes of double. Largest error 0.571 ulp. Domain and special values: at the head of
  * <lanemath/trigonometric.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_tan3(lanemath_double3 x) {
   return LANEMATH_UNARY(tan3, double3, double3, x);
 }
 #define lanemath_tan3(x) \
-/** tangent of x radians; 3 lanes of double. Largest error 0.57 ulp. Domain and special values: at the head of
+/** tangent of x radians; 3 lanes of double. Largest error 0.571 ulp. Domain and special values: at the head of
  * <lanemath/trigonometric.h>. */ \
   LANEMATH_UNARY(tan3, double3, double3, x)
 lanemath_border_double4 __ocl_lanemath_h8_tan4(lanemath_border_double4);
-/** tangent of x radians; 4 lanes of double. Largest error 0.57 ulp. Domain and special values: at the head of
+/** tangent of x radians; 4 lanes of double. Largest error 0.571 ulp. Domain and special values: at the head of
  * <lanemath/trigonometric.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_tan4(lanemath_double4 x) {
   return LANEMATH_UNARY(tan4, double4, double4, x);
 }
 #define lanemath_tan4(x) \
-/** tangent of x radians; 4 lanes of double. Largest error 0.57 ulp. Domain and special values: at the head of
+/** tangent of x radians; 4 lanes of double. Largest error 0.571 ulp. Domain and special values: at the head of
  * <lanemath/trigonometric.h>. */ \
   LANEMATH_UNARY(tan4, double4, double4, x)
 lanemath_border_double8 __ocl_lanemath_h8_tan8(lanemath_border_double8);
-/** tangent of x radians; 8 lanes of double. Largest error 0.57 ulp. Domain and special values: at the head of
+/** tangent of x radians; 8 lanes of double. Largest error 0.571 ulp. Domain and special values: at the head of
  * <lanemath/trigonometric.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_tan8(lanemath_double8 x) {
   return LANEMATH_UNARY(tan8, double8, double8, x);
 }
 #define lanemath_tan8(x) \
-/** tangent of x radians; 8 lanes of double. Largest error 0.57 ulp. Domain and special values: at the head of
+/** tangent of x radians; 8 lanes of double. Largest error 0.571 ulp. Domain and special values: at the head of
  * <lanemath/trigonometric.h>. */ \
   LANEMATH_UNARY(tan8, double8, double8, x)
 lanemath_border_double16 __ocl_lanemath_h8_tan16(lanemath_border_double16);
-/** tangent of x radians; 16 lanes of double. Largest error 0.57 ulp. Domain and special values: at the head of
+/** tangent of x radians; 16 lanes of double. Largest error 0.571 ulp. Domain and special values: at the head of
  * <lanemath/trigonometric.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_tan16(lanemath_double16 x) {
   return LANEMATH_UNARY(tan16, double16, double16, x);
 }
 #define lanemath_tan16(x) \
-/** tangent of x radians; 16 lanes of double. Largest error 0.57 ulp. Domain and special values: at the head of
+/** tangent of x radians; 16 lanes of double. Largest error 0.571 ulp. Domain and special values: at the head of
  * <lanemath/trigonometric.h>. */ \
   LANEMATH_UNARY(tan16, double16, double16, x)
 

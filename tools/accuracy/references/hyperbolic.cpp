@@ -5,7 +5,7 @@
 namespace lanemath::accuracy {
 
 std::vector<reference> hyperbolic_references() {
-  const auto exponential = [](std::string_view name, exact_function value, double (*fast)(double)) {
+  const auto exponential = [](std::string_view name, exact_function value, double (*fast)(double), float rare) {
     return reference{.name = name,
                      .value = value,
                      .ranges = {{"typical", {{-5, 5}}},
@@ -16,11 +16,14 @@ std::vector<reference> hyperbolic_references() {
                                 {"wide rare", {{707.7002, 710.5}}}},
                      .single_bounds = {87.33653, 89.415986, 88.8},
                      .double_bounds = {707.69970703125, 710.475860073944},
-                     .fast = fast};
+                     .fast = fast,
+                     .single_parts = {{"rare lanes", rare}}};
   };
   return {
-      exponential("sinh", unary<mpfr_sinh>, [](double x) { return std::sinh(x); }),
-      exponential("cosh", unary<mpfr_cosh>, [](double x) { return std::cosh(x); }),
+      exponential(
+          "sinh", unary<mpfr_sinh>, [](double x) { return std::sinh(x); }, 0x1.5d589cp6f),
+      exponential(
+          "cosh", unary<mpfr_cosh>, [](double x) { return std::cosh(x); }, 0x1.5d589ap6f),
       {.name = "tanh",
        .value = unary<mpfr_tanh>,
        .ranges = {{"typical", {{-5, 5}}},

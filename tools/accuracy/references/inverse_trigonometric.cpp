@@ -26,8 +26,14 @@ const std::vector<double> double_guards{0x1p-1074, 0x1p-1020, 0x1p-1000, 0x1p-53
 std::vector<reference> inverse_trigonometric_references() {
   const auto of = [](std::string_view name, exact_function value, const std::vector<range>& ranges,
                      const std::vector<double>& single_bounds, const std::vector<double>& double_bounds,
-                     double (*fast)(double)) {
-    return reference{name, value, ranges, single_bounds, double_bounds, fast};
+                     double (*fast)(double), abscissa over = abscissa::argument) {
+    return reference{.name = name,
+                     .value = value,
+                     .ranges = ranges,
+                     .single_bounds = single_bounds,
+                     .double_bounds = double_bounds,
+                     .fast = fast,
+                     .over = over};
   };
   using std::numbers::inv_pi;
   return {
@@ -40,8 +46,8 @@ std::vector<reference> inverse_trigonometric_references() {
       of("atan", unary<mpfr_atan>, of_any, single_guards, double_guards, [](double x) { return std::atan(x); }),
       of("atanpi", unary<mpfr_atanpi>, of_any, single_guards, double_guards,
          [](double x) { return std::atan(x) * inv_pi; }),
-      of("atan2", binary<mpfr_atan2>, of_points, single_guards, double_guards, nullptr),
-      of("atan2pi", binary<mpfr_atan2pi>, of_points, single_guards, double_guards, nullptr),
+      of("atan2", binary<mpfr_atan2>, of_points, single_guards, double_guards, nullptr, abscissa::quotient),
+      of("atan2pi", binary<mpfr_atan2pi>, of_points, single_guards, double_guards, nullptr, abscissa::quotient),
   };
 }
 

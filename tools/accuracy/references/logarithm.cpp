@@ -14,8 +14,13 @@ std::vector<reference> logarithm_references() {
   // Besides 1: the ends of the mantissa's interval, where the exponent steps.
   const std::vector<double> bounds{0.6666667, 1.3333334, 0x1.6ap0, 0x1.6a8p-1, 0x1.7p0};
   const auto of = [&](std::string_view name, exact_function value, double (*fast)(double)) {
-    return reference{
-        .name = name, .value = value, .ranges = ranges, .single_bounds = bounds, .double_bounds = bounds, .fast = fast};
+    return reference{.name = name,
+                     .value = value,
+                     .ranges = ranges,
+                     .single_bounds = bounds,
+                     .double_bounds = bounds,
+                     .fast = fast,
+                     .single_parts = {{"but denormals", 0x1.fffffcp-127f}}};
   };
   return {
       of("log", unary<mpfr_log>, [](double x) { return std::log(x); }),
@@ -31,7 +36,8 @@ std::vector<reference> logarithm_references() {
                   {"rare", {{0x1p116, 0x1.fffffep127}}}},
        .single_bounds = {0x1p-12, 1, 0x1p118, 0x1p127},
        .double_bounds = {0x1p-31, 1, 0x1.ffffffffff000p1012},
-       .fast = [](double x) { return std::log1p(x); }},
+       .fast = [](double x) { return std::log1p(x); },
+       .single_parts = {{"up to 2^118", 0, 0x1p118f}}},
   };
 }
 

@@ -33,8 +33,18 @@ std::vector<reference> power_references() {
                                      {"denormal", {{1e-44, 1e-20}, {0.8, 3}}}};
   const std::vector<double> bounds = {0.9921875, 1.015625, 1.4375, 1.5, 0x1p24, 0x1p53, 3, 127, 149, 151, 1023, 1075};
   return {
-      {.name = "pow", .value = binary<mpfr_pow>, .ranges = powers, .single_bounds = bounds, .double_bounds = bounds},
-      {.name = "powr", .value = powr, .ranges = powers, .single_bounds = bounds, .double_bounds = bounds},
+      {.name = "pow",
+       .value = binary<mpfr_pow>,
+       .ranges = powers,
+       .single_bounds = bounds,
+       .double_bounds = bounds,
+       .over = abscissa::result},
+      {.name = "powr",
+       .value = powr,
+       .ranges = powers,
+       .single_bounds = bounds,
+       .double_bounds = bounds,
+       .over = abscissa::result},
       {.name = "pown",
        .value = binary<mpfr_pow>,
        .ranges = {{"typical", {{-100, 100}, {-15, 15}}},
@@ -42,7 +52,8 @@ std::vector<reference> power_references() {
                   {"near one", {{0.998, 1.002}, {-400'000, 400'000}}},
                   {"nearer one", {{0.9999998, 1.0000002}, {-2147483648.0, 2147483647}}}},
        .single_bounds = bounds,
-       .double_bounds = bounds},
+       .double_bounds = bounds,
+       .over = abscissa::result},
       {.name = "rootn",
        .value = rootn,
        .ranges = {{"typical", {{0.01, 100}, {-10, 10}}},
@@ -50,7 +61,8 @@ std::vector<reference> power_references() {
                   {"denormal", {{-1e-38, 1e-38}, {-3, 3}}},
                   {"long", {{1e-44, 3e38}, {-2147483648.0, 2147483647}}}},
        .single_bounds = bounds,
-       .double_bounds = bounds},
+       .double_bounds = bounds,
+       .over = abscissa::result},
   };
 }
 

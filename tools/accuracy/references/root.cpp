@@ -28,7 +28,8 @@ std::vector<reference> root_references() {
        .value = binary<mpfr_div>,
        .ranges = {{"typical", {{-1000, 1000}, wide}}},
        .single_bounds = {0x1p126, 0x1.ffdp125},
-       .double_bounds = {0x1p-1022}},
+       .double_bounds = {0x1p-1022},
+       .over = abscissa::quotient},
       {.name = "inv",
        .value = inverse,
        .ranges = {{"typical", {wide}}},
@@ -61,7 +62,8 @@ std::vector<reference> root_references() {
        .value = binary<mpfr_hypot>,
        .ranges = {{"typical", {{1e-9, 1e9}, {1e-9, 1e9}}}},
        .single_bounds = {0x1p-34, 0x1.4p-34, 0x1p33, 0x1.2p33, 0x1p-140, 0x1p-60, 0x1p70},
-       .double_bounds = {0x1p-34, 0x1.4p-34, 0x1p33, 0x1.2p33, 0x1p-1060, 0x1p-540, 0x1p540}},
+       .double_bounds = {0x1p-34, 0x1.4p-34, 0x1p33, 0x1.2p33, 0x1p-1060, 0x1p-540, 0x1p540},
+       .over = abscissa::quotient},
   };
 }
 
