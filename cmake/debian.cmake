@@ -20,7 +20,8 @@ macro(lanemath_package component package section depends description)
   set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${section})
   set(CPACK_DEBIAN_${upper}_PACKAGE_DEPENDS "${depends}")
   set(CPACK_COMPONENT_${upper}_DESCRIPTION "lanemath computes exp, sin, pow and the like on vectors of 2, 3, 4, 8 and 16
-floats or doubles, with the same bits on every x86-64 processor with SSE4.1.
+floats or doubles, on x86-64 processors with SSE4.1, with the same bits
+whatever compiler built it.
 .
 This package ${description}.")
 endmacro()
