@@ -31,6 +31,11 @@ struct big_arguments {
   big_arguments& operator=(const big_arguments&) = delete;
 };
 
+// Frees what MPFR keeps for this thread, after all numbers declared behind it; also where an exception ends the work.
+struct mpfr_cache {
+  ~mpfr_cache() { mpfr_free_cache2(MPFR_FREE_LOCAL_CACHE); }
+};
+
 inline double value_of(lane type, std::uint64_t pattern) {
   switch (type) {
     case lane::f32: return std::bit_cast<float>(std::uint32_t(pattern));

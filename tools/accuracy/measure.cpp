@@ -62,6 +62,7 @@ std::vector<finding> measure_here(const operation& o, const reference& r, std::s
   std::vector<std::vector<harness::outcome>> outcomes;
   for (const auto& each : forms) outcomes.push_back(harness::evaluate(o, each.f, each.width, tuples));
   std::vector<finding> found(forms.size());
+  const mpfr_cache cache;
   big exact;
   big_arguments given;
   std::vector<judgement> verdicts(forms.size());
@@ -87,7 +88,6 @@ std::vector<finding> measure_here(const operation& o, const reference& r, std::s
     add(r.value, o.sig.result, &harness::outcome::first);
     if (r.second) add(r.second, o.sig.second, &harness::outcome::second);
   }
-  mpfr_free_cache2(MPFR_FREE_LOCAL_CACHE);
   return found;
 }
 
@@ -218,6 +218,7 @@ tally measure_by_stand_in(const operation& o, const reference& r, const harness:
   constexpr std::size_t checked = 256;
   const auto outcomes = harness::evaluate(o, f, width, inputs);
   tally found;
+  const mpfr_cache cache;
   big exact;
   big_arguments given;
   for (std::size_t n = 0; n < inputs.size(); ++n) {
@@ -243,7 +244,6 @@ tally measure_by_stand_in(const operation& o, const reference& r, const harness:
     if (n % checked == 0 && std::fabs(mpfr_get_ld(exact.v, MPFR_RNDN) - value) > std::fabs(value) * (margin / 2))
       throw std::runtime_error(fmt::format("the stand-in for {} is off at {}", o.name(), text_of(o, inputs[n])));
   }
-  mpfr_free_cache2(MPFR_FREE_LOCAL_CACHE);
   return found;
 }
 

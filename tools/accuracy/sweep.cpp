@@ -246,6 +246,7 @@ std::vector<finding> sweep(const operation& o, const reference& r, std::span<con
   const std::uint64_t all = (std::uint64_t(1) << 31) / block, blocks = (all - which.number + which.of - 1) / which.of;
   std::atomic<std::uint64_t> next = 0;
   return on_threads(threads, [&](unsigned thread) {
+    const mpfr_cache cache;
     sweeper mine(o, r, forms);
     auto last_told = std::chrono::steady_clock::now();
     for (std::uint64_t n; (n = next++) < blocks;) {
@@ -257,7 +258,6 @@ std::vector<finding> sweep(const operation& o, const reference& r, std::span<con
         progress(double(n) / double(blocks));
       }
     }
-    mpfr_free_cache2(MPFR_FREE_LOCAL_CACHE);
     return mine.found();
   });
 }
