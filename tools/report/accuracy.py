@@ -121,13 +121,7 @@ def measure(arguments):
 
 
 def read(path):
-    try:
-        figures = json.loads(path.read_text())
-        if list(figures) != ["about", "operations"]:
-            raise ValueError("it has other parts")
-        return figures
-    except (OSError, ValueError) as error:
-        fail(f"cannot read the figures: {path}: {error}")
+    return common.read(path, ["about", "operations"])
 
 
 def main():

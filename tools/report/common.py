@@ -86,6 +86,17 @@ def text_of(figures):
     return "{\n" + ",\n".join(f"{json.dumps(part)}: {lines(content)}" for part, content in figures.items()) + "\n}\n"
 
 
+def read(path, parts):
+    """The kept figures, which have these parts."""
+    try:
+        figures = json.loads(path.read_text())
+        if list(figures) != parts:
+            raise ValueError("it has other parts")
+        return figures
+    except (OSError, ValueError) as error:
+        fail(f"cannot read the figures: {path}: {error}")
+
+
 def gnuplot(script):
     program = shutil.which("gnuplot") or fail("there is no gnuplot (Debian package gnuplot-nox)")
     return run(program, input=script)

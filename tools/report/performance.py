@@ -3,7 +3,6 @@ import argparse
 import datetime
 import hashlib
 import json
-import math
 import os
 import pathlib
 import platform
@@ -276,13 +275,7 @@ def measure(arguments):
 
 
 def read(path):
-    try:
-        figures = json.loads(path.read_text())
-        if list(figures) != ["about", "forms", "large", "opencl"]:
-            raise ValueError("it has other parts")
-        return figures
-    except (OSError, ValueError) as error:
-        fail(f"cannot read the figures: {path}: {error}")
+    return common.read(path, ["about", "forms", "large", "opencl"])
 
 
 def main():
