@@ -1,4 +1,5 @@
-// Highway's contributed maths. Its level above SSSE3 has SSE4.2 too, which is more than the library has.
+// Highway's contributed maths. Its level above SSSE3 has SSE4.2 too, which is more than the library has; those of wider
+// registers have FMA.
 #define HWY_COMPILE_ONLY_STATIC
 #define HWY_DISABLE_PCLMUL_AES
 #include <hwy/contrib/math/math-inl.h>
@@ -10,7 +11,9 @@ namespace lanemath::bench {
 namespace {
 
 namespace highway = hwy::HWY_NAMESPACE;
-static_assert(HWY_STATIC_TARGET == HWY_SSE4);
+static_assert(HWY_STATIC_TARGET == (LANEMATH_REGISTER_BYTES == 16   ? HWY_SSE4
+                                    : LANEMATH_REGISTER_BYTES == 32 ? HWY_AVX2
+                                                                    : HWY_AVX3));
 
 template <class F>
 struct over_vectors {

@@ -21,9 +21,10 @@ struct row {
 };
 
 template <class A>
-constexpr int lanes_in = std::is_same_v<A, __m128>    ? 4
-                         : std::is_same_v<A, __m128d> ? 2
-                                                      : 1;
+constexpr int lanes_in = sizeof(A) / sizeof(A{}[0]);
+template <class A>
+requires std::is_arithmetic_v<A>
+constexpr int lanes_in<A> = 1;
 
 template <class F>
 peer peer_of(std::string_view name, F* f) {
@@ -36,93 +37,104 @@ peer peer_of(std::string_view name, F* f) {
 }
 
 // The SLEEF function that a stem and an error bound name, in both precisions.
+#if LANEMATH_REGISTER_BYTES == 16
+#define SLEEF_DOUBLE(stem, bound) Sleef_##stem##d2_##bound##sse4
+#define SLEEF_FLOAT(stem, bound) Sleef_##stem##f4_##bound##sse4
+#elif LANEMATH_REGISTER_BYTES == 32
+#define SLEEF_DOUBLE(stem, bound) Sleef_##stem##d4_##bound##avx2
+#define SLEEF_FLOAT(stem, bound) Sleef_##stem##f8_##bound##avx2
+#else
+#define SLEEF_DOUBLE(stem, bound) Sleef_##stem##d8_##bound##avx512f
+#define SLEEF_FLOAT(stem, bound) Sleef_##stem##f16_##bound##avx512f
+#endif
+#define NAME_OF(function) #function
 #define SLEEF_FUNCTION(operation, accuracy, name) \
-  { operation, accuracy, peer_of(#name, name) }
-#define SLEEF_BOTH(operation, accuracy, stem, bound)              \
-  SLEEF_FUNCTION(#operation, accuracy, Sleef_##stem##d2_##bound), \
-      SLEEF_FUNCTION(#operation "f", accuracy, Sleef_##stem##f4_##bound)
+  { operation, accuracy, peer_of(NAME_OF(name), name) }
+#define SLEEF_BOTH(operation, accuracy, stem, bound)               \
+  SLEEF_FUNCTION(#operation, accuracy, SLEEF_DOUBLE(stem, bound)), \
+      SLEEF_FUNCTION(#operation "f", accuracy, SLEEF_FLOAT(stem, bound))
 #define SLEEF(operation, stem, bound) SLEEF_BOTH(operation, accuracy::full, stem, bound)
 #define SLEEF_REDUCED(operation, stem, bound) SLEEF_BOTH(operation, accuracy::reduced, stem, bound)
 
 const row sleef_rows[] = {
-    SLEEF(exp, exp, u10sse4),
-    SLEEF(exp2, exp2, u10sse4),
-    SLEEF_REDUCED(exp2, exp2, u35sse4),
-    SLEEF(exp10, exp10, u10sse4),
-    SLEEF_REDUCED(exp10, exp10, u35sse4),
-    SLEEF(expm1, expm1, u10sse4),
+    SLEEF(exp, exp, u10),
+    SLEEF(exp2, exp2, u10),
+    SLEEF_REDUCED(exp2, exp2, u35),
+    SLEEF(exp10, exp10, u10),
+    SLEEF_REDUCED(exp10, exp10, u35),
+    SLEEF(expm1, expm1, u10),
 
-    SLEEF(log, log, u10sse4),
-    SLEEF_REDUCED(log, log, u35sse4),
-    SLEEF(log2, log2, u10sse4),
-    SLEEF_REDUCED(log2, log2, u35sse4),
-    SLEEF(log10, log10, u10sse4),
-    SLEEF(log1p, log1p, u10sse4),
+    SLEEF(log, log, u10),
+    SLEEF_REDUCED(log, log, u35),
+    SLEEF(log2, log2, u10),
+    SLEEF_REDUCED(log2, log2, u35),
+    SLEEF(log10, log10, u10),
+    SLEEF(log1p, log1p, u10),
 
-    SLEEF(pow, pow, u10sse4),
-    SLEEF_FUNCTION("powf", accuracy::reduced, Sleef_fastpowf4_u3500sse4),
-    SLEEF(powr, pow, u10sse4),
-    SLEEF_FUNCTION("powrf", accuracy::reduced, Sleef_fastpowf4_u3500sse4),
+    SLEEF(pow, pow, u10),
+    SLEEF_FUNCTION("powf", accuracy::reduced, Sleef_fastpowf4_u3500),
+    SLEEF(powr, pow, u10),
+    SLEEF_FUNCTION("powrf", accuracy::reduced, Sleef_fastpowf4_u3500),
 
-    SLEEF(sin, sin, u10sse4),
-    SLEEF_REDUCED(sin, sin, u35sse4),
-    SLEEF(cos, cos, u10sse4),
-    SLEEF_REDUCED(cos, cos, u35sse4),
-    SLEEF(sincos, sincos, u10sse4),
-    SLEEF_REDUCED(sincos, sincos, u35sse4),
-    SLEEF(sincosreg, sincos, u10sse4),
-    SLEEF_REDUCED(sincosreg, sincos, u35sse4),
-    SLEEF(tan, tan, u10sse4),
-    SLEEF_REDUCED(tan, tan, u35sse4),
-    SLEEF(sinpi, sinpi, u05sse4),
-    SLEEF(cospi, cospi, u05sse4),
+    SLEEF(sin, sin, u10),
+    SLEEF_REDUCED(sin, sin, u35),
+    SLEEF(cos, cos, u10),
+    SLEEF_REDUCED(cos, cos, u35),
+    SLEEF(sincos, sincos, u10),
+    SLEEF_REDUCED(sincos, sincos, u35),
+    SLEEF(sincosreg, sincos, u10),
+    SLEEF_REDUCED(sincosreg, sincos, u35),
+    SLEEF(tan, tan, u10),
+    SLEEF_REDUCED(tan, tan, u35),
+    SLEEF(sinpi, sinpi, u05),
+    SLEEF(cospi, cospi, u05),
 
-    SLEEF(asin, asin, u10sse4),
-    SLEEF_REDUCED(asin, asin, u35sse4),
-    SLEEF(acos, acos, u10sse4),
-    SLEEF_REDUCED(acos, acos, u35sse4),
-    SLEEF(atan, atan, u10sse4),
-    SLEEF_REDUCED(atan, atan, u35sse4),
-    SLEEF(atan2, atan2, u10sse4),
-    SLEEF_REDUCED(atan2, atan2, u35sse4),
+    SLEEF(asin, asin, u10),
+    SLEEF_REDUCED(asin, asin, u35),
+    SLEEF(acos, acos, u10),
+    SLEEF_REDUCED(acos, acos, u35),
+    SLEEF(atan, atan, u10),
+    SLEEF_REDUCED(atan, atan, u35),
+    SLEEF(atan2, atan2, u10),
+    SLEEF_REDUCED(atan2, atan2, u35),
 
-    SLEEF(sinh, sinh, u10sse4),
-    SLEEF_REDUCED(sinh, sinh, u35sse4),
-    SLEEF(cosh, cosh, u10sse4),
-    SLEEF_REDUCED(cosh, cosh, u35sse4),
-    SLEEF(tanh, tanh, u10sse4),
-    SLEEF_REDUCED(tanh, tanh, u35sse4),
-    SLEEF(asinh, asinh, u10sse4),
-    SLEEF(acosh, acosh, u10sse4),
-    SLEEF(atanh, atanh, u10sse4),
+    SLEEF(sinh, sinh, u10),
+    SLEEF_REDUCED(sinh, sinh, u35),
+    SLEEF(cosh, cosh, u10),
+    SLEEF_REDUCED(cosh, cosh, u35),
+    SLEEF(tanh, tanh, u10),
+    SLEEF_REDUCED(tanh, tanh, u35),
+    SLEEF(asinh, asinh, u10),
+    SLEEF(acosh, acosh, u10),
+    SLEEF(atanh, atanh, u10),
 
-    SLEEF(sqrt, sqrt, u05sse4),
-    SLEEF_REDUCED(sqrt, sqrt, u35sse4),
-    SLEEF(cbrt, cbrt, u10sse4),
-    SLEEF_REDUCED(cbrt, cbrt, u35sse4),
-    SLEEF(hypot, hypot, u05sse4),
-    SLEEF_REDUCED(hypot, hypot, u35sse4),
+    SLEEF(sqrt, sqrt, u05),
+    SLEEF_REDUCED(sqrt, sqrt, u35),
+    SLEEF(cbrt, cbrt, u10),
+    SLEEF_REDUCED(cbrt, cbrt, u35),
+    SLEEF(hypot, hypot, u05),
+    SLEEF_REDUCED(hypot, hypot, u35),
 
-    SLEEF(erf, erf, u10sse4),
-    SLEEF(erfc, erfc, u15sse4),
-    SLEEF(lgamma, lgamma, u10sse4),
-    SLEEF(tgamma, tgamma, u10sse4),
+    SLEEF(erf, erf, u10),
+    SLEEF(erfc, erfc, u15),
+    SLEEF(lgamma, lgamma, u10),
+    SLEEF(tgamma, tgamma, u10),
 
-    SLEEF(ceil, ceil, sse4),
-    SLEEF(floor, floor, sse4),
-    SLEEF(trunc, trunc, sse4),
-    SLEEF(rint, rint, sse4),
-    SLEEF(round, round, sse4),
-    SLEEF(fabs, fabs, sse4),
-    SLEEF(copysign, copysign, sse4),
-    SLEEF(fdim, fdim, sse4),
-    SLEEF(fmax, fmax, sse4),
-    SLEEF(fmin, fmin, sse4),
-    SLEEF(modf, modf, sse4),
-    SLEEF(nextafter, nextafter, sse4),
-    SLEEF(fmod, fmod, sse4),
-    SLEEF(remainder, remainder, sse4),
-    SLEEF(fma, fma, sse4),
+    SLEEF(ceil, ceil, ),
+    SLEEF(floor, floor, ),
+    SLEEF(trunc, trunc, ),
+    SLEEF(rint, rint, ),
+    SLEEF(round, round, ),
+    SLEEF(fabs, fabs, ),
+    SLEEF(copysign, copysign, ),
+    SLEEF(fdim, fdim, ),
+    SLEEF(fmax, fmax, ),
+    SLEEF(fmin, fmin, ),
+    SLEEF(modf, modf, ),
+    SLEEF(nextafter, nextafter, ),
+    SLEEF(fmod, fmod, ),
+    SLEEF(remainder, remainder, ),
+    SLEEF(fma, fma, ),
 };
 
 // C++ headers overload most of these names: the shape selects the one that is meant.
@@ -223,8 +235,6 @@ std::optional<peer> find(const row (&rows)[Size], std::string_view operation, ac
   return std::nullopt;
 }
 
-}  // namespace
-
 std::optional<peer> sleef(const operation& o, variant v) {
   const bool reduced = v == variant::native || v == variant::half;
   if (const auto found = find(sleef_rows, o.name(), reduced ? accuracy::reduced : accuracy::full)) return found;
@@ -241,4 +251,8 @@ std::vector<peer> inlined(const operation& o) {
   return found;
 }
 
+}  // namespace
 }  // namespace lanemath::bench
+
+const lanemath::bench::peer_finders lanemath_benchmark_peers{lanemath::bench::sleef, lanemath::bench::c_library,
+                                                             lanemath::bench::plain, lanemath::bench::inlined};

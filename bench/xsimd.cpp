@@ -1,4 +1,4 @@
-// xsimd's functions on batches of 128 bits.
+// xsimd's functions on batches of one register.
 #include <xsimd/xsimd.hpp>
 
 #include "inlined.h"
@@ -10,7 +10,8 @@ template <class F>
 struct over_batches {
   template <class T>
   static void run(T* result, std::size_t lanes, const auto*... inputs) {
-    using batch = xsimd::batch<T, xsimd::sse4_1>;
+    using batch = xsimd::batch<T>;
+    static_assert(sizeof(batch) == LANEMATH_REGISTER_BYTES);
     for (std::size_t i = 0; i < lanes; i += batch::size)
       F()(batch::load_unaligned(inputs + i)...).store_unaligned(result + i);
   }
