@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -28,6 +29,8 @@ void call(void* address, const harness::invoker_arguments& given) {
 
 }  // namespace
 
+std::string companion_file(const level& l) { return fmt::format("liblanemath_{}.so.3", l.name); }
+
 array_functions::array_functions(const std::string& library_path, bool with_companions) : handle_(nullptr) {
   const auto path = std::filesystem::absolute(library_path).parent_path() / "liblanemath_loops.so.3";
   const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
@@ -36,6 +39,9 @@ array_functions::array_functions(const std::string& library_path, bool with_comp
   handle_ =
       dlopen(with_companions ? path.c_str() : fmt::format("/proc/self/fd/{}", file).c_str(), RTLD_NOW | RTLD_LOCAL);
   close(file);
+  // Where some are installed for all programs, it has them nevertheless.
+  const auto is_loaded = [](const level& l) { return dlopen(companion_file(l).c_str(), RTLD_NOW | RTLD_NOLOAD); };
+  if (handle_ && !with_companions && std::ranges::any_of(levels, is_loaded)) dlclose(std::exchange(handle_, nullptr));
 }
 
 array_functions::~array_functions() {

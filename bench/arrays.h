@@ -9,10 +9,12 @@
 
 namespace lanemath::bench {
 
+std::string companion_file(const level& l);
+
 class array_functions {
  public:
   // Takes what lies beside this library, if it does. Its functions call the companions for wider registers that they
-  // find, or nothing wider than the library itself.
+  // find, or nothing but this library; there are none if that cannot be had.
   array_functions(const std::string& library_path, bool with_companions);
   ~array_functions();
   array_functions(const array_functions&) = delete;

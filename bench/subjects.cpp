@@ -25,8 +25,7 @@ level_peers::~level_peers() { dlclose(handle_); }
 subjects::subjects(const std::string& library_path, const level& at)
     : library(library_path), of_arrays(library_path, at.register_bytes > 16), peers(at) {
   if (at.register_bytes == 16) return;
-  const auto file = fmt::format("liblanemath_{}.so.3", at.name);
-  companion.emplace((std::filesystem::absolute(library_path).parent_path() / file).string());
+  companion.emplace((std::filesystem::absolute(library_path).parent_path() / companion_file(at)).string());
 }
 
 }  // namespace lanemath::bench

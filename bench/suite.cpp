@@ -132,6 +132,11 @@ void suite::add_ours_at_level() {
   for (int width : widths)
     if (const auto f = companion.find(operation_index_, variant_, width); f && width <= most)
       add(name_at_level(throughput, width), *f, width, typical_, width == most ? error_of(*f, width) : std::nullopt);
+  // They take the widest registers that there are.
+  const auto is_wider = [&](const level& l) {
+    return l.register_bytes > companion.of_level().register_bytes && harness::has_instructions(l);
+  };
+  if (std::ranges::any_of(levels, is_wider)) return;
   if (const auto f = measured_.of_arrays.find(catalogue[operation_index_], variant_))
     add(name_at_level(array, 16), *f, 16, typical_);
 }
