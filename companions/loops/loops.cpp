@@ -1,10 +1,11 @@
 // The entries of the vector function ABI for one set of instructions. An entry hands the lanes of its registers on to
-// functions of the library, as many at a time as the generated list says.
+// functions of the library or of a companion, as many at a time as the generated list says.
 //
 // This file is compiled for several sets of instructions: nothing in it may be visible to the linker but the entries.
 #include <utility>
 
 #include "frame/abi.h"
+#include "usable.h"
 
 namespace {
 
@@ -43,19 +44,19 @@ struct argument {
     T* to = lane;
     ((__builtin_memcpy(to, &registers, sizeof registers), to += sizeof registers / sizeof(T)), ...);
   }
-  // W of them as the library takes them.
-  template <std::size_t W>
-  LANEMATH_INLINE abi<T, W> part(std::size_t at) const {
-    abi<T, W> some;
+  // Some of them as a function takes them.
+  template <class Passed>
+  LANEMATH_INLINE Passed part(std::size_t at) const {
+    Passed some;
     __builtin_memcpy(&some, lane + at, sizeof some);
     return some;
   }
 };
 
-// What the library returns, from lane `At` on, in a register.
+// What a function returns, from lane `At` on, in a register.
 template <class T, std::size_t W, std::size_t At, class Returned>
 LANEMATH_INLINE vector<T, W> in_register(const Returned& result) {
-  if constexpr (sizeof(Returned) <= 16) {
+  if constexpr (sizeof(Returned) <= 16 || std::is_same_v<Returned, vector<T, W>>) {
     return result;
   } else if constexpr (W * sizeof(T) > 16) {
     return join<T, W / 2>(in_register<T, W / 2, At>(result), in_register<T, W / 2, At + W / 2>(result));
@@ -67,11 +68,12 @@ LANEMATH_INLINE vector<T, W> in_register(const Returned& result) {
   }
 }
 
-// f on lanes At to At + L, W at a time.
-template <class R, std::size_t W, std::size_t L, std::size_t At = 0, std::size_t N, class... A>
-LANEMATH_INLINE vector<R, L> call(abi<R, W> (*f)(abi<A, W>...), const argument<A, N>&... x) {
+// f, which takes W lanes, on lanes At to At + L.
+template <class R, std::size_t W, std::size_t L, std::size_t At = 0, std::size_t N, class Returned, class... Passed,
+          class... A>
+LANEMATH_INLINE vector<R, L> call(Returned (*f)(Passed...), const argument<A, N>&... x) {
   if constexpr (L == W) {
-    return in_register<R, W, 0>(f(x.template part<W>(At)...));
+    return in_register<R, W, 0>(f(x.template part<Passed>(At)...));
   } else {
     const auto low = call<R, W, L / 2, At>(f, x...);
     const auto high = call<R, W, L / 2, At + L / 2>(f, x...);

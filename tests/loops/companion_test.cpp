@@ -1,7 +1,10 @@
-// What the companion library's file shows to the outside.
+// What the companion library's file shows to the outside, and which companions for wider registers it calls.
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 
 #include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <regex>
@@ -35,7 +38,8 @@ TEST(Companion, ExportsArrayFunctionsAndVectorFormsAndNothingElse) {
   EXPECT_EQ(entries, 4 * loop_functions);
 }
 
-// A vector form may use the instructions that its letter stands for, everything else those of any x86-64 processor.
+// A vector form may use the instructions that its letter stands for, a level's array function those of the level,
+// everything else those of any x86-64 processor.
 TEST(Companion, UsesTheInstructionsOfItsCallers) {
   const std::string command = std::string(LANEMATH_OBJDUMP) + " -d --no-show-raw-insn " + LANEMATH_LOOPS;
   const std::unique_ptr<FILE, int (*)(FILE*)> out(popen(command.c_str(), "r"), pclose);
@@ -49,7 +53,11 @@ TEST(Companion, UsesTheInstructionsOfItsCallers) {
     std::cmatch match;
     if (std::regex_match(line, match, function)) {
       const auto name = match[1].str();
-      level = name.starts_with("_ZGV") ? name[4] : 'b';
+      const auto is_of = [&](const char* level) { return name.find(level) != name.npos; };
+      level = name.starts_with("_ZGV")    ? name[4]
+              : is_of("lanemath_avx512_") ? 'e'
+              : is_of("lanemath_avx2_")   ? 'd'
+                                          : 'b';
       ++count[level];
     }
     EXPECT_FALSE(level == 'b' && std::regex_search(line, avx)) << line;
@@ -58,6 +66,35 @@ TEST(Companion, UsesTheInstructionsOfItsCallers) {
   }
   for (char each : {'b', 'c', 'd', 'e'}) EXPECT_GT(count[each], 300u) << each;
 }
+
+#ifdef LANEMATH_EMPTY_LEVELS
+namespace fs = std::filesystem;
+
+// Whether exponentials are 0, as they are in the companions made for this test, in a program whose library finds these
+// files beside it.
+bool calls_companion(std::initializer_list<std::pair<fs::path, fs::path>> companions) {
+  auto name = (fs::temp_directory_path() / "lanemath-XXXXXX").string();
+  if (!mkdtemp(name.data())) throw std::runtime_error("cannot make a folder " + name);
+  const fs::path folder = name, loops = LANEMATH_LOOPS;
+  for (const auto& file : {loops, loops.parent_path() / "__ocl_lanemath_h8.so.3.5"})
+    fs::create_symlink(file, folder / file.filename());
+  for (const auto& [as, file] : companions) fs::create_symlink(file, folder / as);
+  const int status = std::system(("LD_LIBRARY_PATH=" + name + " " LANEMATH_EXPONENTIALS).c_str());
+  fs::remove_all(folder);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) <= 1) << status;
+  return status == 0;
+}
+
+TEST(Companion, CallsOnlyCompanionsOfItsVersionWhoseLevelTheProcessorHas) {
+  const fs::path empty = LANEMATH_EMPTY_LEVELS;
+  const fs::path avx2 = "liblanemath_avx2.so.3", avx512 = "liblanemath_avx512.so.3";
+  EXPECT_EQ(calls_companion({{avx2, empty / "own-avx2.so"}}), bool(__builtin_cpu_supports("avx2")));
+  EXPECT_EQ(calls_companion({{avx512, empty / "own-avx512.so"}}), bool(__builtin_cpu_supports("avx512bw")));
+  EXPECT_FALSE(calls_companion({{avx2, empty / "other-avx2.so"}, {avx512, empty / "other-avx512.so"}}));
+  EXPECT_FALSE(calls_companion({{avx2, __FILE__}, {avx512, fs::temp_directory_path()}})) << "no companions";
+  EXPECT_FALSE(calls_companion({}));
+}
+#endif
 
 }  // namespace
 }  // namespace lanemath::testing

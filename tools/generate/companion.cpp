@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <cstring>
 #include <stdexcept>
 #include <string>
@@ -81,7 +82,7 @@ void write_arrays_header(std::FILE* out) {
  *     lanemath_expf_array(x, y, n);                y[i] = e^x[i] for n elements
  *     lanemath_sincosf_array_native(x, y, z, n);   sines and cosines
  *
- * They are in the library lanemath_loops. Arrays may have any length, 0 included, and need no alignment beyond that of
+ * They are in the library lanemath_loops, which uses registers as wide as the processor has. Arrays may have any length, 0 included, and need no alignment beyond that of
  * their elements. Nothing outside them is touched. A result may take the place of an argument whose elements have the
  * same size; apart from that, results overlap nothing. An element's result does not depend on where it stands: it has
  * the bits of the function of width 16, which are those of every width without an algorithm of its own.
@@ -139,25 +140,67 @@ inline std::size_t common_length(std::size_t n, auto... others) {{
   fmt::print(out, "\n}}  // namespace lanemath\n\n#endif\n");
 }
 
-// Instances of the templates in companions/loops/arrays.cpp.
-void write_array_functions(std::FILE* out) {
+// The width of the calls of an array function: in the library, the widest one; in a companion, that of a register.
+int array_width(const level& on, const operation& o) {
+  return on.name.empty() ? 16 : int(on.register_bytes / o.sig.widest_lane());
+}
+// What a companion has for arrays and loops.
+bool has_register_form(const level& on, const operation& o) {
+  return !on.name.empty() && o.is_at(on, array_width(on, o));
+}
+std::string array_function(const level& on, const operation& o, variant v) {
+  return fmt::format("{}{}_array{}", on.symbol_prefix, o.name(), suffix(v));
+}
+std::string called_function(const level& on, const operation& o, variant v) {
+  return fmt::format("{}{}{}{}", on.symbol_prefix, o.name(), array_width(on, o), suffix(v));
+}
+
+// Instances of the templates in companions/loops/arrays.cpp for one level. Those for the library are what is exported,
+// and choose the level.
+void write_array_functions(std::FILE* out, const level& on) {
+  const bool exported = on.name.empty();
   fmt::print(out, "#include <lanemath/arrays.h>\n\nextern \"C\" {{\n");
   for_each_pair([&](const operation& o, variant v) {
-    if (o.is_standalone(16, v)) throw std::logic_error(fmt::format("{}16 is standalone", o.name()));
+    if (!exported && !has_register_form(on, o)) return;
+    const int width = array_width(on, o);
+    if (o.is_standalone(width, v)) throw std::logic_error(fmt::format("{}{} is standalone", o.name(), width));
     const auto& s = o.sig;
-    const auto shape = std::array{"one_result", "pointer", "pair"}.at(std::size_t(s.how));
+    const auto block = [&](lane l) { return fmt::format("abi<{}, {}>", c_type(l), width); };
     const auto returned = s.how == delivery::pair
-                              ? fmt::format("block_pair<{}, {}>", c_type(s.result), c_type(s.second))
-                              : fmt::format("block<{}>", c_type(s.result));
-    const auto taken = of_arguments(s, [](lane l, char) { return fmt::format("block<{}>", c_type(l)); });
-    const auto wide = in_library(o, v, 16).function();
-    fmt::print(out, "\n{} {}({}{});\n", returned, wide, fmt::join(taken, ", "),
+                              ? fmt::format("abi_pair<{}, {}, {}>", c_type(s.result), c_type(s.second), width)
+                              : block(s.result);
+    const auto called = called_function(on, o, v);
+    const auto taken = parameters(s, "const {}* {}", "{}* {}") + ", size_t n";
+    fmt::print(out, fmt::runtime(exported ? "\n{} {}({}{});\n" : "\nLANEMATH_USABLE {} (*{})({}{});\n"), returned,
+               called, fmt::join(of_arguments(s, [&](lane l, char) { return block(l); }), ", "),
                s.how == delivery::pointer ? ", void*" : "");
-    fmt::print(out, "{} {{ {}({}, {}, n, {}, {}); }}\n", array_prototype(o, v), shape, wide, o.filler,
+    std::string choice;
+    if (exported)
+      for (const auto& companion : levels)
+        if (has_register_form(companion, o)) {
+          const auto other = array_function(companion, o, v);
+          fmt::print(out, "void {}({});\n", other, taken);
+          choice.insert(0, fmt::format("  if (lanemath::usable.{}) return {}({}, n);\n", companion.name, other,
+                                       parameters(s, "{1}", "{1}")));
+        }
+    fmt::print(out, "void {}({}) {{\n{}  {}<{}>({}, {}, n, {}, {});\n}}\n",
+               exported ? array_function(o, v) : array_function(on, o, v), taken, choice,
+               std::array{"one_result", "pointer", "pair"}.at(std::size_t(s.how)), width, called, o.filler,
                fmt::join(of_results(s, "{1}"), ", "),
                fmt::join(of_arguments(s, [](lane, char name) { return std::string(1, name); }), ", "));
   });
   fmt::print(out, "\n}}\n");
+}
+
+// The functions of companions that these libraries' functions call.
+void write_usable_functions(std::FILE* out) {
+  for (const auto& on : levels)
+    for_each_pair([&](const operation& o, variant v) {
+      if (!has_register_form(on, o)) return;
+      std::string level(on.name);
+      std::ranges::transform(level, level.begin(), [](unsigned char c) { return std::toupper(c); });
+      fmt::print(out, "LANEMATH_{}({}{}{})\n", level, o.name(), array_width(on, o), suffix(v));
+    });
 }
 
 // Loops call scalar functions, and the compiler knows no vector form of one that writes through a pointer.
@@ -202,13 +245,15 @@ LANEMATH_BEGIN
   fmt::print(out, "#undef LANEMATH_LOOP\n\nLANEMATH_END\n\n#endif\n\n#endif\n");
 }
 
-// The instruction sets of the vector function ABI: their letter, and the size of registers.
+// The instruction sets of the vector function ABI: their letter, the size of registers, and the level of the companion
+// that their entries call where it can be used.
 struct instruction_set {
   char letter;
   std::size_t integer_bytes, floating_bytes;
+  std::size_t level;
   std::size_t bytes(lane l) const { return is_floating(l) ? floating_bytes : integer_bytes; }
 };
-constexpr instruction_set instruction_sets[] = {{'b', 16, 16}, {'c', 16, 32}, {'d', 32, 32}, {'e', 64, 64}};
+constexpr instruction_set instruction_sets[] = {{'b', 16, 16, 0}, {'c', 16, 32, 1}, {'d', 32, 32, 1}, {'e', 64, 64, 2}};
 
 // The width whose functions give these lanes the bits of width 1: in so many calls, the fastest.
 int width_of_calls(const operation& o, variant v, int lanes) {
@@ -241,15 +286,25 @@ void write_loop_entries(std::FILE* out, const instruction_set& on) {
       }
       values.push_back(fmt::format("argument<{}, {}>({})", c_type(l), lanes, fmt::join(names, ", ")));
     }
-    const auto abi_type = [&](lane l) { return fmt::format("abi<{}, {}>", c_type(l), width); };
-    const auto library_function = in_library(o, v, width).function();
     const auto entry = fmt::format("vector<{}, {}> {}_{}{}({})", c_type(s.result), lanes, on.letter, o.name(),
                                    suffix(v), fmt::join(registers, ", "));
-    fmt::print(out, "\n{} {}({});\n", abi_type(s.result), library_function,
-               fmt::join(of_arguments(s, [&](lane l, char) { return abi_type(l); }), ", "));
-    fmt::print(out, "{} __asm__(\"_ZGV{}N{}{}_{}\");\n{} {{ return call<{}, {}, {}>({}, {}); }}\n", entry, on.letter,
-               lanes, std::string(s.arity(), 'v'), in_library(o, v, 1).function(), entry, c_type(s.result), width,
-               lanes, library_function, fmt::join(values, ", "));
+    // Declares a function that takes some of the lanes in a vector type, and calls it for all.
+    const auto call_of = [&](std::string_view declared, const std::string& function, std::string_view type, int some) {
+      const auto typed = [&](lane l) { return fmt::format("{}<{}, {}>", type, c_type(l), some); };
+      fmt::print(out, fmt::runtime(declared), typed(s.result), function,
+                 fmt::join(of_arguments(s, [&](lane l, char) { return typed(l); }), ", "));
+      return fmt::format("call<{}, {}, {}>({}, {})", c_type(s.result), some, lanes, function, fmt::join(values, ", "));
+    };
+    fmt::print(out, "\n");
+    auto result = call_of("{} {}({});\n", in_library(o, v, width).function(), "abi", width);
+    const auto& companion = levels.at(on.level);
+    const int wide = array_width(companion, o);
+    if (has_register_form(companion, o) && wide <= int(lanes) && !o.is_standalone(1, v)) {
+      const auto wider = call_of("LANEMATH_USABLE {} (*{})({});\n", called_function(companion, o, v), "vector", wide);
+      result = fmt::format("lanemath::usable.{} ? {} : {}", companion.name, wider, result);
+    }
+    fmt::print(out, "{} __asm__(\"_ZGV{}N{}{}_{}\");\n{} {{ return {}; }}\n", entry, on.letter, lanes,
+               std::string(s.arity(), 'v'), in_library(o, v, 1).function(), entry, result);
   });
   fmt::print(out, "\n}}\n");
 }
@@ -259,7 +314,10 @@ void write_loop_entries(std::FILE* out, const instruction_set& on) {
 void write_companion(std::FILE* out, std::string_view file) {
   if (file == "lanemath/arrays.h") return write_arrays_header(out);
   if (file == "lanemath/arrays.hpp") return write_spans_header(out);
-  if (file == "arrays.inc") return write_array_functions(out);
+  for (const auto& on : levels)
+    if (file == fmt::format("arrays{}{}.inc", on.name.empty() ? "" : "-", on.name))
+      return write_array_functions(out, on);
+  if (file == "usable.inc") return write_usable_functions(out);
   if (file == "lanemath/loops.h") return write_loops_header(out);
   for (const auto& on : instruction_sets)
     if (file == fmt::format("loops-{}.inc", on.letter)) return write_loop_entries(out, on);

@@ -1,0 +1,71 @@
+// Finds the companions. They are asked for at run time, since this library shall work without them.
+#include "usable.h"
+
+extern "C" {
+// The loader's functions, null where a program has none.
+[[gnu::weak]] void* dlopen(const char* file, int mode);
+[[gnu::weak]] void* dlsym(void* handle, const char* name);
+[[gnu::weak]] char* dlerror();
+
+#define LANEMATH_AVX2(name) void* lanemath_avx2_##name;
+#define LANEMATH_AVX512(name) void* lanemath_avx512_##name;
+#include LANEMATH_INSTANCES
+}
+
+namespace lanemath {
+
+usable_companions usable;
+
+namespace {
+
+struct function {
+  const char* name;
+  void** pointer;
+};
+#undef LANEMATH_AVX2
+#undef LANEMATH_AVX512
+#define LANEMATH_AVX2(name) {"lanemath_avx2_" #name, &lanemath_avx2_##name},
+#define LANEMATH_AVX512(name)
+constexpr function of_avx2[] = {
+#include LANEMATH_INSTANCES
+};
+#undef LANEMATH_AVX2
+#undef LANEMATH_AVX512
+#define LANEMATH_AVX2(name)
+#define LANEMATH_AVX512(name) {"lanemath_avx512_" #name, &lanemath_avx512_##name},
+constexpr function of_avx512[] = {
+#include LANEMATH_INSTANCES
+};
+
+bool is_own(const char* version) {
+  const char* own = LANEMATH_VERSION;
+  while (*own && *own == *version) ++own, ++version;
+  return *own == *version;
+}
+
+// Whether there is this companion, with all functions. It is never closed: threads may still be in it at the end.
+template <int N>
+bool finds(const char* file, const char* version, const function (&functions)[N]) {
+  constexpr int now = 2;  // RTLD_NOW
+  void* const companion = dlopen(file, now);
+  const auto tell = companion ? reinterpret_cast<const char* (*)()>(dlsym(companion, version)) : nullptr;
+  if (!tell || !is_own(tell())) return false;
+  for (const auto& f : functions)
+    if (!(*f.pointer = dlsym(companion, f.name))) return false;
+  return true;
+}
+
+[[gnu::constructor]] void look() {
+  if (!dlopen || !dlsym || !dlerror) return;
+  __builtin_cpu_init();
+  if (__builtin_cpu_supports("avx2"))
+    usable.avx2 = finds("liblanemath_avx2.so." LANEMATH_MAJOR, "lanemath_avx2_version", of_avx2);
+  if (__builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512dq") &&
+      __builtin_cpu_supports("avx512bw"))
+    usable.avx512 = finds("liblanemath_avx512.so." LANEMATH_MAJOR, "lanemath_avx512_version", of_avx512);
+  dlerror();  // that there is none is nobody's error
+}
+
+}  // namespace
+
+}  // namespace lanemath
