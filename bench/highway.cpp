@@ -28,15 +28,16 @@ struct over_vectors {
 #define UNARY(operation, name) \
   LANEMATH_INLINED("Highway", operation, 1, over_vectors, [](auto tag, auto x) { return highway::name(tag, x); })
 
-const inlined_row rows[] = {
-    UNARY(exp, Exp),     UNARY(expm1, Expm1), UNARY(log, Log),     UNARY(log2, Log2),
-    UNARY(log10, Log10), UNARY(log1p, Log1p), UNARY(sin, Sin),     UNARY(cos, Cos),
-    UNARY(asin, Asin),   UNARY(acos, Acos),   UNARY(atan, Atan),   UNARY(sinh, Sinh),
-    UNARY(tanh, Tanh),   UNARY(asinh, Asinh), UNARY(acosh, Acosh), UNARY(atanh, Atanh),
-};
-
 }  // namespace
 
-std::optional<peer> inlined_highway(const operation& o) { return find_inlined(rows, o.name()); }
+std::optional<peer> inlined_highway(const operation& o) {
+  static const inlined_row rows[] = {
+      UNARY(exp, Exp),     UNARY(expm1, Expm1), UNARY(log, Log),     UNARY(log2, Log2),
+      UNARY(log10, Log10), UNARY(log1p, Log1p), UNARY(sin, Sin),     UNARY(cos, Cos),
+      UNARY(asin, Asin),   UNARY(acos, Acos),   UNARY(atan, Atan),   UNARY(sinh, Sinh),
+      UNARY(tanh, Tanh),   UNARY(asinh, Asinh), UNARY(acosh, Acosh), UNARY(atanh, Atanh),
+  };
+  return find_inlined(rows, o.name());
+}
 
 }  // namespace lanemath::bench

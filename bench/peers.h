@@ -1,6 +1,5 @@
 // What else does the same task: other libraries' functions, as their callers get them, and plain C++. All of it is
-// compiled for each level of instructions, into a shared object of its own, from which nothing is visible but how to
-// find it: the linker must not merge what the same headers give for different instructions.
+// compiled for each level of instructions. Nothing of it may run before the processor is known to have the level.
 #pragma once
 
 #include <optional>
@@ -43,5 +42,8 @@ std::optional<peer> inlined_eigen(const operation& o);
 
 }  // namespace lanemath::bench
 
-// What a shared object exports.
-extern "C" [[gnu::visibility("default")]] const lanemath::bench::peer_finders lanemath_benchmark_peers;
+// Of each level.
+extern "C" {
+extern const lanemath::bench::peer_finders lanemath_benchmark_peers_16, lanemath_benchmark_peers_32,
+    lanemath_benchmark_peers_64;
+}

@@ -64,11 +64,11 @@ suite::suite(const subjects& measured, std::size_t operation_index, variant v, c
       typical_(catalogue[operation_index], ranges_, 0),
       with_rare_(catalogue[operation_index], ranges_, rare_every) {
   const auto& o = catalogue[operation_index];
-  if (!measured.companion) scalar_ = measured.peers->c_library(o);
+  if (!measured.companion) scalar_ = measured.peers.c_library(o);
   if (wanted.c_library_alone) return;
-  sleef_ = measured.peers->sleef(o, v);
-  if (!scalar_) scalar_ = measured.peers->plain(o);
-  inlined_ = measured.peers->inlined(o);
+  sleef_ = measured.peers.sleef(o, v);
+  if (!scalar_) scalar_ = measured.peers.plain(o);
+  inlined_ = measured.peers.inlined(o);
 }
 
 int suite::lanes_of(const level& l) const {

@@ -22,33 +22,34 @@ struct over_batches {
 #define BINARY(operation) \
   LANEMATH_INLINED("xsimd", operation, 2, over_batches, [](auto x, auto y) { return xsimd::operation(x, y); })
 
-const inlined_row rows[] = {
-    UNARY(exp),        UNARY(exp2),
-    UNARY(exp10),      UNARY(expm1),
-    UNARY(log),        UNARY(log2),
-    UNARY(log10),      UNARY(log1p),
-    BINARY(pow),       UNARY(sin),
-    UNARY(cos),        UNARY(tan),
-    UNARY(asin),       UNARY(acos),
-    UNARY(atan),       BINARY(atan2),
-    UNARY(sinh),       UNARY(cosh),
-    UNARY(tanh),       UNARY(asinh),
-    UNARY(acosh),      UNARY(atanh),
-    UNARY(sqrt),       UNARY(cbrt),
-    BINARY(hypot),     UNARY(erf),
-    UNARY(erfc),       UNARY(lgamma),
-    UNARY(tgamma),     UNARY(ceil),
-    UNARY(floor),      UNARY(trunc),
-    UNARY(rint),       UNARY(nearbyint),
-    UNARY(round),      UNARY(fabs),
-    BINARY(fdim),      BINARY(copysign),
-    BINARY(fmax),      BINARY(fmin),
-    BINARY(nextafter), BINARY(fmod),
-    BINARY(remainder), LANEMATH_INLINED("xsimd", div, 2, over_batches, [](auto x, auto y) { return x / y; }),
-};
-
 }  // namespace
 
-std::optional<peer> inlined_xsimd(const operation& o) { return find_inlined(rows, o.name()); }
+std::optional<peer> inlined_xsimd(const operation& o) {
+  static const inlined_row rows[] = {
+      UNARY(exp),        UNARY(exp2),
+      UNARY(exp10),      UNARY(expm1),
+      UNARY(log),        UNARY(log2),
+      UNARY(log10),      UNARY(log1p),
+      BINARY(pow),       UNARY(sin),
+      UNARY(cos),        UNARY(tan),
+      UNARY(asin),       UNARY(acos),
+      UNARY(atan),       BINARY(atan2),
+      UNARY(sinh),       UNARY(cosh),
+      UNARY(tanh),       UNARY(asinh),
+      UNARY(acosh),      UNARY(atanh),
+      UNARY(sqrt),       UNARY(cbrt),
+      BINARY(hypot),     UNARY(erf),
+      UNARY(erfc),       UNARY(lgamma),
+      UNARY(tgamma),     UNARY(ceil),
+      UNARY(floor),      UNARY(trunc),
+      UNARY(rint),       UNARY(nearbyint),
+      UNARY(round),      UNARY(fabs),
+      BINARY(fdim),      BINARY(copysign),
+      BINARY(fmax),      BINARY(fmin),
+      BINARY(nextafter), BINARY(fmod),
+      BINARY(remainder), LANEMATH_INLINED("xsimd", div, 2, over_batches, [](auto x, auto y) { return x / y; }),
+  };
+  return find_inlined(rows, o.name());
+}
 
 }  // namespace lanemath::bench

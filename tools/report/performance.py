@@ -22,7 +22,6 @@ BUILD = ROOT / "build/release"
 BENCHMARK = BUILD / "bin/lanemath-benchmark"
 OPENCL_BENCHMARK = BUILD / "bin/lanemath-opencl-benchmark"
 LIBRARY = BUILD / "lib/__ocl_lanemath_h8.so.3.5"
-PEERS = BUILD / "lib/lanemath/benchmark"
 WITHOUT_FMA = {"GLIBC_TUNABLES": "glibc.cpu.hwcaps=-AVX2,-FMA"}
 # Arguments that only the long reductions serve.
 LARGE = [(2e7, 1e9), (1e15, 1e30)]
@@ -222,7 +221,7 @@ def measure(arguments):
     kind = "trial" if trial else "levels" if arguments.levels else "again" if before else "performance"
     journal = Journal(BUILD / "report" / kind, {
         "library": hash_of(LIBRARY, *sorted(LIBRARY.parent.glob("liblanemath_*.so.3"))),
-        "benchmark": hash_of(BENCHMARK, *sorted(PEERS.iterdir())),
+        "benchmark": hash_of(BENCHMARK),
         "processor": description, "operations": operations, "flags": benchmark.flags}, arguments.fresh)
 
     pieces = {}
