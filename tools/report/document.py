@@ -108,7 +108,7 @@ def reason(comparison, name, form):
     for each in WORDS["reason"]:
         if each.get("without_fma") and (without_fma(form) or 0) < BEHIND:
             continue
-        if comparison == each["comparison"] and any(fnmatch.fnmatchcase(name, of) for of in each["forms"].split()):
+        if comparison in each["comparison"].split() and any(fnmatch.fnmatchcase(name, of) for of in each["forms"].split()):
             return " ".join(each["text"].split())
     return None
 
