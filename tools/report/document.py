@@ -108,7 +108,8 @@ def reason(comparison, name, form):
     for each in WORDS["reason"]:
         if each.get("without_fma") and (without_fma(form) or 0) < BEHIND:
             continue
-        if comparison in each["comparison"].split() and any(fnmatch.fnmatchcase(name, of) for of in each["forms"].split()):
+        patterns = each["forms"].split() if comparison in each["comparison"].split() else []
+        if any(fnmatch.fnmatchcase(name, of) for of in patterns):
             return " ".join(each["text"].split())
     return None
 
@@ -375,7 +376,7 @@ def make(figures, strict):
         parts.append("Not installed on that machine, and so not compared: " + ", ".join(missing) + ".")
     lacking = [str(bits) for level, bits in LEVELS.items() if level not in levels]
     if lacking:
-        parts.append(f"That processor has no registers of {' or '.join(lacking)} bits, so there are no figures of these.")
+        parts.append(f"That processor has no registers of {' or '.join(lacking)} bits, so they are not measured.")
     parts += ["## In short", WORDS["short"].strip(), summary(forms, levels), summary_of_families(forms),
               "![Ratios by family](performance-overview.svg)", WORDS["columns"].strip()]
     behind = behind_table(forms, strict)

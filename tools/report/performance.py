@@ -231,7 +231,8 @@ def measure(arguments):
         pieces[f"{name}-without-fma"] = lambda n=name: benchmark(f"{n}1", "--c-library-alone", env=WITHOUT_FMA)
     for level, of in at_levels.items():
         for name in dict.fromkeys(name.split("_")[0] for name in of):
-            pieces[f"{name}-{level}"] = lambda n=name, l=level: benchmark(n, "--level", l, f"--errors={benchmark.samples}")
+            pieces[f"{name}-{level}"] = lambda n=name, l=level: benchmark(n, "--level", l,
+                                                                          f"--errors={benchmark.samples}")
     for low, high in LARGE if not arguments.levels else []:
         for name in large_operations:
             pieces[f"{name}-{low:.0e}"] = lambda n=name, l=low, h=high: benchmark(n, "--between", l, h)
