@@ -1,8 +1,11 @@
 #include "arrays.h"
 
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <fmt/format.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -26,9 +29,20 @@ void call(void* address, const harness::invoker_arguments& given) {
 
 }  // namespace
 
-array_functions::array_functions(const std::string& library_path)
-    : handle_(dlopen((std::filesystem::absolute(library_path).parent_path() / "liblanemath_loops.so.3").c_str(),
-                     RTLD_NOW | RTLD_LOCAL)) {}
+std::string companion_file(const level& l) { return fmt::format("liblanemath_{}.so.3", l.name); }
+
+array_functions::array_functions(const std::string& library_path, bool with_companions) : handle_(nullptr) {
+  const auto path = std::filesystem::absolute(library_path).parent_path() / "liblanemath_loops.so.3";
+  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return;
+  // It looks for companions in the folder that it is loaded from. There are none beside the file's other name.
+  handle_ =
+      dlopen(with_companions ? path.c_str() : fmt::format("/proc/self/fd/{}", file).c_str(), RTLD_NOW | RTLD_LOCAL);
+  close(file);
+  // Where some are installed for all programs, it has them nevertheless.
+  const auto is_loaded = [](const level& l) { return dlopen(companion_file(l).c_str(), RTLD_NOW | RTLD_NOLOAD); };
+  if (handle_ && !with_companions && std::ranges::any_of(levels, is_loaded)) dlclose(std::exchange(handle_, nullptr));
+}
 
 array_functions::~array_functions() {
   if (handle_) dlclose(handle_);

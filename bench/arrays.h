@@ -1,4 +1,4 @@
-// The companion library's functions of whole arrays.
+// The functions of whole arrays that lie in a library beside the library.
 #pragma once
 
 #include <optional>
@@ -9,10 +9,13 @@
 
 namespace lanemath::bench {
 
+std::string companion_file(const level& l);
+
 class array_functions {
  public:
-  // Takes the companion library that lies beside this library, if one does.
-  explicit array_functions(const std::string& library_path);
+  // Takes what lies beside this library, if it does. Its functions call the companions for wider registers that they
+  // find, or nothing but this library; there are none if that cannot be had.
+  array_functions(const std::string& library_path, bool with_companions);
   ~array_functions();
   array_functions(const array_functions&) = delete;
   array_functions& operator=(const array_functions&) = delete;

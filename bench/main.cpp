@@ -70,7 +70,13 @@ int main(int argc, char** argv) try {
           ->type_name("LOW HIGH");
   app.add_option("--errors", wanted.error_samples,
                  "Also the largest error, in ulp, over so many arguments: in the JSON file");
-  app.add_flag("--c-library-alone", wanted.c_library_alone, "Time nothing but the C library's functions");
+  auto* alone = app.add_flag("--c-library-alone", wanted.c_library_alone, "Time nothing but the C library's functions");
+  std::string level_name;
+  app.add_option("--level", level_name,
+                 "Time the companion with registers of this level, the functions of arrays that call it, and peers at\n"
+                 "this level: avx2 or avx512")
+      ->check(CLI::IsMember({std::string(levels[1].name), std::string(levels[2].name)}))
+      ->excludes(alone);
   bool list = false;
   app.add_flag("--list", list, "Time nothing: print the forms, each after its family");
   app.allow_extras();
@@ -84,14 +90,13 @@ int main(int argc, char** argv) try {
   check_flags(app.remaining());
   initialise(argv[0], app.remaining());
 
-  const harness::library library(library_path);
-  const bench::array_functions of_arrays(library_path);
+  const bench::subjects measured(library_path, *std::ranges::find(levels, level_name, &level::name));
   bench::results results(json_path);
   bool any = false;
   for (std::size_t i = 0; i < catalogue.size(); ++i)
     for (auto v : variants) {
       if (!chosen.has(i, v)) continue;
-      bench::suite suite(library, of_arrays, i, v, wanted);
+      bench::suite suite(measured, i, v, wanted);
       if (!suite.exported()) continue;
       if (list) {
         any = true;

@@ -1,4 +1,5 @@
-// What else does the same task: other libraries' functions, as their callers get them, and plain C++.
+// What else does the same task: other libraries' functions, as their callers get them, and plain C++. All of it is
+// compiled for each level of instructions. Nothing of it may run before the processor is known to have the level.
 #pragma once
 
 #include <optional>
@@ -17,20 +18,32 @@ struct peer {
   std::optional<harness::function> latency;  // of scalar functions
 };
 
-// SLEEF's 128-bit function; for _native and _half from its less accurate class (mostly 3.5 ulp), if it has one there.
-std::optional<peer> sleef(const operation& o, variant v);
+struct peer_finders {
+  // SLEEF's function of one register; for _native and _half from its less accurate class (mostly 3.5 ulp), if it has
+  // one there.
+  std::optional<peer> (*sleef)(const operation& o, variant v);
 
-// The C library's scalar function.
-std::optional<peer> c_library(const operation& o);
+  // The C library's scalar function.
+  std::optional<peer> (*c_library)(const operation& o);
 
-// A loop of casts or divisions, compiled for the instructions that the library is compiled for.
+  // A loop of casts or divisions, compiled for the level.
+  std::optional<peer> (*plain)(const operation& o);
+
+  // Loops over arrays with other libraries' functions inlined, compiled likewise; of the libraries that were found when
+  // this program was built.
+  std::vector<peer> (*inlined)(const operation& o);
+};
+
+// What they are put together from.
 std::optional<peer> plain(const operation& o);
-
-// Loops over arrays with other libraries' functions inlined, compiled likewise; of the libraries that were found when
-// this program was built.
-std::vector<peer> inlined(const operation& o);
 std::optional<peer> inlined_highway(const operation& o);
 std::optional<peer> inlined_xsimd(const operation& o);
 std::optional<peer> inlined_eigen(const operation& o);
 
 }  // namespace lanemath::bench
+
+// Of each level.
+extern "C" {
+extern const lanemath::bench::peer_finders lanemath_benchmark_peers_16, lanemath_benchmark_peers_32,
+    lanemath_benchmark_peers_64;
+}

@@ -1,5 +1,5 @@
 // What C++ itself offers for conversions and integer division, in loops that the compiler optimises as far as the
-// library's instruction set allows.
+// level's instructions allow.
 #include <cmath>
 #include <cstdint>
 #include <limits>

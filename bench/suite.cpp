@@ -46,32 +46,40 @@ std::array<range, 3> ranges_of(const operation& o, const std::optional<range>& w
 // The error bound that SLEEF's names carry: u10 of Sleef_expf4_u10sse4.
 std::string_view bound_of(std::string_view sleef_name) {
   const auto last = sleef_name.substr(sleef_name.rfind('_') + 1);
-  return last.substr(0, last.find("sse4"));
+  return last.substr(0, last.find_first_not_of("u0123456789"));
 }
 
 }  // namespace
 
-suite::suite(const harness::library& library, const array_functions& of_arrays, std::size_t operation_index, variant v,
-             const request& wanted)
-    : library_(library),
-      of_arrays_(of_arrays),
+suite::suite(const subjects& measured, std::size_t operation_index, variant v, const request& wanted)
+    : measured_(measured),
       wanted_(wanted),
       operation_index_(operation_index),
       variant_(v),
-      exported_(library.find(operation_index, v, widths.back()).has_value()),
+      exported_((measured.companion ? *measured.companion : measured.library)
+                    .find(operation_index, v, widths.back())
+                    .has_value()),
       title_(fmt::format("{}{}", catalogue[operation_index].name(), suffix(v))),
       ranges_(ranges_of(catalogue[operation_index], wanted.between)),
       typical_(catalogue[operation_index], ranges_, 0),
-      with_rare_(catalogue[operation_index], ranges_, rare_every),
-      scalar_(c_library(catalogue[operation_index])) {
+      with_rare_(catalogue[operation_index], ranges_, rare_every) {
+  const auto& o = catalogue[operation_index];
+  if (!measured.companion) scalar_ = measured.peers.c_library(o);
   if (wanted.c_library_alone) return;
-  sleef_ = sleef(catalogue[operation_index], v);
-  if (!scalar_) scalar_ = plain(catalogue[operation_index]);
-  inlined_ = inlined(catalogue[operation_index]);
+  sleef_ = measured.peers.sleef(o, v);
+  if (!scalar_) scalar_ = measured.peers.plain(o);
+  inlined_ = measured.peers.inlined(o);
+}
+
+int suite::lanes_of(const level& l) const {
+  return int(l.register_bytes / catalogue[operation_index_].sig.widest_lane());
 }
 
 std::string suite::name(std::string_view kind, int width) const {
   return fmt::format("{}/lanemath/{}/{}", title_, kind, width);
+}
+std::string suite::name_at_level(std::string_view kind, int width) const {
+  return fmt::format("{}/lanemath_{}/{}/{}", title_, measured_.companion->of_level().name, kind, width);
 }
 std::string suite::name_of_peer(const peer& p, std::string_view kind) const {
   return fmt::format("{}/{}/{}/{}", title_, p.name, kind, p.width);
@@ -105,17 +113,39 @@ void suite::add_peer(const peer& p) {
 
 void suite::add_ours() {
   for (int width : widths)
-    if (const auto f = library_.find(operation_index_, variant_, width)) {
+    if (const auto f = measured_.library.find(operation_index_, variant_, width)) {
       add(name(throughput, width), *f, width, typical_, width == 16 ? error_of(*f, width) : std::nullopt);
       if (width == 4) add(name(rare_lanes, width), *f, width, with_rare_);
       if (width == 1)
         if (const auto chained = latency(catalogue[operation_index_], *f)) add(name(waiting, 1), *chained, 1, typical_);
     }
-  if (const auto f = of_arrays_.find(catalogue[operation_index_], variant_)) add(name(array, 16), *f, 16, typical_);
+  if (const auto f = measured_.of_arrays.find(catalogue[operation_index_], variant_))
+    add(name(array, 16), *f, 16, typical_);
+}
+
+// What fits in a register: of the library, and of the companion.
+void suite::add_ours_at_level() {
+  const auto& companion = *measured_.companion;
+  const int group = lanes_of(levels[0]), most = lanes_of(companion.of_level());
+  if (const auto f = measured_.library.find(operation_index_, variant_, group))
+    add(name(throughput, group), *f, group, typical_);
+  for (int width : widths)
+    if (const auto f = companion.find(operation_index_, variant_, width); f && width <= most)
+      add(name_at_level(throughput, width), *f, width, typical_, width == most ? error_of(*f, width) : std::nullopt);
+  // They take the widest registers that there are.
+  const auto is_wider = [&](const level& l) {
+    return l.register_bytes > companion.of_level().register_bytes && harness::has_instructions(l);
+  };
+  if (std::ranges::any_of(levels, is_wider)) return;
+  if (const auto f = measured_.of_arrays.find(catalogue[operation_index_], variant_))
+    add(name_at_level(array, 16), *f, 16, typical_);
 }
 
 void suite::register_benchmarks() {
-  if (!wanted_.c_library_alone) add_ours();
+  if (measured_.companion)
+    add_ours_at_level();
+  else if (!wanted_.c_library_alone)
+    add_ours();
   if (sleef_) add_peer(*sleef_);
   if (scalar_) add_peer(*scalar_);
   for (const auto& p : inlined_) add_peer(p);
@@ -125,7 +155,18 @@ void suite::register_benchmarks() {
   });
 }
 
-void suite::print_heading() {
+void suite::print_heading() const {
+  if (measured_.companion) {
+    const auto bits = measured_.companion->of_level().register_bytes * 8;
+    fmt::print(
+        "Nanoseconds a lane: one register of the library, one of the companion and how many times it gains, and the\n"
+        "function of arrays. Peers at the companion's level, on the same arguments, and as a multiple of the "
+        "companion's\n"
+        "register. Inlined: the fastest of Highway, xsimd, Eigen and plain C++ in a loop over an array.\n\n"
+        "{:18}{:>9}{:>9}{:>7}{:>7}{:>8}{:>7}{:>7}{:>9}{:>7}\n",
+        "", "128 bits", fmt::format("{} bits", bits), "times", "array", "SLEEF", "times", "class", "inlined", "times");
+    return;
+  }
   fmt::print(
       "Nanoseconds. gap: how many times width 4 the slowest width costs, narrow widths per call, wide ones per lane.\n"
       "cycles: per lane at width 4. rare: per lane at width 4 where one lane in {} is rare. latency: of width 1.\n"
@@ -142,7 +183,26 @@ void suite::print_heading() {
       "lane", "times", "by");
 }
 
+void suite::print_row_at_level(const results& r) const {
+  const int group = lanes_of(levels[0]), most = lanes_of(measured_.companion->of_level());
+  const auto one_group = r.nanoseconds(name(throughput, group));
+  const auto one_register = r.nanoseconds(name_at_level(throughput, most));
+  const auto of_peer = [&](const peer& p) { return r.nanoseconds(name_of_peer(p, throughput)); };
+  const auto of_sleef = sleef_ ? of_peer(*sleef_) : std::nullopt;
+  fmt::print("{:18}{:>9}{:>9}{:>7}{:>7}{:>8}{:>7}{:>7}", title_, number(one_group), number(one_register),
+             number(one_group / one_register), number(r.nanoseconds(name_at_level(array, 16))), number(of_sleef),
+             number(of_sleef / one_register), sleef_ ? bound_of(sleef_->name) : "-");
+  auto loops = inlined_;
+  if (scalar_) loops.push_back(*scalar_);
+  const auto fastest = std::ranges::min_element(loops, {}, of_peer);
+  if (fastest != loops.end())
+    fmt::print("{:>9}{:>7} {}", number(of_peer(*fastest)), number(of_peer(*fastest) / one_register), fastest->name);
+  fmt::print("\n");
+  std::fflush(stdout);
+}
+
 void suite::print_row(const results& r) const {
+  if (measured_.companion) return print_row_at_level(r);
   const auto lane = [&](int width, std::string_view kind = throughput) { return r.nanoseconds(name(kind, width)); };
   const auto of_peer = [&](const std::optional<peer>& p, std::string_view kind = throughput) {
     return p ? r.nanoseconds(name_of_peer(*p, kind)) : std::nullopt;

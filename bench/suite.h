@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "arguments.h"
-#include "arrays.h"
 #include "frame/catalogue.h"
 #include "harness/harness.h"
 #include "peers.h"
 #include "results.h"
+#include "subjects.h"
 
 namespace lanemath::bench {
 
@@ -23,29 +23,32 @@ struct request {
 
 class suite {
  public:
-  suite(const harness::library& library, const array_functions& of_arrays, std::size_t operation_index, variant v,
-        const request& wanted);
+  suite(const subjects& measured, std::size_t operation_index, variant v, const request& wanted);
   suite(const suite&) = delete;
   suite& operator=(const suite&) = delete;
 
-  // Whether the library exports it.
+  // Whether the library exports it, or the companion if that is measured.
   bool exported() const { return exported_; }
 
   void register_benchmarks();
   void print_row(const results& r) const;
-  static void print_heading();
+  void print_heading() const;
 
  private:
   void add(const std::string& benchmark, const harness::function& f, int width, arguments& on,
            std::optional<double> error = std::nullopt) const;
   void add_ours();
+  void add_ours_at_level();
   void add_peer(const peer& p);
   std::optional<double> error_of(const harness::function& f, int width) const;
+  void print_row_at_level(const results& r) const;
+  // How many of the operation's widest lanes a register of the level has.
+  int lanes_of(const level& l) const;
   std::string name(std::string_view kind, int width) const;
+  std::string name_at_level(std::string_view kind, int width) const;
   std::string name_of_peer(const peer& p, std::string_view kind) const;
 
-  const harness::library& library_;
-  const array_functions& of_arrays_;
+  const subjects& measured_;
   const request& wanted_;
   std::size_t operation_index_;
   variant variant_;

@@ -19,6 +19,13 @@ COMPARISONS = {
     "group": "one group of 128 bits, beside SLEEF's function of 128 bits",
     "array": "an array at width 16, beside the fastest of the inlined libraries or of plain C++",
 }
+# The companions' levels, the bits of their registers, and what is compared at each.
+LEVELS = {"avx2": 256, "avx512": 512}
+LEVEL_COMPARISONS = {
+    "gain": "one register, beside one group of the library's 128 bits",
+    "register": "one register, beside SLEEF's function of it",
+    "inlined": "an array, beside the fastest of the inlined libraries or of plain C++ at this level",
+}
 # Built-ins of OpenCL, and the operations that they are.
 BUILTINS = {name: name for name in (
     "exp exp2 exp10 expm1 log log2 log10 log1p pow powr pown rootn sin cos sincos tan sinpi cospi tanpi asin acos "
@@ -65,21 +72,30 @@ def group_width(name):
     return "4" if single(name) else "2"
 
 
+def widest(form):
+    """A lane of the widest call. Of a companion only what one register holds is called."""
+    return form["lane"][max(form["lane"], key=int)]
+
+
 def array_time(form):
-    return min(form["lane"]["16"], form.get("array", math.inf))
+    return min(widest(form), form.get("array", math.inf))
 
 
 def ratios(name, form):
     """For each comparison that there is: how many times the peer's time is ours, and the peer."""
     peers = form["peers"]
     found = {}
+    at_level = "1" not in form["lane"]
     if "C library" in peers:
         found["call"] = peers["C library"]["lane"] / form["lane"]["1"], "C library"
+    if at_level:
+        found["gain"] = form["group"] / widest(form), "lanemath"
     if "SLEEF" in peers:
-        found["group"] = peers["SLEEF"]["lane"] / form["lane"][group_width(name)], "SLEEF"
+        ours = widest(form) if at_level else form["lane"][group_width(name)]
+        found["register" if at_level else "group"] = peers["SLEEF"]["lane"] / ours, "SLEEF"
     inlined = [(peers[each]["lane"] / array_time(form), each) for each in INLINED if each in peers]
     if inlined:
-        found["array"] = min(inlined)
+        found["inlined" if at_level else "array"] = min(inlined)
     return found
 
 
@@ -92,7 +108,8 @@ def reason(comparison, name, form):
     for each in WORDS["reason"]:
         if each.get("without_fma") and (without_fma(form) or 0) < BEHIND:
             continue
-        if comparison == each["comparison"] and any(fnmatch.fnmatchcase(name, of) for of in each["forms"].split()):
+        patterns = each["forms"].split() if comparison in each["comparison"].split() else []
+        if any(fnmatch.fnmatchcase(name, of) for of in patterns):
             return " ".join(each["text"].split())
     return None
 
@@ -105,9 +122,9 @@ def of_family(forms, family):
     return {name: form for name, form in sorted(forms.items()) if form["family"] == family}
 
 
-def summary(forms):
+def summary_rows(forms, comparisons):
     rows = []
-    for key, text in COMPARISONS.items():
+    for key, text in comparisons.items():
         found = {name: ratios(name, form)[key][0] for name, form in forms.items() if key in ratios(name, form)}
         kinds = {"functions": [], "their other variants": [], "exact operations": []}
         for name, ratio in found.items():
@@ -116,19 +133,26 @@ def summary(forms):
         for kind, of in kinds.items():
             if of:
                 rows.append([f"{text}: {kind}", str(len(of)), number(mean(of)), str(sum(r < BEHIND for r in of))])
+    return rows
+
+
+def summary(forms, levels):
+    rows = summary_rows(forms, COMPARISONS)
     plain = [r for r in map(without_fma, forms.values()) if r]
     if plain:
         rows.append(["the same call beside the C library without FMA", str(len(plain)), number(mean(plain)),
                      str(sum(r < BEHIND for r in plain))])
+    for level, of in levels.items():
+        rows += summary_rows(of, {key: f"{LEVELS[level]} bits: {text}" for key, text in LEVEL_COMPARISONS.items()})
     return table(["Comparison", "forms", "times", "behind"], rows)
 
 
-def summary_of_families(forms):
+def summary_of_families(forms, comparisons=COMPARISONS):
     rows = []
     for family in families(forms):
         of = [ratios(name, form) for name, form in of_family(forms, family).items()]
-        rows.append([family] + [number(mean([r[key][0] for r in of if key in r])) for key in COMPARISONS])
-    return table(["Family", "call", "group", "array"], rows)
+        rows.append([family] + [number(mean([r[key][0] for r in of if key in r])) for key in comparisons])
+    return table(["Family", *comparisons], rows)
 
 
 def times_table(forms):
@@ -173,10 +197,56 @@ def latency_table(forms):
     return table(["Form", "latency", "rare", "typical", "gap"], rows)
 
 
-def behind_table(forms, strict):
+def level_table(level, forms, levels):
+    """Nanoseconds a lane of ours and of the peers, and their ratios."""
+    def bits(form, width, of):
+        return form["lane"].get(str(int(max(form["lane"], key=int)) * width // of))
+
+    half = LEVELS[level] // 2
+    rows = []
+    for name, form in forms.items():
+        found = ratios(name, form)
+        narrower = levels.get("avx2", {}).get(name) if half > 128 else None
+        cells = [form["group"], narrower and widest(narrower), bits(form, half, LEVELS[level]) if half > 128 else None,
+                 widest(form), found["gain"][0], form.get("array"),
+                 *(form["peers"].get(each, {}).get("lane") for each in ("SLEEF", *INLINED)),
+                 *(found.get(key, (None,))[0] for key in ("register", "inlined"))]
+        rows.append([f"`{name}`", *map(number, cells)])
+    heading = ["Form", "128", f"{half} at AVX2", str(half), str(LEVELS[level]), "gain", "array", "SLEEF", *INLINED,
+               "register", "inlined"]
+    kept = [i for i in range(len(heading)) if i == 0 or any(row[i] for row in rows)]
+    return table([heading[i] for i in kept], [[row[i] for i in kept] for row in rows])
+
+
+def level_section(level, levels, strict):
+    """Text, and plots by name."""
+    forms = levels[level]
+    parts = [f"## Registers of {LEVELS[level]} bits", WORDS["levels"]["text"].format(bits=LEVELS[level]).strip(),
+             summary_of_families(forms, LEVEL_COMPARISONS)]
+    files = {}
+    for precision in ("float", "double"):
+        file = f"performance-{level}-{precision}.svg"
+        of = {name: form for name, form in forms.items()
+              if single(name) == (precision == "float") and form["family"] not in EXACT[1:]}
+        titles = {"gain": "128 bits", "register": "SLEEF", "inlined": "fastest inlined"}
+        if of:
+            files[file] = overview_plot(
+                of, titles, f"{precision}, {LEVELS[level]} bits: times as fast as the peer, geometric means")
+            parts.append(f"![{LEVELS[level]} bits, {precision}: ratios by family]({file})")
+    parts.append(behind_table(forms, strict, LEVEL_COMPARISONS))
+    for family in families(forms):
+        of = of_family(forms, family)
+        parts.append(f"### {family}, {LEVELS[level]} bits\n\n{level_table(level, of, levels)}")
+        errors = error_table(of)
+        if errors:
+            parts.append(f"**Largest error found, ulp**\n\n{errors}")
+    return list(filter(None, parts)), files
+
+
+def behind_table(forms, strict, comparisons=COMPARISONS):
     """A row for each reason, with the forms that it is of."""
     parts, unexplained = [], []
-    for key, text in COMPARISONS.items():
+    for key, text in comparisons.items():
         by_reason = {}
         for name, form in forms.items():
             ratio, by = ratios(name, form).get(key, (math.inf, ""))
@@ -184,8 +254,8 @@ def behind_table(forms, strict):
                 why = reason(key, name, form)
                 if not why:
                     unexplained.append(f"{key} {name} ({number(ratio)})")
-                more = [by] if key == "array" and by != "plain C++" else []
-                errors = [each.get("ulp") for each in (form, form["peers"][by])]
+                more = [by] if key in ("array", "inlined") and by != "plain C++" else []
+                errors = [each.get("ulp") for each in (form, form["peers"].get(by, {}))]
                 if all(errors):
                     more.append(f"{number(errors[0])}, {number(errors[1])} ulp")
                 text_of_form = f"`{name}` {number(ratio)}" + (f" ({': '.join(more)})" if more else "")
@@ -271,15 +341,14 @@ def family_plot(title, forms):
     return plot(title, list(shown), columns, "nanoseconds a lane", "set logscale y; set yrange [0.05:*]")
 
 
-def overview_plot(forms):
-    titles = {"call": "call: C library", "group": "group: SLEEF", "array": "array: inlined"}
+def overview_plot(forms, titles, title):
+    """Ratios by family of the default forms: titles maps comparisons to their names."""
     rows = {}
     for family in families(forms):
         of = [ratios(name, form) for name, form in of_family(forms, family).items() if "_" not in name]
         rows[family] = {key: mean([r[key][0] for r in of if key in r]) for key in titles}
     rows = {family: row for family, row in rows.items() if any(row.values())}
-    return plot("Times as fast as the peer: geometric means of the default forms",
-                [re.split(",| functions| and", family)[0] for family in rows],
+    return plot(title, [re.split(",| functions| and", family)[0] for family in rows],
                 {title: [row[key] for row in rows.values()] for key, title in titles.items()}, "times as fast",
                 "set yrange [0:*]; set arrow from graph 0, first 1 to graph 1, first 1 nohead dt 2")
 
@@ -288,16 +357,27 @@ def make(figures, strict):
     """The files by name. Throws Unexplained if a form is behind its peer for no known reason."""
     about, forms = figures["about"], figures["forms"]
     found = about["packages"]
-    files = {"performance-overview.svg": overview_plot(forms)}
+    levels = {}
+    for key, form in figures["levels"].items():
+        level, name = key.split()
+        levels.setdefault(level, {})[name] = form
+    files = {"performance-overview.svg": overview_plot(
+        forms, {"call": "call: C library", "group": "group: SLEEF", "array": "array: inlined"},
+        "Times as fast as the peer: geometric means of the default forms")}
     parts = [WORDS["introduction"].format(
         **about, others=", ".join(f"{name} {version}" for name, version in found.items()),
         load_median=number(about["load"]["median"]), load_largest=number(about["load"]["largest"])).strip()]
     if "again" in about:
         parts[0] += "\n- measured again, the lesser times kept: " + ", ".join(f"`{name}`" for name in about["again"])
+    if "levels" in about:
+        parts[0] += f"\n- registers of more than 128 bits: by a run of their own, {about['levels']}"
     missing = [text for package, text in WORDS["missing"].items() if package not in found]
     if missing:
         parts.append("Not installed on that machine, and so not compared: " + ", ".join(missing) + ".")
-    parts += ["## In short", WORDS["short"].strip(), summary(forms), summary_of_families(forms),
+    lacking = [str(bits) for level, bits in LEVELS.items() if level not in levels]
+    if lacking:
+        parts.append(f"That processor has no registers of {' or '.join(lacking)} bits, so they are not measured.")
+    parts += ["## In short", WORDS["short"].strip(), summary(forms, levels), summary_of_families(forms),
               "![Ratios by family](performance-overview.svg)", WORDS["columns"].strip()]
     behind = behind_table(forms, strict)
     parts += ["## Behind a peer, and why", WORDS["behind"].strip(), behind or "None is."]
@@ -325,6 +405,10 @@ def make(figures, strict):
         if any(key.split()[0] in of for key in figures["large"]):
             parts += ["### Large arguments", WORDS["large"]["text"].strip(),
                       large_table({k: v for k, v in figures["large"].items() if k.split()[0] in of})]
+    for level in levels:
+        more, plots = level_section(level, levels, strict)
+        parts += more
+        files |= plots
     if figures["opencl"]:
         parts += ["## In OpenCL kernels", WORDS["opencl"]["text"].strip(),
                   f"**Times as fast as the runtime's own**\n\n{opencl_table(figures['opencl'], 'ratio')}",

@@ -105,8 +105,8 @@ class Benchmark:
             return json.loads(out.read_text())["measurements"]
 
 
-def form_of(name, family, all_measured):
-    """The figures of one form, put together from its benchmarks."""
+def form_of(name, family, all_measured, ours="lanemath"):
+    """The figures of one form, put together from its benchmarks: of the library, or of a companion."""
     form = {"family": family, "lane": {}, "peers": {}}
     # They were measured in random order: short keys first, so that widths are in theirs.
     for key, figures in sorted(all_measured.items(), key=lambda item: (len(item[0]), item[0])):
@@ -117,8 +117,10 @@ def form_of(name, family, all_measured):
             form["cycle"] = figures["lane"]
             continue
         by, kind, width = rest
-        if by != "lanemath":
-            if kind == "throughput":
+        if by != ours:
+            if by == "lanemath":
+                form["group"] = figures["lane"]
+            elif kind == "throughput":
                 library = "SLEEF" if by.startswith("Sleef_") else by if by in document.INLINED else "C library"
                 form["peers"][library] = {"function": by, "width": int(width), **figures}
         elif kind == "throughput":
@@ -180,8 +182,10 @@ def common_path(code, following, place):
     return None
 
 
-def families_of_forms(operations):
-    done = subprocess.run([BENCHMARK, "--list", *operations], text=True, capture_output=True)
+def families_of_forms(*of):
+    done = subprocess.run([BENCHMARK, "--list", *of], text=True, capture_output=True)
+    if "this processor lacks" in done.stderr:
+        return {}
     if done.returncode != 0:
         fail(done.stderr.strip().partition(": ")[2])
     return dict(reversed(line.split("\t")) for line in done.stdout.splitlines())
@@ -194,30 +198,42 @@ def lesser(one, other):
     return min(one, other) if isinstance(one, float) and isinstance(other, float) else one
 
 
+def hash_of(*paths):
+    return hashlib.sha256(b"".join(path.read_bytes() for path in paths)).hexdigest()
+
+
 def measure(arguments):
-    before = read(arguments.kept) if arguments.again else None
+    before = read(arguments.kept) if arguments.again or arguments.levels else None
     llvm_mca = find_tools()
     description, flags = processor()
     check_tunables(flags)
     with_opencl = build()
     trial = bool(arguments.trial)
     benchmark = Benchmark(trial)
-    family_of = families_of_forms(arguments.operations)
+    family_of = families_of_forms(*arguments.operations)
+    # What the companions have, of each level that this processor has.
+    at_levels = {level: [name for name in families_of_forms("--level", level) if name in family_of]
+                 for level in document.LEVELS}
     operations = list(dict.fromkeys(name.split("_")[0] for name in family_of))
     large_operations = [name for name in LARGE_OPERATIONS if name in operations]
     builtins = [name for name, operation in document.BUILTINS.items()
-                if with_opencl and operation in operations and not arguments.again]
-    journal = Journal(BUILD / "report" / ("trial" if trial else "again" if before else "performance"), {
-        "library": hashlib.sha256(LIBRARY.read_bytes()).hexdigest(),
-        "benchmark": hashlib.sha256(BENCHMARK.read_bytes()).hexdigest(),
+                if with_opencl and operation in operations and not before]
+    kind = "trial" if trial else "levels" if arguments.levels else "again" if before else "performance"
+    journal = Journal(BUILD / "report" / kind, {
+        "library": hash_of(LIBRARY, *sorted(LIBRARY.parent.glob("liblanemath_*.so.3"))),
+        "benchmark": hash_of(BENCHMARK),
         "processor": description, "operations": operations, "flags": benchmark.flags}, arguments.fresh)
 
     pieces = {}
-    for name in operations:
+    for name in operations if not arguments.levels else []:
         pieces[name] = lambda n=name: benchmark(n, f"--errors={benchmark.samples}")
         # By the name of the default form alone: the other variants have the same peer.
         pieces[f"{name}-without-fma"] = lambda n=name: benchmark(f"{n}1", "--c-library-alone", env=WITHOUT_FMA)
-    for low, high in LARGE:
+    for level, of in at_levels.items():
+        for name in dict.fromkeys(name.split("_")[0] for name in of):
+            pieces[f"{name}-{level}"] = lambda n=name, l=level: benchmark(n, "--level", l,
+                                                                          f"--errors={benchmark.samples}")
+    for low, high in LARGE if not arguments.levels else []:
         for name in large_operations:
             pieces[f"{name}-{low:.0e}"] = lambda n=name, l=low, h=high: benchmark(n, "--between", l, h)
     for name in builtins:
@@ -231,6 +247,14 @@ def measure(arguments):
     if sys.stderr.isatty():
         print(file=sys.stderr)
 
+    levels = {f"{level} {name}": form_of(name, family_of[name], found[f"{name.split('_')[0]}-{level}"],
+                                         f"lanemath_{level}")
+              for level, of in at_levels.items() for name in of}
+    if arguments.levels:
+        before["about"]["levels"] = datetime.datetime.now(datetime.timezone.utc).strftime("%Y-%m-%d")
+        write(arguments.kept, text_of(before | {"levels": levels}))
+        journal.end()
+        return
     forms = {name: form_of(name, family, found[name.split("_")[0]]) for name, family in family_of.items()}
     for name, form in forms.items():
         operation = name.split("_")[0]
@@ -259,6 +283,7 @@ def measure(arguments):
                                  "pocl-opencl-icd"),
         },
         "forms": forms,
+        "levels": levels,
         "large": {f"{name} {low:.0e}": form_of(name, forms[name]["family"], found[f"{operation}-{low:.0e}"])
                   for low, _ in LARGE for operation in large_operations
                   for name in forms if name.split("_")[0] == operation},
@@ -267,15 +292,16 @@ def measure(arguments):
     if before:
         about = before["about"]
         about["again"] = sorted({*about.get("again", []), *operations})
-        merged = {part: before[part] | {key: lesser(before[part][key], of) for key, of in figures[part].items()}
-                  for part in ("forms", "large")}
+        merged = {part: before[part] | {key: lesser(before[part].get(key, of), of)
+                                        for key, of in figures[part].items()}
+                  for part in ("forms", "levels", "large")}
         figures = before | merged
     write(arguments.kept, text_of(figures))
     journal.end()
 
 
 def read(path):
-    return common.read(path, ["about", "forms", "large", "opencl"])
+    return common.read(path, ["about", "forms", "levels", "large", "opencl"])
 
 
 def main():
@@ -289,12 +315,16 @@ def main():
     what.add_argument("--again", action="store_true",
                       help="measure some operations once more, because something disturbed them, and keep the lesser "
                       "of all times, the peers' too")
+    what.add_argument("--levels", action="store_true",
+                      help="measure the companions for wider registers alone, and keep all other figures")
     parser.add_argument("operations", nargs="*", metavar="OPERATION", help="with --trial or --again: these alone")
     arguments = parser.parse_args()
     if arguments.operations and not (arguments.trial or arguments.again):
         parser.error("only a trial measures some operations alone")
     if arguments.again and not arguments.operations:
         parser.error("--again needs operations")
+    if arguments.levels and arguments.trial:
+        parser.error("a trial measures everything")
     folder = arguments.trial or DOCS
     kept = arguments.kept = folder / "performance.json"
     if not folder.is_dir():
