@@ -75,8 +75,9 @@ bool left_to_compiler(const operation& o, variant v, const machine& on) {
 }
 
 const level& form::from() const {
-  const auto& companion = levels.at(LANEMATH_LEVELS ? on.level : 0);
-  return op.is_at(companion, width) ? companion : levels[0];
+  for (const auto& companion : levels)
+    if (LANEMATH_LEVELS && companion.name == on.kind && op.is_at(companion, width)) return companion;
+  return levels[0];
 }
 bool form::is_in_register(lane l) const { return padded(width) * size_of(l) <= from().register_bytes; }
 int form::lanes_of_a_register() const { return int(from().register_bytes / sig().widest_lane()); }
