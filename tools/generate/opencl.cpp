@@ -75,15 +75,18 @@ bool left_to_compiler(const operation& o, variant v, const machine& on) {
 }
 
 const level& form::from() const {
+  const bool same_bits = width != 3 || (!op.is_standalone(3, variant) && !op.is_standalone(4, variant));
   for (const auto& companion : levels)
-    if (LANEMATH_LEVELS && companion.name == on.kind && op.is_at(companion, width)) return companion;
+    if (LANEMATH_LEVELS && companion.name == on.kind && same_bits && op.is_at(companion, padded(width)))
+      return companion;
   return levels[0];
 }
+bool form::is_filled() const { return width == 3 && !from().name.empty(); }
 bool form::is_in_register(lane l) const { return padded(width) * size_of(l) <= from().register_bytes; }
 int form::lanes_of_a_register() const { return int(from().register_bytes / sig().widest_lane()); }
 
 std::string form::function() const {
-  return fmt::format("{}{}{}{}", from().symbol_prefix, op.name(), width, suffix(variant));
+  return fmt::format("{}{}{}{}", from().symbol_prefix, op.name(), is_filled() ? 4 : width, suffix(variant));
 }
 std::string form::by_value() const { return fmt::format("lanemath_{}{}{}", op.name(), width, suffix(variant)); }
 std::string form::packed() const { return by_value() + "_packed"; }
@@ -113,8 +116,8 @@ crossing crossing_of(const form& f) {
 
 std::vector<int> loop_widths(const operation& o, const machine& on) {
   const int lanes = int(16 / o.sig.widest_lane());
-  // At twice the lanes two packed floats would be wider than what all kernels pass alike.
-  const bool wide = on.register_size == 32 && (o.sig.how == delivery::none || lanes == 2);
+  // At twice the lanes two packed floats take 64 bytes, which kernels for AVX-512 do not all pass alike.
+  const bool wide = on.register_size == 32 && (o.sig.how == delivery::none || lanes == 2 || on.kind != "avx512");
   return wide ? std::vector{lanes, 2 * lanes} : std::vector{lanes};
 }
 
