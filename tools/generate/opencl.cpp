@@ -75,9 +75,9 @@ bool left_to_compiler(const operation& o, variant v, const machine& on) {
 }
 
 const level& form::from() const {
-  const bool same_bits = width != 3 || (!op.is_standalone(3, variant) && !op.is_standalone(4, variant));
   for (const auto& companion : levels)
-    if (LANEMATH_LEVELS && companion.name == on.kind && same_bits && op.is_at(companion, padded(width)))
+    if (LANEMATH_LEVELS && companion.name == on.kind && op.is_at(companion, padded(width)) &&
+        !op.is_standalone(width, variant))
       return companion;
   return levels[0];
 }
