@@ -17,24 +17,33 @@
 typedef void* find_function(const char* name);
 
 static const char* cache;         // the runtime's cache of compiled kernels
+static const char* kind;          // of machine that kernels are compiled for
 static char fingerprint[16 + 1];  // of the kernel libraries
 static cl_platform_id platform;   // the runtime's only one
 static cl_icd_dispatch below;     // its functions
 static find_function* find_in_runtime;
 
-// The runtime asks for the cache's name once, when it looks for devices. Only then does the environment hold ours: a
-// child process must not inherit it, for it may run on the runtime's own built-ins.
+// The runtime asks for the cache and the kind of machine once, when it looks for devices. Only then does the
+// environment hold ours: a child process must not inherit them, for it may run on the runtime's own built-ins.
 static void find_devices(void) {
-  const char* const set = getenv("POCL_CACHE_DIR");
-  char* const before = set ? strdup(set) : NULL;
-  setenv("POCL_CACHE_DIR", cache, 1);
+  struct {
+    const char *name, *value;
+    char* before;
+  } variables[] = {{"POCL_CACHE_DIR", cache, NULL}, {"POCL_KERNELLIB_NAME", kind, NULL}};
+  for (int i = 0; i < 2; ++i) {
+    const char* const set = getenv(variables[i].name);
+    if (set) variables[i].before = strdup(set);
+    setenv(variables[i].name, variables[i].value, 1);
+  }
   cl_uint number;
   below.clGetDeviceIDs(platform, CL_DEVICE_TYPE_ALL, 0, NULL, &number);
-  if (before)
-    setenv("POCL_CACHE_DIR", before, 1);
-  else
-    unsetenv("POCL_CACHE_DIR");
-  free(before);
+  for (int i = 0; i < 2; ++i) {
+    if (variables[i].before)
+      setenv(variables[i].name, variables[i].before, 1);
+    else
+      unsetenv(variables[i].name);
+    free(variables[i].before);
+  }
 }
 static pthread_once_t found_devices = PTHREAD_ONCE_INIT;
 
@@ -59,7 +68,7 @@ static cl_int CL_API_CALL get_device_info(cl_device_id device, cl_device_info wh
   const cl_int error = below.clGetDeviceInfo(device, what, sizeof runtime, runtime, NULL);
   if (error != CL_SUCCESS) return error;
   const size_t length =
-      snprintf(both, sizeof both, "%s lanemath %s %s", runtime, LANEMATH_VERSION, fingerprint) + (size_t)1;
+      snprintf(both, sizeof both, "%s lanemath %s %s-%.16s", runtime, LANEMATH_VERSION, fingerprint, kind) + (size_t)1;
   if (value && size < length) return CL_INVALID_VALUE;
   if (value) memcpy(value, both, length);
   if (needed) *needed = length;
@@ -77,14 +86,15 @@ static void take_over(void) {
   table->clGetDeviceInfo = get_device_info;
 }
 
-// Loads the companion of a level of instructions, if kernels call it. Returns what went wrong, or null.
-static const char* load_companion(const char* folder, const char* level, int wanted) {
-  if (!LANEMATH_LEVELS || !wanted) return NULL;
+// Loads the companion that kernels call on this kind of machine, if any. Returns what went wrong, or null.
+static const char* load_companion(const char* folder) {
   char path[PATH_MAX + 64], name[64];
-  snprintf(path, sizeof path, "%s/../../liblanemath_%s.so." LANEMATH_MAJOR, folder, level);
+  snprintf(name, sizeof name, " %s ", kind);
+  if (!strstr(" " LANEMATH_LEVELS " ", name)) return NULL;
+  snprintf(path, sizeof path, "%s/../../liblanemath_%s.so." LANEMATH_MAJOR, folder, kind);
   void* const companion = dlopen(path, RTLD_NOW | RTLD_GLOBAL);
   if (!companion) return dlerror();
-  snprintf(name, sizeof name, "lanemath_%s_version", level);
+  snprintf(name, sizeof name, "lanemath_%s_version", kind);
   const char* (*version)(void);
   *(void**)&version = dlsym(companion, name);
   return version && strcmp(version(), LANEMATH_VERSION) == 0 ? NULL : "a companion is of another version";
@@ -93,8 +103,11 @@ static const char* load_companion(const char* folder, const char* level, int wan
 // Returns what went wrong, or null.
 static const char* load_over(const char* folder, const char* runtime) {
   cache = getenv("LANEMATH_KERNEL_CACHE");
-  if (!cache || !*cache) return "the variable LANEMATH_KERNEL_CACHE is missing: use lanemath-opencl";
+  kind = getenv("LANEMATH_KIND");
+  if (!cache || !*cache || !kind || !*kind)
+    return "the variable LANEMATH_KERNEL_CACHE or LANEMATH_KIND is missing: use lanemath-opencl";
   cache = strdup(cache);
+  kind = strdup(kind);
 
   char path[PATH_MAX + 64];
   snprintf(path, sizeof path, "%s/fingerprint", folder);
@@ -105,8 +118,7 @@ static const char* load_over(const char* folder, const char* runtime) {
 
   snprintf(path, sizeof path, "%s/" LANEMATH_LIBRARY, folder);
   if (!dlopen(path, RTLD_NOW | RTLD_GLOBAL)) return dlerror();
-  const char* trouble = load_companion(folder, "avx2", __builtin_cpu_supports("avx2"));
-  if (!trouble) trouble = load_companion(folder, "avx512", __builtin_cpu_supports("avx512bw"));
+  const char* const trouble = load_companion(folder);
   if (trouble) return trouble;
   void* const library = dlopen(runtime, RTLD_LAZY | RTLD_LOCAL);
   if (!library) return dlerror();

@@ -31,6 +31,7 @@ int main(void) {
   CHECK(clGetDeviceInfo(NULL, CL_DRIVER_VERSION, sizeof version, version, NULL) == CL_INVALID_DEVICE);
 
   const char* source =
+      "#pragma OPENCL FP_CONTRACT OFF\n"
       "kernel void powers(global float* x) {\n"
       "  const size_t i = get_global_id(0);\n"
       "  x[i] = pow(1.0f + 0.37f * i, 3.3f);\n"

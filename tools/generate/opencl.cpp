@@ -75,14 +75,18 @@ bool left_to_compiler(const operation& o, variant v, const machine& on) {
 }
 
 const level& form::from() const {
-  const auto& companion = levels.at(LANEMATH_LEVELS ? on.level : 0);
-  return op.is_at(companion, width) ? companion : levels[0];
+  for (const auto& companion : levels)
+    if (LANEMATH_LEVELS && companion.name == on.kind && op.is_at(companion, padded(width)) &&
+        !op.is_standalone(width, variant))
+      return companion;
+  return levels[0];
 }
+bool form::is_filled() const { return width == 3 && !from().name.empty(); }
 bool form::is_in_register(lane l) const { return padded(width) * size_of(l) <= from().register_bytes; }
 int form::lanes_of_a_register() const { return int(from().register_bytes / sig().widest_lane()); }
 
 std::string form::function() const {
-  return fmt::format("{}{}{}{}", from().symbol_prefix, op.name(), width, suffix(variant));
+  return fmt::format("{}{}{}{}", from().symbol_prefix, op.name(), is_filled() ? 4 : width, suffix(variant));
 }
 std::string form::by_value() const { return fmt::format("lanemath_{}{}{}", op.name(), width, suffix(variant)); }
 std::string form::packed() const { return by_value() + "_packed"; }
@@ -90,13 +94,21 @@ std::string form::lane_by_lane() const { return by_value() + "_lane_by_lane"; }
 std::string form::by_pointer() const { return by_value() + "_by_pointer"; }
 
 // The number of registers from which one call of a wide form, through memory, takes less time than a call for each
-// register, because its kernel gains that much from interleaving its groups. Measured; most never do.
-int registers_that_pay_for_memory(const operation& o, variant v) {
+// register, because its kernel gains that much from interleaving its groups. Measured, in the library and in the
+// companion for AVX2; most never do.
+int registers_that_pay_for_memory(const form& f) {
   constexpr int never = 16;
+  const auto& o = f.op;
   const auto is_among = [&](std::initializer_list<std::string_view> names) {
     return std::ranges::count(names, o.name()) != 0;
   };
-  if (o.group == family::power) return v == variant::standard ? 2 : 4;
+  if (f.from().register_bytes > 16) {
+    if (o.group == family::power && f.variant == variant::standard) return 2;
+    if (is_among({"asinh", "atan2pi"})) return 2;
+    if (is_among({"acosh", "atanh", "atanpi", "cbrt", "cos", "erfc", "sin", "tanh"})) return 4;
+    return never;
+  }
+  if (o.group == family::power) return f.variant == variant::standard ? 2 : 4;
   if (is_among({"tgamma", "tgammaf", "lgamma", "lgammaf", "atan2pi"})) return 2;
   if (is_among({"cos", "tanpi", "atanpi", "asinhf", "atanh", "atanhf", "invf", "sqrtf"})) return 4;
   return never;
@@ -106,14 +118,13 @@ crossing crossing_of(const form& f) {
   const int lanes = f.lanes_of_a_register(), registers = padded(f.width) / lanes;
   if (registers <= 1) return crossing::whole;
   const bool same_bits = !f.op.is_standalone(lanes, f.variant) && !f.has_second();
-  return same_bits && registers < registers_that_pay_for_memory(f.op, f.variant) ? crossing::in_pieces
-                                                                                 : crossing::in_memory;
+  return same_bits && registers < registers_that_pay_for_memory(f) ? crossing::in_pieces : crossing::in_memory;
 }
 
 std::vector<int> loop_widths(const operation& o, const machine& on) {
   const int lanes = int(16 / o.sig.widest_lane());
-  // At twice the lanes two packed floats would be wider than what all kernels pass alike.
-  const bool wide = on.register_size == 32 && (o.sig.how == delivery::none || lanes == 2);
+  // At twice the lanes two packed floats take 64 bytes, which kernels for AVX-512 do not all pass alike.
+  const bool wide = on.register_size == 32 && (o.sig.how == delivery::none || lanes == 2 || on.kind != "avx512");
   return wide ? std::vector{lanes, 2 * lanes} : std::vector{lanes};
 }
 

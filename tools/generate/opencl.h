@@ -26,15 +26,15 @@ std::vector<std::string> opencl_names(const lanemath::operation& operation, lane
 // Whether vectors of this built-in may take one scalar as their last argument.
 bool opencl_scalar_last(std::string_view name);
 
-// A kind of machine that the runtime has a kernel library for. The runtime takes the last one here whose features, by
-// their names in the system's list, the processor has.
+// A kind of machine that the runtime has a kernel library for. The last one here serves whose features, by their names
+// in the system's list, the processor has, and whose companion is there: kernels for wide vectors call the companion of
+// the level that has the kind's name.
 struct machine {
   std::string_view kind;       // in the kernel library's name
   std::string_view processor;  // that kernels are compiled for there, as the name of the runtime's device shows
   int register_size;           // of the vectors that the compiler turns loops into, in bytes
   bool rounds, fuses;          // has instructions that round to integers, that multiply and add at once
-  std::string_view features;   // none: the runtime never takes it
-  std::size_t level = 0;       // in `levels`: of the companion that kernels call there with wide vectors
+  std::string_view features;   // none: never serves
 };
 inline constexpr machine machines[] = {
     {"GENERIC", "x86-64", 16, false, false, ""},
@@ -44,8 +44,8 @@ inline constexpr machine machines[] = {
     {"avx", "sandybridge", 32, true, false, "sse2 avx cx16 popcnt"},
     {"avx_f16c", "ivybridge", 32, true, false, "sse2 avx cx16 popcnt f16c"},
     {"avx_fma4", "bdver1", 32, true, true, "sse2 avx cx16 popcnt xop fma4"},
-    {"avx2", "haswell", 32, true, true, "sse2 avx avx2 cx16 popcnt abm f16c fma bmi1 bmi2", 1},
-    {"avx512", "skylake-avx512", 32, true, true, "sse2 avx512f", 2},
+    {"avx2", "haswell", 32, true, true, "sse2 avx avx2 cx16 popcnt abm f16c fma bmi1 bmi2"},
+    {"avx512", "skylake-avx512", 32, true, true, "sse2 avx512f avx512vl avx512dq avx512bw"},
 };
 
 // Whether the compiler keeps a built-in on this machine: an instruction or a few, by the runtime's definition or ours.

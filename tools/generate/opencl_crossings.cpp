@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 
 #include "opencl_forms.h"
 
@@ -52,6 +53,10 @@ std::string ir_type(lane l, int width) {
   const auto scalar = scalars[std::size_t(l)];
   return width == 1 ? std::string(scalar) : fmt::format("<{} x {}>", padded(width), scalar);
 }
+std::string constant(lane l, double value) {
+  if (!is_floating(l)) return fmt::format("{}", std::int64_t(value));
+  return fmt::format("0x{:016X}", std::bit_cast<std::uint64_t>(l == lane::f32 ? double(float(value)) : value));
+}
 // A vector in memory, aligned as the stack is.
 std::string room_type(lane l, int width) { return fmt::format("[{} x {}]", padded(width), ir_type(l, 1)); }
 
@@ -60,6 +65,7 @@ class writer {
   writer(std::FILE* out, const form& f, const machine& on) : out_(out), f_(f), s_(f.sig()), on_(on) {}
 
   void declare() {
+    if (f_.is_filled()) return;  // the form of four lanes declares it
     std::vector<std::string> types;
     if (!f_.is_in_register(s_.result))
       types.push_back(fmt::format("ptr sret({}) align 16", room_type(s_.result, f_.width)));
@@ -144,8 +150,14 @@ class writer {
     if (crossing_of(f_) == crossing::in_pieces) {
       in_pieces();
     } else {
-      for (int i = 0; i < s_.arity(); ++i)
-        fmt::print(out_, "  %{0} = load {1}, ptr %{0}_at\n", names[i], ir_type(s_.arguments[i], f_.width));
+      for (int i = 0; i < s_.arity(); ++i) {
+        const lane l = s_.arguments[i];
+        fmt::print(out_, "  %{}{} = load {}, ptr %{}_at\n", names[i], f_.is_filled() ? "_three" : "",
+                   ir_type(l, f_.width), names[i]);
+        if (f_.is_filled())
+          fmt::print(out_, "  %{0} = insertelement {1} %{0}_three, {2} {3}, i64 3\n", names[i], ir_type(l, f_.width),
+                     ir_type(l, 1), constant(l, f_.op.filler));
+      }
       if (f_.width == 1) {
         fmt::print(out_, "  %packed = call {} @{}({}) {}\n", packed_type(1), f_.packed(), values(), pure);
         unpack();

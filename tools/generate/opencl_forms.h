@@ -17,6 +17,7 @@ struct form {
   // What exports it: the library or the machine's companion.
   const lanemath::level& from() const;
   bool is_in_register(lanemath::lane l) const;
+  bool is_filled() const;           // three lanes that a companion computes as four
   int lanes_of_a_register() const;  // of the operation's widest type
 
   // The functions that give it. That which is exported takes wide vectors in memory; the others, whatever the vectors'
