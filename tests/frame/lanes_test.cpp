@@ -93,6 +93,15 @@ TYPED_TEST(FloatingLanes, CompareSelectAndTellMasks) {
     EXPECT_EQ(mask_bits(~(x <= T(3))), bits);
     EXPECT_EQ(any(~(x <= T(3))), bits != 0);
     EXPECT_FALSE(any(x < x));
+    for (int marked = 0; marked < W; ++marked) {
+      std::array<I, 16> mask{};
+      mask[marked] = -1;
+      EXPECT_TRUE((any(load<I, W>(mask)))) << marked << " of " << W;
+      EXPECT_EQ((mask_bits(load<I, W>(mask))), 1u << marked);
+    }
+    expect_lanes(magnitude(x), [&](int i) { return std::fabs(a[i]); });
+    expect_lanes(with_bits(magnitude(x), sign_of(x)), [&](int i) { return a[i]; });
+    expect_lanes(where(x < T(3), x), [&](int i) { return a[i] < 3 ? a[i] : T(0); });
   });
 }
 
