@@ -34,9 +34,11 @@ set(docs ${PROJECT_SOURCE_DIR}/docs)
 file(GLOB documents ${docs}/*.md ${docs}/*.svg ${docs}/performance.json ${docs}/accuracy.json)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation
   USE_SOURCE_PERMISSIONS PATTERN CMakeLists.txt EXCLUDE)
-install(FILES ${documents} ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_SOURCE_DIR}/SECURITY.md
-  DESTINATION ${CMAKE_INSTALL_DOCDIR}
-  COMPONENT documentation)
+# As in the sources: they lead to one another.
+install(FILES ${documents} DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT documentation)
+foreach(document CHANGELOG CONTRIBUTING SECURITY)
+  install(FILES ${PROJECT_SOURCE_DIR}/${document}.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
+endforeach()
 if(TARGET lanemath-reference)
   install(DIRECTORY ${PROJECT_BINARY_DIR}/reference/html DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
   install(DIRECTORY ${PROJECT_BINARY_DIR}/reference/man/ DESTINATION ${CMAKE_INSTALL_MANDIR} COMPONENT documentation)

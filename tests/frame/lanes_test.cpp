@@ -1,4 +1,5 @@
-// The lane operations that kernels are written in, at every width, against the same scalar arithmetic.
+// The lane operations that kernels are written in, at every width, against the same scalar arithmetic: a program for
+// each level.
 #include "frame/lanes.h"
 
 #include "frame/conversions.h"
@@ -56,6 +57,13 @@ void expect_lanes(const lanes<T, W>& got, F due) {
   }
 }
 
+// Every lane is computed as if alone. A call, before which the rounding direction is set.
+template <class F, class T, int W>
+[[gnu::noinline]] void expect_the_same_alone(F f, const lanes<T, W>& v) {
+  const auto lane = store(v);
+  expect_lanes(f(v), [&](int i) { return f(lanes<T, 1>(lane[i])).g[0]; });
+}
+
 template <class F>
 void at_every_width(F check) {
   check(std::integral_constant<int, 1>());
@@ -85,6 +93,15 @@ TYPED_TEST(FloatingLanes, CompareSelectAndTellMasks) {
     EXPECT_EQ(mask_bits(~(x <= T(3))), bits);
     EXPECT_EQ(any(~(x <= T(3))), bits != 0);
     EXPECT_FALSE(any(x < x));
+    for (int marked = 0; marked < W; ++marked) {
+      std::array<I, 16> mask{};
+      mask[marked] = -1;
+      EXPECT_TRUE((any(load<I, W>(mask)))) << marked << " of " << W;
+      EXPECT_EQ((mask_bits(load<I, W>(mask))), 1u << marked);
+    }
+    expect_lanes(magnitude(x), [&](int i) { return std::fabs(a[i]); });
+    expect_lanes(with_bits(magnitude(x), sign_of(x)), [&](int i) { return a[i]; });
+    expect_lanes(where(x < T(3), x), [&](int i) { return a[i] < 3 ? a[i] : T(0); });
   });
 }
 
@@ -190,6 +207,17 @@ TYPED_TEST(FloatingLanes, LookUpEveryColumnOfARow) {
   });
 }
 
+TEST(Lanes, GoThroughTheIntegerRegistersOneByOne) {
+  const auto& a = some_values<std::int64_t>();
+  at_every_width([&](auto width) {
+    lanes<std::int64_t, width> sums, squares;
+    const auto sum_and_square = [](std::int64_t v, auto& sum, auto& square) { sum = v / 2 + 1, square = v % 9 * v; };
+    lane_by_lane(sum_and_square, load<std::int64_t, width>(a), sums, squares);
+    expect_lanes(sums, [&](int i) { return a[i] / 2 + 1; });
+    expect_lanes(squares, [&](int i) { return a[i] % 9 * a[i]; });
+  });
+}
+
 TEST(Lanes, MultiplyTheirLowerHalves) {
   const auto& a = some_values<std::uint64_t>();
   at_every_width([&](auto width) {
@@ -213,6 +241,7 @@ TYPED_TEST(FloatingLanes, RoundPickAndConvertAsTheProcessorDoes) {
     expect_lanes(maximum(x, y), [&](int i) { return a[i] > b[i] ? a[i] : b[i]; });
     expect_lanes(round_to<direction::nearest>(x), [&](int i) { return std::nearbyint(a[i]); });
     expect_lanes(round_to<direction::up>(x), [&](int i) { return std::ceil(a[i]); });
+    expect_lanes(unordered(x, y), [&](int i) { return int_of_size<sizeof(T)>(std::isunordered(a[i], b[i]) ? -1 : 0); });
     expect_lanes(square_root(x * x), [&](int i) { return std::sqrt(a[i] * a[i]); });
 
     const auto integer = [&](T v) { return std::isfinite(v) ? std::int32_t(v) : INT32_MIN; };
@@ -236,11 +265,53 @@ TYPED_TEST(FloatingLanes, KeepTheFirstOfTwoNaNsInOrder) {
   using one = lanes<T, 1>;
   EXPECT_EQ(pattern(ordered_sum(one(x), one(y))), nan(1));
   EXPECT_EQ(pattern(ordered_product(one(y), one(x))), nan(2) | sign_mask<T>);
-  using group = lanes<T, 16 / sizeof(T)>;
-  for (const auto& [first, second] : {std::pair(x, y), std::pair(y, x)}) {
-    EXPECT_EQ(I(bits(ordered_sum(group(first), group(second))).g[0][1]), std::bit_cast<I>(first));
-    EXPECT_EQ(I(bits(ordered_product(group(first), group(second))).g[0][1]), std::bit_cast<I>(first));
-  }
+  for (const auto& [first, second] : {std::pair(x, y), std::pair(y, x)})
+    at_every_width([&](auto width) {
+      using group = lanes<T, width>;
+      expect_lanes(bits(ordered_sum(group(first), group(second))), [&](int) { return std::bit_cast<I>(first); });
+      expect_lanes(bits(ordered_product(group(first), group(second))), [&](int) { return std::bit_cast<I>(first); });
+    });
+}
+
+// Patterns of every kind in every lane: infinities, NaNs of both kinds, zeros and denormals of both signs, and what is
+// just beyond an integer's range.
+template <class T>
+std::array<T, 16> turned_patterns(int by) {
+  using I = int_of_size<sizeof(T)>;
+  constexpr T inf = std::numeric_limits<T>::infinity(), tiny = std::numeric_limits<T>::denorm_min();
+  const T of[16] = {
+      T(0.3), T(-2.5),       -T(0), tiny,        -inf,    std::bit_cast<T>(I(std::bit_cast<I>(inf) | 5)),
+      3,      T(2147483648), -tiny, inf,         T(-1.7), std::bit_cast<T>(I(std::bit_cast<I>(T(NAN)) | 6)),
+      T(0.5), T(-1e30),      4,     T(7.0000005)};
+  std::array<T, 16> turned;
+  for (int i = 0; i < 16; ++i) turned[i] = of[(i + by) % 16];
+  return turned;
+}
+
+// Estimates are the same bits in a register of any size, or a level has results of its own.
+TYPED_TEST(FloatingLanes, HaveTheBitsOfASingleLaneInEveryDirection) {
+  using T = TypeParam;
+  for (const unsigned direction : {_MM_ROUND_NEAREST, _MM_ROUND_DOWN, _MM_ROUND_UP, _MM_ROUND_TOWARD_ZERO})
+    for (int by = 0; by < 16; ++by)
+      at_every_width([&](auto width) {
+        constexpr int W = width;
+        const auto x = load<T, W>(turned_patterns<T>(by));
+        _MM_SET_ROUNDING_MODE(direction);
+        expect_the_same_alone([](auto v) { return square_root(v); }, x);
+        expect_the_same_alone([](auto v) { return round_to<direction::down>(v); }, x);
+        expect_the_same_alone([](auto v) { return round_to<direction::zero>(v); }, x);
+        expect_the_same_alone([](auto v) { return convert<std::int32_t>(v); }, x);
+        expect_the_same_alone([](auto v) { return truncate(v); }, x);
+        expect_the_same_alone([](auto v) { return convert<T>(top_word(v)); }, x);
+        if constexpr (sizeof(T) == 4) {
+          expect_the_same_alone([](auto v) { return convert<double>(v); }, x);
+          expect_the_same_alone([](auto v) { return reciprocal_estimate(v); }, x);
+          expect_the_same_alone([](auto v) { return reciprocal_root_estimate(v); }, x);
+        } else {
+          expect_the_same_alone([](auto v) { return convert<float>(v); }, x);
+        }
+        _MM_SET_ROUNDING_MODE(_MM_ROUND_NEAREST);
+      });
 }
 
 }  // namespace

@@ -42,22 +42,30 @@ def processor():
 
 
 class Journal:
-    """What was measured so far, a file for each piece, so that an interrupted run continues."""
+    """What was measured so far, a file for each piece, so that an interrupted run continues. A file that a failing
+    machine has damaged counts as missing."""
 
     def __init__(self, folder, conditions, fresh):
         self.folder = folder
         kept = folder / "conditions.json"
-        if fresh or not kept.exists() or json.loads(kept.read_text()) != conditions:
+        if fresh or self.content(kept) != conditions:
             shutil.rmtree(folder, ignore_errors=True)
             folder.mkdir(parents=True)
             write(kept, json.dumps(conditions))
 
     def piece(self, name, measure):
         path = self.folder / f"{name}.json"
-        if not path.exists():
+        if self.content(path) is None:
             measured = measure()
             write(path, json.dumps({"load": os.getloadavg()[0], "measured": measured}))
-        return json.loads(path.read_text())
+        return self.content(path)
+
+    @staticmethod
+    def content(path):
+        try:
+            return json.loads(path.read_text())
+        except (OSError, ValueError):
+            return None
 
     def end(self):
         shutil.rmtree(self.folder)
