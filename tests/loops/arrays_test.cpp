@@ -6,6 +6,8 @@
 #include <lanemath/arrays.hpp>
 
 #include <algorithm>
+#include <bit>
+#include <cfenv>
 
 #include "support/lanes_of.h"
 #include "support/library.h"
@@ -96,6 +98,30 @@ TEST(Arrays, HaveTheBitsOfWidth16AndStayInBounds) {
       }
   });
   EXPECT_EQ(called, std::size_t(pair_count()));
+}
+
+// Zeros there would divide by zero, or go to the rare routines.
+TEST(Arrays, FillUnusedLanesWithOrdinaryNumbers) {
+  for_each_built(library(), [&](std::size_t, const operation& o, variant v) {
+    const auto name = fmt::format("lanemath_{}_array{}", o.name(), suffix(v));
+    std::array<std::array<std::byte, 16 * 8>, 4> rooms{};
+    std::vector<std::byte*> arrays;
+    for (std::size_t i = 0; i < element_sizes(o.sig).size(); ++i) arrays.push_back(rooms[i].data());
+    for (int i = 0; i < o.sig.arity(); ++i) {
+      const lane l = o.sig.arguments[i];
+      const auto element = l == lane::f32   ? std::bit_cast<std::uint32_t>(float(o.filler))
+                           : l == lane::f64 ? std::bit_cast<std::uint64_t>(o.filler)
+                                            : std::uint64_t(o.filler);
+      for (std::size_t at = 0; at < 16; ++at) std::memcpy(&rooms[i][at * size_of(l)], &element, size_of(l));
+    }
+    const auto raised = [&](std::size_t n) {
+      std::feclearexcept(FE_ALL_EXCEPT);
+      call(dlsym(RTLD_DEFAULT, name.c_str()), arrays, n);
+      return std::fetestexcept(FE_ALL_EXCEPT);
+    };
+    const int by_all = raised(16);
+    EXPECT_EQ(raised(1), by_all) << name;
+  });
 }
 
 template <class T>
