@@ -117,7 +117,7 @@ TEST(Arrays, FillUnusedLanesWithOrdinaryNumbers) {
     const auto raised = [&](std::size_t n) {
       std::feclearexcept(FE_ALL_EXCEPT);
       call(dlsym(RTLD_DEFAULT, name.c_str()), arrays, n);
-      return std::fetestexcept(FE_ALL_EXCEPT);
+      return std::fetestexcept(FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW | FE_UNDERFLOW);
     };
     const int by_all = raised(16);
     EXPECT_EQ(raised(1), by_all) << name;
