@@ -48,9 +48,13 @@ void write_types(std::FILE* out, lane l, int width) {
     fmt::print(out, "typedef {0} lanemath_wide_{1}{2};\n", vector, name, width);
     return;
   }
-  // The companions' structures are as large, and aligned as their registers are. A caller that aligns memory so,
-  // although they do not ask for it, has its stores and their loads in one piece.
-  fmt::print(out, "#if LANEMATH_REGISTERS >= {}\ntypedef {} lanemath_wide_{}{};\n", bytes, vector, name, width);
+  // Aligned as the level's registers are, whether it is a vector or a structure. Companions ask for that only where
+  // they return a pair; but memory that is aligned so has the caller's stores and their loads in one piece, and a
+  // vector of less alignment would lose that in templates.
+  fmt::print(out,
+             "#if LANEMATH_REGISTERS >= {0}\n"
+             "typedef lanemath_{1} lanemath_wide_{1}{2} __attribute__((vector_size({0})));\n",
+             bytes, name, width);
   if (bytes > 32)
     fmt::print(out,
                "#elif LANEMATH_REGISTERS > 16\ntypedef struct {{\n  lanemath_{0} lane[{1}];\n}} "

@@ -63,7 +63,7 @@ typedef struct {
   lanemath_border_float8 first, second;
 } lanemath_border_float8_pair;
 #if LANEMATH_REGISTERS >= 32
-typedef lanemath_float8 lanemath_wide_float8;
+typedef lanemath_float lanemath_wide_float8 __attribute__((vector_size(32)));
 #else
 typedef lanemath_border_float8 lanemath_wide_float8;
 #endif
@@ -83,7 +83,7 @@ typedef struct {
   lanemath_border_float16 first, second;
 } lanemath_border_float16_pair;
 #if LANEMATH_REGISTERS >= 64
-typedef lanemath_float16 lanemath_wide_float16;
+typedef lanemath_float lanemath_wide_float16 __attribute__((vector_size(64)));
 #elif LANEMATH_REGISTERS > 16
 typedef struct {
   lanemath_float lane[16];
@@ -218,7 +218,7 @@ typedef struct {
   lanemath_border_double4 first, second;
 } lanemath_border_double4_pair;
 #if LANEMATH_REGISTERS >= 32
-typedef lanemath_double4 lanemath_wide_double4;
+typedef lanemath_double lanemath_wide_double4 __attribute__((vector_size(32)));
 #else
 typedef lanemath_border_double4 lanemath_wide_double4;
 #endif
@@ -244,7 +244,7 @@ typedef struct {
   lanemath_border_double8 first, second;
 } lanemath_border_double8_pair;
 #if LANEMATH_REGISTERS >= 64
-typedef lanemath_double8 lanemath_wide_double8;
+typedef lanemath_double lanemath_wide_double8 __attribute__((vector_size(64)));
 #elif LANEMATH_REGISTERS > 16
 typedef struct {
   lanemath_double lane[8];
@@ -268,7 +268,7 @@ typedef struct {
   lanemath_border_double16 first, second;
 } lanemath_border_double16_pair;
 #if LANEMATH_REGISTERS >= 128
-typedef lanemath_double16 lanemath_wide_double16;
+typedef lanemath_double lanemath_wide_double16 __attribute__((vector_size(128)));
 #elif LANEMATH_REGISTERS > 16
 typedef struct {
   lanemath_double lane[16];
@@ -419,7 +419,7 @@ typedef struct {
   lanemath_border_int8 first, second;
 } lanemath_border_int8_pair;
 #if LANEMATH_REGISTERS >= 32
-typedef lanemath_int8 lanemath_wide_int8;
+typedef lanemath_int lanemath_wide_int8 __attribute__((vector_size(32)));
 #else
 typedef lanemath_border_int8 lanemath_wide_int8;
 #endif
@@ -439,7 +439,7 @@ typedef struct {
   lanemath_border_int16 first, second;
 } lanemath_border_int16_pair;
 #if LANEMATH_REGISTERS >= 64
-typedef lanemath_int16 lanemath_wide_int16;
+typedef lanemath_int lanemath_wide_int16 __attribute__((vector_size(64)));
 #elif LANEMATH_REGISTERS > 16
 typedef struct {
   lanemath_int lane[16];
@@ -591,7 +591,7 @@ typedef struct {
   lanemath_border_uint8 first, second;
 } lanemath_border_uint8_pair;
 #if LANEMATH_REGISTERS >= 32
-typedef lanemath_uint8 lanemath_wide_uint8;
+typedef lanemath_uint lanemath_wide_uint8 __attribute__((vector_size(32)));
 #else
 typedef lanemath_border_uint8 lanemath_wide_uint8;
 #endif
@@ -611,7 +611,7 @@ typedef struct {
   lanemath_border_uint16 first, second;
 } lanemath_border_uint16_pair;
 #if LANEMATH_REGISTERS >= 64
-typedef lanemath_uint16 lanemath_wide_uint16;
+typedef lanemath_uint lanemath_wide_uint16 __attribute__((vector_size(64)));
 #elif LANEMATH_REGISTERS > 16
 typedef struct {
   lanemath_uint lane[16];
@@ -746,7 +746,7 @@ typedef struct {
   lanemath_border_long4 first, second;
 } lanemath_border_long4_pair;
 #if LANEMATH_REGISTERS >= 32
-typedef lanemath_long4 lanemath_wide_long4;
+typedef lanemath_long lanemath_wide_long4 __attribute__((vector_size(32)));
 #else
 typedef lanemath_border_long4 lanemath_wide_long4;
 #endif
@@ -772,7 +772,7 @@ typedef struct {
   lanemath_border_long8 first, second;
 } lanemath_border_long8_pair;
 #if LANEMATH_REGISTERS >= 64
-typedef lanemath_long8 lanemath_wide_long8;
+typedef lanemath_long lanemath_wide_long8 __attribute__((vector_size(64)));
 #elif LANEMATH_REGISTERS > 16
 typedef struct {
   lanemath_long lane[8];
@@ -796,7 +796,7 @@ typedef struct {
   lanemath_border_long16 first, second;
 } lanemath_border_long16_pair;
 #if LANEMATH_REGISTERS >= 128
-typedef lanemath_long16 lanemath_wide_long16;
+typedef lanemath_long lanemath_wide_long16 __attribute__((vector_size(128)));
 #elif LANEMATH_REGISTERS > 16
 typedef struct {
   lanemath_long lane[16];
@@ -930,7 +930,7 @@ typedef struct {
   lanemath_border_ulong4 first, second;
 } lanemath_border_ulong4_pair;
 #if LANEMATH_REGISTERS >= 32
-typedef lanemath_ulong4 lanemath_wide_ulong4;
+typedef lanemath_ulong lanemath_wide_ulong4 __attribute__((vector_size(32)));
 #else
 typedef lanemath_border_ulong4 lanemath_wide_ulong4;
 #endif
@@ -956,7 +956,7 @@ typedef struct {
   lanemath_border_ulong8 first, second;
 } lanemath_border_ulong8_pair;
 #if LANEMATH_REGISTERS >= 64
-typedef lanemath_ulong8 lanemath_wide_ulong8;
+typedef lanemath_ulong lanemath_wide_ulong8 __attribute__((vector_size(64)));
 #elif LANEMATH_REGISTERS > 16
 typedef struct {
   lanemath_ulong lane[8];
@@ -980,7 +980,7 @@ typedef struct {
   lanemath_border_ulong16 first, second;
 } lanemath_border_ulong16_pair;
 #if LANEMATH_REGISTERS >= 128
-typedef lanemath_ulong16 lanemath_wide_ulong16;
+typedef lanemath_ulong lanemath_wide_ulong16 __attribute__((vector_size(128)));
 #elif LANEMATH_REGISTERS > 16
 typedef struct {
   lanemath_ulong lane[16];
