@@ -5,6 +5,11 @@
  * has the size of a vector of four; the library ignores its last lane, and so should the caller. Vectors of more
  * than 16 bytes are aligned to 16, as malloc's memory is.
  *
+ * A program that is compiled for AVX2 or AVX-512 and linked with the companion of that level says so by the macro
+ * LANEMATH_LEVEL_AVX2 or LANEMATH_LEVEL_AVX512, as the CMake targets lanemath::avx2 and lanemath::avx512 and the
+ * pkg-config modules lanemath-avx2 and lanemath-avx512 do. Its functions with wide vectors, of more than 16 bytes, then
+ * are the companion's, which takes them in registers as far as the level's registers are large enough.
+ *
  * A function without such a wide vector is declared under its name in the library. The library takes wide vectors in
  * memory, whatever instructions the caller is compiled for. A compiler that may use AVX would pass them in registers,
  * so they cross the border as structures, and their functions are inline.
@@ -38,7 +43,31 @@
 #define LANEMATH_END
 #endif
 
+#if defined(LANEMATH_LEVEL_AVX512)
+#if !defined(__AVX512F__) || !defined(__AVX512VL__) || !defined(__AVX512DQ__) || !defined(__AVX512BW__)
+#error "LANEMATH_LEVEL_AVX512 is for programs compiled with -mavx512f -mavx512vl -mavx512dq -mavx512bw, or more"
+#endif
+#define LANEMATH_REGISTERS 64 /* bytes that cross in a register */
+#define LANEMATH_NAMED_WIDE(name) __asm__("lanemath_avx512_" name)
+#elif defined(LANEMATH_LEVEL_AVX2)
+#if !defined(__AVX2__)
+#error "LANEMATH_LEVEL_AVX2 is for programs compiled with -mavx2, or more"
+#endif
+#define LANEMATH_REGISTERS 32
+#define LANEMATH_NAMED_WIDE(name) __asm__("lanemath_avx2_" name)
+#else
+#define LANEMATH_REGISTERS 16
+#define LANEMATH_NAMED_WIDE(name) LANEMATH_NAMED(name)
+#endif
+
 LANEMATH_BEGIN
+
+/* The version of lanemath that the companion was built from. */
+#if LANEMATH_REGISTERS == 64
+const char* lanemath_avx512_version(void);
+#elif LANEMATH_REGISTERS == 32
+const char* lanemath_avx2_version(void);
+#endif
 
 typedef int32_t lanemath_int;
 typedef uint32_t lanemath_uint;
@@ -87,79 +116,90 @@ LANEMATH_INLINE void lanemath_join(void* to, const void* from, size_t bytes) {
   memcpy(to, from, bytes);
 }
 
+/* What crossed the border of the library, or of what serves wide vectors: a companion stores whole registers. */
+LANEMATH_INLINE void lanemath_border_join(void* to, const void* from, size_t bytes) { lanemath_join(to, from, bytes); }
+LANEMATH_INLINE void lanemath_wide_join(void* to, const void* from, size_t bytes) {
+#if LANEMATH_REGISTERS > 16
+  memcpy(to, from, bytes);
+#else
+  lanemath_join(to, from, bytes);
+#endif
+}
+
 LANEMATH_END
 
 /* Calls of functions with wide vectors, and the loading, storing and filling of these, as expressions. The types are
- * those of the result, of the arguments, and of what the pointer points to. */
+ * those of the result, of the arguments, and of what the pointer points to; they cross as lanemath_border_<type> to the
+ * library or as lanemath_wide_<type> to what serves wide vectors. */
 #ifdef __AVX__
-#define LANEMATH_VALUE(name, T, value) \
-  lanemath_border_##T name;            \
+#define LANEMATH_VALUE(border, name, T, value) \
+  border##_##T name;                           \
   *(lanemath_alias_##T*)&name = (value)
 #else /* where GCC makes better code of this */
-#define LANEMATH_VALUE(name, T, value)       \
-  const lanemath_##T name##_given = (value); \
-  lanemath_border_##T name;                  \
+#define LANEMATH_VALUE(border, name, T, value) \
+  const lanemath_##T name##_given = (value);   \
+  border##_##T name;                           \
   memcpy(&name, &name##_given, sizeof name)
 #endif
-#define LANEMATH_CALL(R, call)                                            \
-  const lanemath_border_##R lanemath_returned = __ocl_lanemath_h8_##call; \
-  lanemath_##R lanemath_result;                                           \
-  lanemath_join(&lanemath_result, &lanemath_returned, sizeof lanemath_result)
+#define LANEMATH_CALL(border, R, call)                         \
+  const border##_##R lanemath_returned = lanemath_call_##call; \
+  lanemath_##R lanemath_result;                                \
+  border##_join(&lanemath_result, &lanemath_returned, sizeof lanemath_result)
 
-#define LANEMATH_UNARY(name, R, A, x)   \
-  __extension__({                       \
-    LANEMATH_VALUE(lanemath_x, A, x);   \
-    LANEMATH_CALL(R, name(lanemath_x)); \
-    lanemath_result;                    \
+#define LANEMATH_UNARY(border, name, R, A, x)   \
+  __extension__({                               \
+    LANEMATH_VALUE(border, lanemath_x, A, x);   \
+    LANEMATH_CALL(border, R, name(lanemath_x)); \
+    lanemath_result;                            \
   })
-#define LANEMATH_BINARY(name, R, A, B, x, y)        \
-  __extension__({                                   \
-    LANEMATH_VALUE(lanemath_x, A, x);               \
-    LANEMATH_VALUE(lanemath_y, B, y);               \
-    LANEMATH_CALL(R, name(lanemath_x, lanemath_y)); \
-    lanemath_result;                                \
+#define LANEMATH_BINARY(border, name, R, A, B, x, y)        \
+  __extension__({                                           \
+    LANEMATH_VALUE(border, lanemath_x, A, x);               \
+    LANEMATH_VALUE(border, lanemath_y, B, y);               \
+    LANEMATH_CALL(border, R, name(lanemath_x, lanemath_y)); \
+    lanemath_result;                                        \
   })
-#define LANEMATH_TERNARY(name, R, A, B, C, x, y, z)             \
-  __extension__({                                               \
-    LANEMATH_VALUE(lanemath_x, A, x);                           \
-    LANEMATH_VALUE(lanemath_y, B, y);                           \
-    LANEMATH_VALUE(lanemath_z, C, z);                           \
-    LANEMATH_CALL(R, name(lanemath_x, lanemath_y, lanemath_z)); \
-    lanemath_result;                                            \
+#define LANEMATH_TERNARY(border, name, R, A, B, C, x, y, z)             \
+  __extension__({                                                       \
+    LANEMATH_VALUE(border, lanemath_x, A, x);                           \
+    LANEMATH_VALUE(border, lanemath_y, B, y);                           \
+    LANEMATH_VALUE(border, lanemath_z, C, z);                           \
+    LANEMATH_CALL(border, R, name(lanemath_x, lanemath_y, lanemath_z)); \
+    lanemath_result;                                                    \
   })
-#define LANEMATH_UNARY_POINTER(name, R, A, P, x, second) \
-  __extension__({                                        \
-    LANEMATH_VALUE(lanemath_x, A, x);                    \
-    lanemath_##P* const lanemath_second = (second);      \
-    LANEMATH_CALL(R, name(lanemath_x, lanemath_second)); \
-    lanemath_result;                                     \
+#define LANEMATH_UNARY_POINTER(border, name, R, A, P, x, second) \
+  __extension__({                                                \
+    LANEMATH_VALUE(border, lanemath_x, A, x);                    \
+    lanemath_##P* const lanemath_second = (second);              \
+    LANEMATH_CALL(border, R, name(lanemath_x, lanemath_second)); \
+    lanemath_result;                                             \
   })
-#define LANEMATH_BINARY_POINTER(name, R, A, B, P, x, y, second)      \
-  __extension__({                                                    \
-    LANEMATH_VALUE(lanemath_x, A, x);                                \
-    LANEMATH_VALUE(lanemath_y, B, y);                                \
-    lanemath_##P* const lanemath_second = (second);                  \
-    LANEMATH_CALL(R, name(lanemath_x, lanemath_y, lanemath_second)); \
-    lanemath_result;                                                 \
+#define LANEMATH_BINARY_POINTER(border, name, R, A, B, P, x, y, second)      \
+  __extension__({                                                            \
+    LANEMATH_VALUE(border, lanemath_x, A, x);                                \
+    LANEMATH_VALUE(border, lanemath_y, B, y);                                \
+    lanemath_##P* const lanemath_second = (second);                          \
+    LANEMATH_CALL(border, R, name(lanemath_x, lanemath_y, lanemath_second)); \
+    lanemath_result;                                                         \
   })
 /* Both results of the pair are of type R. */
-#define LANEMATH_PAIR_CALL(R, call)                                                              \
-  const lanemath_border_##R##_pair lanemath_returned = __ocl_lanemath_h8_##call;                 \
+#define LANEMATH_PAIR_CALL(border, R, call)                                                      \
+  const border##_##R##_pair lanemath_returned = lanemath_call_##call;                            \
   lanemath_##R##_pair lanemath_result;                                                           \
-  lanemath_join(&lanemath_result.first, &lanemath_returned.first, sizeof lanemath_result.first); \
-  lanemath_join(&lanemath_result.second, &lanemath_returned.second, sizeof lanemath_result.second)
-#define LANEMATH_UNARY_PAIR(name, R, A, x)   \
-  __extension__({                            \
-    LANEMATH_VALUE(lanemath_x, A, x);        \
-    LANEMATH_PAIR_CALL(R, name(lanemath_x)); \
-    lanemath_result;                         \
+  border##_join(&lanemath_result.first, &lanemath_returned.first, sizeof lanemath_result.first); \
+  border##_join(&lanemath_result.second, &lanemath_returned.second, sizeof lanemath_result.second)
+#define LANEMATH_UNARY_PAIR(border, name, R, A, x)   \
+  __extension__({                                    \
+    LANEMATH_VALUE(border, lanemath_x, A, x);        \
+    LANEMATH_PAIR_CALL(border, R, name(lanemath_x)); \
+    lanemath_result;                                 \
   })
-#define LANEMATH_BINARY_PAIR(name, R, A, B, x, y)        \
-  __extension__({                                        \
-    LANEMATH_VALUE(lanemath_x, A, x);                    \
-    LANEMATH_VALUE(lanemath_y, B, y);                    \
-    LANEMATH_PAIR_CALL(R, name(lanemath_x, lanemath_y)); \
-    lanemath_result;                                     \
+#define LANEMATH_BINARY_PAIR(border, name, R, A, B, x, y)        \
+  __extension__({                                                \
+    LANEMATH_VALUE(border, lanemath_x, A, x);                    \
+    LANEMATH_VALUE(border, lanemath_y, B, y);                    \
+    LANEMATH_PAIR_CALL(border, R, name(lanemath_x, lanemath_y)); \
+    lanemath_result;                                             \
   })
 
 #define LANEMATH_LOAD(lane, type, from)                              \

@@ -29,27 +29,23 @@ struct lanes {
   static constexpr int width = W;
 };
 
-// A vector of the C header, and how it crosses the library's border. Its type is written out wherever it is read or
-// written, because a template's argument and a typedef of a typedef lose its alignment.
+// A vector of the C header, and how it crosses the library's border and that of what serves wide vectors. Its type is
+// written out wherever it is read or written, because a template's argument and a typedef of a typedef lose its
+// alignment.
 template <class T, int W>
 struct c;
-#define LANEMATH_C(T, type, W, border, explicitly)                                     \
+#define LANEMATH_C(T, type, W, border, wide, explicitly)                               \
   template <>                                                                          \
   struct c<T, W> {                                                                     \
     typedef lanemath_##type##W c_type;                                                 \
     typedef border border_type;                                                        \
+    typedef wide wide_type;                                                            \
     c() = default;                                                                     \
     explicitly LANEMATH_FUNCTION c(const lanemath_##type##W& v) : v_(v) {}             \
     LANEMATH_FUNCTION operator const lanemath_##type##W &() const { return v_; }       \
     LANEMATH_FUNCTION void load(const T* from) { v_ = lanemath_load_##type##W(from); } \
     LANEMATH_FUNCTION void store(T* to) const { lanemath_store_##type##W(to, v_); }    \
     LANEMATH_FUNCTION void fill(T x) { v_ = lanemath_fill_##type##W(x); }              \
-    LANEMATH_FUNCTION border out() const {                                             \
-      border b;                                                                        \
-      memcpy(&b, &v_, sizeof b);                                                       \
-      return b;                                                                        \
-    }                                                                                  \
-    LANEMATH_FUNCTION void in(const void* b) { lanemath_join(&v_, b, sizeof v_); }     \
     lanemath_##type##W v_;                                                             \
   };
 // Which lanes a type has.
@@ -58,19 +54,19 @@ struct lanes_of;
 #define LANEMATH_LANES(T, type, W) \
   template <>                      \
   struct lanes_of<lanemath_##type##W> : lanes<T, W> {};
-#define LANEMATH_VECTOR(T, type, W)                            \
-  LANEMATH_C(T, type, W, lanemath_border_##type##W, /* not */) \
+#define LANEMATH_VECTOR(T, type, W)                                                     \
+  LANEMATH_C(T, type, W, lanemath_border_##type##W, lanemath_wide_##type##W, /* not */) \
   LANEMATH_LANES(T, type, W)
 // Three lanes cross as four do, in a type of their own.
-#define LANEMATH_TYPE(T, type)                     \
-  struct type##3_border {                          \
-    lanemath_border_##type##3 v;                   \
-  };                                               \
-  LANEMATH_LANES(T, type, 1)                       \
-  LANEMATH_VECTOR(T, type, 2)                      \
-  LANEMATH_C(T, type, 3, type##3_border, explicit) \
-  LANEMATH_VECTOR(T, type, 4)                      \
-  LANEMATH_VECTOR(T, type, 8)                      \
+#define LANEMATH_TYPE(T, type)                                     \
+  struct type##3_border {                                          \
+    lanemath_border_##type##3 v;                                   \
+  };                                                               \
+  LANEMATH_LANES(T, type, 1)                                       \
+  LANEMATH_VECTOR(T, type, 2)                                      \
+  LANEMATH_C(T, type, 3, type##3_border, type##3_border, explicit) \
+  LANEMATH_VECTOR(T, type, 4)                                      \
+  LANEMATH_VECTOR(T, type, 8)                                      \
   LANEMATH_VECTOR(T, type, 16)
 LANEMATH_TYPE(float, float)
 LANEMATH_TYPE(double, double)
@@ -221,24 +217,31 @@ using with_lanes = lanemath::vector<T, width_of<V>::value>;
 template <class V>
 using floating = with_lanes<V, typename std::conditional<sizeof(lane_type_t<V>) == 4, float, double>::type>;
 
-// Values as they cross the library's border, and room for its second result.
-template <class V>
-struct crossing {
-  static LANEMATH_FUNCTION V out(V x) { return x; }
-  static LANEMATH_FUNCTION V in(V b) { return b; }
-  typedef V room;
-};
-template <class T, int W>
-struct crossing<basic_vector<T, W>> {
-  typedef typename c<T, W>::border_type border;
-  static LANEMATH_FUNCTION border out(const basic_vector<T, W>& x) { return x.out(); }
-  static LANEMATH_FUNCTION basic_vector<T, W> in(const border& b) {
-    basic_vector<T, W> v;
-    v.c<T, W>::in(&b);
-    return v;
-  }
-  typedef border room;
-};
+// Values as they cross to what serves wide vectors, or to the library, and room for a second result.
+#define LANEMATH_CROSSING(crossing, border_type, join)               \
+  template <class V>                                                 \
+  struct crossing {                                                  \
+    static LANEMATH_FUNCTION V out(V x) { return x; }                \
+    static LANEMATH_FUNCTION V in(V b) { return b; }                 \
+    typedef V room;                                                  \
+  };                                                                 \
+  template <class T, int W>                                          \
+  struct crossing<basic_vector<T, W>> {                              \
+    typedef typename c<T, W>::border_type room;                      \
+    static LANEMATH_FUNCTION room out(const basic_vector<T, W>& x) { \
+      room b;                                                        \
+      memcpy(&b, &x.c<T, W>::v_, sizeof b);                          \
+      return b;                                                      \
+    }                                                                \
+    static LANEMATH_FUNCTION basic_vector<T, W> in(const room& b) {  \
+      basic_vector<T, W> v;                                          \
+      join(&v.c<T, W>::v_, &b, sizeof b);                            \
+      return v;                                                      \
+    }                                                                \
+  };
+LANEMATH_CROSSING(crossing, wide_type, lanemath_wide_join)
+LANEMATH_CROSSING(crossing_to_library, border_type, lanemath_border_join)
+#undef LANEMATH_CROSSING
 
 template <class V>
 struct memory {

@@ -24,11 +24,11 @@ configure() {
   cp "$work/log" "$folder"
 }
 
-# with_pkg_config COMPILER LIBRARY_FOLDER PROGRAM: builds the consumer as pkg-config says.
+# with_pkg_config COMPILER LIBRARY_FOLDER PROGRAM [MODULE FLAG...]: builds the consumer as pkg-config says.
 with_pkg_config() {
   local flags
-  read -ra flags <<< "$(PKG_CONFIG_PATH=$2/pkgconfig pkg-config --cflags --libs lanemath)"
-  "$1" -Wall -Wextra -Werror "$here/consumer.c" "${flags[@]}" -lm -o "$3"
+  read -ra flags <<< "$(PKG_CONFIG_PATH=$2/pkgconfig pkg-config --cflags --libs "${4:-lanemath}")"
+  "$1" -Wall -Wextra -Werror "${@:5}" "$here/consumer.c" "${flags[@]}" -lm -o "$3"
 }
 
 # make_packages BUILD_FOLDER: Debian packages of it, into the folder $packages.

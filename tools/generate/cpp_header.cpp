@@ -22,9 +22,10 @@ std::string scalar(lane l) {
   return is_floating(l) ? std::string(type_name(l))
                         : fmt::format("std::{}int{}_t", is_unsigned(l) ? "u" : "", 8 * size_of(l));
 }
-std::string border(lane l, int width) {
+std::string border(const operation& o, lane l, int width) {
   if (width == 1) return scalar(l);
-  return width == 3 ? fmt::format("{}3_border", type_name(l)) : "lanemath_border_" + vector_name(l, width);
+  return width == 3 ? fmt::format("{}3_border", type_name(l))
+                    : fmt::format("{}_{}", border_of(o, width), vector_name(l, width));
 }
 
 std::string rounding_of(const operation& o) { return rounding_names.at(std::size_t(o.rounding)); }
@@ -60,12 +61,11 @@ void write_declarations(std::FILE* out) {
         if (!o.has(v)) continue;
         const auto& s = o.sig;
         std::vector<std::string> arguments;
-        for (int i = 0; i < s.arity(); ++i) arguments.push_back(border(s.arguments[i], width));
+        for (int i = 0; i < s.arity(); ++i) arguments.push_back(border(o, s.arguments[i], width));
         if (s.how == delivery::pointer) arguments.emplace_back("void*");
-        const auto result = border(s.result, width);
-        fmt::print(out, "{} {}({}) LANEMATH_NAMED(\"{}{}{}\");\n",
-                   s.how == delivery::pair ? fmt::format("both<{}>", result) : result, declared_name(o),
-                   fmt::join(arguments, ", "), o.name(), width, suffix(v));
+        const auto result = border(o, s.result, width);
+        fmt::print(out, "{} {}({}) {};\n", s.how == delivery::pair ? fmt::format("both<{}>", result) : result,
+                   declared_name(o), fmt::join(arguments, ", "), named(o, v, width));
       }
     fmt::print(out, "}}  // namespace {}\n", space);
   }
@@ -89,11 +89,15 @@ void write_function(std::FILE* out, const operation& o, variant v) {
     if (l == s.arguments[0]) return "detail::vector_of<V>";
     return is_floating(l) ? "detail::floating<V>" : fmt::format("detail::with_lanes<V, {}>", scalar(l));
   };
+  // The companions have no always-scalar operation.
+  const auto crossing = [&](std::string_view type) {
+    return fmt::format("detail::{}<{}>", o.always_scalar ? "crossing_to_library" : "crossing", type);
+  };
   std::vector<std::string> parameters, arguments;
   for (int i = 0; i < s.arity(); ++i) {
     const auto name = std::array{"x", "y", "z"}[i];
     parameters.push_back(i == 0 ? fmt::format("V {}", name) : fmt::format("const {}& {}", type(s.arguments[i]), name));
-    arguments.push_back(fmt::format("detail::crossing<{}>::out({})", type(s.arguments[i]), name));
+    arguments.push_back(fmt::format("{}::out({})", crossing(type(s.arguments[i])), name));
   }
   if (s.how == delivery::pointer) arguments.emplace_back("&second");
 
@@ -101,8 +105,8 @@ void write_function(std::FILE* out, const operation& o, variant v) {
   auto returned = result;
   if (s.how != delivery::none)
     returned = fmt::format("{}<{}{}>", structure(o), result, s.result == s.second ? "" : ", " + type(s.second));
-  const auto in = [](std::string_view type, std::string_view what) {
-    return fmt::format("detail::crossing<{}>::in({})", type, what);
+  const auto in = [&](std::string_view type, std::string_view what) {
+    return fmt::format("{}::in({})", crossing(type), what);
   };
   const auto call = fmt::format("detail::{}::{}({})", v == variant::standard ? "standard" : suffix(v).substr(1),
                                 o.base_name(), fmt::join(arguments, ", "));
@@ -111,8 +115,8 @@ void write_function(std::FILE* out, const operation& o, variant v) {
   switch (s.how) {
     case delivery::none: fmt::print(out, "  return {};\n", in(result, call)); break;
     case delivery::pointer:
-      fmt::print(out, "  typename detail::crossing<{}>::room second;\n  const auto first = {};\n  return {{{}, {}}};\n",
-                 type(s.second), call, in(result, "first"), in(type(s.second), "second"));
+      fmt::print(out, "  typename {}::room second;\n  const auto first = {};\n  return {{{}, {}}};\n",
+                 crossing(type(s.second)), call, in(result, "first"), in(type(s.second), "second"));
       break;
     case delivery::pair:
       fmt::print(out, "  const auto pair = {};\n  return {{{}, {}}};\n", call, in(result, "pair.first"),

@@ -35,4 +35,13 @@ static_assert([] {
 inline std::string vector_name(lane l, int width) { return fmt::format("{}{}", type_name(l), width); }
 constexpr bool is_wide(lane l, int width) { return size_of(l) * padded(width) > 16; }
 
+// How a form crosses: to the library whatever the program is, or to a companion if it is linked with one; and how it is
+// named there.
+constexpr std::string_view border_of(const operation& o, int width) {
+  return o.is_wide(width) ? "lanemath_wide" : "lanemath_border";
+}
+inline std::string named(const operation& o, variant v, int width) {
+  return fmt::format("LANEMATH_NAMED{}(\"{}{}{}\")", o.is_wide(width) ? "_WIDE" : "", o.name(), width, suffix(v));
+}
+
 }  // namespace lanemath

@@ -30,6 +30,7 @@ void write_function(std::FILE* out, const operation& o, variant v, int width) {
   const auto vector = [&](lane l) { return vector_name(l, width); };
   const auto name = fmt::format("{}{}{}", o.name(), width, suffix(v));
 
+  const auto crossing = border_of(o, width);
   std::string_view pair = s.how == delivery::pair ? "_pair" : "";
   bool wide = is_wide(s.result, width);
   std::vector<std::string> types{vector(s.result)}, names, parameters, border;
@@ -38,7 +39,7 @@ void write_function(std::FILE* out, const operation& o, variant v, int width) {
     types.push_back(vector(s.arguments[i]));
     names.emplace_back(std::array{"x", "y", "z"}[i]);
     parameters.push_back(fmt::format("lanemath_{} {}", types.back(), names.back()));
-    border.push_back("lanemath_border_" + types.back());
+    border.push_back(fmt::format("{}_{}", crossing, types.back()));
   }
   if (s.how == delivery::pointer) {
     types.push_back(vector(s.second));
@@ -51,18 +52,18 @@ void write_function(std::FILE* out, const operation& o, variant v, int width) {
   const auto prototype =
       fmt::format("lanemath_{}{} lanemath_{}({})", types[0], pair, name, fmt::join(parameters, ", "));
   if (!wide) {
-    fmt::print(out, "{}{} LANEMATH_NAMED(\"{}\");\n", comment, prototype, name);
+    fmt::print(out, "{}{} {};\n", comment, prototype, named(o, v, width));
     return;
   }
-  const auto call =
-      fmt::format("LANEMATH_{}({}, {}, {})", shape(s), name, fmt::join(types, ", "), fmt::join(names, ", "));
+  const auto call = fmt::format("LANEMATH_{}({}, {}, {}, {})", shape(s), crossing, name, fmt::join(types, ", "),
+                                fmt::join(names, ", "));
   // The macro holds the documentation too, for editors that show the definition of what they point at.
   fmt::print(out,
-             "lanemath_border_{}{} {}{}({});\n"
+             "{}_{}{} lanemath_call_{}({}) {};\n"
              "{}LANEMATH_INLINE {} {{\n  return {};\n}}\n"
              "#define lanemath_{}({}) \\\n{} \\\n  {}\n",
-             types[0], pair, symbol_prefix, name, fmt::join(border, ", "), comment, prototype, call, name,
-             fmt::join(names, ", "), std::string_view(comment).substr(0, comment.size() - 1), call);
+             crossing, types[0], pair, name, fmt::join(border, ", "), named(o, v, width), comment, prototype, call,
+             name, fmt::join(names, ", "), std::string_view(comment).substr(0, comment.size() - 1), call);
 }
 
 }  // namespace

@@ -43,6 +43,28 @@ void write_types(std::FILE* out, lane l, int width) {
   for (auto border : {"", "border_"})
     fmt::print(out, "typedef struct {{\n  lanemath_{0}{1}{2} first, second;\n}} lanemath_{0}{1}{2}_pair;\n", border,
                name, width);
+  if (width == 1) return;
+  if (!is_wide(l, width)) {
+    fmt::print(out, "typedef {0} lanemath_wide_{1}{2};\n", vector, name, width);
+    return;
+  }
+  // Aligned as the level's registers are, whether it is a vector or a structure. Companions ask for that only where
+  // they return a pair; but memory that is aligned so has the caller's stores and their loads in one piece, and a
+  // vector of less alignment would lose that in templates.
+  fmt::print(out,
+             "#if LANEMATH_REGISTERS >= {0}\n"
+             "typedef lanemath_{1} lanemath_wide_{1}{2} __attribute__((vector_size({0})));\n",
+             bytes, name, width);
+  if (bytes > 32)
+    fmt::print(out,
+               "#elif LANEMATH_REGISTERS > 16\ntypedef struct {{\n  lanemath_{0} lane[{1}];\n}} "
+               "__attribute__((aligned(LANEMATH_REGISTERS), may_alias)) lanemath_wide_{0}{1};\n",
+               name, width);
+  fmt::print(out,
+             "#else\ntypedef lanemath_border_{0}{1} lanemath_wide_{0}{1};\n#endif\n"
+             "typedef struct {{\n  lanemath_wide_{0}{1} first, second;\n}} "
+             "__attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_{0}{1}_pair;\n",
+             name, width);
 }
 
 // What one of the three helpers is, for one type: for wide vectors, also a macro.
@@ -103,7 +125,8 @@ void write_vectors_header(std::FILE* out) {
              head("Vector types, and what loads, stores and fills them. Loading three lanes reads three, and "
                   "repeats the last as the fourth; storing writes three.\n\nlanemath_<type>_pair holds two vectors. "
                   "lanemath_border_<type> is how a type crosses the library's border, "
-                  "and lanemath_alias_<type> is a vector anywhere in memory."));
+                  "lanemath_wide_<type> how it crosses to what serves wide vectors, and lanemath_alias_<type> is a "
+                  "vector anywhere in memory."));
   for (auto l : {lane::f32, lane::f64, lane::i32, lane::u32, lane::i64, lane::u64}) {
     fmt::print(out, "\n");
     for (int width : {1, 2, 4, 3, 8, 16}) write_types(out, l, width);  // three is made of four

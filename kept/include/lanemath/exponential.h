@@ -23,46 +23,46 @@ lanemath_double1 lanemath_exp1(lanemath_double1 x) LANEMATH_NAMED("exp1");
 /** e to the power x; 2 lanes of double. An algorithm of its own: the last bits differ from those of other widths.
  * Largest error 2.98 ulp. Domain and special values: at the head of <lanemath/exponential.h>. */
 lanemath_double2 lanemath_exp2(lanemath_double2 x) LANEMATH_NAMED("exp2");
-lanemath_border_double3 __ocl_lanemath_h8_exp3(lanemath_border_double3);
+lanemath_border_double3 lanemath_call_exp3(lanemath_border_double3) LANEMATH_NAMED("exp3");
 /** e to the power x; 3 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_exp3(lanemath_double3 x) {
-  return LANEMATH_UNARY(exp3, double3, double3, x);
+  return LANEMATH_UNARY(lanemath_border, exp3, double3, double3, x);
 }
 #define lanemath_exp3(x) \
 /** e to the power x; 3 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp3, double3, double3, x)
-lanemath_border_double4 __ocl_lanemath_h8_exp4(lanemath_border_double4);
+  LANEMATH_UNARY(lanemath_border, exp3, double3, double3, x)
+lanemath_wide_double4 lanemath_call_exp4(lanemath_wide_double4) LANEMATH_NAMED_WIDE("exp4");
 /** e to the power x; 4 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_exp4(lanemath_double4 x) {
-  return LANEMATH_UNARY(exp4, double4, double4, x);
+  return LANEMATH_UNARY(lanemath_wide, exp4, double4, double4, x);
 }
 #define lanemath_exp4(x) \
 /** e to the power x; 4 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp4, double4, double4, x)
-lanemath_border_double8 __ocl_lanemath_h8_exp8(lanemath_border_double8);
+  LANEMATH_UNARY(lanemath_wide, exp4, double4, double4, x)
+lanemath_wide_double8 lanemath_call_exp8(lanemath_wide_double8) LANEMATH_NAMED_WIDE("exp8");
 /** e to the power x; 8 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_exp8(lanemath_double8 x) {
-  return LANEMATH_UNARY(exp8, double8, double8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp8, double8, double8, x);
 }
 #define lanemath_exp8(x) \
 /** e to the power x; 8 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp8, double8, double8, x)
-lanemath_border_double16 __ocl_lanemath_h8_exp16(lanemath_border_double16);
+  LANEMATH_UNARY(lanemath_wide, exp8, double8, double8, x)
+lanemath_wide_double16 lanemath_call_exp16(lanemath_wide_double16) LANEMATH_NAMED_WIDE("exp16");
 /** e to the power x; 16 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_exp16(lanemath_double16 x) {
-  return LANEMATH_UNARY(exp16, double16, double16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp16, double16, double16, x);
 }
 #define lanemath_exp16(x) \
 /** e to the power x; 16 lanes of double. Largest error 3.18 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp16, double16, double16, x)
+  LANEMATH_UNARY(lanemath_wide, exp16, double16, double16, x)
 
 /** e to the power x; one double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -70,46 +70,46 @@ lanemath_double1 lanemath_exp1_native(lanemath_double1 x) LANEMATH_NAMED("exp1_n
 /** e to the power x; 2 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_double2 lanemath_exp2_native(lanemath_double2 x) LANEMATH_NAMED("exp2_native");
-lanemath_border_double3 __ocl_lanemath_h8_exp3_native(lanemath_border_double3);
+lanemath_border_double3 lanemath_call_exp3_native(lanemath_border_double3) LANEMATH_NAMED("exp3_native");
 /** e to the power x; 3 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_exp3_native(lanemath_double3 x) {
-  return LANEMATH_UNARY(exp3_native, double3, double3, x);
+  return LANEMATH_UNARY(lanemath_border, exp3_native, double3, double3, x);
 }
 #define lanemath_exp3_native(x) \
 /** e to the power x; 3 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp3_native, double3, double3, x)
-lanemath_border_double4 __ocl_lanemath_h8_exp4_native(lanemath_border_double4);
+  LANEMATH_UNARY(lanemath_border, exp3_native, double3, double3, x)
+lanemath_wide_double4 lanemath_call_exp4_native(lanemath_wide_double4) LANEMATH_NAMED_WIDE("exp4_native");
 /** e to the power x; 4 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_exp4_native(lanemath_double4 x) {
-  return LANEMATH_UNARY(exp4_native, double4, double4, x);
+  return LANEMATH_UNARY(lanemath_wide, exp4_native, double4, double4, x);
 }
 #define lanemath_exp4_native(x) \
 /** e to the power x; 4 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp4_native, double4, double4, x)
-lanemath_border_double8 __ocl_lanemath_h8_exp8_native(lanemath_border_double8);
+  LANEMATH_UNARY(lanemath_wide, exp4_native, double4, double4, x)
+lanemath_wide_double8 lanemath_call_exp8_native(lanemath_wide_double8) LANEMATH_NAMED_WIDE("exp8_native");
 /** e to the power x; 8 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_exp8_native(lanemath_double8 x) {
-  return LANEMATH_UNARY(exp8_native, double8, double8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp8_native, double8, double8, x);
 }
 #define lanemath_exp8_native(x) \
 /** e to the power x; 8 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp8_native, double8, double8, x)
-lanemath_border_double16 __ocl_lanemath_h8_exp16_native(lanemath_border_double16);
+  LANEMATH_UNARY(lanemath_wide, exp8_native, double8, double8, x)
+lanemath_wide_double16 lanemath_call_exp16_native(lanemath_wide_double16) LANEMATH_NAMED_WIDE("exp16_native");
 /** e to the power x; 16 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_exp16_native(lanemath_double16 x) {
-  return LANEMATH_UNARY(exp16_native, double16, double16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp16_native, double16, double16, x);
 }
 #define lanemath_exp16_native(x) \
 /** e to the power x; 16 lanes of double. Largest error 2.98e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp16_native, double16, double16, x)
+  LANEMATH_UNARY(lanemath_wide, exp16_native, double16, double16, x)
 
 /** e to the power x; one float. Largest error 0.569 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -123,26 +123,26 @@ lanemath_float3 lanemath_expf3(lanemath_float3 x) LANEMATH_NAMED("expf3");
 /** e to the power x; 4 lanes of float. Largest error 0.569 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_float4 lanemath_expf4(lanemath_float4 x) LANEMATH_NAMED("expf4");
-lanemath_border_float8 __ocl_lanemath_h8_expf8(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_expf8(lanemath_wide_float8) LANEMATH_NAMED_WIDE("expf8");
 /** e to the power x; 8 lanes of float. Largest error 0.569 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_expf8(lanemath_float8 x) {
-  return LANEMATH_UNARY(expf8, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, expf8, float8, float8, x);
 }
 #define lanemath_expf8(x) \
 /** e to the power x; 8 lanes of float. Largest error 0.569 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expf8, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_expf16(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, expf8, float8, float8, x)
+lanemath_wide_float16 lanemath_call_expf16(lanemath_wide_float16) LANEMATH_NAMED_WIDE("expf16");
 /** e to the power x; 16 lanes of float. Largest error 0.569 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_expf16(lanemath_float16 x) {
-  return LANEMATH_UNARY(expf16, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, expf16, float16, float16, x);
 }
 #define lanemath_expf16(x) \
 /** e to the power x; 16 lanes of float. Largest error 0.569 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expf16, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, expf16, float16, float16, x)
 
 /** e to the power x; one float. Largest error 2170 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -156,26 +156,26 @@ lanemath_float3 lanemath_expf3_native(lanemath_float3 x) LANEMATH_NAMED("expf3_n
 /** e to the power x; 4 lanes of float. Largest error 2170 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_float4 lanemath_expf4_native(lanemath_float4 x) LANEMATH_NAMED("expf4_native");
-lanemath_border_float8 __ocl_lanemath_h8_expf8_native(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_expf8_native(lanemath_wide_float8) LANEMATH_NAMED_WIDE("expf8_native");
 /** e to the power x; 8 lanes of float. Largest error 2170 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_expf8_native(lanemath_float8 x) {
-  return LANEMATH_UNARY(expf8_native, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, expf8_native, float8, float8, x);
 }
 #define lanemath_expf8_native(x) \
 /** e to the power x; 8 lanes of float. Largest error 2170 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expf8_native, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_expf16_native(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, expf8_native, float8, float8, x)
+lanemath_wide_float16 lanemath_call_expf16_native(lanemath_wide_float16) LANEMATH_NAMED_WIDE("expf16_native");
 /** e to the power x; 16 lanes of float. Largest error 2170 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_expf16_native(lanemath_float16 x) {
-  return LANEMATH_UNARY(expf16_native, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, expf16_native, float16, float16, x);
 }
 #define lanemath_expf16_native(x) \
 /** e to the power x; 16 lanes of float. Largest error 2170 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expf16_native, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, expf16_native, float16, float16, x)
 
 /** e to the power x; one float. The same function as _native. Largest error 2170 ulp. Domain and special values: at
  * the head of <lanemath/exponential.h>. */
@@ -189,26 +189,26 @@ lanemath_float3 lanemath_expf3_half(lanemath_float3 x) LANEMATH_NAMED("expf3_hal
 /** e to the power x; 4 lanes of float. The same function as _native. Largest error 2170 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */
 lanemath_float4 lanemath_expf4_half(lanemath_float4 x) LANEMATH_NAMED("expf4_half");
-lanemath_border_float8 __ocl_lanemath_h8_expf8_half(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_expf8_half(lanemath_wide_float8) LANEMATH_NAMED_WIDE("expf8_half");
 /** e to the power x; 8 lanes of float. The same function as _native. Largest error 2170 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_expf8_half(lanemath_float8 x) {
-  return LANEMATH_UNARY(expf8_half, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, expf8_half, float8, float8, x);
 }
 #define lanemath_expf8_half(x) \
 /** e to the power x; 8 lanes of float. The same function as _native. Largest error 2170 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expf8_half, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_expf16_half(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, expf8_half, float8, float8, x)
+lanemath_wide_float16 lanemath_call_expf16_half(lanemath_wide_float16) LANEMATH_NAMED_WIDE("expf16_half");
 /** e to the power x; 16 lanes of float. The same function as _native. Largest error 2170 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_expf16_half(lanemath_float16 x) {
-  return LANEMATH_UNARY(expf16_half, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, expf16_half, float16, float16, x);
 }
 #define lanemath_expf16_half(x) \
 /** e to the power x; 16 lanes of float. The same function as _native. Largest error 2170 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expf16_half, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, expf16_half, float16, float16, x)
 
 /** e to the power x; one float. Largest error 2.94 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -222,26 +222,26 @@ lanemath_float3 lanemath_expf3_rm(lanemath_float3 x) LANEMATH_NAMED("expf3_rm");
 /** e to the power x; 4 lanes of float. Largest error 2.94 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_float4 lanemath_expf4_rm(lanemath_float4 x) LANEMATH_NAMED("expf4_rm");
-lanemath_border_float8 __ocl_lanemath_h8_expf8_rm(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_expf8_rm(lanemath_wide_float8) LANEMATH_NAMED_WIDE("expf8_rm");
 /** e to the power x; 8 lanes of float. Largest error 2.94 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_expf8_rm(lanemath_float8 x) {
-  return LANEMATH_UNARY(expf8_rm, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, expf8_rm, float8, float8, x);
 }
 #define lanemath_expf8_rm(x) \
 /** e to the power x; 8 lanes of float. Largest error 2.94 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expf8_rm, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_expf16_rm(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, expf8_rm, float8, float8, x)
+lanemath_wide_float16 lanemath_call_expf16_rm(lanemath_wide_float16) LANEMATH_NAMED_WIDE("expf16_rm");
 /** e to the power x; 16 lanes of float. Largest error 2.94 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_expf16_rm(lanemath_float16 x) {
-  return LANEMATH_UNARY(expf16_rm, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, expf16_rm, float16, float16, x);
 }
 #define lanemath_expf16_rm(x) \
 /** e to the power x; 16 lanes of float. Largest error 2.94 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expf16_rm, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, expf16_rm, float16, float16, x)
 
 /** 2 to the power x; one double. Largest error 1.65 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -249,46 +249,46 @@ lanemath_double1 lanemath_exp21(lanemath_double1 x) LANEMATH_NAMED("exp21");
 /** 2 to the power x; 2 lanes of double. An algorithm of its own: the last bits differ from those of other widths.
  * Largest error 2.62 ulp. Domain and special values: at the head of <lanemath/exponential.h>. */
 lanemath_double2 lanemath_exp22(lanemath_double2 x) LANEMATH_NAMED("exp22");
-lanemath_border_double3 __ocl_lanemath_h8_exp23(lanemath_border_double3);
+lanemath_border_double3 lanemath_call_exp23(lanemath_border_double3) LANEMATH_NAMED("exp23");
 /** 2 to the power x; 3 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_exp23(lanemath_double3 x) {
-  return LANEMATH_UNARY(exp23, double3, double3, x);
+  return LANEMATH_UNARY(lanemath_border, exp23, double3, double3, x);
 }
 #define lanemath_exp23(x) \
 /** 2 to the power x; 3 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp23, double3, double3, x)
-lanemath_border_double4 __ocl_lanemath_h8_exp24(lanemath_border_double4);
+  LANEMATH_UNARY(lanemath_border, exp23, double3, double3, x)
+lanemath_wide_double4 lanemath_call_exp24(lanemath_wide_double4) LANEMATH_NAMED_WIDE("exp24");
 /** 2 to the power x; 4 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_exp24(lanemath_double4 x) {
-  return LANEMATH_UNARY(exp24, double4, double4, x);
+  return LANEMATH_UNARY(lanemath_wide, exp24, double4, double4, x);
 }
 #define lanemath_exp24(x) \
 /** 2 to the power x; 4 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp24, double4, double4, x)
-lanemath_border_double8 __ocl_lanemath_h8_exp28(lanemath_border_double8);
+  LANEMATH_UNARY(lanemath_wide, exp24, double4, double4, x)
+lanemath_wide_double8 lanemath_call_exp28(lanemath_wide_double8) LANEMATH_NAMED_WIDE("exp28");
 /** 2 to the power x; 8 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_exp28(lanemath_double8 x) {
-  return LANEMATH_UNARY(exp28, double8, double8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp28, double8, double8, x);
 }
 #define lanemath_exp28(x) \
 /** 2 to the power x; 8 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp28, double8, double8, x)
-lanemath_border_double16 __ocl_lanemath_h8_exp216(lanemath_border_double16);
+  LANEMATH_UNARY(lanemath_wide, exp28, double8, double8, x)
+lanemath_wide_double16 lanemath_call_exp216(lanemath_wide_double16) LANEMATH_NAMED_WIDE("exp216");
 /** 2 to the power x; 16 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_exp216(lanemath_double16 x) {
-  return LANEMATH_UNARY(exp216, double16, double16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp216, double16, double16, x);
 }
 #define lanemath_exp216(x) \
 /** 2 to the power x; 16 lanes of double. Largest error 1.65 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp216, double16, double16, x)
+  LANEMATH_UNARY(lanemath_wide, exp216, double16, double16, x)
 
 /** 2 to the power x; one double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -296,46 +296,46 @@ lanemath_double1 lanemath_exp21_native(lanemath_double1 x) LANEMATH_NAMED("exp21
 /** 2 to the power x; 2 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_double2 lanemath_exp22_native(lanemath_double2 x) LANEMATH_NAMED("exp22_native");
-lanemath_border_double3 __ocl_lanemath_h8_exp23_native(lanemath_border_double3);
+lanemath_border_double3 lanemath_call_exp23_native(lanemath_border_double3) LANEMATH_NAMED("exp23_native");
 /** 2 to the power x; 3 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_exp23_native(lanemath_double3 x) {
-  return LANEMATH_UNARY(exp23_native, double3, double3, x);
+  return LANEMATH_UNARY(lanemath_border, exp23_native, double3, double3, x);
 }
 #define lanemath_exp23_native(x) \
 /** 2 to the power x; 3 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp23_native, double3, double3, x)
-lanemath_border_double4 __ocl_lanemath_h8_exp24_native(lanemath_border_double4);
+  LANEMATH_UNARY(lanemath_border, exp23_native, double3, double3, x)
+lanemath_wide_double4 lanemath_call_exp24_native(lanemath_wide_double4) LANEMATH_NAMED_WIDE("exp24_native");
 /** 2 to the power x; 4 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_exp24_native(lanemath_double4 x) {
-  return LANEMATH_UNARY(exp24_native, double4, double4, x);
+  return LANEMATH_UNARY(lanemath_wide, exp24_native, double4, double4, x);
 }
 #define lanemath_exp24_native(x) \
 /** 2 to the power x; 4 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp24_native, double4, double4, x)
-lanemath_border_double8 __ocl_lanemath_h8_exp28_native(lanemath_border_double8);
+  LANEMATH_UNARY(lanemath_wide, exp24_native, double4, double4, x)
+lanemath_wide_double8 lanemath_call_exp28_native(lanemath_wide_double8) LANEMATH_NAMED_WIDE("exp28_native");
 /** 2 to the power x; 8 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_exp28_native(lanemath_double8 x) {
-  return LANEMATH_UNARY(exp28_native, double8, double8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp28_native, double8, double8, x);
 }
 #define lanemath_exp28_native(x) \
 /** 2 to the power x; 8 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp28_native, double8, double8, x)
-lanemath_border_double16 __ocl_lanemath_h8_exp216_native(lanemath_border_double16);
+  LANEMATH_UNARY(lanemath_wide, exp28_native, double8, double8, x)
+lanemath_wide_double16 lanemath_call_exp216_native(lanemath_wide_double16) LANEMATH_NAMED_WIDE("exp216_native");
 /** 2 to the power x; 16 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_exp216_native(lanemath_double16 x) {
-  return LANEMATH_UNARY(exp216_native, double16, double16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp216_native, double16, double16, x);
 }
 #define lanemath_exp216_native(x) \
 /** 2 to the power x; 16 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp216_native, double16, double16, x)
+  LANEMATH_UNARY(lanemath_wide, exp216_native, double16, double16, x)
 
 /** 2 to the power x; one float. An algorithm of its own: the last bits differ from those of other widths. Largest
  * error 0.507 ulp. Domain and special values: at the head of <lanemath/exponential.h>. */
@@ -349,26 +349,26 @@ lanemath_float3 lanemath_exp2f3(lanemath_float3 x) LANEMATH_NAMED("exp2f3");
 /** 2 to the power x; 4 lanes of float. An algorithm of its own: the last bits differ from those of other widths.
  * Largest error 2.56 ulp. Domain and special values: at the head of <lanemath/exponential.h>. */
 lanemath_float4 lanemath_exp2f4(lanemath_float4 x) LANEMATH_NAMED("exp2f4");
-lanemath_border_float8 __ocl_lanemath_h8_exp2f8(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_exp2f8(lanemath_wide_float8) LANEMATH_NAMED_WIDE("exp2f8");
 /** 2 to the power x; 8 lanes of float. The same function as _rm. Largest error 1.11 ulp. Domain and special values:
  * at the head of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_exp2f8(lanemath_float8 x) {
-  return LANEMATH_UNARY(exp2f8, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp2f8, float8, float8, x);
 }
 #define lanemath_exp2f8(x) \
 /** 2 to the power x; 8 lanes of float. The same function as _rm. Largest error 1.11 ulp. Domain and special values:
  * at the head of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp2f8, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_exp2f16(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, exp2f8, float8, float8, x)
+lanemath_wide_float16 lanemath_call_exp2f16(lanemath_wide_float16) LANEMATH_NAMED_WIDE("exp2f16");
 /** 2 to the power x; 16 lanes of float. The same function as _rm. Largest error 1.11 ulp. Domain and special values:
  * at the head of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_exp2f16(lanemath_float16 x) {
-  return LANEMATH_UNARY(exp2f16, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp2f16, float16, float16, x);
 }
 #define lanemath_exp2f16(x) \
 /** 2 to the power x; 16 lanes of float. The same function as _rm. Largest error 1.11 ulp. Domain and special values:
  * at the head of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp2f16, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, exp2f16, float16, float16, x)
 
 /** 2 to the power x; one float. Largest error 1240 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -382,26 +382,26 @@ lanemath_float3 lanemath_exp2f3_native(lanemath_float3 x) LANEMATH_NAMED("exp2f3
 /** 2 to the power x; 4 lanes of float. Largest error 1240 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_float4 lanemath_exp2f4_native(lanemath_float4 x) LANEMATH_NAMED("exp2f4_native");
-lanemath_border_float8 __ocl_lanemath_h8_exp2f8_native(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_exp2f8_native(lanemath_wide_float8) LANEMATH_NAMED_WIDE("exp2f8_native");
 /** 2 to the power x; 8 lanes of float. Largest error 1240 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_exp2f8_native(lanemath_float8 x) {
-  return LANEMATH_UNARY(exp2f8_native, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp2f8_native, float8, float8, x);
 }
 #define lanemath_exp2f8_native(x) \
 /** 2 to the power x; 8 lanes of float. Largest error 1240 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp2f8_native, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_exp2f16_native(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, exp2f8_native, float8, float8, x)
+lanemath_wide_float16 lanemath_call_exp2f16_native(lanemath_wide_float16) LANEMATH_NAMED_WIDE("exp2f16_native");
 /** 2 to the power x; 16 lanes of float. Largest error 1240 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_exp2f16_native(lanemath_float16 x) {
-  return LANEMATH_UNARY(exp2f16_native, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp2f16_native, float16, float16, x);
 }
 #define lanemath_exp2f16_native(x) \
 /** 2 to the power x; 16 lanes of float. Largest error 1240 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp2f16_native, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, exp2f16_native, float16, float16, x)
 
 /** 2 to the power x; one float. The same function as _native. Largest error 1240 ulp. Domain and special values: at
  * the head of <lanemath/exponential.h>. */
@@ -415,26 +415,26 @@ lanemath_float3 lanemath_exp2f3_half(lanemath_float3 x) LANEMATH_NAMED("exp2f3_h
 /** 2 to the power x; 4 lanes of float. The same function as _native. Largest error 1240 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */
 lanemath_float4 lanemath_exp2f4_half(lanemath_float4 x) LANEMATH_NAMED("exp2f4_half");
-lanemath_border_float8 __ocl_lanemath_h8_exp2f8_half(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_exp2f8_half(lanemath_wide_float8) LANEMATH_NAMED_WIDE("exp2f8_half");
 /** 2 to the power x; 8 lanes of float. The same function as _native. Largest error 1240 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_exp2f8_half(lanemath_float8 x) {
-  return LANEMATH_UNARY(exp2f8_half, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp2f8_half, float8, float8, x);
 }
 #define lanemath_exp2f8_half(x) \
 /** 2 to the power x; 8 lanes of float. The same function as _native. Largest error 1240 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp2f8_half, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_exp2f16_half(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, exp2f8_half, float8, float8, x)
+lanemath_wide_float16 lanemath_call_exp2f16_half(lanemath_wide_float16) LANEMATH_NAMED_WIDE("exp2f16_half");
 /** 2 to the power x; 16 lanes of float. The same function as _native. Largest error 1240 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_exp2f16_half(lanemath_float16 x) {
-  return LANEMATH_UNARY(exp2f16_half, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp2f16_half, float16, float16, x);
 }
 #define lanemath_exp2f16_half(x) \
 /** 2 to the power x; 16 lanes of float. The same function as _native. Largest error 1240 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp2f16_half, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, exp2f16_half, float16, float16, x)
 
 /** 2 to the power x; one float. Largest error 1.11 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -448,26 +448,26 @@ lanemath_float3 lanemath_exp2f3_rm(lanemath_float3 x) LANEMATH_NAMED("exp2f3_rm"
 /** 2 to the power x; 4 lanes of float. Largest error 1.11 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_float4 lanemath_exp2f4_rm(lanemath_float4 x) LANEMATH_NAMED("exp2f4_rm");
-lanemath_border_float8 __ocl_lanemath_h8_exp2f8_rm(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_exp2f8_rm(lanemath_wide_float8) LANEMATH_NAMED_WIDE("exp2f8_rm");
 /** 2 to the power x; 8 lanes of float. Largest error 1.11 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_exp2f8_rm(lanemath_float8 x) {
-  return LANEMATH_UNARY(exp2f8_rm, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp2f8_rm, float8, float8, x);
 }
 #define lanemath_exp2f8_rm(x) \
 /** 2 to the power x; 8 lanes of float. Largest error 1.11 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp2f8_rm, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_exp2f16_rm(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, exp2f8_rm, float8, float8, x)
+lanemath_wide_float16 lanemath_call_exp2f16_rm(lanemath_wide_float16) LANEMATH_NAMED_WIDE("exp2f16_rm");
 /** 2 to the power x; 16 lanes of float. Largest error 1.11 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_exp2f16_rm(lanemath_float16 x) {
-  return LANEMATH_UNARY(exp2f16_rm, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp2f16_rm, float16, float16, x);
 }
 #define lanemath_exp2f16_rm(x) \
 /** 2 to the power x; 16 lanes of float. Largest error 1.11 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp2f16_rm, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, exp2f16_rm, float16, float16, x)
 
 /** 10 to the power x; one double. Largest error 1.01 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -475,46 +475,46 @@ lanemath_double1 lanemath_exp101(lanemath_double1 x) LANEMATH_NAMED("exp101");
 /** 10 to the power x; 2 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_double2 lanemath_exp102(lanemath_double2 x) LANEMATH_NAMED("exp102");
-lanemath_border_double3 __ocl_lanemath_h8_exp103(lanemath_border_double3);
+lanemath_border_double3 lanemath_call_exp103(lanemath_border_double3) LANEMATH_NAMED("exp103");
 /** 10 to the power x; 3 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_exp103(lanemath_double3 x) {
-  return LANEMATH_UNARY(exp103, double3, double3, x);
+  return LANEMATH_UNARY(lanemath_border, exp103, double3, double3, x);
 }
 #define lanemath_exp103(x) \
 /** 10 to the power x; 3 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp103, double3, double3, x)
-lanemath_border_double4 __ocl_lanemath_h8_exp104(lanemath_border_double4);
+  LANEMATH_UNARY(lanemath_border, exp103, double3, double3, x)
+lanemath_wide_double4 lanemath_call_exp104(lanemath_wide_double4) LANEMATH_NAMED_WIDE("exp104");
 /** 10 to the power x; 4 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_exp104(lanemath_double4 x) {
-  return LANEMATH_UNARY(exp104, double4, double4, x);
+  return LANEMATH_UNARY(lanemath_wide, exp104, double4, double4, x);
 }
 #define lanemath_exp104(x) \
 /** 10 to the power x; 4 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp104, double4, double4, x)
-lanemath_border_double8 __ocl_lanemath_h8_exp108(lanemath_border_double8);
+  LANEMATH_UNARY(lanemath_wide, exp104, double4, double4, x)
+lanemath_wide_double8 lanemath_call_exp108(lanemath_wide_double8) LANEMATH_NAMED_WIDE("exp108");
 /** 10 to the power x; 8 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_exp108(lanemath_double8 x) {
-  return LANEMATH_UNARY(exp108, double8, double8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp108, double8, double8, x);
 }
 #define lanemath_exp108(x) \
 /** 10 to the power x; 8 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp108, double8, double8, x)
-lanemath_border_double16 __ocl_lanemath_h8_exp1016(lanemath_border_double16);
+  LANEMATH_UNARY(lanemath_wide, exp108, double8, double8, x)
+lanemath_wide_double16 lanemath_call_exp1016(lanemath_wide_double16) LANEMATH_NAMED_WIDE("exp1016");
 /** 10 to the power x; 16 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_exp1016(lanemath_double16 x) {
-  return LANEMATH_UNARY(exp1016, double16, double16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp1016, double16, double16, x);
 }
 #define lanemath_exp1016(x) \
 /** 10 to the power x; 16 lanes of double. Largest error 1.01 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp1016, double16, double16, x)
+  LANEMATH_UNARY(lanemath_wide, exp1016, double16, double16, x)
 
 /** 10 to the power x; one double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -522,46 +522,46 @@ lanemath_double1 lanemath_exp101_native(lanemath_double1 x) LANEMATH_NAMED("exp1
 /** 10 to the power x; 2 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_double2 lanemath_exp102_native(lanemath_double2 x) LANEMATH_NAMED("exp102_native");
-lanemath_border_double3 __ocl_lanemath_h8_exp103_native(lanemath_border_double3);
+lanemath_border_double3 lanemath_call_exp103_native(lanemath_border_double3) LANEMATH_NAMED("exp103_native");
 /** 10 to the power x; 3 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_exp103_native(lanemath_double3 x) {
-  return LANEMATH_UNARY(exp103_native, double3, double3, x);
+  return LANEMATH_UNARY(lanemath_border, exp103_native, double3, double3, x);
 }
 #define lanemath_exp103_native(x) \
 /** 10 to the power x; 3 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp103_native, double3, double3, x)
-lanemath_border_double4 __ocl_lanemath_h8_exp104_native(lanemath_border_double4);
+  LANEMATH_UNARY(lanemath_border, exp103_native, double3, double3, x)
+lanemath_wide_double4 lanemath_call_exp104_native(lanemath_wide_double4) LANEMATH_NAMED_WIDE("exp104_native");
 /** 10 to the power x; 4 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_exp104_native(lanemath_double4 x) {
-  return LANEMATH_UNARY(exp104_native, double4, double4, x);
+  return LANEMATH_UNARY(lanemath_wide, exp104_native, double4, double4, x);
 }
 #define lanemath_exp104_native(x) \
 /** 10 to the power x; 4 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp104_native, double4, double4, x)
-lanemath_border_double8 __ocl_lanemath_h8_exp108_native(lanemath_border_double8);
+  LANEMATH_UNARY(lanemath_wide, exp104_native, double4, double4, x)
+lanemath_wide_double8 lanemath_call_exp108_native(lanemath_wide_double8) LANEMATH_NAMED_WIDE("exp108_native");
 /** 10 to the power x; 8 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_exp108_native(lanemath_double8 x) {
-  return LANEMATH_UNARY(exp108_native, double8, double8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp108_native, double8, double8, x);
 }
 #define lanemath_exp108_native(x) \
 /** 10 to the power x; 8 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp108_native, double8, double8, x)
-lanemath_border_double16 __ocl_lanemath_h8_exp1016_native(lanemath_border_double16);
+  LANEMATH_UNARY(lanemath_wide, exp108_native, double8, double8, x)
+lanemath_wide_double16 lanemath_call_exp1016_native(lanemath_wide_double16) LANEMATH_NAMED_WIDE("exp1016_native");
 /** 10 to the power x; 16 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_exp1016_native(lanemath_double16 x) {
-  return LANEMATH_UNARY(exp1016_native, double16, double16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp1016_native, double16, double16, x);
 }
 #define lanemath_exp1016_native(x) \
 /** 10 to the power x; 16 lanes of double. Largest error 1.53e+07 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp1016_native, double16, double16, x)
+  LANEMATH_UNARY(lanemath_wide, exp1016_native, double16, double16, x)
 
 /** 10 to the power x; one float. Largest error 0.557 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -575,26 +575,26 @@ lanemath_float3 lanemath_exp10f3(lanemath_float3 x) LANEMATH_NAMED("exp10f3");
 /** 10 to the power x; 4 lanes of float. Largest error 0.557 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_float4 lanemath_exp10f4(lanemath_float4 x) LANEMATH_NAMED("exp10f4");
-lanemath_border_float8 __ocl_lanemath_h8_exp10f8(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_exp10f8(lanemath_wide_float8) LANEMATH_NAMED_WIDE("exp10f8");
 /** 10 to the power x; 8 lanes of float. Largest error 0.557 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_exp10f8(lanemath_float8 x) {
-  return LANEMATH_UNARY(exp10f8, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp10f8, float8, float8, x);
 }
 #define lanemath_exp10f8(x) \
 /** 10 to the power x; 8 lanes of float. Largest error 0.557 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp10f8, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_exp10f16(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, exp10f8, float8, float8, x)
+lanemath_wide_float16 lanemath_call_exp10f16(lanemath_wide_float16) LANEMATH_NAMED_WIDE("exp10f16");
 /** 10 to the power x; 16 lanes of float. Largest error 0.557 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_exp10f16(lanemath_float16 x) {
-  return LANEMATH_UNARY(exp10f16, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp10f16, float16, float16, x);
 }
 #define lanemath_exp10f16(x) \
 /** 10 to the power x; 16 lanes of float. Largest error 0.557 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp10f16, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, exp10f16, float16, float16, x)
 
 /** 10 to the power x; one float. Largest error 1310 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -608,26 +608,26 @@ lanemath_float3 lanemath_exp10f3_native(lanemath_float3 x) LANEMATH_NAMED("exp10
 /** 10 to the power x; 4 lanes of float. Largest error 1310 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_float4 lanemath_exp10f4_native(lanemath_float4 x) LANEMATH_NAMED("exp10f4_native");
-lanemath_border_float8 __ocl_lanemath_h8_exp10f8_native(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_exp10f8_native(lanemath_wide_float8) LANEMATH_NAMED_WIDE("exp10f8_native");
 /** 10 to the power x; 8 lanes of float. Largest error 1310 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_exp10f8_native(lanemath_float8 x) {
-  return LANEMATH_UNARY(exp10f8_native, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp10f8_native, float8, float8, x);
 }
 #define lanemath_exp10f8_native(x) \
 /** 10 to the power x; 8 lanes of float. Largest error 1310 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp10f8_native, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_exp10f16_native(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, exp10f8_native, float8, float8, x)
+lanemath_wide_float16 lanemath_call_exp10f16_native(lanemath_wide_float16) LANEMATH_NAMED_WIDE("exp10f16_native");
 /** 10 to the power x; 16 lanes of float. Largest error 1310 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_exp10f16_native(lanemath_float16 x) {
-  return LANEMATH_UNARY(exp10f16_native, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp10f16_native, float16, float16, x);
 }
 #define lanemath_exp10f16_native(x) \
 /** 10 to the power x; 16 lanes of float. Largest error 1310 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp10f16_native, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, exp10f16_native, float16, float16, x)
 
 /** 10 to the power x; one float. The same function as _native. Largest error 1310 ulp. Domain and special values: at
  * the head of <lanemath/exponential.h>. */
@@ -641,26 +641,26 @@ lanemath_float3 lanemath_exp10f3_half(lanemath_float3 x) LANEMATH_NAMED("exp10f3
 /** 10 to the power x; 4 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */
 lanemath_float4 lanemath_exp10f4_half(lanemath_float4 x) LANEMATH_NAMED("exp10f4_half");
-lanemath_border_float8 __ocl_lanemath_h8_exp10f8_half(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_exp10f8_half(lanemath_wide_float8) LANEMATH_NAMED_WIDE("exp10f8_half");
 /** 10 to the power x; 8 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_exp10f8_half(lanemath_float8 x) {
-  return LANEMATH_UNARY(exp10f8_half, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp10f8_half, float8, float8, x);
 }
 #define lanemath_exp10f8_half(x) \
 /** 10 to the power x; 8 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp10f8_half, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_exp10f16_half(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, exp10f8_half, float8, float8, x)
+lanemath_wide_float16 lanemath_call_exp10f16_half(lanemath_wide_float16) LANEMATH_NAMED_WIDE("exp10f16_half");
 /** 10 to the power x; 16 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_exp10f16_half(lanemath_float16 x) {
-  return LANEMATH_UNARY(exp10f16_half, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp10f16_half, float16, float16, x);
 }
 #define lanemath_exp10f16_half(x) \
 /** 10 to the power x; 16 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp10f16_half, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, exp10f16_half, float16, float16, x)
 
 /** 10 to the power x; one float. The same function as _native. Largest error 1310 ulp. Domain and special values: at
  * the head of <lanemath/exponential.h>. */
@@ -674,26 +674,26 @@ lanemath_float3 lanemath_exp10f3_rm(lanemath_float3 x) LANEMATH_NAMED("exp10f3_r
 /** 10 to the power x; 4 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */
 lanemath_float4 lanemath_exp10f4_rm(lanemath_float4 x) LANEMATH_NAMED("exp10f4_rm");
-lanemath_border_float8 __ocl_lanemath_h8_exp10f8_rm(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_exp10f8_rm(lanemath_wide_float8) LANEMATH_NAMED_WIDE("exp10f8_rm");
 /** 10 to the power x; 8 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_exp10f8_rm(lanemath_float8 x) {
-  return LANEMATH_UNARY(exp10f8_rm, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, exp10f8_rm, float8, float8, x);
 }
 #define lanemath_exp10f8_rm(x) \
 /** 10 to the power x; 8 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp10f8_rm, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_exp10f16_rm(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, exp10f8_rm, float8, float8, x)
+lanemath_wide_float16 lanemath_call_exp10f16_rm(lanemath_wide_float16) LANEMATH_NAMED_WIDE("exp10f16_rm");
 /** 10 to the power x; 16 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_exp10f16_rm(lanemath_float16 x) {
-  return LANEMATH_UNARY(exp10f16_rm, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, exp10f16_rm, float16, float16, x);
 }
 #define lanemath_exp10f16_rm(x) \
 /** 10 to the power x; 16 lanes of float. The same function as _native. Largest error 1310 ulp. Domain and special
  * values: at the head of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(exp10f16_rm, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, exp10f16_rm, float16, float16, x)
 
 /** e to the power x, minus one; one double. Largest error 2.97 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -701,46 +701,46 @@ lanemath_double1 lanemath_expm11(lanemath_double1 x) LANEMATH_NAMED("expm11");
 /** e to the power x, minus one; 2 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_double2 lanemath_expm12(lanemath_double2 x) LANEMATH_NAMED("expm12");
-lanemath_border_double3 __ocl_lanemath_h8_expm13(lanemath_border_double3);
+lanemath_border_double3 lanemath_call_expm13(lanemath_border_double3) LANEMATH_NAMED("expm13");
 /** e to the power x, minus one; 3 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_expm13(lanemath_double3 x) {
-  return LANEMATH_UNARY(expm13, double3, double3, x);
+  return LANEMATH_UNARY(lanemath_border, expm13, double3, double3, x);
 }
 #define lanemath_expm13(x) \
 /** e to the power x, minus one; 3 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expm13, double3, double3, x)
-lanemath_border_double4 __ocl_lanemath_h8_expm14(lanemath_border_double4);
+  LANEMATH_UNARY(lanemath_border, expm13, double3, double3, x)
+lanemath_wide_double4 lanemath_call_expm14(lanemath_wide_double4) LANEMATH_NAMED_WIDE("expm14");
 /** e to the power x, minus one; 4 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_expm14(lanemath_double4 x) {
-  return LANEMATH_UNARY(expm14, double4, double4, x);
+  return LANEMATH_UNARY(lanemath_wide, expm14, double4, double4, x);
 }
 #define lanemath_expm14(x) \
 /** e to the power x, minus one; 4 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expm14, double4, double4, x)
-lanemath_border_double8 __ocl_lanemath_h8_expm18(lanemath_border_double8);
+  LANEMATH_UNARY(lanemath_wide, expm14, double4, double4, x)
+lanemath_wide_double8 lanemath_call_expm18(lanemath_wide_double8) LANEMATH_NAMED_WIDE("expm18");
 /** e to the power x, minus one; 8 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_expm18(lanemath_double8 x) {
-  return LANEMATH_UNARY(expm18, double8, double8, x);
+  return LANEMATH_UNARY(lanemath_wide, expm18, double8, double8, x);
 }
 #define lanemath_expm18(x) \
 /** e to the power x, minus one; 8 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expm18, double8, double8, x)
-lanemath_border_double16 __ocl_lanemath_h8_expm116(lanemath_border_double16);
+  LANEMATH_UNARY(lanemath_wide, expm18, double8, double8, x)
+lanemath_wide_double16 lanemath_call_expm116(lanemath_wide_double16) LANEMATH_NAMED_WIDE("expm116");
 /** e to the power x, minus one; 16 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_expm116(lanemath_double16 x) {
-  return LANEMATH_UNARY(expm116, double16, double16, x);
+  return LANEMATH_UNARY(lanemath_wide, expm116, double16, double16, x);
 }
 #define lanemath_expm116(x) \
 /** e to the power x, minus one; 16 lanes of double. Largest error 2.97 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expm116, double16, double16, x)
+  LANEMATH_UNARY(lanemath_wide, expm116, double16, double16, x)
 
 /** e to the power x, minus one; one double. Largest error 5.19e+06 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -748,46 +748,46 @@ lanemath_double1 lanemath_expm11_native(lanemath_double1 x) LANEMATH_NAMED("expm
 /** e to the power x, minus one; 2 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
  * of <lanemath/exponential.h>. */
 lanemath_double2 lanemath_expm12_native(lanemath_double2 x) LANEMATH_NAMED("expm12_native");
-lanemath_border_double3 __ocl_lanemath_h8_expm13_native(lanemath_border_double3);
+lanemath_border_double3 lanemath_call_expm13_native(lanemath_border_double3) LANEMATH_NAMED("expm13_native");
 /** e to the power x, minus one; 3 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
  * of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double3 lanemath_expm13_native(lanemath_double3 x) {
-  return LANEMATH_UNARY(expm13_native, double3, double3, x);
+  return LANEMATH_UNARY(lanemath_border, expm13_native, double3, double3, x);
 }
 #define lanemath_expm13_native(x) \
 /** e to the power x, minus one; 3 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
  * of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expm13_native, double3, double3, x)
-lanemath_border_double4 __ocl_lanemath_h8_expm14_native(lanemath_border_double4);
+  LANEMATH_UNARY(lanemath_border, expm13_native, double3, double3, x)
+lanemath_wide_double4 lanemath_call_expm14_native(lanemath_wide_double4) LANEMATH_NAMED_WIDE("expm14_native");
 /** e to the power x, minus one; 4 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
  * of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double4 lanemath_expm14_native(lanemath_double4 x) {
-  return LANEMATH_UNARY(expm14_native, double4, double4, x);
+  return LANEMATH_UNARY(lanemath_wide, expm14_native, double4, double4, x);
 }
 #define lanemath_expm14_native(x) \
 /** e to the power x, minus one; 4 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
  * of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expm14_native, double4, double4, x)
-lanemath_border_double8 __ocl_lanemath_h8_expm18_native(lanemath_border_double8);
+  LANEMATH_UNARY(lanemath_wide, expm14_native, double4, double4, x)
+lanemath_wide_double8 lanemath_call_expm18_native(lanemath_wide_double8) LANEMATH_NAMED_WIDE("expm18_native");
 /** e to the power x, minus one; 8 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
  * of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double8 lanemath_expm18_native(lanemath_double8 x) {
-  return LANEMATH_UNARY(expm18_native, double8, double8, x);
+  return LANEMATH_UNARY(lanemath_wide, expm18_native, double8, double8, x);
 }
 #define lanemath_expm18_native(x) \
 /** e to the power x, minus one; 8 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the head
  * of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expm18_native, double8, double8, x)
-lanemath_border_double16 __ocl_lanemath_h8_expm116_native(lanemath_border_double16);
+  LANEMATH_UNARY(lanemath_wide, expm18_native, double8, double8, x)
+lanemath_wide_double16 lanemath_call_expm116_native(lanemath_wide_double16) LANEMATH_NAMED_WIDE("expm116_native");
 /** e to the power x, minus one; 16 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the
  * head of <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_double16 lanemath_expm116_native(lanemath_double16 x) {
-  return LANEMATH_UNARY(expm116_native, double16, double16, x);
+  return LANEMATH_UNARY(lanemath_wide, expm116_native, double16, double16, x);
 }
 #define lanemath_expm116_native(x) \
 /** e to the power x, minus one; 16 lanes of double. Largest error 5.19e+06 ulp. Domain and special values: at the
  * head of <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expm116_native, double16, double16, x)
+  LANEMATH_UNARY(lanemath_wide, expm116_native, double16, double16, x)
 
 /** e to the power x, minus one; one float. Largest error 1.81 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -801,26 +801,26 @@ lanemath_float3 lanemath_expm1f3(lanemath_float3 x) LANEMATH_NAMED("expm1f3");
 /** e to the power x, minus one; 4 lanes of float. Largest error 1.81 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_float4 lanemath_expm1f4(lanemath_float4 x) LANEMATH_NAMED("expm1f4");
-lanemath_border_float8 __ocl_lanemath_h8_expm1f8(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_expm1f8(lanemath_wide_float8) LANEMATH_NAMED_WIDE("expm1f8");
 /** e to the power x, minus one; 8 lanes of float. Largest error 1.81 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_expm1f8(lanemath_float8 x) {
-  return LANEMATH_UNARY(expm1f8, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, expm1f8, float8, float8, x);
 }
 #define lanemath_expm1f8(x) \
 /** e to the power x, minus one; 8 lanes of float. Largest error 1.81 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expm1f8, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_expm1f16(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, expm1f8, float8, float8, x)
+lanemath_wide_float16 lanemath_call_expm1f16(lanemath_wide_float16) LANEMATH_NAMED_WIDE("expm1f16");
 /** e to the power x, minus one; 16 lanes of float. Largest error 1.81 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_expm1f16(lanemath_float16 x) {
-  return LANEMATH_UNARY(expm1f16, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, expm1f16, float16, float16, x);
 }
 #define lanemath_expm1f16(x) \
 /** e to the power x, minus one; 16 lanes of float. Largest error 1.81 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expm1f16, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, expm1f16, float16, float16, x)
 
 /** e to the power x, minus one; one float. Largest error 284 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
@@ -834,26 +834,26 @@ lanemath_float3 lanemath_expm1f3_native(lanemath_float3 x) LANEMATH_NAMED("expm1
 /** e to the power x, minus one; 4 lanes of float. Largest error 284 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 lanemath_float4 lanemath_expm1f4_native(lanemath_float4 x) LANEMATH_NAMED("expm1f4_native");
-lanemath_border_float8 __ocl_lanemath_h8_expm1f8_native(lanemath_border_float8);
+lanemath_wide_float8 lanemath_call_expm1f8_native(lanemath_wide_float8) LANEMATH_NAMED_WIDE("expm1f8_native");
 /** e to the power x, minus one; 8 lanes of float. Largest error 284 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float8 lanemath_expm1f8_native(lanemath_float8 x) {
-  return LANEMATH_UNARY(expm1f8_native, float8, float8, x);
+  return LANEMATH_UNARY(lanemath_wide, expm1f8_native, float8, float8, x);
 }
 #define lanemath_expm1f8_native(x) \
 /** e to the power x, minus one; 8 lanes of float. Largest error 284 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expm1f8_native, float8, float8, x)
-lanemath_border_float16 __ocl_lanemath_h8_expm1f16_native(lanemath_border_float16);
+  LANEMATH_UNARY(lanemath_wide, expm1f8_native, float8, float8, x)
+lanemath_wide_float16 lanemath_call_expm1f16_native(lanemath_wide_float16) LANEMATH_NAMED_WIDE("expm1f16_native");
 /** e to the power x, minus one; 16 lanes of float. Largest error 284 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */
 LANEMATH_INLINE lanemath_float16 lanemath_expm1f16_native(lanemath_float16 x) {
-  return LANEMATH_UNARY(expm1f16_native, float16, float16, x);
+  return LANEMATH_UNARY(lanemath_wide, expm1f16_native, float16, float16, x);
 }
 #define lanemath_expm1f16_native(x) \
 /** e to the power x, minus one; 16 lanes of float. Largest error 284 ulp. Domain and special values: at the head of
  * <lanemath/exponential.h>. */ \
-  LANEMATH_UNARY(expm1f16_native, float16, float16, x)
+  LANEMATH_UNARY(lanemath_wide, expm1f16_native, float16, float16, x)
 
 LANEMATH_END
 

@@ -1,8 +1,9 @@
 /* Vector types, and what loads, stores and fills them. Loading three lanes reads three, and repeats the last as the
  * fourth; storing writes three.
  *
- * lanemath_<type>_pair holds two vectors. lanemath_border_<type> is how a type crosses the library's border, and
- * lanemath_alias_<type> is a vector anywhere in memory. */
+ * lanemath_<type>_pair holds two vectors. lanemath_border_<type> is how a type crosses the library's border,
+ * lanemath_wide_<type> how it crosses to what serves wide vectors, and lanemath_alias_<type> is a vector anywhere in
+ * memory. */
 #ifndef LANEMATH_VECTORS_H
 #define LANEMATH_VECTORS_H
 
@@ -31,6 +32,7 @@ typedef struct {
 typedef struct {
   lanemath_border_float2 first, second;
 } lanemath_border_float2_pair;
+typedef lanemath_float2 lanemath_wide_float2;
 /** 4 lanes of float. */
 typedef lanemath_float lanemath_float4 __attribute__((vector_size(16), aligned(16)));
 typedef lanemath_float lanemath_alias_float4 __attribute__((vector_size(16), aligned(1), may_alias));
@@ -41,6 +43,7 @@ typedef struct {
 typedef struct {
   lanemath_border_float4 first, second;
 } lanemath_border_float4_pair;
+typedef lanemath_float4 lanemath_wide_float4;
 /** 3 lanes of float, with the room of four. */
 typedef lanemath_float lanemath_float3 __attribute__((vector_size(16), aligned(16)));
 typedef lanemath_float lanemath_alias_float3 __attribute__((vector_size(16), aligned(1), may_alias));
@@ -59,6 +62,14 @@ typedef struct {
 typedef struct {
   lanemath_border_float8 first, second;
 } lanemath_border_float8_pair;
+#if LANEMATH_REGISTERS >= 32
+typedef lanemath_float lanemath_wide_float8 __attribute__((vector_size(32)));
+#else
+typedef lanemath_border_float8 lanemath_wide_float8;
+#endif
+typedef struct {
+  lanemath_wide_float8 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_float8_pair;
 /** 16 lanes of float. */
 typedef lanemath_float lanemath_float16 __attribute__((vector_size(64), aligned(16)));
 typedef lanemath_float lanemath_alias_float16 __attribute__((vector_size(64), aligned(1), may_alias));
@@ -71,6 +82,18 @@ typedef struct {
 typedef struct {
   lanemath_border_float16 first, second;
 } lanemath_border_float16_pair;
+#if LANEMATH_REGISTERS >= 64
+typedef lanemath_float lanemath_wide_float16 __attribute__((vector_size(64)));
+#elif LANEMATH_REGISTERS > 16
+typedef struct {
+  lanemath_float lane[16];
+} __attribute__((aligned(LANEMATH_REGISTERS), may_alias)) lanemath_wide_float16;
+#else
+typedef lanemath_border_float16 lanemath_wide_float16;
+#endif
+typedef struct {
+  lanemath_wide_float16 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_float16_pair;
 /** Reads one float from memory of any alignment. */
 LANEMATH_INLINE lanemath_float1 lanemath_load_float1(const lanemath_float* from) {
   lanemath_float1 v;
@@ -181,6 +204,7 @@ typedef struct {
 typedef struct {
   lanemath_border_double2 first, second;
 } lanemath_border_double2_pair;
+typedef lanemath_double2 lanemath_wide_double2;
 /** 4 lanes of double. */
 typedef lanemath_double lanemath_double4 __attribute__((vector_size(32), aligned(16)));
 typedef lanemath_double lanemath_alias_double4 __attribute__((vector_size(32), aligned(1), may_alias));
@@ -193,6 +217,14 @@ typedef struct {
 typedef struct {
   lanemath_border_double4 first, second;
 } lanemath_border_double4_pair;
+#if LANEMATH_REGISTERS >= 32
+typedef lanemath_double lanemath_wide_double4 __attribute__((vector_size(32)));
+#else
+typedef lanemath_border_double4 lanemath_wide_double4;
+#endif
+typedef struct {
+  lanemath_wide_double4 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_double4_pair;
 /** 3 lanes of double, with the room of four. */
 typedef lanemath_double lanemath_double3 __attribute__((vector_size(32), aligned(16)));
 typedef lanemath_double lanemath_alias_double3 __attribute__((vector_size(32), aligned(1), may_alias));
@@ -211,6 +243,18 @@ typedef struct {
 typedef struct {
   lanemath_border_double8 first, second;
 } lanemath_border_double8_pair;
+#if LANEMATH_REGISTERS >= 64
+typedef lanemath_double lanemath_wide_double8 __attribute__((vector_size(64)));
+#elif LANEMATH_REGISTERS > 16
+typedef struct {
+  lanemath_double lane[8];
+} __attribute__((aligned(LANEMATH_REGISTERS), may_alias)) lanemath_wide_double8;
+#else
+typedef lanemath_border_double8 lanemath_wide_double8;
+#endif
+typedef struct {
+  lanemath_wide_double8 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_double8_pair;
 /** 16 lanes of double. */
 typedef lanemath_double lanemath_double16 __attribute__((vector_size(128), aligned(16)));
 typedef lanemath_double lanemath_alias_double16 __attribute__((vector_size(128), aligned(1), may_alias));
@@ -223,6 +267,18 @@ typedef struct {
 typedef struct {
   lanemath_border_double16 first, second;
 } lanemath_border_double16_pair;
+#if LANEMATH_REGISTERS >= 128
+typedef lanemath_double lanemath_wide_double16 __attribute__((vector_size(128)));
+#elif LANEMATH_REGISTERS > 16
+typedef struct {
+  lanemath_double lane[16];
+} __attribute__((aligned(LANEMATH_REGISTERS), may_alias)) lanemath_wide_double16;
+#else
+typedef lanemath_border_double16 lanemath_wide_double16;
+#endif
+typedef struct {
+  lanemath_wide_double16 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_double16_pair;
 /** Reads one double from memory of any alignment. */
 LANEMATH_INLINE lanemath_double1 lanemath_load_double1(const lanemath_double* from) {
   lanemath_double1 v;
@@ -332,6 +388,7 @@ typedef struct {
 typedef struct {
   lanemath_border_int2 first, second;
 } lanemath_border_int2_pair;
+typedef lanemath_int2 lanemath_wide_int2;
 /** 4 lanes of int. */
 typedef lanemath_int lanemath_int4 __attribute__((vector_size(16), aligned(16)));
 typedef lanemath_int lanemath_alias_int4 __attribute__((vector_size(16), aligned(1), may_alias));
@@ -342,6 +399,7 @@ typedef struct {
 typedef struct {
   lanemath_border_int4 first, second;
 } lanemath_border_int4_pair;
+typedef lanemath_int4 lanemath_wide_int4;
 /** 3 lanes of int, with the room of four. */
 typedef lanemath_int lanemath_int3 __attribute__((vector_size(16), aligned(16)));
 typedef lanemath_int lanemath_alias_int3 __attribute__((vector_size(16), aligned(1), may_alias));
@@ -360,6 +418,14 @@ typedef struct {
 typedef struct {
   lanemath_border_int8 first, second;
 } lanemath_border_int8_pair;
+#if LANEMATH_REGISTERS >= 32
+typedef lanemath_int lanemath_wide_int8 __attribute__((vector_size(32)));
+#else
+typedef lanemath_border_int8 lanemath_wide_int8;
+#endif
+typedef struct {
+  lanemath_wide_int8 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_int8_pair;
 /** 16 lanes of int. */
 typedef lanemath_int lanemath_int16 __attribute__((vector_size(64), aligned(16)));
 typedef lanemath_int lanemath_alias_int16 __attribute__((vector_size(64), aligned(1), may_alias));
@@ -372,6 +438,18 @@ typedef struct {
 typedef struct {
   lanemath_border_int16 first, second;
 } lanemath_border_int16_pair;
+#if LANEMATH_REGISTERS >= 64
+typedef lanemath_int lanemath_wide_int16 __attribute__((vector_size(64)));
+#elif LANEMATH_REGISTERS > 16
+typedef struct {
+  lanemath_int lane[16];
+} __attribute__((aligned(LANEMATH_REGISTERS), may_alias)) lanemath_wide_int16;
+#else
+typedef lanemath_border_int16 lanemath_wide_int16;
+#endif
+typedef struct {
+  lanemath_wide_int16 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_int16_pair;
 /** Reads one int from memory of any alignment. */
 LANEMATH_INLINE lanemath_int1 lanemath_load_int1(const lanemath_int* from) {
   lanemath_int1 v;
@@ -482,6 +560,7 @@ typedef struct {
 typedef struct {
   lanemath_border_uint2 first, second;
 } lanemath_border_uint2_pair;
+typedef lanemath_uint2 lanemath_wide_uint2;
 /** 4 lanes of uint. */
 typedef lanemath_uint lanemath_uint4 __attribute__((vector_size(16), aligned(16)));
 typedef lanemath_uint lanemath_alias_uint4 __attribute__((vector_size(16), aligned(1), may_alias));
@@ -492,6 +571,7 @@ typedef struct {
 typedef struct {
   lanemath_border_uint4 first, second;
 } lanemath_border_uint4_pair;
+typedef lanemath_uint4 lanemath_wide_uint4;
 /** 3 lanes of uint, with the room of four. */
 typedef lanemath_uint lanemath_uint3 __attribute__((vector_size(16), aligned(16)));
 typedef lanemath_uint lanemath_alias_uint3 __attribute__((vector_size(16), aligned(1), may_alias));
@@ -510,6 +590,14 @@ typedef struct {
 typedef struct {
   lanemath_border_uint8 first, second;
 } lanemath_border_uint8_pair;
+#if LANEMATH_REGISTERS >= 32
+typedef lanemath_uint lanemath_wide_uint8 __attribute__((vector_size(32)));
+#else
+typedef lanemath_border_uint8 lanemath_wide_uint8;
+#endif
+typedef struct {
+  lanemath_wide_uint8 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_uint8_pair;
 /** 16 lanes of uint. */
 typedef lanemath_uint lanemath_uint16 __attribute__((vector_size(64), aligned(16)));
 typedef lanemath_uint lanemath_alias_uint16 __attribute__((vector_size(64), aligned(1), may_alias));
@@ -522,6 +610,18 @@ typedef struct {
 typedef struct {
   lanemath_border_uint16 first, second;
 } lanemath_border_uint16_pair;
+#if LANEMATH_REGISTERS >= 64
+typedef lanemath_uint lanemath_wide_uint16 __attribute__((vector_size(64)));
+#elif LANEMATH_REGISTERS > 16
+typedef struct {
+  lanemath_uint lane[16];
+} __attribute__((aligned(LANEMATH_REGISTERS), may_alias)) lanemath_wide_uint16;
+#else
+typedef lanemath_border_uint16 lanemath_wide_uint16;
+#endif
+typedef struct {
+  lanemath_wide_uint16 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_uint16_pair;
 /** Reads one uint from memory of any alignment. */
 LANEMATH_INLINE lanemath_uint1 lanemath_load_uint1(const lanemath_uint* from) {
   lanemath_uint1 v;
@@ -632,6 +732,7 @@ typedef struct {
 typedef struct {
   lanemath_border_long2 first, second;
 } lanemath_border_long2_pair;
+typedef lanemath_long2 lanemath_wide_long2;
 /** 4 lanes of long. */
 typedef lanemath_long lanemath_long4 __attribute__((vector_size(32), aligned(16)));
 typedef lanemath_long lanemath_alias_long4 __attribute__((vector_size(32), aligned(1), may_alias));
@@ -644,6 +745,14 @@ typedef struct {
 typedef struct {
   lanemath_border_long4 first, second;
 } lanemath_border_long4_pair;
+#if LANEMATH_REGISTERS >= 32
+typedef lanemath_long lanemath_wide_long4 __attribute__((vector_size(32)));
+#else
+typedef lanemath_border_long4 lanemath_wide_long4;
+#endif
+typedef struct {
+  lanemath_wide_long4 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_long4_pair;
 /** 3 lanes of long, with the room of four. */
 typedef lanemath_long lanemath_long3 __attribute__((vector_size(32), aligned(16)));
 typedef lanemath_long lanemath_alias_long3 __attribute__((vector_size(32), aligned(1), may_alias));
@@ -662,6 +771,18 @@ typedef struct {
 typedef struct {
   lanemath_border_long8 first, second;
 } lanemath_border_long8_pair;
+#if LANEMATH_REGISTERS >= 64
+typedef lanemath_long lanemath_wide_long8 __attribute__((vector_size(64)));
+#elif LANEMATH_REGISTERS > 16
+typedef struct {
+  lanemath_long lane[8];
+} __attribute__((aligned(LANEMATH_REGISTERS), may_alias)) lanemath_wide_long8;
+#else
+typedef lanemath_border_long8 lanemath_wide_long8;
+#endif
+typedef struct {
+  lanemath_wide_long8 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_long8_pair;
 /** 16 lanes of long. */
 typedef lanemath_long lanemath_long16 __attribute__((vector_size(128), aligned(16)));
 typedef lanemath_long lanemath_alias_long16 __attribute__((vector_size(128), aligned(1), may_alias));
@@ -674,6 +795,18 @@ typedef struct {
 typedef struct {
   lanemath_border_long16 first, second;
 } lanemath_border_long16_pair;
+#if LANEMATH_REGISTERS >= 128
+typedef lanemath_long lanemath_wide_long16 __attribute__((vector_size(128)));
+#elif LANEMATH_REGISTERS > 16
+typedef struct {
+  lanemath_long lane[16];
+} __attribute__((aligned(LANEMATH_REGISTERS), may_alias)) lanemath_wide_long16;
+#else
+typedef lanemath_border_long16 lanemath_wide_long16;
+#endif
+typedef struct {
+  lanemath_wide_long16 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_long16_pair;
 /** Reads one long from memory of any alignment. */
 LANEMATH_INLINE lanemath_long1 lanemath_load_long1(const lanemath_long* from) {
   lanemath_long1 v;
@@ -783,6 +916,7 @@ typedef struct {
 typedef struct {
   lanemath_border_ulong2 first, second;
 } lanemath_border_ulong2_pair;
+typedef lanemath_ulong2 lanemath_wide_ulong2;
 /** 4 lanes of ulong. */
 typedef lanemath_ulong lanemath_ulong4 __attribute__((vector_size(32), aligned(16)));
 typedef lanemath_ulong lanemath_alias_ulong4 __attribute__((vector_size(32), aligned(1), may_alias));
@@ -795,6 +929,14 @@ typedef struct {
 typedef struct {
   lanemath_border_ulong4 first, second;
 } lanemath_border_ulong4_pair;
+#if LANEMATH_REGISTERS >= 32
+typedef lanemath_ulong lanemath_wide_ulong4 __attribute__((vector_size(32)));
+#else
+typedef lanemath_border_ulong4 lanemath_wide_ulong4;
+#endif
+typedef struct {
+  lanemath_wide_ulong4 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_ulong4_pair;
 /** 3 lanes of ulong, with the room of four. */
 typedef lanemath_ulong lanemath_ulong3 __attribute__((vector_size(32), aligned(16)));
 typedef lanemath_ulong lanemath_alias_ulong3 __attribute__((vector_size(32), aligned(1), may_alias));
@@ -813,6 +955,18 @@ typedef struct {
 typedef struct {
   lanemath_border_ulong8 first, second;
 } lanemath_border_ulong8_pair;
+#if LANEMATH_REGISTERS >= 64
+typedef lanemath_ulong lanemath_wide_ulong8 __attribute__((vector_size(64)));
+#elif LANEMATH_REGISTERS > 16
+typedef struct {
+  lanemath_ulong lane[8];
+} __attribute__((aligned(LANEMATH_REGISTERS), may_alias)) lanemath_wide_ulong8;
+#else
+typedef lanemath_border_ulong8 lanemath_wide_ulong8;
+#endif
+typedef struct {
+  lanemath_wide_ulong8 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_ulong8_pair;
 /** 16 lanes of ulong. */
 typedef lanemath_ulong lanemath_ulong16 __attribute__((vector_size(128), aligned(16)));
 typedef lanemath_ulong lanemath_alias_ulong16 __attribute__((vector_size(128), aligned(1), may_alias));
@@ -825,6 +979,18 @@ typedef struct {
 typedef struct {
   lanemath_border_ulong16 first, second;
 } lanemath_border_ulong16_pair;
+#if LANEMATH_REGISTERS >= 128
+typedef lanemath_ulong lanemath_wide_ulong16 __attribute__((vector_size(128)));
+#elif LANEMATH_REGISTERS > 16
+typedef struct {
+  lanemath_ulong lane[16];
+} __attribute__((aligned(LANEMATH_REGISTERS), may_alias)) lanemath_wide_ulong16;
+#else
+typedef lanemath_border_ulong16 lanemath_wide_ulong16;
+#endif
+typedef struct {
+  lanemath_wide_ulong16 first, second;
+} __attribute__((aligned(LANEMATH_REGISTERS))) lanemath_wide_ulong16_pair;
 /** Reads one ulong from memory of any alignment. */
 LANEMATH_INLINE lanemath_ulong1 lanemath_load_ulong1(const lanemath_ulong* from) {
   lanemath_ulong1 v;
