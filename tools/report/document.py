@@ -114,6 +114,14 @@ def reason(comparison, name, form):
     return None
 
 
+def by_level(figures):
+    levels = {}
+    for key, form in figures.items():
+        level, name = key.split()
+        levels.setdefault(level, {})[name] = form
+    return levels
+
+
 def families(forms):
     return list(dict.fromkeys(form["family"] for form in forms.values()))
 
@@ -357,10 +365,7 @@ def make(figures, strict):
     """The files by name. Throws Unexplained if a form is behind its peer for no known reason."""
     about, forms = figures["about"], figures["forms"]
     found = about["packages"]
-    levels = {}
-    for key, form in figures["levels"].items():
-        level, name = key.split()
-        levels.setdefault(level, {})[name] = form
+    levels = by_level(figures["levels"])
     files = {"performance-overview.svg": overview_plot(
         forms, {"call": "call: C library", "group": "group: SLEEF", "array": "array: inlined"},
         "Times as fast as the peer: geometric means of the default forms")}

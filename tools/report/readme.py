@@ -65,11 +65,21 @@ def times(measurements, lanes):
     return document.number(document.mean(ratios)), len(ratios), sum(ratio < document.BEHIND for ratio in ratios)
 
 
+def ratios(forms, comparison):
+    """Of the default forms of functions."""
+    found = [document.ratios(name, form).get(comparison) for name, form in forms.items()
+             if "_" not in name and form["family"] not in document.EXACT]
+    return [ratio for ratio, _ in filter(None, found)]
+
+
+def beside(found):
+    return (f"{document.number(document.mean(found))} times as fast, "
+            f"{sum(ratio < document.BEHIND for ratio in found)} of {len(found)} functions behind")
+
+
 def figures_block(figures, found, exported):
     forms = figures["forms"]
     measured = {lanes: times(figures["opencl"], lanes) for lanes in ("float", "double")}
-    groups = [document.ratios(name, form)["group"][0] for name, form in forms.items()
-              if "_" not in name and form["family"] not in document.EXACT and "SLEEF" in form["peers"]]
     default = {name: bound for name, bound in found.items() if "_" not in name}
     by_type = [[bound for name, bound in default.items() if document.single(name) == of] for of in (True, False)]
     # A bound far beyond all others is set by a small part of the arguments.
@@ -82,9 +92,11 @@ def figures_block(figures, found, exported):
         ("OpenCL kernels of scalars, beside the runtime's own built-ins",
          "; ".join(f"`{lanes}` {mean} times as fast, {behind} of {count} functions behind"
                    for lanes, (mean, count, behind) in measured.items())),
-        ("one group of 128 bits, beside SLEEF",
-         f"{document.number(document.mean(groups))} times as fast, "
-         f"{sum(ratio < document.BEHIND for ratio in groups)} of {len(groups)} functions behind"),
+        ("one group of 128 bits, beside SLEEF", beside(ratios(forms, "group"))),
+        *((f"one register of {document.LEVELS[level]} bits, the same bits",
+           f"beside SLEEF {beside(ratios(of, 'register'))}; "
+           f"{document.number(document.mean(ratios(of, 'gain')))} times as fast as 128 bits")
+          for level, of in document.by_level(figures["levels"]).items()),
         ("errors of the default forms",
          f"half of them within {half[0]} ulp (`float`) and {half[1]} (`double`), all within {most[0]} and {most[1]}"
          + "".join(f" except `{name}` with {number(bound)}" for name, bound in outliers.items())
