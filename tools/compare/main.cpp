@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 #include <filesystem>
+#include <numeric>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,29 @@ void call_both(const operation& o, form& f, std::span<const arguments> inputs, c
                               text_of(o, inputs[n]), d.name);
 }
 
+// On every argument of a function of one argument of 32 bits.
+void call_both_on_all(const operation& o, form& f, const harness::direction& d) {
+  std::vector<std::uint32_t> x(1 << 12);
+  std::vector<std::byte> first(x.size() * 16), second(first);  // with room for two results of 64 bits
+  const auto call = [&](const harness::function& of, std::vector<std::byte>& results) {
+    const harness::rounding in_force(d.mode);
+    const void* const from = x.data();
+    of.call(&from, results.data(), results.data() + results.size() / 2, x.size());
+  };
+  for (std::uint64_t begin = 0; begin < std::uint64_t(1) << 32; begin += x.size()) {
+    std::iota(x.begin(), x.end(), std::uint32_t(begin));
+    call(f.first, first);
+    call(f.second, second);
+    if (f.width != 3 && first == second) {
+      f.lanes += x.size();
+      continue;
+    }
+    std::vector<arguments> inputs;
+    for (auto pattern : x) inputs.push_back({pattern});
+    call_both(o, f, inputs, d);
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) try {
@@ -46,7 +70,7 @@ int main(int argc, char** argv) try {
   std::vector<std::string> patterns;
   std::size_t lanes = 1 << 16;
   std::uint64_t seed = 1;
-  bool all_directions = false;
+  bool all_directions = false, all_arguments = false;
   app.add_option("first", first_path, "a library")->required();
   app.add_option("second", second_path, "the library, or a companion for wider registers, to compare it with")
       ->required();
@@ -56,6 +80,10 @@ int main(int argc, char** argv) try {
       ->capture_default_str();
   app.add_option("-s,--seed", seed, "of the random numbers")->capture_default_str();
   app.add_flag("-d,--directions", all_directions, "also in the other three rounding directions");
+  app.add_flag(
+         "-a,--all-arguments", all_arguments,
+         "all arguments of functions of one argument of 32 bits, and no other functions: a minute or two a function")
+      ->excludes("--lanes");
   CLI11_PARSE(app, argc, argv);
   const harness::selection chosen(patterns);
 
@@ -66,6 +94,7 @@ int main(int argc, char** argv) try {
   std::uint64_t compared = 0, lanes_compared = 0, differing = 0, missing = 0;
   for (std::size_t index = 0; index < catalogue.size(); ++index) {
     const auto& o = catalogue[index];
+    if (all_arguments && (o.sig.arity() != 1 || size_of(o.sig.arguments[0]) != 4)) continue;
     std::vector<form> forms;
     for (auto v : variants) {
       for (int width : widths) {
@@ -83,7 +112,10 @@ int main(int argc, char** argv) try {
     constexpr std::size_t at_once = 1 << 12;
     std::mt19937_64 random(seed);
     auto inputs = compare::fixed_inputs(o.sig);
-    for (std::size_t left = lanes;; left -= inputs.size()) {
+    if (all_arguments)
+      for (auto& f : forms)
+        for (const auto& d : in_force) call_both_on_all(o, f, d);
+    for (std::size_t left = all_arguments ? 0 : lanes;; left -= inputs.size()) {
       for (auto& f : forms)
         for (const auto& d : in_force) call_both(o, f, inputs, d);
       if (left == 0) break;
