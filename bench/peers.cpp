@@ -73,9 +73,9 @@ const auto& sleef_rows() {
       SLEEF(log1p, log1p, u10),
 
       SLEEF(pow, pow, u10),
-      SLEEF_FUNCTION("powf", accuracy::reduced, Sleef_fastpowf4_u3500),
+      SLEEF_FUNCTION("powf", accuracy::reduced, SLEEF_FLOAT(fastpow, u3500)),
       SLEEF(powr, pow, u10),
-      SLEEF_FUNCTION("powrf", accuracy::reduced, Sleef_fastpowf4_u3500),
+      SLEEF_FUNCTION("powrf", accuracy::reduced, SLEEF_FLOAT(fastpow, u3500)),
 
       SLEEF(sin, sin, u10),
       SLEEF_REDUCED(sin, sin, u35),

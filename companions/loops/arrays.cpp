@@ -1,4 +1,4 @@
-// The array functions: calls of one width, by which no form is standalone. The elements that are left over go through
+// The array functions: calls of one width, at which no form is standalone. The elements that are left over go through
 // the same call, on a copy that is filled up.
 //
 // This file is compiled for the library and for each companion: nothing in it may be visible to the linker but the
@@ -6,6 +6,7 @@
 #include "frame/abi.h"
 #include "usable.h"
 
+// Puts the level into the names of all instances, by which tests and profilers tell them apart.
 #define arrays_of_level LANEMATH_SYMBOL(arrays)
 
 namespace {

@@ -1,12 +1,14 @@
 // Finds the companions. They are asked for at run time, since this library shall work without them.
 #include "usable.h"
 
-extern "C" {
-// The loader's functions, null where a program has none.
-[[gnu::weak]] void* dlopen(const char* file, int mode);
-[[gnu::weak]] void* dlsym(void* handle, const char* name);
-[[gnu::weak]] char* dlerror();
+#include <dlfcn.h>
 
+// Null where a program has no such functions of the loader's.
+#pragma weak dlopen
+#pragma weak dlsym
+#pragma weak dlerror
+
+extern "C" {
 #define LANEMATH_AVX2(name) void* lanemath_avx2_##name;
 #define LANEMATH_AVX512(name) void* lanemath_avx512_##name;
 #include LANEMATH_INSTANCES
@@ -46,8 +48,7 @@ bool is_own(const char* version) {
 // Whether there is this companion, with all functions. It is never closed: threads may still be in it at the end.
 template <int N>
 bool finds(const char* file, const char* version, const function (&functions)[N]) {
-  constexpr int now = 2;  // RTLD_NOW
-  void* const companion = dlopen(file, now);
+  void* const companion = dlopen(file, RTLD_NOW);
   const auto tell = companion ? reinterpret_cast<const char* (*)()>(dlsym(companion, version)) : nullptr;
   if (!tell || !is_own(tell())) return false;
   for (const auto& f : functions)

@@ -3,12 +3,12 @@
 
 namespace lanemath {
 
-// The companion is beside this library and of its version, and the processor has the level.
+// Whether the companion is beside this library and of its version, and the processor has the level.
 struct usable_companions {
   bool avx2, avx512;
 };
 #if LANEMATH_LEVELS
-[[gnu::visibility("hidden")]] extern usable_companions usable;  // none is before this library is initialised
+[[gnu::visibility("hidden")]] extern usable_companions usable;  // all false until this library is initialised
 #else
 inline constexpr usable_companions usable{};
 #endif

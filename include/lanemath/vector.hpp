@@ -235,7 +235,10 @@ using floating = with_lanes<V, typename std::conditional<sizeof(lane_type_t<V>) 
     }                                                                \
     static LANEMATH_FUNCTION basic_vector<T, W> in(const room& b) {  \
       basic_vector<T, W> v;                                          \
-      join(&v.c<T, W>::v_, &b, sizeof b);                            \
+      if (W == 3) /* always the library's */                         \
+        lanemath_border_join(&v.c<T, W>::v_, &b, sizeof b);          \
+      else                                                           \
+        join(&v.c<T, W>::v_, &b, sizeof b);                          \
       return v;                                                      \
     }                                                                \
   };

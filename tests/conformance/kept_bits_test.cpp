@@ -109,11 +109,12 @@ TEST(BuiltFunctions, HaveTheBitsThatTheyHadBefore) {
         const harness::rounding in_force(d.mode);
         for (const auto& got : harness::evaluate(o, *f, width, tuples)) sum.add(got.first), sum.add(got.second);
       }
-      EXPECT_EQ(line == due.end() ? "" : line->second.checksum, sum.text()) << "the line would be\n"
-                                                                            << name << ',' << sum.text();
+      EXPECT_EQ(line == due.end() ? "" : line->second.checksum, sum.text())
+          << "the line would be, with ',estimated' after it if the form uses the processor's estimates\n"
+          << name << ',' << sum.text();
     }
   });
-  EXPECT_EQ(compared, due.size()) << "lines of forms that there are no more";
+  EXPECT_EQ(compared, due.size()) << "lines of forms that no longer exist";
 }
 
 }  // namespace

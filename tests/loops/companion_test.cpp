@@ -1,4 +1,4 @@
-// What the companion library's file shows to the outside, and which companions for wider registers it calls.
+// What the file of the library for arrays and loops shows to the outside, and which companions it calls.
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
@@ -54,7 +54,7 @@ TEST(Companion, UsesTheInstructionsOfItsCallers) {
     std::cmatch match;
     if (std::regex_match(line, match, function)) {
       const auto name = match[1].str();
-      const auto is_of = [&](const char* level) { return name.find(level) != name.npos; };
+      const auto is_of = [&](const char* prefix) { return name.find(prefix) != name.npos; };
       level = name.starts_with("_ZGV")    ? name[4]
               : is_of("lanemath_avx512_") ? 'e'
               : is_of("lanemath_avx2_")   ? 'd'

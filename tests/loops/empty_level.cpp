@@ -1,4 +1,4 @@
-// A companion of a given version whose functions all return 0, so that it is seen who calls it.
+// A companion of a given version whose functions all return 0, to show who calls it.
 #include "frame/lanes.h"
 
 #define EXPORTED extern "C" [[gnu::visibility("default")]]

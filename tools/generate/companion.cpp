@@ -1,4 +1,4 @@
-// The companion library for arrays and ordinary loops: its headers, and the functions that instantiate its templates.
+// The library for arrays and ordinary loops: its headers, and the functions that instantiate its templates.
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
@@ -82,10 +82,11 @@ void write_arrays_header(std::FILE* out) {
  *     lanemath_expf_array(x, y, n);                y[i] = e^x[i] for n elements
  *     lanemath_sincosf_array_native(x, y, z, n);   sines and cosines
  *
- * They are in the library lanemath_loops, which uses registers as wide as the processor has. Arrays may have any length, 0 included, and need no alignment beyond that of
- * their elements. Nothing outside them is touched. A result may take the place of an argument whose elements have the
- * same size; apart from that, results overlap nothing. An element's result does not depend on where it stands: it has
- * the bits of the function of width 16, which are those of every width without an algorithm of its own.
+ * They are in the library lanemath_loops, which uses registers as wide as the processor's where it finds the companions
+ * for them. Arrays may have any length, 0 included, and need no alignment beyond that of their elements. Nothing outside
+ * them is touched. A result may take the place of an argument whose elements have the same size; apart from that,
+ * results overlap nothing. An element's result does not depend on where it stands: it has the bits of the function of
+ * width 16, which are those of every width without an algorithm of its own.
  * <lanemath/lanemath.h> states arguments and special values. */
 #ifndef LANEMATH_ARRAYS_H
 #define LANEMATH_ARRAYS_H
