@@ -192,10 +192,10 @@ def families_of_forms(*of):
 
 
 def lesser(one, other):
-    """The lesser of any two times, at every depth."""
+    """The lesser of any two times, at every depth, with all else as it is in the later one."""
     if isinstance(one, dict):
         return {key: lesser(one[key], other.get(key, one[key])) for key in one}
-    return min(one, other) if isinstance(one, float) and isinstance(other, float) else one
+    return min(one, other) if isinstance(one, float) and isinstance(other, float) else other
 
 
 def hash_of(*paths):
