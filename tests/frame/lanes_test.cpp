@@ -266,10 +266,11 @@ TYPED_TEST(FloatingLanes, KeepTheFirstOfTwoNaNsInOrder) {
   EXPECT_EQ(pattern(ordered_sum(one(x), one(y))), nan(1));
   EXPECT_EQ(pattern(ordered_product(one(y), one(x))), nan(2) | sign_mask<T>);
   for (const auto& [first, second] : {std::pair(x, y), std::pair(y, x)})
-    at_every_width([&](auto width) {
+    at_every_width([first = first, second = second](auto width) {
       using group = lanes<T, width>;
-      expect_lanes(bits(ordered_sum(group(first), group(second))), [&](int) { return std::bit_cast<I>(first); });
-      expect_lanes(bits(ordered_product(group(first), group(second))), [&](int) { return std::bit_cast<I>(first); });
+      const auto due = [&](int) { return std::bit_cast<I>(first); };
+      expect_lanes(bits(ordered_sum(group(first), group(second))), due);
+      expect_lanes(bits(ordered_product(group(first), group(second))), due);
     });
 }
 
