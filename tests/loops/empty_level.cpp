@@ -2,8 +2,9 @@
 #include "frame/lanes.h"
 
 #define EXPORTED extern "C" [[gnu::visibility("default")]]
+using group = lanemath::lanes<float, lanemath::register_bytes / 4>::group;
 #define EMPTY(name) \
-  EXPORTED lanemath::lanes<float, lanemath::register_bytes / 4>::group LANEMATH_SYMBOL(name)() { return {}; }
+  EXPORTED group LANEMATH_SYMBOL(name)() { return group(); }
 #if LANEMATH_REGISTER_BYTES == 32
 #define LANEMATH_AVX2(name) EMPTY(name)
 #define LANEMATH_AVX512(name)
