@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cstring>
 #include <stdexcept>
 #include <string>
@@ -193,14 +192,12 @@ void write_array_functions(std::FILE* out, const level& on) {
   fmt::print(out, "\n}}\n");
 }
 
-// The functions of companions that these libraries' functions call.
+// The functions of companions that array functions and loops call.
 void write_usable_functions(std::FILE* out) {
   for (const auto& on : levels)
     for_each_pair([&](const operation& o, variant v) {
-      if (!has_register_form(on, o)) return;
-      std::string level(on.name);
-      std::ranges::transform(level, level.begin(), [](unsigned char c) { return std::toupper(c); });
-      fmt::print(out, "LANEMATH_{}({}{}{})\n", level, o.name(), array_width(on, o), suffix(v));
+      if (has_register_form(on, o))
+        fmt::print(out, "LANEMATH_FUNCTION({}, {}{}{})\n", on.name, o.name(), array_width(on, o), suffix(v));
     });
 }
 
