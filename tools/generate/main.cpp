@@ -48,8 +48,8 @@ int main(int argc, char** argv) try {
     write_export_list(out.stream(), level_of_name(argc == 3 ? argv[2] : ""));
   } else if (what == "public-header" && argc == 3) {
     write_public_header(out.stream(), argv[2]);
-  } else if (what == "companion" && argc == 3) {
-    write_companion(out.stream(), argv[2]);
+  } else if (what == "loops-library" && argc == 3) {
+    write_loops_library(out.stream(), argv[2]);
   } else if (what == "vectors-header" && argc == 2) {
     write_vectors_header(out.stream());
   } else if (what == "cpp-header" && argc == 2) {
@@ -68,7 +68,7 @@ int main(int argc, char** argv) try {
   } else {
     fmt::print(stderr,
                "usage: {} export-list [LEVEL] | public-header FAMILY | vectors-header | cpp-header | cpp-calls |\n"
-               "       companion FILE | opencl-kinds | opencl-processor KIND |\n"
+               "       loops-library FILE | opencl-kinds | opencl-processor KIND |\n"
                "       opencl-builtins KIND EXPORTED_NAMES | opencl-crossings KIND EXPORTED_NAMES [--output FILE]\n",
                argv[0]);
     return 2;

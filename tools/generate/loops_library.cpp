@@ -309,7 +309,7 @@ void write_loop_entries(std::FILE* out, const instruction_set& on) {
 
 }  // namespace
 
-void write_companion(std::FILE* out, std::string_view file) {
+void write_loops_library(std::FILE* out, std::string_view file) {
   if (file == "lanemath/arrays.h") return write_arrays_header(out);
   if (file == "lanemath/arrays.hpp") return write_spans_header(out);
   for (const auto& on : levels)
@@ -319,5 +319,5 @@ void write_companion(std::FILE* out, std::string_view file) {
   if (file == "lanemath/loops.h") return write_loops_header(out);
   for (const auto& on : instruction_sets)
     if (file == fmt::format("loops-{}.inc", on.letter)) return write_loop_entries(out, on);
-  throw std::invalid_argument(fmt::format("the companion has no file {}", file));
+  throw std::invalid_argument(fmt::format("the library for loops has no file {}", file));
 }

@@ -15,14 +15,14 @@
 namespace lanemath::testing {
 namespace {
 
-TEST(Companion, NeedsTheLibraryBesideItAndNothingElse) {
+TEST(LoopsLibrary, NeedsTheLibraryBesideItAndNothingElse) {
   std::vector<std::string> seen;
   for (const auto& d : elf_file(LANEMATH_LOOPS).dynamic())
     if (d.tag == DT_NEEDED || d.tag == DT_SONAME || d.tag == DT_RUNPATH) seen.push_back(d.text);
   EXPECT_EQ(seen, (std::vector<std::string>{"__ocl_lanemath_h8.so.3.5", "liblanemath_loops.so.3", "$ORIGIN"}));
 }
 
-TEST(Companion, ExportsArrayFunctionsAndVectorFormsAndNothingElse) {
+TEST(LoopsLibrary, ExportsArrayFunctionsAndVectorFormsAndNothingElse) {
   std::size_t arrays = 0, entries = 0;
   for (const auto& name : elf_file(LANEMATH_LOOPS).exported(SHT_DYNSYM))
     if (std::regex_match(name, std::regex("lanemath_[a-z0-9]+_array(_native|_half|_rm)?")))
@@ -40,7 +40,7 @@ TEST(Companion, ExportsArrayFunctionsAndVectorFormsAndNothingElse) {
 
 // A vector form may use the instructions that its letter stands for, a level's array function those of the level,
 // everything else those of any x86-64 processor.
-TEST(Companion, UsesTheInstructionsOfItsCallers) {
+TEST(LoopsLibrary, UsesTheInstructionsOfItsCallers) {
   const std::string command = std::string(LANEMATH_OBJDUMP) + " -d --no-show-raw-insn " + LANEMATH_LOOPS;
   const std::unique_ptr<FILE, int (*)(FILE*)> out(popen(command.c_str(), "r"), pclose);
   ASSERT_TRUE(out);
@@ -96,7 +96,7 @@ bool calls_companion(std::initializer_list<std::pair<fs::path, fs::path>> compan
   return status == 0;
 }
 
-TEST(Companion, CallsOnlyCompanionsOfItsVersionWhoseLevelTheProcessorHas) {
+TEST(LoopsLibrary, CallsOnlyCompanionsOfItsVersionWhoseLevelTheProcessorHas) {
   const fs::path empty = LANEMATH_EMPTY_LEVELS;
   const fs::path avx2 = "liblanemath_avx2.so.3", avx512 = "liblanemath_avx512.so.3";
   EXPECT_EQ(calls_companion({{avx2, empty / "own-avx2.so"}}), bool(__builtin_cpu_supports("avx2")));
